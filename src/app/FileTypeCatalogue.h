@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+// File categories as integer codes. 4 is deliberately left unassigned.
+enum FileCategory : int {
+    CategoryImages = 1,
+    CategoryDocuments = 2,
+    CategoryAudio = 3,
+    CategoryVideos = 5,
+    CategoryFolders = 6,
+    CategoryOthers = 7,
+};
+
+// Tag that marks the member entries of a group of similar pictures: the entry is
+// the path, the tag, "_" and the similarity percent.
+inline const QString kSimilarTag = QStringLiteral("_simlar");
+
+namespace FileTypeCatalogue {
+
+// Category code -> extension list, in the catalogue's order (repeats included).
+const QHash<int, QStringList> &categoryExtensions();
+// Codes that carry a list, ascending; lookups walk them in this fixed order so that
+// "ra" (both an image and an audio extension) is an image.
+const QList<int> &categoryOrder();
+// Label shown by the result page for a category code.
+QString categoryLabel(int category);
+
+const QStringList &similarExcludedFormats();
+const QStringList &rawFormats();
+const QStringList &heifFormats();
+
+} // namespace FileTypeCatalogue
+
+// Category of an extension given without its dot, case-insensitive; 7 when unknown.
+int getFileType(const QString &suffix);
+// True when the file name's extension is in the Images list.
+bool isImageFile(const QString &path);
+// Category of a path on disk: 6 for a directory, else getFileType of its extension.
+int getPathCategory(const QString &path);
+
+// "abc_simlar_12" -> "abc"; anything else unchanged.
+QString stripSimilarTag(const QString &key);
+// The same, in place, for every entry of a list.
+void stripSimilarTag(QStringList &keys);
+// True when entry is a tagged member of a similar-picture group.
+bool isSimilarEntry(const QString &entry);
+
+bool isRawFormat(const QString &suffix);
+bool isHeifFormat(const QString &suffix);
+bool isSimilarExcludedFormat(const QString &suffix);

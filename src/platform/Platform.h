@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace platform {
+
+// Operating-system services that differ between Windows and Linux. The interface is
+// Qt-free so that the Windows implementation can be compile-checked with mingw-w64
+// without a Qt build for that target. Paths are UTF-8 with forward slashes.
+class Platform
+{
+public:
+    virtual ~Platform() = default;
+
+    // Folder of the running executable, without a trailing separator.
+    virtual std::string executableDir() const = 0;
+
+    // Roots of the machine's fixed (internal, non-removable) disks, in a stable order.
+    // On Windows these are drive roots such as "C:/"; on Linux mount points.
+    virtual std::vector<std::string> fixedDiskRoots() const = 0;
+
+    // Root of the disk that holds path: its drive root on Windows, the mount point on
+    // Linux. An empty string when it cannot be told.
+    virtual std::string diskRootOf(const std::string &path) const = 0;
+};
+
+// The implementation for the platform this program was built for.
+const Platform &current();
+
+} // namespace platform

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef _WIN32
+
+#include "platform/linux/LinuxPlatform.h"
+
+#include <algorithm>
+#include <cctype>
+#include <climits>
+#include <fstream>
+#include <sstream>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+std::string readSmallFile(const std::string &path)
+{
+    std::ifstream in(path);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+std::string decodeMountField(const std::string &field)
+{
+    std::string out;
+    out.reserve(field.size());
+    for (size_t i = 0; i < field.size(); ++i) {
+        if (field[i] == '\\' && i + 3 < field.size()
+            && std::isdigit(static_cast<unsigned char>(field[i + 1]))) {
+            const std::string octal = field.substr(i + 1, 3);
+            out.push_back(static_cast<char>(std::stoi(octal, nullptr, 8)));
+            i += 3;
+        } else {
+            out.push_back(field[i]);
+        }
+    }
+    return out;
+}
+
+bool isInside(const std::string &path, const std::string &root)
+{
+    if (root == "/")
+        return !path.empty() && path[0] == '/';
+    return path == root || (path.size() > root.size() && path.compare(0, root.size(), root) == 0
+                            && path[root.size()] == '/');
+}
+
+} // namespace
+
+std::string LinuxPlatform::executableDir() const
+{
+    char buffer[PATH_MAX];
+    const ssize_t length = ::readlink("/proc/self/exe", buffer, sizeof(buffer) - 1);
+    if (length <= 0)
+        return {};
+    std::string path(buffer, static_cast<size_t>(length));
+    const size_t slash = path.rfind('/');
+    return slash == 0 ? std::string("/") : path.substr(0, slash);
+}
+
+std::vector<MountEntry> LinuxPlatform::parseMounts(const std::string &text)
+{
+    std::vector<MountEntry> mounts;
+    std::istringstream lines(text);
+    std::string line;
+    while (std::getline(lines, line)) {
+        std::istringstream fields(line);
+        MountEntry entry;
+        if (!(fields >> entry.device >> entry.mountPoint >> entry.fsType))
+            continue;
+        entry.device = decodeMountField(entry.device);
+        entry.mountPoint = decodeMountField(entry.mountPoint);
+        mounts.push_back(entry);
+    }
+    return mounts;
+}
+
+std::vector<MountEntry> LinuxPlatform::readMounts()
+{
+    return parseMounts(readSmallFile("/proc/self/mounts"));
+}
+
+bool LinuxPlatform::isFixedBlockDevice(const std::string &devicePath)
+{
+    struct stat info {};
+    if (::stat(devicePath.c_str(), &info) != 0 || !S_ISBLK(info.st_mode))
+        return false;
+    const std::string sysDir = "/sys/dev/block/" + std::to_string(major(info.st_rdev)) + ":"
+        + std::to_string(minor(info.st_rdev));
+    char resolved[PATH_MAX];
+    if (!::realpath(sysDir.c_str(), resolved))
+        return false;
+    std::string disk = resolved;
+    // A partition has no "removable" file of its own; its disk is the parent folder.
+    if (::access((disk + "/removable").c_str(), R_OK) != 0)
+        disk = disk.substr(0, disk.rfind('/'));
+    const std::string removable = readSmallFile(disk + "/removable");
+    if (removable.empty() || removable[0] != '0')
+        return false;
+    for (const char *bus : {"/usb", "/mmc", "/memstick"}) {
+        if (disk.find(bus) != std::string::npos)
+            return false;
+    }
+    return true;
+}
+
+std::vector<std::string> LinuxPlatform::fixedDiskRoots() const
+{
+    std::vector<std::string> roots;
+    for (const MountEntry &mount : readMounts()) {
+        if (mount.device.rfind("/dev/", 0) != 0 || !isFixedBlockDevice(mount.device))
+            continue;
+        if (std::find(roots.begin(), roots.end(), mount.mountPoint) == roots.end())
+            roots.push_back(mount.mountPoint);
+    }
+    return roots;
+}
+
+std::string LinuxPlatform::diskRootOf(const std::string &path) const
+{
+    std::string best;
+    for (const MountEntry &mount : readMounts()) {
+        if (isInside(path, mount.mountPoint) && mount.mountPoint.size() > best.size())
+            best = mount.mountPoint;
+    }
+    return best;
+}
+
+const Platform &current()
+{
+    static const LinuxPlatform instance;
+    return instance;
+}
+
+} // namespace platform
+
+#endif

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace platform {
+
+// One mounted file system as /proc/self/mounts lists it.
+struct MountEntry
+{
+    std::string device;
+    std::string mountPoint;
+    std::string fsType;
+};
+
+class LinuxPlatform final : public Platform
+{
+public:
+    std::string executableDir() const override;
+    std::vector<std::string> fixedDiskRoots() const override;
+    std::string diskRootOf(const std::string &path) const override;
+
+    // Parses the text of a mounts table (the /proc/self/mounts format, octal escapes
+    // such as "\040" decoded).
+    static std::vector<MountEntry> parseMounts(const std::string &text);
+
+    // True when the block device file belongs to an internal, non-removable disk,
+    // judged from sysfs: the "removable" flag of the disk and a USB/MMC/SD bus.
+    static bool isFixedBlockDevice(const std::string &devicePath);
+
+private:
+    static std::vector<MountEntry> readMounts();
+};
+
+} // namespace platform

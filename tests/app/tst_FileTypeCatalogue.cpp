@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/FileTypeCatalogue.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestFileTypeCatalogue : public QObject
+{
+    Q_OBJECT
+private slots:
+    void listsKeepTheirSizes()
+    {
+        const auto &lists = FileTypeCatalogue::categoryExtensions();
+        QCOMPARE(lists.value(CategoryImages).size(), 64);
+        QCOMPARE(lists.value(CategoryDocuments).size(), 61);
+        QCOMPARE(lists.value(CategoryAudio).size(), 20);
+        QCOMPARE(lists.value(CategoryVideos).size(), 26);
+        QVERIFY(!lists.contains(4));
+        QCOMPARE(FileTypeCatalogue::similarExcludedFormats().size(), 20);
+        QCOMPARE(FileTypeCatalogue::rawFormats().size(), 33);
+    }
+
+    void getFileType_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<int>("category");
+        QTest::newRow("lower") << "jpg" << 1;
+        QTest::newRow("upper") << "JPG" << 1;
+        QTest::newRow("mixed") << "Jpg" << 1;
+        QTest::newRow("ra is an image, not audio") << "ra" << 1;
+        QTest::newRow("document repeat") << "rtf" << 2;
+        QTest::newRow("audio") << "FLAC" << 3;
+        QTest::newRow("video") << "m2ts" << 5;
+        QTest::newRow("exr is in no list") << "exr" << 7;
+        QTest::newRow("me2 raw only") << "me2" << 7;
+        QTest::newRow("unknown") << "xyz" << 7;
+        QTest::newRow("empty") << "" << 7;
+    }
+    void getFileType()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(int, category);
+        QCOMPARE(::getFileType(suffix), category);
+    }
+
+    void imageFilesAndFormatSets()
+    {
+        QVERIFY(isImageFile("/a/b/photo.HEIC"));
+        QVERIFY(isImageFile("C:/x/y.raw"));
+        QVERIFY(!isImageFile("/a/b/photo"));
+        QVERIFY(!isImageFile("/a/b.jpg/notes.txt"));
+        QVERIFY(isRawFormat("DNG") && isRawFormat("me2") && !isRawFormat("raw"));
+        QVERIFY(isHeifFormat("heif") && !isHeifFormat("avif"));
+        QVERIFY(isSimilarExcludedFormat("EXR") && isSimilarExcludedFormat("gif"));
+        QVERIFY(!isSimilarExcludedFormat("jpg"));
+    }
+
+    void directoriesAreFolders()
+    {
+        QTemporaryDir root;
+        QVERIFY(QDir(root.path()).mkdir("album.jpg"));
+        QCOMPARE(getPathCategory(root.filePath("album.jpg")), int(CategoryFolders));
+        QCOMPARE(getPathCategory(root.filePath("missing.jpg")), int(CategoryImages));
+    }
+
+    void stripSimilarTag_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("stripped");
+        QTest::newRow("tagged") << "abc_simlar_12" << "abc";
+        QTest::newRow("path") << "/p/q r.jpg_simlar_100" << "/p/q r.jpg";
+        QTest::newRow("no digits") << "abc_simlar_" << "abc_simlar_";
+        QTest::newRow("trailing letter") << "abc_simlar_1x" << "abc_simlar_1x";
+        QTest::newRow("plain") << "/a/b.jpg" << "/a/b.jpg";
+        QTest::newRow("tag twice keeps first") << "a_simlar_1_simlar_2" << "a_simlar_1";
+        QTest::newRow("case-sensitive") << "abc_SIMLAR_3" << "abc_SIMLAR_3";
+    }
+    void stripSimilarTag()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, stripped);
+        QCOMPARE(::stripSimilarTag(entry), stripped);
+        QStringList list{entry, QStringLiteral("plain")};
+        ::stripSimilarTag(list);
+        QCOMPARE(list, QStringList({stripped, QStringLiteral("plain")}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFileTypeCatalogue)
+#include "tst_FileTypeCatalogue.moc"
