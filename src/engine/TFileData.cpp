@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/TFileData.h"
+
+#include "app/FileTypeCatalogue.h"
+
+#include <QCryptographicHash>
+#include <QFileInfo>
+
+#include <algorithm>
+
+TFileData::TFileData(QObject *parent)
+    : QObject(parent)
+{
+}
+
+TFileData *TFileData::instance()
+{
+    // Function-local statics are created once, thread-safely.
+    static TFileData store;
+    return &store;
+}
+
+QString TFileData::groupKey(const QString &firstPath)
+{
+    return QString::fromLatin1(
+        QCryptographicHash::hash(firstPath.toUtf8(), QCryptographicHash::Md5).toHex().toUpper());
+}
+
+bool TFileData::insertGroup(const QString &key, const QStringList &paths)
+{
+    QWriteLocker locker(&m_lock);
+    m_groups.insert(key, paths);
+    return true;
+}
+
+bool TFileData::replaceGroup(const QString &key, const QStringList &paths)
+{
+    QWriteLocker locker(&m_lock);
+    m_groups.remove(key);
+    m_groups.insert(key, paths);
+    return true;
+}
+
+void TFileData::insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries)
+{
+    m_dirGroups.insert(key, entries);
+}
+
+bool TFileData::setSelected(const QString &key, const QStringList &paths)
+{
+    QWriteLocker locker(&m_lock);
+    m_selected.insert(key, paths);
+    return true;
+}
+
+bool TFileData::removeSelected(const QString &key)
+{
+    QWriteLocker locker(&m_lock);
+    return m_selected.remove(key) > 0;
+}
+
+int TFileData::updateSelected(const QString &key, const QString &path, bool add)
+{
+    QWriteLocker locker(&m_lock);
+    auto it = m_selected.find(key);
+    if (it == m_selected.end())
+        return 0;
+    if (!add) {
+        it->removeAll(path);
+        if (it->isEmpty()) {
+            m_selected.erase(it);
+            return 0;
+        }
+        return int(it->size());
+    }
+    if (!it->contains(path))
+        it->append(path);
+    return int(it->size());
+}
+
+bool TFileData::isSelected(const QString &key, const QString &path) const
+{
+    QReadLocker locker(&m_lock);
+    auto it = m_selected.constFind(key);
+    return it != m_selected.constEnd() && it->contains(path);
+}
+
+int TFileData::selectedCount(const QString &key) const
+{
+    QReadLocker locker(&m_lock);
+    return int(m_selected.value(key).size());
+}
+
+TFileData::Groups TFileData::imageGroups() const
+{
+    QReadLocker locker(&m_lock);
+    Groups images;
+    for (auto it = m_groups.constBegin(); it != m_groups.constEnd(); ++it) {
+        if (!it->isEmpty() && isImageFile(it->first()))
+            images.insert(it.key(), it.value());
+    }
+    return images;
+}
+
+TFileData::Groups TFileData::groupsFor(const QStringList &keys) const
+{
+    QReadLocker locker(&m_lock);
+    Groups found;
+    for (const QString &key : keys) {
+        auto it = m_groups.constFind(key);
+        if (it != m_groups.constEnd())
+            found.insert(key, it.value());
+    }
+    return found;
+}
+
+void TFileData::pruneFolderMembers(const QString &folder, const QStringList &groupKeys)
+{
+    // Only the backslash form counts as "below": scanned paths use forward slashes, so in
+    // practice just the files directly inside the folder leave their groups.
+    const auto inFolder = [&folder](const QString &path) {
+        const QString parent = QFileInfo(path).path();
+        return parent == folder || parent.startsWith(folder + QLatin1Char('\\'));
+    };
+    for (const QString &key : groupKeys) {
+        for (Groups *table : {&m_groups, &m_selected}) {
+            auto it = table->find(key);
+            if (it == table->end())
+                continue;
+            it->erase(std::remove_if(it->begin(), it->end(), inFolder), it->end());
+            if (it->size() < 2)
+                table->erase(it);
+        }
+    }
+}
+
+TFileData::Groups TFileData::groups() const
+{
+    QReadLocker locker(&m_lock);
+    return m_groups;
+}
+
+TFileData::DirGroups TFileData::dirGroups() const
+{
+    QReadLocker locker(&m_lock);
+    return m_dirGroups;
+}
+
+TFileData::Groups TFileData::selected() const
+{
+    QReadLocker locker(&m_lock);
+    return m_selected;
+}
+
+QStringList TFileData::group(const QString &key) const
+{
+    QReadLocker locker(&m_lock);
+    return m_groups.value(key);
+}
+
+QStringList TFileData::selectedOf(const QString &key) const
+{
+    QReadLocker locker(&m_lock);
+    return m_selected.value(key);
+}
+
+QList<DirGroupEntry> TFileData::dirGroup(const QString &key) const
+{
+    QReadLocker locker(&m_lock);
+    return m_dirGroups.value(key);
+}
+
+int TFileData::groupCount() const
+{
+    QReadLocker locker(&m_lock);
+    return int(m_groups.size() + m_dirGroups.size());
+}
+
+bool TFileData::isEmpty() const { return groupCount() == 0; }
+
+bool TFileData::removePath(const QString &key, const QString &path)
+{
+    QWriteLocker locker(&m_lock);
+    auto selected = m_selected.find(key);
+    if (selected != m_selected.end()) {
+        selected->removeAll(path);
+        if (selected->isEmpty())
+            m_selected.erase(selected);
+    }
+    auto group = m_groups.find(key);
+    if (group == m_groups.end())
+        return false;
+    group->removeAll(path);
+    if (group->size() >= 2)
+        return true;
+    m_groups.erase(group);
+    m_selected.remove(key);
+    return false;
+}
+
+bool TFileData::removeGroup(const QString &key)
+{
+    QWriteLocker locker(&m_lock);
+    m_selected.remove(key);
+    return m_groups.remove(key) > 0;
+}
+
+bool TFileData::removeDirGroup(const QString &key)
+{
+    QWriteLocker locker(&m_lock);
+    m_selected.remove(key);
+    return m_dirGroups.remove(key) > 0;
+}
+
+void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, const Groups &selected)
+{
+    QWriteLocker locker(&m_lock);
+    m_groups = groups;
+    m_dirGroups = dirGroups;
+    m_selected = selected;
+}
+
+void TFileData::clear()
+{
+    QWriteLocker locker(&m_lock);
+    m_groups.clear();
+    m_dirGroups.clear();
+    m_selected.clear();
+}

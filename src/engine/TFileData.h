@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/DirGroupEntry.h"
+
+#include <QHash>
+#include <QObject>
+#include <QReadWriteLock>
+#include <QStringList>
+
+// The process-wide store of a scan's results: groups of identical (or similar) files
+// under their group key, groups of duplicate folders, and the selected (to be removed)
+// paths of each group. One read-write lock guards the three tables: readers take it
+// shared, every change takes it exclusively.
+class TFileData : public QObject
+{
+    Q_OBJECT
+public:
+    using Groups = QHash<QString, QStringList>;
+    using DirGroups = QHash<QString, QList<DirGroupEntry>>;
+
+    static TFileData *instance();
+
+    // Group key: upper-case hexadecimal MD5 of the UTF-8 bytes of the first member.
+    static QString groupKey(const QString &firstPath);
+
+    bool insertGroup(const QString &key, const QStringList &paths);
+    bool replaceGroup(const QString &key, const QStringList &paths);
+    // No lock: called only on the finder thread once the pool work has ended.
+    void insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries);
+
+    bool setSelected(const QString &key, const QStringList &paths);
+    bool removeSelected(const QString &key);
+    int updateSelected(const QString &key, const QString &path, bool add);
+    bool isSelected(const QString &key, const QString &path) const;
+    int selectedCount(const QString &key) const;
+
+    Groups imageGroups() const;
+    Groups groupsFor(const QStringList &keys) const;
+
+    // Removes the members whose parent folder is folder or lies below it from the given
+    // groups (and their selections); drops groups left with fewer than two members.
+    // The caller holds the write lock (see lock()).
+    void pruneFolderMembers(const QString &folder, const QStringList &groupKeys);
+
+    // Copies for readers (read lock).
+    Groups groups() const;
+    DirGroups dirGroups() const;
+    Groups selected() const;
+    QStringList group(const QString &key) const;
+    QStringList selectedOf(const QString &key) const;
+    QList<DirGroupEntry> dirGroup(const QString &key) const;
+    int groupCount() const;
+    bool isEmpty() const;
+
+    // Removes one path from its group and selection after the file was deleted or moved.
+    // A group left with fewer than two members is dropped. Returns whether the group
+    // still exists afterwards.
+    bool removePath(const QString &key, const QString &path);
+    bool removeGroup(const QString &key);
+    bool removeDirGroup(const QString &key);
+    // Replaces all three tables at once (opening a project).
+    void replaceAll(const Groups &groups, const DirGroups &dirGroups, const Groups &selected);
+    void clear();
+
+    QReadWriteLock &lock() { return m_lock; }
+
+private:
+    explicit TFileData(QObject *parent = nullptr);
+
+    mutable QReadWriteLock m_lock;
+    Groups m_groups;
+    DirGroups m_dirGroups;
+    Groups m_selected;
+};
