@@ -38,8 +38,9 @@ public:
     Groups imageGroups() const;
     Groups groupsFor(const QStringList &keys) const;
 
-    // Removes the members whose parent folder is folder or lies below it from the given
-    // groups (and their selections); drops groups left with fewer than two members.
+    // Removes the members whose parent folder is folder (or starts with folder and a
+    // backslash) from the given groups and their selections; drops a key whose list
+    // keeps fewer than two paths.
     // The caller holds the write lock (see lock()).
     void pruneFolderMembers(const QString &folder, const QStringList &groupKeys);
 
