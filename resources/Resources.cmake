@@ -29,30 +29,28 @@ function(veltrine_add_resources target)
         RESOURCE_PREFIX "/translations/language"
         LRELEASE_OPTIONS -silent)
 
-    # Qt's own translations, under the names the language set-up loads ("qt_pt.qm"
-    # is the European Portuguese catalogue). Each qt_xx.qm pulls in qtbase_xx.qm from
-    # the same folder, so both are embedded.
-    set(qt_translation_dir "")
-    find_path(qt_translation_dir qt_fr.qm PATHS /usr/share/qt6/translations ${QT6_INSTALL_PREFIX}/translations
-              NO_DEFAULT_PATH)
-    if(qt_translation_dir)
+    # Qt's own translations, under the names the language set-up loads. Qt's qt_xx.qm
+    # is only a catalogue of module files and fails to load when any of them is missing,
+    # so the qtbase catalogue (dialog buttons, file dialogs) is embedded under that name.
+    # "qt_pt.qm" is the European Portuguese one.
+    get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
+    execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
+                    OUTPUT_VARIABLE qt_translation_dir OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(EXISTS "${qt_translation_dir}/qtbase_fr.qm")
         set(staged ${CMAKE_CURRENT_BINARY_DIR}/qt_translations)
         set(qt_qm_files "")
         foreach(lang IN LISTS VELTRINE_LANGUAGES)
-            set(source_lang ${lang})
+            set(from ${qt_translation_dir}/qtbase_${lang}.qm)
             if(lang STREQUAL "pt")
-                set(source_lang pt_PT)
+                set(from ${qt_translation_dir}/qtbase_pt_PT.qm)
+                if(NOT EXISTS ${from})
+                    set(from ${qt_translation_dir}/qtbase_pt_BR.qm)
+                endif()
             endif()
-            foreach(catalogue qt qtbase)
-                set(from ${qt_translation_dir}/${catalogue}_${source_lang}.qm)
-                if(NOT EXISTS ${from} AND lang STREQUAL "pt")
-                    set(from ${qt_translation_dir}/${catalogue}_pt_BR.qm)
-                endif()
-                if(EXISTS ${from})
-                    configure_file(${from} ${staged}/${catalogue}_${lang}.qm COPYONLY)
-                    list(APPEND qt_qm_files ${staged}/${catalogue}_${lang}.qm)
-                endif()
-            endforeach()
+            if(EXISTS ${from})
+                configure_file(${from} ${staged}/qt_${lang}.qm COPYONLY)
+                list(APPEND qt_qm_files ${staged}/qt_${lang}.qm)
+            endif()
         endforeach()
         qt_add_resources(${target} "veltrine_qt_translations"
             PREFIX "/translations/language"
