@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/TFileData.h"
+
+#include <QtConcurrent>
+#include <QtTest>
+
+class TestTFileData : public QObject
+{
+    Q_OBJECT
+private:
+    TFileData *store() { return TFileData::instance(); }
+
+private slots:
+    void init() { store()->clear(); }
+
+    void groupKeyIsUpperMd5OfUtf8()
+    {
+        QCOMPARE(TFileData::groupKey("/a/b.jpg"), QStringLiteral("13B7CF79C88A1E69C00837221AB2EA93"));
+        QCOMPARE(TFileData::groupKey(QString::fromUtf8("/\xc3\xa9t\xc3\xa9.png")),
+                 QStringLiteral("1B92C67F503F1273099BC7D9C3597B4E"));
+    }
+
+    void updateSelected_data()
+    {
+        QTest::addColumn<QStringList>("initial"); // empty: nothing selected yet
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("add");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QStringList>("after");
+        QTest::addColumn<bool>("keyKept");
+        QTest::newRow("add to unselected group does nothing")
+            << QStringList() << "/a" << true << 0 << QStringList() << false;
+        QTest::newRow("remove from unselected group") << QStringList() << "/a" << false << 0 << QStringList() << false;
+        QTest::newRow("add appends") << QStringList{"/a"} << "/b" << true << 2 << QStringList{"/a", "/b"} << true;
+        QTest::newRow("add twice keeps one") << QStringList{"/a"} << "/a" << true << 1 << QStringList{"/a"} << true;
+        QTest::newRow("add is case-sensitive") << QStringList{"/a"} << "/A" << true << 2 << QStringList{"/a", "/A"} << true;
+        QTest::newRow("remove one of two") << QStringList{"/a", "/b"} << "/a" << false << 1 << QStringList{"/b"} << true;
+        QTest::newRow("remove the last drops the key") << QStringList{"/a"} << "/a" << false << 0 << QStringList() << false;
+    }
+    void updateSelected()
+    {
+        QFETCH(QStringList, initial);
+        QFETCH(QString, path);
+        QFETCH(bool, add);
+        QFETCH(int, result);
+        QFETCH(QStringList, after);
+        QFETCH(bool, keyKept);
+        if (!initial.isEmpty())
+            store()->setSelected("K", initial);
+        QCOMPARE(store()->updateSelected("K", path, add), result);
+        QCOMPARE(store()->selectedOf("K"), after);
+        QCOMPARE(store()->selected().contains("K"), keyKept);
+        QCOMPARE(store()->selectedCount("K"), int(after.size()));
+    }
+
+    void imageGroupsLookAtTheFirstPathOnly()
+    {
+        store()->insertGroup("A", {"/x/a.JPG", "/x/a.txt"});
+        store()->insertGroup("B", {"/x/b.txt", "/x/b.png"});
+        store()->insertGroup("C", {"/x/c.heic", "/y/c.heic"});
+        const auto images = store()->imageGroups();
+        QCOMPARE(images.keys().size(), 2);
+        QCOMPARE(images.value("A"), QStringList({"/x/a.JPG", "/x/a.txt"}));
+        QVERIFY(images.contains("C") && !images.contains("B"));
+    }
+
+    void pruneFolderMembers_data()
+    {
+        QTest::addColumn<QStringList>("members");
+        QTest::addColumn<QStringList>("kept"); // empty: the key is gone
+        QTest::newRow("direct children leave")
+            << QStringList{"/d/f/1", "/d/f/2", "/e/3", "/e/4"} << QStringList{"/e/3", "/e/4"};
+        QTest::newRow("below with forward slash stays")
+            << QStringList{"/d/f/sub/1", "/e/2"} << QStringList{"/d/f/sub/1", "/e/2"};
+        QTest::newRow("backslash form counts as below")
+            << QStringList{"/d/f\\sub/1", "/e/2", "/e/3"} << QStringList{"/e/2", "/e/3"};
+        QTest::newRow("sibling with same prefix stays")
+            << QStringList{"/d/fx/1", "/e/2"} << QStringList{"/d/fx/1", "/e/2"};
+        QTest::newRow("fewer than two left drops the key") << QStringList{"/d/f/1", "/e/2"} << QStringList();
+    }
+    void pruneFolderMembers()
+    {
+        QFETCH(QStringList, members);
+        QFETCH(QStringList, kept);
+        store()->insertGroup("G", members);
+        store()->setSelected("G", members.mid(1));
+        {
+            QWriteLocker locker(&store()->lock());
+            store()->pruneFolderMembers("/d/f", {"G", "missing"});
+        }
+        QCOMPARE(store()->group("G"), kept);
+        if (kept.isEmpty())
+            QVERIFY(!store()->groups().contains("G"));
+    }
+
+    void removePathDropsGroupsOfOne()
+    {
+        store()->insertGroup("G", {"/a", "/b", "/c"});
+        store()->setSelected("G", {"/b", "/c"});
+        QVERIFY(store()->removePath("G", "/b"));
+        QCOMPARE(store()->selectedOf("G"), QStringList{"/c"});
+        QVERIFY(!store()->removePath("G", "/c"));
+        QVERIFY(!store()->groups().contains("G"));
+        QVERIFY(!store()->selected().contains("G"));
+    }
+
+    void concurrentWritersAllLand()
+    {
+        QList<int> ids(2000);
+        std::iota(ids.begin(), ids.end(), 0);
+        QtConcurrent::blockingMap(ids, [this](int id) {
+            const QString key = QString::number(id);
+            store()->insertGroup(key, {"/a/" + key, "/b/" + key});
+            store()->setSelected(key, {"/b/" + key});
+            store()->updateSelected(key, "/a/" + key, true);
+        });
+        QCOMPARE(store()->groups().size(), 2000);
+        for (int id : {0, 999, 1999})
+            QCOMPARE(store()->selectedCount(QString::number(id)), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTFileData)
+#include "tst_TFileData.moc"
