@@ -16,6 +16,14 @@ function(veltrine_add_resources target)
         BASE ${VELTRINE_RESOURCE_DIR}
         FILES ${VELTRINE_RESOURCE_DIR}/Style.qss)
 
+    # Pictures drawn by tools/render_images.py from the SVG sources in images/src,
+    # reachable as ":/resource/<name>.png".
+    file(GLOB pictures ${VELTRINE_RESOURCE_DIR}/images/*.png ${VELTRINE_RESOURCE_DIR}/images/*.svg)
+    qt_add_resources(${target} "veltrine_images"
+        PREFIX "/resource"
+        BASE ${VELTRINE_RESOURCE_DIR}/images
+        FILES ${pictures})
+
     set(ts_files "")
     foreach(lang IN LISTS VELTRINE_LANGUAGES)
         veltrine_ts_file(${lang} ts)
