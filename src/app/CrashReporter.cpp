@@ -5,16 +5,16 @@
 #include "app/SentryDsn.h"
 #include "app/SentryTransport.h"
 
+#include <csignal>
+#include <cstdio>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QUuid>
-
-#include <csignal>
-#include <cstdio>
-#include <unistd.h>
 
 namespace {
 
@@ -31,9 +31,15 @@ ReporterState &reporter()
     return state;
 }
 
-QString newId() { return QUuid::createUuid().toString(QUuid::Id128); }
+QString newId()
+{
+    return QUuid::createUuid().toString(QUuid::Id128);
+}
 
-bool processAlive(qint64 pid) { return ::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM; }
+bool processAlive(qint64 pid)
+{
+    return ::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM;
+}
 
 // A report file stays empty unless its process crashed. Empty ones left by processes
 // that are gone (killed without a clean exit) are removed; those of running
@@ -56,8 +62,8 @@ SentryTransport *transport()
     if (!dsn.isValid())
         return nullptr;
     s.transport = new SentryTransport(dsn, s.options.databasePath, s.options.release);
-    QObject::connect(QCoreApplication::instance(), &QObject::destroyed,
-                     [] { reporter().transport = nullptr; });
+    QObject::connect(
+        QCoreApplication::instance(), &QObject::destroyed, [] { reporter().transport = nullptr; });
     s.transport->setParent(QCoreApplication::instance());
     return s.transport;
 }
@@ -117,7 +123,8 @@ int CrashReporter::init(const CrashReporterOptions &options)
     }
 
     if (SentryDsn(options.dsn).isValid())
-        log("INFO", "sending reports to \"%s\"", qUtf8Printable(SentryDsn(options.dsn).envelopeUrl().toString()));
+        log("INFO", "sending reports to \"%s\"",
+            qUtf8Printable(SentryDsn(options.dsn).envelopeUrl().toString()));
     else
         log("INFO", "no valid DSN configured, reports and events stay in the database");
     s.initialized = true;
@@ -141,8 +148,8 @@ QString CrashReporter::captureEvent(QJsonObject event)
         return {};
     const QString id = newId();
     event.insert(QStringLiteral("event_id"), id);
-    event.insert(QStringLiteral("timestamp"),
-                 QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
+    event.insert(
+        QStringLiteral("timestamp"), QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
     event.insert(QStringLiteral("release"), s.options.release);
     event.insert(QStringLiteral("platform"), QStringLiteral("native"));
 
@@ -172,6 +179,15 @@ bool CrashReporter::flush(int msecs)
     return !t || t->waitForFinished(msecs);
 }
 
-bool CrashReporter::isInitialized() { return reporter().initialized; }
-QString CrashReporter::databasePath() { return reporter().options.databasePath; }
-QString CrashReporter::dsn() { return reporter().options.dsn; }
+bool CrashReporter::isInitialized()
+{
+    return reporter().initialized;
+}
+QString CrashReporter::databasePath()
+{
+    return reporter().options.databasePath;
+}
+QString CrashReporter::dsn()
+{
+    return reporter().options.dsn;
+}

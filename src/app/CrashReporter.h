@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdarg>
+#include <functional>
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
-#include <cstdarg>
-#include <functional>
-
 // Options of the crash reporter, set in this order at start-up.
 struct CrashReporterOptions
 {
-    QString dsn;          // empty: reports and events stay in the database
+    QString dsn; // empty: reports and events stay in the database
     QString databasePath; // "<data folder>/sentrydb"
     QString release;
     bool systemCrashReporter = true;

@@ -12,9 +12,9 @@ namespace CrashSignalHandler {
 
 struct Setup
 {
-    std::string reportPath;     // receives header and trace
+    std::string reportPath; // receives header and trace
     std::string attachmentCopy; // receives a copy of the log file
-    std::string logFile;        // the day's log file, named when the process started
+    std::string logFile; // the day's log file, named when the process started
     std::string release;
 };
 

@@ -12,12 +12,18 @@ QString base()
 {
     return QStringLiteral("%1/%2/%3/")
         .arg(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
-             AppIdentity::organizationName, AppIdentity::applicationName);
+            AppIdentity::organizationName, AppIdentity::applicationName);
 }
 
-QString crashDatabasePath() { return base() + QStringLiteral("sentrydb"); }
+QString crashDatabasePath()
+{
+    return base() + QStringLiteral("sentrydb");
+}
 
-QString logDirectory() { return base() + QStringLiteral("Log"); }
+QString logDirectory()
+{
+    return base() + QStringLiteral("Log");
+}
 
 QString todaysLogFile()
 {

@@ -17,14 +17,13 @@ bool reportFeature(const QString &feature, const QString &message)
         qDebug() << "Sentry log skipped due to max send count:" << feature;
         return false;
     }
-    const QJsonObject event{
-        {QStringLiteral("level"), QStringLiteral("info")},
+    const QJsonObject event {{QStringLiteral("level"), QStringLiteral("info")},
         {QStringLiteral("logger"), feature},
         {QStringLiteral("message"),
-         QJsonObject{{QStringLiteral("formatted"),
-                      QStringLiteral("User used feature: %1. msg: %2").arg(feature, message)}}},
-        {QStringLiteral("tags"), QJsonObject{{QStringLiteral("feature"), feature}}},
-        {QStringLiteral("extra"), QJsonObject{{QStringLiteral("message"), message}}}};
+            QJsonObject {{QStringLiteral("formatted"),
+                QStringLiteral("User used feature: %1. msg: %2").arg(feature, message)}}},
+        {QStringLiteral("tags"), QJsonObject {{QStringLiteral("feature"), feature}}},
+        {QStringLiteral("extra"), QJsonObject {{QStringLiteral("message"), message}}}};
     CrashReporter::captureEvent(event);
     settings.setValue(key, count + 1);
     return true;

@@ -8,53 +8,66 @@ namespace FileTypeCatalogue {
 
 namespace {
 
-// Built before main() runs and read-only afterwards, so every thread may read the
-// tables without locking.
-const QHash<int, QStringList> kCategories = {
-    {CategoryImages,
-     {"png", "jpg",  "jpeg", "bmp", "tga",  "jp2", "jpg2000", "tif", "tiff", "webp", "hdr",
-      "arw", "bay",  "bur",  "ccr", "crw",  "cr2", "cr3",     "dcr", "dng",  "drw",  "erf",
-      "fff", "iiq",  "k25",  "kdc", "mef",  "mrw", "mos",     "nef", "nrw",  "orf",  "pef",
-      "pff", "prw",  "raf",  "ra",  "rwl",  "rw2", "sr2",     "srf", "srw",  "x3f",  "heic",
-      "heif", "pcx", "pic",  "raw", "jif",  "svg", "lic",     "eps", "sai",  "sgi",  "emf",
-      "ico", "psd",  "icns", "cur", "wmf",  "xbm", "pict",    "gif", "jpc"}},
-    {CategoryDocuments,
-     {"pdf",  "docx", "txt",  "doc",  "potx", "xls",  "chm",  "htm",  "html", "rtf",  "xlsx",
-      "pptx", "xml",  "jar",  "key",  "djvu", "dwg",  "epub", "wps",  "odt",  "xps",  "oxps",
-      "pages", "pst", "rtf",  "rtfd", "vsd",  "vdx",  "vsdx", "wpd",  "dotx", "dot",  "docm",
-      "dotm", "mht",  "xltx", "xlt",  "csv",  "xlsb", "xlsm", "xltm", "xlam", "xla",  "mht",
-      "prn",  "dif",  "slk",  "pot",  "ppsx", "pps",  "pptm", "potm", "ppsm", "thmx", "ppam",
-      "ppa",  "dat",  "ppt",  "olm",  "dxf",  "dwf"}},
-    {CategoryAudio,
-     {"amr", "au", "aac", "ac3", "aiff", "ape", "caf", "flac", "m4a", "mka", "mp2", "mp3", "ra",
-      "ogg", "wav", "mid", "wma", "midi", "cda", "aif"}},
-    {CategoryVideos,
-     {"webm", "mxf", "mp4", "flv", "mov", "wmv", "vob", "ts",  "tp",  "rmvb", "rm",   "mts", "mpg",
-      "mpeg", "mod", "mkv", "m4v", "m2ts", "divx", "avi", "asf", "amv", "3gp", "rmx", "flash",
-      "swf"}},
-};
+    // Built before main() runs and read-only afterwards, so every thread may read the
+    // tables without locking.
+    const QHash<int, QStringList> kCategories = {
+        {CategoryImages,
+            {"png", "jpg", "jpeg", "bmp", "tga", "jp2", "jpg2000", "tif", "tiff", "webp", "hdr",
+                "arw", "bay", "bur", "ccr", "crw", "cr2", "cr3", "dcr", "dng", "drw", "erf", "fff",
+                "iiq", "k25", "kdc", "mef", "mrw", "mos", "nef", "nrw", "orf", "pef", "pff", "prw",
+                "raf", "ra", "rwl", "rw2", "sr2", "srf", "srw", "x3f", "heic", "heif", "pcx", "pic",
+                "raw", "jif", "svg", "lic", "eps", "sai", "sgi", "emf", "ico", "psd", "icns", "cur",
+                "wmf", "xbm", "pict", "gif", "jpc"}},
+        {CategoryDocuments,
+            {"pdf", "docx", "txt", "doc", "potx", "xls", "chm", "htm", "html", "rtf", "xlsx",
+                "pptx", "xml", "jar", "key", "djvu", "dwg", "epub", "wps", "odt", "xps", "oxps",
+                "pages", "pst", "rtf", "rtfd", "vsd", "vdx", "vsdx", "wpd", "dotx", "dot", "docm",
+                "dotm", "mht", "xltx", "xlt", "csv", "xlsb", "xlsm", "xltm", "xlam", "xla", "mht",
+                "prn", "dif", "slk", "pot", "ppsx", "pps", "pptm", "potm", "ppsm", "thmx", "ppam",
+                "ppa", "dat", "ppt", "olm", "dxf", "dwf"}},
+        {CategoryAudio,
+            {"amr", "au", "aac", "ac3", "aiff", "ape", "caf", "flac", "m4a", "mka", "mp2", "mp3",
+                "ra", "ogg", "wav", "mid", "wma", "midi", "cda", "aif"}},
+        {CategoryVideos,
+            {"webm", "mxf", "mp4", "flv", "mov", "wmv", "vob", "ts", "tp", "rmvb", "rm", "mts",
+                "mpg", "mpeg", "mod", "mkv", "m4v", "m2ts", "divx", "avi", "asf", "amv", "3gp",
+                "rmx", "flash", "swf"}},
+    };
 
-const QList<int> kCategoryOrder = {CategoryImages, CategoryDocuments, CategoryAudio,
-                                   CategoryVideos};
+    const QList<int> kCategoryOrder
+        = {CategoryImages, CategoryDocuments, CategoryAudio, CategoryVideos};
 
-const QStringList kSimilarExcluded = {"pcx", "pic", "raw", "jif",  "gif", "svg", "lic",
-                                      "eps", "sai", "sgi", "emf",  "ico", "psd", "icns",
-                                      "cur", "wmf", "xbm", "pict", "exr", "jpc"};
+    const QStringList kSimilarExcluded = {"pcx", "pic", "raw", "jif", "gif", "svg", "lic", "eps",
+        "sai", "sgi", "emf", "ico", "psd", "icns", "cur", "wmf", "xbm", "pict", "exr", "jpc"};
 
-const QStringList kRawFormats = {"arw", "bay", "bur", "ccr", "crw", "cr2", "cr3", "dcr", "dng",
-                                 "drw", "erf", "fff", "iiq", "k25", "kdc", "me2", "mef", "mos",
-                                 "mrw", "nef", "nrw", "orf", "pef", "pff", "prw", "raf", "ra",
-                                 "rwl", "rw2", "sr2", "srf", "srw", "x3f"};
+    const QStringList kRawFormats = {"arw", "bay", "bur", "ccr", "crw", "cr2", "cr3", "dcr", "dng",
+        "drw", "erf", "fff", "iiq", "k25", "kdc", "me2", "mef", "mos", "mrw", "nef", "nrw", "orf",
+        "pef", "pff", "prw", "raf", "ra", "rwl", "rw2", "sr2", "srf", "srw", "x3f"};
 
-const QStringList kHeifFormats = {"heic", "heif"};
+    const QStringList kHeifFormats = {"heic", "heif"};
 
 } // namespace
 
-const QHash<int, QStringList> &categoryExtensions() { return kCategories; }
-const QList<int> &categoryOrder() { return kCategoryOrder; }
-const QStringList &similarExcludedFormats() { return kSimilarExcluded; }
-const QStringList &rawFormats() { return kRawFormats; }
-const QStringList &heifFormats() { return kHeifFormats; }
+const QHash<int, QStringList> &categoryExtensions()
+{
+    return kCategories;
+}
+const QList<int> &categoryOrder()
+{
+    return kCategoryOrder;
+}
+const QStringList &similarExcludedFormats()
+{
+    return kSimilarExcluded;
+}
+const QStringList &rawFormats()
+{
+    return kRawFormats;
+}
+const QStringList &heifFormats()
+{
+    return kHeifFormats;
+}
 
 QString categoryLabel(int category)
 {
@@ -112,7 +125,10 @@ void stripSimilarTag(QStringList &keys)
         key = stripSimilarTag(key);
 }
 
-bool isSimilarEntry(const QString &entry) { return entry.contains(kSimilarTag); }
+bool isSimilarEntry(const QString &entry)
+{
+    return entry.contains(kSimilarTag);
+}
 
 bool isRawFormat(const QString &suffix)
 {

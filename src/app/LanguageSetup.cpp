@@ -7,7 +7,7 @@ namespace LanguageSetup {
 
 namespace {
 
-LanguageFiles g_current = filesFor(1);
+    LanguageFiles g_current = filesFor(1);
 
 } // namespace
 
@@ -36,13 +36,13 @@ LanguageFiles filesFor(int index)
     default:
         // The English file is the only one named without "-win".
         return {QStringLiteral("duplicate-finder_en.qm"), QStringLiteral("qt_en.qm"),
-                QStringLiteral("noSelection_LiteBG.png"), QStringLiteral("noSelection_bg.png"),
-                QStringLiteral("noduplicatesfound_bg.png")};
+            QStringLiteral("noSelection_LiteBG.png"), QStringLiteral("noSelection_bg.png"),
+            QStringLiteral("noduplicatesfound_bg.png")};
     }
     return {QStringLiteral("duplicate-finder-win_%1.qm").arg(code),
-            QStringLiteral("qt_%1.qm").arg(code), QStringLiteral("noSelection_LiteBG_%1.png").arg(code),
-            QStringLiteral("noSelection_bg_%1.png").arg(code),
-            QStringLiteral("noduplicatesfound_bg_%1.png").arg(code)};
+        QStringLiteral("qt_%1.qm").arg(code), QStringLiteral("noSelection_LiteBG_%1.png").arg(code),
+        QStringLiteral("noSelection_bg_%1.png").arg(code),
+        QStringLiteral("noduplicatesfound_bg_%1.png").arg(code)};
 }
 
 QTranslator &appTranslator()
@@ -57,7 +57,10 @@ QTranslator &qtTranslator()
     return translator;
 }
 
-const LanguageFiles &current() { return g_current; }
+const LanguageFiles &current()
+{
+    return g_current;
+}
 
 void setupLanguage(int index)
 {

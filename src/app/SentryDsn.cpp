@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/SentryDsn.h"
 
-SentryDsn::SentryDsn(const QString &text)
-    : m_text(text.trimmed())
-    , m_url(m_text, QUrl::StrictMode)
+SentryDsn::SentryDsn(const QString &text) : m_text(text.trimmed()), m_url(m_text, QUrl::StrictMode)
 {
     if (m_text.isEmpty() || !m_url.isValid() || m_url.host().isEmpty()
         || (m_url.scheme() != QLatin1String("http") && m_url.scheme() != QLatin1String("https")))

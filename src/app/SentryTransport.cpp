@@ -3,6 +3,8 @@
 
 #include "app/CrashReporter.h"
 
+#include <csignal>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -16,8 +18,6 @@
 #include <QNetworkReply>
 #include <QTimer>
 #include <QUuid>
-
-#include <csignal>
 
 namespace {
 
@@ -38,10 +38,8 @@ QByteArray item(const QJsonObject &header, const QByteArray &payload)
 
 QByteArray envelopeHeader(const QString &eventId, const QString &dsn)
 {
-    const QJsonObject header{{QStringLiteral("event_id"), eventId},
-                             {QStringLiteral("dsn"), dsn},
-                             {QStringLiteral("sent_at"),
-                              QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)}};
+    const QJsonObject header {{QStringLiteral("event_id"), eventId}, {QStringLiteral("dsn"), dsn},
+        {QStringLiteral("sent_at"), QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)}};
     return QJsonDocument(header).toJson(QJsonDocument::Compact) + '\n';
 }
 
@@ -65,24 +63,24 @@ QString signalName(int signo)
 
 bool belongsToLiveProcess(const QString &reportPath)
 {
-    const qint64 pid = QFileInfo(reportPath).fileName().section(QLatin1Char('-'), 0, 0).toLongLong();
+    const qint64 pid
+        = QFileInfo(reportPath).fileName().section(QLatin1Char('-'), 0, 0).toLongLong();
     return pid <= 0 || pid == QCoreApplication::applicationPid() || ::kill(pid, 0) == 0;
 }
 
 } // namespace
 
-SentryTransport::SentryTransport(const SentryDsn &dsn, const QString &databasePath,
-                                 const QString &release, QObject *parent)
+SentryTransport::SentryTransport(
+    const SentryDsn &dsn, const QString &databasePath, const QString &release, QObject *parent)
     : QObject(parent)
     , m_dsn(dsn)
     , m_databasePath(databasePath)
     , m_release(release)
     , m_network(new QNetworkAccessManager(this))
-{
-}
+{ }
 
-QByteArray SentryTransport::crashEnvelope(const QString &reportPath, const QString &dsn,
-                                          const QString &release)
+QByteArray SentryTransport::crashEnvelope(
+    const QString &reportPath, const QString &dsn, const QString &release)
 {
     const QByteArray report = readFile(reportPath);
     const int split = report.indexOf("\n\n");
@@ -93,42 +91,43 @@ QByteArray SentryTransport::crashEnvelope(const QString &reportPath, const QStri
     for (const QByteArray &line : headerText.split('\n')) {
         const int colon = line.indexOf(':');
         if (colon > 0)
-            fields.insert(QString::fromUtf8(line.left(colon)), QString::fromUtf8(line.mid(colon + 1)).trimmed());
+            fields.insert(QString::fromUtf8(line.left(colon)),
+                QString::fromUtf8(line.mid(colon + 1)).trimmed());
     }
     const QString eventId = QUuid::createUuid().toString(QUuid::Id128);
     const int signo = fields.value(QStringLiteral("signal")).toInt();
     const qint64 seconds = fields.value(QStringLiteral("timestamp")).toLongLong();
-    const QJsonObject exception{
-        {QStringLiteral("type"), signalName(signo)},
+    const QJsonObject exception {{QStringLiteral("type"), signalName(signo)},
         {QStringLiteral("value"), QStringLiteral("Fatal signal %1").arg(signo)},
         {QStringLiteral("mechanism"),
-         QJsonObject{{QStringLiteral("type"), QStringLiteral("signalhandler")},
-                     {QStringLiteral("handled"), false}}}};
-    const QJsonObject event{
-        {QStringLiteral("event_id"), eventId},
+            QJsonObject {{QStringLiteral("type"), QStringLiteral("signalhandler")},
+                {QStringLiteral("handled"), false}}}};
+    const QJsonObject event {{QStringLiteral("event_id"), eventId},
         {QStringLiteral("timestamp"),
-         QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate)},
+            QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate)},
         {QStringLiteral("level"), QStringLiteral("fatal")},
         {QStringLiteral("platform"), QStringLiteral("native")},
         {QStringLiteral("release"), fields.value(QStringLiteral("release"), release)},
         {QStringLiteral("exception"),
-         QJsonObject{{QStringLiteral("values"), QJsonArray{exception}}}},
-        {QStringLiteral("extra"), QJsonObject{{QStringLiteral("stacktrace"), QString::fromUtf8(trace)}}}};
+            QJsonObject {{QStringLiteral("values"), QJsonArray {exception}}}},
+        {QStringLiteral("extra"),
+            QJsonObject {{QStringLiteral("stacktrace"), QString::fromUtf8(trace)}}}};
 
     QByteArray envelope = envelopeHeader(eventId, dsn);
     envelope += item({{QStringLiteral("type"), QStringLiteral("event")}},
-                     QJsonDocument(event).toJson(QJsonDocument::Compact));
+        QJsonDocument(event).toJson(QJsonDocument::Compact));
     envelope += item({{QStringLiteral("type"), QStringLiteral("attachment")},
-                      {QStringLiteral("filename"), QStringLiteral("stacktrace.txt")},
-                      {QStringLiteral("content_type"), QStringLiteral("text/plain")}},
-                     trace);
+                         {QStringLiteral("filename"), QStringLiteral("stacktrace.txt")},
+                         {QStringLiteral("content_type"), QStringLiteral("text/plain")}},
+        trace);
     const QString logCopy = reportPath + QStringLiteral(".log");
     if (QFileInfo::exists(logCopy)) {
         const QString name = QFileInfo(fields.value(QStringLiteral("attachment"))).fileName();
-        envelope += item({{QStringLiteral("type"), QStringLiteral("attachment")},
-                          {QStringLiteral("filename"), name.isEmpty() ? QStringLiteral("log.log") : name},
-                          {QStringLiteral("content_type"), QStringLiteral("text/plain")}},
-                         readFile(logCopy));
+        envelope += item(
+            {{QStringLiteral("type"), QStringLiteral("attachment")},
+                {QStringLiteral("filename"), name.isEmpty() ? QStringLiteral("log.log") : name},
+                {QStringLiteral("content_type"), QStringLiteral("text/plain")}},
+            readFile(logCopy));
     }
     return envelope;
 }
@@ -164,16 +163,16 @@ void SentryTransport::sendPending()
 void SentryTransport::post(const QByteArray &envelope, const QStringList &filesToRemove)
 {
     QNetworkRequest request(m_dsn.envelopeUrl());
-    request.setHeader(QNetworkRequest::ContentTypeHeader,
-                      QStringLiteral("application/x-sentry-envelope"));
+    request.setHeader(
+        QNetworkRequest::ContentTypeHeader, QStringLiteral("application/x-sentry-envelope"));
     request.setRawHeader("X-Sentry-Auth", m_dsn.authHeader(kClientName));
     request.setTransferTimeout(10000);
     m_inFlight.insert(filesToRemove.first());
     CrashReporter::log("INFO", "sending envelope for \"%s\"",
-                       qUtf8Printable(QFileInfo(filesToRemove.first()).fileName()));
+        qUtf8Printable(QFileInfo(filesToRemove.first()).fileName()));
     QNetworkReply *reply = m_network->post(request, envelope);
     connect(reply, &QNetworkReply::finished, this,
-            [this, reply, filesToRemove] { onReplyFinished(reply, filesToRemove); });
+        [this, reply, filesToRemove] { onReplyFinished(reply, filesToRemove); });
 }
 
 void SentryTransport::onReplyFinished(QNetworkReply *reply, const QStringList &filesToRemove)
@@ -187,8 +186,8 @@ void SentryTransport::onReplyFinished(QNetworkReply *reply, const QStringList &f
     } else {
         // Kept on disk and tried again at the next start.
         CrashReporter::log("WARN", "sending \"%s\" failed: %s",
-                           qUtf8Printable(QFileInfo(filesToRemove.first()).fileName()),
-                           qUtf8Printable(reply->errorString()));
+            qUtf8Printable(QFileInfo(filesToRemove.first()).fileName()),
+            qUtf8Printable(reply->errorString()));
     }
     if (m_inFlight.isEmpty())
         emit finished();

@@ -16,14 +16,14 @@ class SentryTransport : public QObject
     Q_OBJECT
 public:
     SentryTransport(const SentryDsn &dsn, const QString &databasePath, const QString &release,
-                    QObject *parent = nullptr);
+        QObject *parent = nullptr);
 
     void sendPending();
     bool waitForFinished(int msecs);
 
     // Envelope of a crash report (header and trace file, plus its log copy if present).
-    static QByteArray crashEnvelope(const QString &reportPath, const QString &dsn,
-                                    const QString &release);
+    static QByteArray crashEnvelope(
+        const QString &reportPath, const QString &dsn, const QString &release);
     // Envelope of one stored event.
     static QByteArray eventEnvelope(const QByteArray &eventJson, const QString &dsn);
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLogger.h"
 
+#include <spdlog/sinks/daily_file_sink.h>
+#include <spdlog/spdlog.h>
+
 #include <QDebug>
 #include <QDir>
 #include <QMutex>
-
-#include <spdlog/sinks/daily_file_sink.h>
-#include <spdlog/spdlog.h>
 
 namespace {
 
@@ -61,6 +61,6 @@ void splog_d(const QString &message)
     if (!logger)
         return;
     const QByteArray text = message.simplified().toUtf8();
-    logger->log(spdlog::source_loc{"TLogger", 15, "splog_d"}, spdlog::level::info,
-                spdlog::string_view_t(text.constData(), static_cast<size_t>(text.size())));
+    logger->log(spdlog::source_loc {"TLogger", 15, "splog_d"}, spdlog::level::info,
+        spdlog::string_view_t(text.constData(), static_cast<size_t>(text.size())));
 }

@@ -5,8 +5,11 @@
 #include "app/DataDirectory.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
+#include "app/TerminationSignalWatcher.h"
 #include "mainwindow/MainWindow.h"
 #include "platform/Platform.h"
+
+#include <cstdio>
 
 #include <QApplication>
 #include <QDate>
@@ -14,8 +17,6 @@
 #include <QFile>
 #include <QScreen>
 #include <QSettings>
-
-#include <cstdio>
 
 namespace {
 
@@ -42,8 +43,9 @@ void startCrashReporting(const QString &base)
     options.release = AppIdentity::version;
     options.systemCrashReporter = true;
     options.debug = true;
-    options.handlerPath = QDir::toNativeSeparators(
-        QString::fromStdString(platform::current().executableDir()) + QStringLiteral("/crashpad_handler"));
+    options.handlerPath
+        = QDir::toNativeSeparators(QString::fromStdString(platform::current().executableDir())
+            + QStringLiteral("/crashpad_handler"));
     options.logger = &logReporterMessage;
     options.attachments << logDirectory + QStringLiteral("/log_")
             + QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".log");
@@ -66,7 +68,8 @@ void placeWindow(QWidget &window)
     const QSize size = window.size();
     // Centred on the available area's size, not its origin: kept on purpose.
     if (size.width() <= available.width() && size.height() <= available.height())
-        window.move((available.width() - size.width()) / 2, (available.height() - size.height()) / 2);
+        window.move(
+            (available.width() - size.width()) / 2, (available.height() - size.height()) / 2);
     else
         window.setWindowState(window.windowState() | Qt::WindowMinimized);
 }
@@ -80,7 +83,7 @@ int main(int argc, char *argv[])
     QDir().mkpath(base + QStringLiteral("Log"));
     initLogger(base);
     splog_d(QStringLiteral("[Main]: The program is starting to run [%1]").arg(AppIdentity::version)
-            + QString(62, QLatin1Char('.')));
+        + QString(62, QLatin1Char('.')));
     startCrashReporting(base);
 
     QT_WARNING_PUSH
@@ -99,6 +102,13 @@ int main(int argc, char *argv[])
         LanguageSetup::setupLanguage(settings.value(QStringLiteral("Language"), 1).toInt());
         QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
         QCoreApplication::installTranslator(&LanguageSetup::qtTranslator());
+
+        TerminationSignalWatcher termination;
+        QObject::connect(&termination, &TerminationSignalWatcher::terminationRequested, &app,
+            [](int signalNumber) {
+                splog_d(QStringLiteral("[Main]: Signal %1 received, closing").arg(signalNumber));
+                QCoreApplication::quit();
+            });
 
         auto *window = new MainWindow(app.arguments());
         placeWindow(*window);

@@ -3,15 +3,12 @@
 
 #include "app/FileTypeCatalogue.h"
 
+#include <algorithm>
+
 #include <QCryptographicHash>
 #include <QFileInfo>
 
-#include <algorithm>
-
-TFileData::TFileData(QObject *parent)
-    : QObject(parent)
-{
-}
+TFileData::TFileData(QObject *parent) : QObject(parent) { }
 
 TFileData *TFileData::instance()
 {
@@ -176,7 +173,10 @@ int TFileData::groupCount() const
     return int(m_groups.size() + m_dirGroups.size());
 }
 
-bool TFileData::isEmpty() const { return groupCount() == 0; }
+bool TFileData::isEmpty() const
+{
+    return groupCount() == 0;
+}
 
 bool TFileData::removePath(const QString &key, const QString &path)
 {

@@ -21,7 +21,8 @@ int main(int argc, char *argv[])
     CrashReporterOptions options;
     options.databasePath = base + "/sentrydb";
     options.release = QStringLiteral("4.5.0");
-    options.attachments << base + "/Log/log_" + QDate::currentDate().toString("yyyy-MM-dd") + ".log";
+    options.attachments << base + "/Log/log_" + QDate::currentDate().toString("yyyy-MM-dd")
+            + ".log";
     if (CrashReporter::init(options) != 0)
         return 3;
     splog_d("[Child]: about to crash");

@@ -16,8 +16,7 @@ public:
         QByteArray body;
     };
 
-    explicit EnvelopeReceiver(int status = 200)
-        : m_status(status)
+    explicit EnvelopeReceiver(int status = 200) : m_status(status)
     {
         m_server.listen(QHostAddress::LocalHost);
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
@@ -48,7 +47,7 @@ private:
         requests.append({head, buffer.mid(end + 4, length)});
         m_buffers.remove(socket);
         socket->write("HTTP/1.1 " + QByteArray::number(m_status)
-                      + " X\r\nContent-Length: 2\r\nConnection: close\r\n\r\n{}");
+            + " X\r\nContent-Length: 2\r\nConnection: close\r\n\r\n{}");
         socket->disconnectFromHost();
     }
 

@@ -124,10 +124,11 @@ private slots:
         const QJsonObject event = QJsonDocument::fromJson(body.split('\n').value(2)).object();
         QCOMPARE(event.value("level").toString(), QString("info"));
         QCOMPARE(event.value("logger").toString(), QString("Incomplete_scan"));
-        QCOMPARE(event.value("tags").toObject().value("feature").toString(), QString("Incomplete_scan"));
+        QCOMPARE(
+            event.value("tags").toObject().value("feature").toString(), QString("Incomplete_scan"));
         QCOMPARE(event.value("extra").toObject().value("message").toString(), QString("c"));
         QCOMPARE(event.value("message").toObject().value("formatted").toString(),
-                 QString("User used feature: Incomplete_scan. msg: c"));
+            QString("User used feature: Incomplete_scan. msg: c"));
     }
 };
 

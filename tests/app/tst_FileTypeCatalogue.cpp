@@ -68,20 +68,27 @@ private slots:
     {
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("stripped");
-        QTest::newRow("tagged") << "abc_simlar_12" << "abc";
-        QTest::newRow("path") << "/p/q r.jpg_simlar_100" << "/p/q r.jpg";
-        QTest::newRow("no digits") << "abc_simlar_" << "abc_simlar_";
-        QTest::newRow("trailing letter") << "abc_simlar_1x" << "abc_simlar_1x";
-        QTest::newRow("plain") << "/a/b.jpg" << "/a/b.jpg";
-        QTest::newRow("tag twice keeps first") << "a_simlar_1_simlar_2" << "a_simlar_1";
-        QTest::newRow("case-sensitive") << "abc_SIMLAR_3" << "abc_SIMLAR_3";
+        QTest::newRow("tagged") << "abc_simlar_12"
+                                << "abc";
+        QTest::newRow("path") << "/p/q r.jpg_simlar_100"
+                              << "/p/q r.jpg";
+        QTest::newRow("no digits") << "abc_simlar_"
+                                   << "abc_simlar_";
+        QTest::newRow("trailing letter") << "abc_simlar_1x"
+                                         << "abc_simlar_1x";
+        QTest::newRow("plain") << "/a/b.jpg"
+                               << "/a/b.jpg";
+        QTest::newRow("tag twice keeps first") << "a_simlar_1_simlar_2"
+                                               << "a_simlar_1";
+        QTest::newRow("case-sensitive") << "abc_SIMLAR_3"
+                                        << "abc_SIMLAR_3";
     }
     void stripSimilarTag()
     {
         QFETCH(QString, entry);
         QFETCH(QString, stripped);
         QCOMPARE(::stripSimilarTag(entry), stripped);
-        QStringList list{entry, QStringLiteral("plain")};
+        QStringList list {entry, QStringLiteral("plain")};
         ::stripSimilarTag(list);
         QCOMPARE(list, QStringList({stripped, QStringLiteral("plain")}));
     }

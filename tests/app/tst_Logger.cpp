@@ -16,7 +16,8 @@ private:
 
     QStringList logLines() const
     {
-        QFile file(m_base.filePath("Log/log_" + QDate::currentDate().toString("yyyy-MM-dd") + ".log"));
+        QFile file(
+            m_base.filePath("Log/log_" + QDate::currentDate().toString("yyyy-MM-dd") + ".log"));
         if (!file.open(QIODevice::ReadOnly))
             return {};
         return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
@@ -36,19 +37,23 @@ private slots:
         const QStringList lines = logLines();
         QCOMPARE(lines.size(), 1);
         // Written at once: no flush or shutdown needed before reading.
-        QVERIFY2(QRegularExpression(R"(^\[\d\d:\d\d:\d\d\.\d{3}\]:\[Main\]: sentry SDK initialized successfully$)")
+        QVERIFY2(QRegularExpression(
+                     R"(^\[\d\d:\d\d:\d\d\.\d{3}\]:\[Main\]: sentry SDK initialized successfully$)")
                      .match(lines.first())
                      .hasMatch(),
-                 qPrintable(lines.first()));
+            qPrintable(lines.first()));
     }
 
     void whiteSpaceIsCollapsed_data()
     {
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("written");
-        QTest::newRow("line breaks") << "[A]: one\ntwo\r\nthree" << "[A]: one two three";
-        QTest::newRow("tabs and runs") << "\t[A]:\t a   b \t" << "[A]: a b";
-        QTest::newRow("unicode") << "[A]: Bilder  \u00e9t\u00e9 \u5199\u771f" << "[A]: Bilder \u00e9t\u00e9 \u5199\u771f";
+        QTest::newRow("line breaks") << "[A]: one\ntwo\r\nthree"
+                                     << "[A]: one two three";
+        QTest::newRow("tabs and runs") << "\t[A]:\t a   b \t"
+                                       << "[A]: a b";
+        QTest::newRow("unicode") << "[A]: Bilder  \u00e9t\u00e9 \u5199\u771f"
+                                 << "[A]: Bilder \u00e9t\u00e9 \u5199\u771f";
     }
     void whiteSpaceIsCollapsed()
     {
@@ -65,7 +70,10 @@ private slots:
         std::iota(senders.begin(), senders.end(), 0);
         QtConcurrent::blockingMap(senders, [](int sender) {
             for (int i = 0; i < 200; ++i)
-                splog_d(QStringLiteral("[Thread]: sender %1 line %2 %3").arg(sender).arg(i).arg(QString(40, 'x')));
+                splog_d(QStringLiteral("[Thread]: sender %1 line %2 %3")
+                            .arg(sender)
+                            .arg(i)
+                            .arg(QString(40, 'x')));
         });
         const QStringList lines = logLines().mid(before);
         QCOMPARE(lines.size(), 1600);

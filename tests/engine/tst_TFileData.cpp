@@ -15,9 +15,10 @@ private slots:
 
     void groupKeyIsUpperMd5OfUtf8()
     {
-        QCOMPARE(TFileData::groupKey("/a/b.jpg"), QStringLiteral("13B7CF79C88A1E69C00837221AB2EA93"));
+        QCOMPARE(
+            TFileData::groupKey("/a/b.jpg"), QStringLiteral("13B7CF79C88A1E69C00837221AB2EA93"));
         QCOMPARE(TFileData::groupKey(QString::fromUtf8("/\xc3\xa9t\xc3\xa9.png")),
-                 QStringLiteral("1B92C67F503F1273099BC7D9C3597B4E"));
+            QStringLiteral("1B92C67F503F1273099BC7D9C3597B4E"));
     }
 
     void updateSelected_data()
@@ -30,12 +31,18 @@ private slots:
         QTest::addColumn<bool>("keyKept");
         QTest::newRow("add to unselected group does nothing")
             << QStringList() << "/a" << true << 0 << QStringList() << false;
-        QTest::newRow("remove from unselected group") << QStringList() << "/a" << false << 0 << QStringList() << false;
-        QTest::newRow("add appends") << QStringList{"/a"} << "/b" << true << 2 << QStringList{"/a", "/b"} << true;
-        QTest::newRow("add twice keeps one") << QStringList{"/a"} << "/a" << true << 1 << QStringList{"/a"} << true;
-        QTest::newRow("add is case-sensitive") << QStringList{"/a"} << "/A" << true << 2 << QStringList{"/a", "/A"} << true;
-        QTest::newRow("remove one of two") << QStringList{"/a", "/b"} << "/a" << false << 1 << QStringList{"/b"} << true;
-        QTest::newRow("remove the last drops the key") << QStringList{"/a"} << "/a" << false << 0 << QStringList() << false;
+        QTest::newRow("remove from unselected group")
+            << QStringList() << "/a" << false << 0 << QStringList() << false;
+        QTest::newRow("add appends")
+            << QStringList {"/a"} << "/b" << true << 2 << QStringList {"/a", "/b"} << true;
+        QTest::newRow("add twice keeps one")
+            << QStringList {"/a"} << "/a" << true << 1 << QStringList {"/a"} << true;
+        QTest::newRow("add is case-sensitive")
+            << QStringList {"/a"} << "/A" << true << 2 << QStringList {"/a", "/A"} << true;
+        QTest::newRow("remove one of two")
+            << QStringList {"/a", "/b"} << "/a" << false << 1 << QStringList {"/b"} << true;
+        QTest::newRow("remove the last drops the key")
+            << QStringList {"/a"} << "/a" << false << 0 << QStringList() << false;
     }
     void updateSelected()
     {
@@ -69,14 +76,15 @@ private slots:
         QTest::addColumn<QStringList>("members");
         QTest::addColumn<QStringList>("kept"); // empty: the key is gone
         QTest::newRow("direct children leave")
-            << QStringList{"/d/f/1", "/d/f/2", "/e/3", "/e/4"} << QStringList{"/e/3", "/e/4"};
+            << QStringList {"/d/f/1", "/d/f/2", "/e/3", "/e/4"} << QStringList {"/e/3", "/e/4"};
         QTest::newRow("below with forward slash stays")
-            << QStringList{"/d/f/sub/1", "/e/2"} << QStringList{"/d/f/sub/1", "/e/2"};
+            << QStringList {"/d/f/sub/1", "/e/2"} << QStringList {"/d/f/sub/1", "/e/2"};
         QTest::newRow("backslash form counts as below")
-            << QStringList{"/d/f\\sub/1", "/e/2", "/e/3"} << QStringList{"/e/2", "/e/3"};
+            << QStringList {"/d/f\\sub/1", "/e/2", "/e/3"} << QStringList {"/e/2", "/e/3"};
         QTest::newRow("sibling with same prefix stays")
-            << QStringList{"/d/fx/1", "/e/2"} << QStringList{"/d/fx/1", "/e/2"};
-        QTest::newRow("fewer than two left drops the key") << QStringList{"/d/f/1", "/e/2"} << QStringList();
+            << QStringList {"/d/fx/1", "/e/2"} << QStringList {"/d/fx/1", "/e/2"};
+        QTest::newRow("fewer than two left drops the key")
+            << QStringList {"/d/f/1", "/e/2"} << QStringList();
     }
     void pruneFolderMembers()
     {
@@ -98,7 +106,7 @@ private slots:
         store()->insertGroup("G", {"/a", "/b", "/c"});
         store()->setSelected("G", {"/b", "/c"});
         QVERIFY(store()->removePath("G", "/b"));
-        QCOMPARE(store()->selectedOf("G"), QStringList{"/c"});
+        QCOMPARE(store()->selectedOf("G"), QStringList {"/c"});
         QVERIFY(!store()->removePath("G", "/c"));
         QVERIFY(!store()->groups().contains("G"));
         QVERIFY(!store()->selected().contains("G"));

@@ -13,11 +13,10 @@ class TestLinuxPlatform : public QObject
 private slots:
     void parseMountsDecodesEscapes()
     {
-        const auto mounts = LinuxPlatform::parseMounts(
-            "/dev/sda1 / ext4 rw,relatime 0 0\n"
-            "/dev/sdb1 /mnt/my\\040photos ext4 rw 0 0\n"
-            "tmpfs /run tmpfs rw 0 0\n"
-            "broken-line\n");
+        const auto mounts = LinuxPlatform::parseMounts("/dev/sda1 / ext4 rw,relatime 0 0\n"
+                                                       "/dev/sdb1 /mnt/my\\040photos ext4 rw 0 0\n"
+                                                       "tmpfs /run tmpfs rw 0 0\n"
+                                                       "broken-line\n");
         QCOMPARE(mounts.size(), size_t(3));
         QCOMPARE(QString::fromStdString(mounts[1].mountPoint), QStringLiteral("/mnt/my photos"));
         QCOMPARE(QString::fromStdString(mounts[2].fsType), QStringLiteral("tmpfs"));
@@ -26,7 +25,7 @@ private slots:
     void executableDirIsThisBinarysFolder()
     {
         QCOMPARE(QString::fromStdString(platform::current().executableDir()),
-                 QFileInfo(QCoreApplication::applicationFilePath()).absolutePath());
+            QFileInfo(QCoreApplication::applicationFilePath()).absolutePath());
     }
 
     void diskRootIsTheLongestMountPrefix()

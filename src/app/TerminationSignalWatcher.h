@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+class QSocketNotifier;
+
+// Turns SIGTERM, SIGINT and SIGHUP into an orderly quit of the event loop, so a
+// session logout or a kill from a terminal still closes the crash reporter and saves
+// the preferences. The handler only writes one byte to a socket; the rest happens on
+// the GUI thread.
+class TerminationSignalWatcher : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TerminationSignalWatcher(QObject *parent = nullptr);
+    ~TerminationSignalWatcher() override;
+
+signals:
+    void terminationRequested(int signalNumber);
+
+private:
+    void onReadable();
+
+    QSocketNotifier *m_notifier = nullptr;
+};
