@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QSettings;
+class DFGenernalPreferences;
+class DFIgnoreListPreferences;
+class DFSelectionPreferences;
+
+// The process-wide preferences store. It owns the three setting groups and persists
+// them by reflection into the INI file "preferences.cfg": every meta-object property of
+// a group is written under its own name, so a new property needs no extra code.
+// Values are read and written on the GUI thread; workers get JSON snapshots (toJson of
+// each group) when a job is set up.
+class DFPreferences : public QObject
+{
+    Q_OBJECT
+public:
+    // The single store, created (and loaded) on the first call and saved at exit.
+    static DFPreferences *instance();
+
+    // A store on an explicit settings file, loaded at once and saved on destruction.
+    // The application uses instance(); this serves tools and tests.
+    explicit DFPreferences(const QString &settingsPath, QObject *parent = nullptr);
+    ~DFPreferences() override;
+
+    DFGenernalPreferences *generalPreferences() const { return m_general; }
+    DFIgnoreListPreferences *ignoreListPreferences() const { return m_ignoreList; }
+    DFSelectionPreferences *selectionPreferences() const { return m_selection; }
+    QString settingsPath() const { return m_settingsPath; }
+
+    // Writes the three groups to the file ("Common", "Duplicate_files", "Similar_images").
+    void save();
+
+    // Reflective reader and writer of one group. "Duplicate_files" also reads and writes
+    // the top-level "map" section that holds the folder priorities inverted.
+    static void loadGroup(QSettings &settings, QObject *group, const QString &name);
+    static void saveGroup(QSettings &settings, QObject *group, const QString &name);
+
+    // "<generic config>/Veltrine/Veltrine Duplicate Finder/preferences.cfg", or, when
+    // that cannot be written, the same file name in a folder on another fixed disk.
+    static QString settingsFilePath();
+
+    // The first folder "<root>/Veltrine Duplicate Finder" that exists or can be created,
+    // over the fixed disk roots other than failingRoot; empty when there is none.
+    static QString fallbackSettingsFolder(
+        const QString &failingRoot, const QStringList &fixedRoots);
+
+private:
+    DFPreferences();
+    void load();
+
+    DFGenernalPreferences *m_general = nullptr;
+    DFIgnoreListPreferences *m_ignoreList = nullptr;
+    DFSelectionPreferences *m_selection = nullptr;
+    QString m_settingsPath;
+};

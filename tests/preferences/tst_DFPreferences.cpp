@@ -1,0 +1,390 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TestEnvironment.h"
+#include "app/AppIdentity.h"
+#include "preferences/DFGenernalPreferences.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFPreferences.h"
+#include "preferences/DFSelectionPreferences.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+static TestEnvironment s_environment;
+
+using PriorityMap = QMap<QString, qint32>;
+
+namespace {
+
+QByteArray readText(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return file.readAll();
+}
+
+void writeText(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(text);
+}
+
+QObject *groupOf(const DFPreferences &store, const QString &which)
+{
+    if (which == QLatin1String("common"))
+        return store.ignoreListPreferences();
+    if (which == QLatin1String("duplicate"))
+        return store.selectionPreferences();
+    return store.generalPreferences();
+}
+
+} // namespace
+
+class TestDFPreferences : public QObject
+{
+    Q_OBJECT
+private slots:
+    void freshSaveWritesExactText();
+    void priorityMapRoundTrip();
+    void loadKeepsDefaultsOrConverts_data();
+    void loadKeepsDefaultsOrConverts();
+    void similarityValueRoundTrip();
+    void snapshotKeys_data();
+    void snapshotKeys();
+    void copiesCarryUnpersistedFlags();
+    void fallbackFolderSkipsFailingAndUncreatableRoots();
+    void unwritableConfigFolderKeepsStoreWorking();
+    void instanceIsOneStoreInTheConfigFolder();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestDFPreferences::freshSaveWritesExactText()
+{
+    // QSettings writes the keys of a new section in sorted order; the inherited
+    // objectName is written (empty) in every section and no "map" section exists.
+    const QString path = m_dir.filePath("fresh.cfg");
+    DFPreferences(path).save();
+    const QByteArray threads = QByteArray::number(std::max(2, QThread::idealThreadCount()));
+    const QByteArray expected = "[Common]\n"
+                                "HideSystemFile=true\n"
+                                "IgnoreFileType=@Invalid()\n"
+                                "IgnorePathFile=@Invalid()\n"
+                                "MaxFileSize=100000\n"
+                                "MinFileSize=0\n"
+                                "OnlyFileType=@Invalid()\n"
+                                "OpenFolder=\n"
+                                "RemovealMethod=0\n"
+                                "SaveFolder=\n"
+                                "ScanFileType=0\n"
+                                "ThreadCount="
+        + threads
+        + "\n"
+          "TrashFolder=\n"
+          "deleteException=0\n"
+          "objectName=\n"
+          "\n"
+          "[Duplicate_files]\n"
+          "objectName=\n"
+          "scanDupDirectory=false\n"
+          "scanMethod=0\n"
+          "selectDuplicate=2\n"
+          "\n"
+          "[Similar_images]\n"
+          "FeaturesValue=50\n"
+          "SimilarityValue=55\n"
+          "algorithmHint=0\n"
+          "hasSimilar=true\n"
+          "imageMinSize=4\n"
+          "isAddFeatures=true\n"
+          "isImageSize=true\n"
+          "isImageType=true\n"
+          "objectName=\n"
+          "scanPriority=1\n"
+          "selectedSimilar=false\n"
+          "selectionHint=2\n";
+    QCOMPARE(QString::fromUtf8(readText(path)), QString::fromUtf8(expected));
+
+    // Loading that file and saving again changes nothing.
+    DFPreferences(path).save();
+    QCOMPARE(QString::fromUtf8(readText(path)), QString::fromUtf8(expected));
+}
+
+void TestDFPreferences::priorityMapRoundTrip()
+{
+    const QString path = m_dir.filePath("map.cfg");
+    {
+        DFPreferences store(path);
+        store.selectionPreferences()->setMapPriority(
+            {{QStringLiteral("D:/a"), 2}, {QStringLiteral("D:/b"), 1}});
+        store.save();
+    }
+    const QString text = QString::fromUtf8(readText(path));
+    QVERIFY2(text.contains(QStringLiteral("\n[map]\n1=D:/b\n2=D:/a\n")), qPrintable(text));
+    QVERIFY(!text.contains(QStringLiteral("mapPriority")));
+    {
+        DFPreferences store(path);
+        const PriorityMap expected {{QStringLiteral("D:/a"), 2}, {QStringLiteral("D:/b"), 1}};
+        QCOMPARE(store.selectionPreferences()->mapPriority(), expected);
+        store.selectionPreferences()->setMapPriority({});
+        store.save();
+    }
+    QVERIFY(!readText(path).contains("[map]"));
+    QVERIFY(DFPreferences(path).selectionPreferences()->mapPriority().isEmpty());
+}
+
+void TestDFPreferences::loadKeepsDefaultsOrConverts_data()
+{
+    QTest::addColumn<QByteArray>("ini");
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QVariant>("expected");
+
+    const QByteArray noCommon = "[Duplicate_files]\nscanMethod=1\n";
+    QTest::newRow("no Common: max size") << noCommon << "common"
+                                         << "MaxFileSize" << QVariant(100000);
+    QTest::newRow("no Common: min size") << noCommon << "common"
+                                         << "MinFileSize" << QVariant(0);
+    QTest::newRow("no Common: hide system") << noCommon << "common"
+                                            << "HideSystemFile" << QVariant(true);
+    QTest::newRow("no Common: removal") << noCommon << "common"
+                                        << "RemovealMethod" << QVariant(0);
+    QTest::newRow("empty file: similarity") << QByteArray() << "similar"
+                                            << "SimilarityValue" << QVariant(55);
+    QTest::newRow("empty file: scan priority") << QByteArray() << "similar"
+                                               << "scanPriority" << QVariant(1);
+    QTest::newRow("other group read") << noCommon << "duplicate"
+                                      << "scanMethod" << QVariant(1);
+    QTest::newRow("int not a number") << QByteArray("[Common]\nThreadCount=many\n") << "common"
+                                      << "ThreadCount" << QVariant(0);
+    QTest::newRow("enum not a number")
+        << QByteArray("[Duplicate_files]\nselectDuplicate=x\n") << "duplicate"
+        << "selectDuplicate" << QVariant(0);
+    QTest::newRow("enum value") << QByteArray("[Similar_images]\nalgorithmHint=2\n") << "similar"
+                                << "algorithmHint" << QVariant(2);
+    QTest::newRow("size not a number keeps default")
+        << QByteArray("[Common]\nMaxFileSize=big\n") << "common"
+        << "MaxFileSize" << QVariant(100000);
+    QTest::newRow("large size") << QByteArray("[Common]\nMaxFileSize=5000000000\n") << "common"
+                                << "MaxFileSize" << QVariant(Q_INT64_C(5000000000));
+    QTest::newRow("bool false") << QByteArray("[Common]\nHideSystemFile=false\n") << "common"
+                                << "HideSystemFile" << QVariant(false);
+    QTest::newRow("deletion marker") << QByteArray("[Common]\ndeleteException=1\n") << "common"
+                                     << "deleteException" << QVariant(1);
+    QTest::newRow("single list item") << QByteArray("[Common]\nIgnoreFileType=jpg\n") << "common"
+                                      << "IgnoreFileType" << QVariant(QStringList {"jpg"});
+    QTest::newRow("list with comma in item")
+        << QByteArray("[Common]\nIgnorePathFile=/a, \"/b,c\"\n") << "common"
+        << "IgnorePathFile" << QVariant(QStringList {"/a", "/b,c"});
+    QTest::newRow("absent list") << QByteArray("[Common]\nThreadCount=3\n") << "common"
+                                 << "OnlyFileType" << QVariant(QStringList());
+    QTest::newRow("priority key not a number")
+        << QByteArray("[map]\nfirst=D:/x\n3=D:/y\n") << "duplicate"
+        << "mapPriority" << QVariant::fromValue(PriorityMap {{"D:/x", 0}, {"D:/y", 3}});
+}
+
+void TestDFPreferences::loadKeepsDefaultsOrConverts()
+{
+    QFETCH(QByteArray, ini);
+    QFETCH(QString, group);
+    QFETCH(QString, property);
+    QFETCH(QVariant, expected);
+
+    const QString path = m_dir.filePath(QStringLiteral("load-%1.cfg").arg(QTest::currentDataTag()));
+    writeText(path, ini);
+    const DFPreferences store(path);
+    const QVariant actual = groupOf(store, group)->property(property.toLatin1());
+    QVERIFY(actual.isValid());
+    switch (expected.metaType().id()) {
+    case QMetaType::Bool:
+        QCOMPARE(actual.toBool(), expected.toBool());
+        break;
+    case QMetaType::QStringList:
+        QCOMPARE(actual.toStringList(), expected.toStringList());
+        break;
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        QCOMPARE(actual.toLongLong(), expected.toLongLong());
+        break;
+    default:
+        QCOMPARE(actual.value<PriorityMap>(), expected.value<PriorityMap>());
+    }
+}
+
+void TestDFPreferences::similarityValueRoundTrip()
+{
+    const QString path = m_dir.filePath("similarity.cfg");
+    {
+        DFPreferences store(path);
+        QCOMPARE(store.generalPreferences()->SimilarityValue(), 55);
+        QVERIFY(store.generalPreferences()->setProperty("SimilarityValue", 72));
+        store.save();
+    }
+    QVERIFY(readText(path).contains("\nSimilarityValue=72\n"));
+    QCOMPARE(DFPreferences(path).generalPreferences()->property("SimilarityValue").toInt(), 72);
+}
+
+void TestDFPreferences::snapshotKeys_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QStringList>("keys");
+
+    QTest::newRow("common") << "common"
+                            << QStringList {"MaxFileSize", "MinFileSize", "IgnoreSystemHidden",
+                                   "IgnoreBundle", "ScanFileType", "ThreadCount", "TrashFolder",
+                                   "OpenFolder", "SaveFolder", "IgnorePathFile", "IgnoreFileType",
+                                   "OnlyFileType"};
+    QTest::newRow("duplicate") << "duplicate"
+                               << QStringList {"scanMethod", "duplicateSelectHint",
+                                      "similarSelectHint", "scanDupDirectory", "mapPriority"};
+    QTest::newRow("similar") << "similar"
+                             << QStringList {"hasSimilar", "SimilarityValue", "FeaturesValue",
+                                    "selectedSimilar", "scanPriority", "selectionHint",
+                                    "algorithmHint", "isAddFeatures", "isImageType", "isImageSize",
+                                    "imageMinSize"};
+}
+
+void TestDFPreferences::snapshotKeys()
+{
+    QFETCH(QString, group);
+    QFETCH(QStringList, keys);
+
+    DFPreferences store(m_dir.filePath("json.cfg"));
+    store.ignoreListPreferences()->setHideSystemFile(false);
+    store.ignoreListPreferences()->setIgnoreBundle(true);
+    store.ignoreListPreferences()->setIgnoreFileType({"tmp", "bak"});
+    store.selectionPreferences()->setSelectDuplicate(DFSelectionPreferences::selectOldest);
+    store.selectionPreferences()->setSimilarSelectHint(DFSelectionPreferences::NoSelected);
+    store.selectionPreferences()->setMapPriority({{"/photos", 4}});
+    store.generalPreferences()->setFeaturesValue(61);
+
+    QJsonObject json;
+    if (group == QLatin1String("common"))
+        json = store.ignoreListPreferences()->toJson();
+    else if (group == QLatin1String("duplicate"))
+        json = store.selectionPreferences()->toJson();
+    else
+        json = store.generalPreferences()->toJson();
+
+    QStringList actualKeys = json.keys();
+    actualKeys.sort();
+    keys.sort();
+    QCOMPARE(actualKeys, keys);
+
+    if (group == QLatin1String("common")) {
+        QCOMPARE(json.value("IgnoreSystemHidden").toBool(true), false);
+        QCOMPARE(json.value("IgnoreBundle").toBool(), true);
+        QCOMPARE(json.value("MaxFileSize").toDouble(), 100000.0);
+        QCOMPARE(
+            json.value("IgnoreFileType").toVariant().toStringList(), QStringList({"tmp", "bak"}));
+    } else if (group == QLatin1String("duplicate")) {
+        QCOMPARE(
+            json.value("duplicateSelectHint").toInt(), int(DFSelectionPreferences::selectOldest));
+        QCOMPARE(json.value("similarSelectHint").toInt(), int(DFSelectionPreferences::NoSelected));
+        QCOMPARE(json.value("mapPriority").toObject().value("/photos").toInt(), 4);
+    } else {
+        QCOMPARE(json.value("FeaturesValue").toInt(), 61);
+        QCOMPARE(json.value("SimilarityValue").toInt(), 55);
+    }
+}
+
+void TestDFPreferences::copiesCarryUnpersistedFlags()
+{
+    // The preferences dialog edits copies and assigns them back; a value missed by the
+    // copy would be silently reset when the dialog is accepted.
+    DFIgnoreListPreferences common;
+    common.setIgnoreBundle(true);
+    common.setTrashFolder("/trash");
+    common.setIgnorePathFile({"/skip"});
+    DFIgnoreListPreferences commonCopy(common);
+    QCOMPARE(commonCopy.toJson(), common.toJson());
+    DFIgnoreListPreferences commonAssigned;
+    commonAssigned = common;
+    QCOMPARE(commonAssigned.toJson(), common.toJson());
+
+    DFSelectionPreferences selection;
+    selection.setSimilarSelectHint(DFSelectionPreferences::selectLowQuality);
+    selection.setMapPriority({{"/a", 9}});
+    selection.setScanDupDirectory(true);
+    DFSelectionPreferences selectionAssigned;
+    selectionAssigned = selection;
+    QCOMPARE(DFSelectionPreferences(selection).toJson(), selection.toJson());
+    QCOMPARE(selectionAssigned.toJson(), selection.toJson());
+
+    DFGenernalPreferences similar;
+    similar.setSimilarityValue(90);
+    similar.setAlgorithmHint(DFSelectionPreferences::rbPhash);
+    similar.setImageMinSize(7);
+    DFGenernalPreferences similarAssigned;
+    similarAssigned = similar;
+    QCOMPARE(DFGenernalPreferences(similar).toJson(), similar.toJson());
+    QCOMPARE(similarAssigned.toJson(), similar.toJson());
+}
+
+void TestDFPreferences::fallbackFolderSkipsFailingAndUncreatableRoots()
+{
+    QTemporaryDir disks;
+    QVERIFY(disks.isValid());
+    const QString blocker = disks.filePath("plainfile");
+    writeText(blocker, "not a folder");
+    const QString failing = disks.filePath("failing");
+    const QString good = disks.filePath("good");
+    QVERIFY(QDir().mkpath(failing));
+    QVERIFY(QDir().mkpath(good));
+
+    const QString chosen
+        = DFPreferences::fallbackSettingsFolder(failing, {failing, blocker + "/sub", good + "/"});
+    QCOMPARE(chosen, good + "/" + AppIdentity::applicationName);
+    QVERIFY(QFileInfo(chosen).isDir());
+    // A root without a trailing slash (a mount point) gets one inserted.
+    QCOMPARE(DFPreferences::fallbackSettingsFolder(QString(), {good}), chosen);
+    QVERIFY(DFPreferences::fallbackSettingsFolder(failing, {failing, blocker}).isEmpty());
+}
+
+void TestDFPreferences::unwritableConfigFolderKeepsStoreWorking()
+{
+    const QByteArray savedHome = qgetenv("XDG_CONFIG_HOME");
+    const QString blocker = m_dir.filePath("config-is-a-file");
+    writeText(blocker, "x");
+    qputenv("XDG_CONFIG_HOME", QString(blocker + "/config").toUtf8());
+
+    const QString path = DFPreferences::settingsFilePath();
+    qputenv("XDG_CONFIG_HOME", savedHome);
+
+    QVERIFY2(path.endsWith("/preferences.cfg"), qPrintable(path));
+    const QString firstChoice
+        = blocker + "/config/Veltrine/Veltrine Duplicate Finder/preferences.cfg";
+    if (path != firstChoice) {
+        // Another fixed disk took the file: it must really be writable there.
+        QFile probe(path);
+        QVERIFY(probe.open(QIODevice::WriteOnly | QIODevice::Append));
+    }
+    DFPreferences store(path);
+    store.generalPreferences()->setSimilarityValue(80);
+    store.save();
+    QCOMPARE(store.generalPreferences()->SimilarityValue(), 80);
+    QCOMPARE(store.ignoreListPreferences()->MaxFileSize(), quint64(100000));
+}
+
+void TestDFPreferences::instanceIsOneStoreInTheConfigFolder()
+{
+    DFPreferences *store = DFPreferences::instance();
+    QCOMPARE(DFPreferences::instance(), store);
+    QCOMPARE(store->settingsPath(),
+        s_environment.path() + "/config/Veltrine/Veltrine Duplicate Finder/preferences.cfg");
+    store->ignoreListPreferences()->setDeleteException(1);
+    store->save();
+    QVERIFY(readText(store->settingsPath()).contains("\ndeleteException=1\n"));
+}
+
+QTEST_GUILESS_MAIN(TestDFPreferences)
+#include "tst_DFPreferences.moc"
