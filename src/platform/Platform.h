@@ -24,6 +24,23 @@ public:
     // Root of the disk that holds path: its drive root on Windows, the mount point on
     // Linux. An empty string when it cannot be told.
     virtual std::string diskRootOf(const std::string &path) const = 0;
+
+    // Kinds of drive, as the scanner reports them: 0 internal solid-state, 1 internal
+    // spinning disk, 2 removable or on an external bus (never memory-mapped), 3 unknown.
+    enum DriveKind { DriveSsd = 0, DriveHdd = 1, DriveExternal = 2, DriveUnknown = 3 };
+
+    // Identity of the drive that holds path, used as the key of the drive-type cache:
+    // the upper-cased drive prefix ("C:") on Windows, the device number on Linux. Empty
+    // when the path cannot be examined.
+    virtual std::string driveCacheKey(const std::string &path) const = 0;
+
+    // Kind of the drive that holds path (a DriveKind value); DriveUnknown when the
+    // drive cannot be queried.
+    virtual int driveTypeOf(const std::string &path) const = 0;
+
+    // True when the entry at path is hidden or a system file: the hidden or system
+    // attribute on Windows, a name beginning with "." on Linux.
+    virtual bool isHiddenOrSystem(const std::string &path) const = 0;
 };
 
 // The implementation for the platform this program was built for.

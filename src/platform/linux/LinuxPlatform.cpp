@@ -130,6 +130,60 @@ std::string LinuxPlatform::diskRootOf(const std::string &path) const
     return best;
 }
 
+std::string LinuxPlatform::driveCacheKey(const std::string &path) const
+{
+    struct stat info {};
+    if (::stat(path.c_str(), &info) != 0)
+        return {};
+    return std::to_string(major(info.st_dev)) + ":" + std::to_string(minor(info.st_dev));
+}
+
+int LinuxPlatform::driveTypeOfSysfsDevice(const std::string &sysDevicePath)
+{
+    char resolved[PATH_MAX];
+    if (!::realpath(sysDevicePath.c_str(), resolved))
+        return DriveUnknown;
+    std::string disk = resolved;
+    // A partition carries neither "removable" nor "queue/rotational"; its disk is the
+    // parent folder.
+    if (::access((disk + "/partition").c_str(), F_OK) == 0)
+        disk = disk.substr(0, disk.rfind('/'));
+    for (const char *bus : {"/usb", "/mmc", "/memstick"}) {
+        if (disk.find(bus) != std::string::npos)
+            return DriveExternal;
+    }
+    const std::string removable = readSmallFile(disk + "/removable");
+    if (!removable.empty() && removable[0] == '1')
+        return DriveExternal;
+    const std::string rotational = readSmallFile(disk + "/queue/rotational");
+    if (rotational.empty())
+        return DriveUnknown;
+    return rotational[0] == '1' ? DriveHdd : DriveSsd;
+}
+
+int LinuxPlatform::driveTypeOf(const std::string &path) const
+{
+    struct stat info {};
+    if (::stat(path.c_str(), &info) != 0)
+        return DriveUnknown;
+    // File systems without a block device (tmpfs, overlay, network) have no sysfs entry
+    // and stay unknown.
+    return driveTypeOfSysfsDevice("/sys/dev/block/" + std::to_string(major(info.st_dev)) + ":"
+                                  + std::to_string(minor(info.st_dev)));
+}
+
+bool LinuxPlatform::isHiddenOrSystem(const std::string &path) const
+{
+    size_t end = path.size();
+    while (end > 1 && path[end - 1] == '/')
+        --end;
+    if (end == 0)
+        return false;
+    const size_t slash = path.rfind('/', end - 1);
+    const size_t start = slash == std::string::npos ? 0 : slash + 1;
+    return start < end && path[start] == '.';
+}
+
 const Platform &current()
 {
     static const LinuxPlatform instance;

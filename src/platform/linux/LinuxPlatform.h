@@ -19,6 +19,15 @@ public:
     std::string executableDir() const override;
     std::vector<std::string> fixedDiskRoots() const override;
     std::string diskRootOf(const std::string &path) const override;
+    std::string driveCacheKey(const std::string &path) const override;
+    int driveTypeOf(const std::string &path) const override;
+    bool isHiddenOrSystem(const std::string &path) const override;
+
+    // Drive kind of a block device given by its sysfs folder (/sys/dev/block/M:N after
+    // resolving links): removable or on a USB/MMC/memory-stick bus gives DriveExternal,
+    // then the queue's rotational flag gives DriveHdd or DriveSsd; DriveUnknown when the
+    // flags cannot be read.
+    static int driveTypeOfSysfsDevice(const std::string &sysDevicePath);
 
     // Parses the text of a mounts table (the /proc/self/mounts format, octal escapes
     // such as "\040" decoded).

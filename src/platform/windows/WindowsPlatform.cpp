@@ -7,6 +7,9 @@
 #define UNICODE
 #endif
 #include <windows.h>
+#include <winioctl.h>
+
+#include <cwctype>
 
 #include "platform/Platform.h"
 
@@ -90,6 +93,90 @@ public:
             return {};
         volume.resize(wcslen(volume.c_str()));
         return withForwardSlashes(toUtf8(volume));
+    }
+
+    std::string driveCacheKey(const std::string &path) const override
+    {
+        return drivePrefix(path);
+    }
+
+    int driveTypeOf(const std::string &path) const override
+    {
+        const std::string prefix = drivePrefix(path);
+        if (prefix.size() != 2 || prefix[1] != ':')
+            return DriveUnknown;
+        const std::wstring device = L"\\\\.\\" + toWide(prefix);
+        HANDLE volume = CreateFileW(device.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+        if (volume == INVALID_HANDLE_VALUE)
+            return DriveUnknown;
+
+        STORAGE_PROPERTY_QUERY query {};
+        query.PropertyId = StorageDeviceProperty;
+        query.QueryType = PropertyStandardQuery;
+        BYTE buffer[1024] = {};
+        DWORD returned = 0;
+        if (!DeviceIoControl(volume, IOCTL_STORAGE_QUERY_PROPERTY, &query, sizeof(query), buffer,
+                             sizeof(buffer), &returned, nullptr)) {
+            CloseHandle(volume);
+            return DriveUnknown;
+        }
+        const auto *descriptor = reinterpret_cast<const STORAGE_DEVICE_DESCRIPTOR *>(buffer);
+        switch (descriptor->BusType) {
+        case BusTypeScsi:
+        case BusTypeAta:
+        case BusTypeSata:
+        case BusTypeNvme:
+            break;
+        default:
+            // 1394, USB, SD, MMC and every bus not known to be internal.
+            CloseHandle(volume);
+            return DriveExternal;
+        }
+
+        STORAGE_PROPERTY_QUERY seekQuery {};
+        seekQuery.PropertyId = StorageDeviceSeekPenaltyProperty;
+        seekQuery.QueryType = PropertyStandardQuery;
+        BYTE seekBuffer[128] = {};
+        const BOOL ok = DeviceIoControl(volume, IOCTL_STORAGE_QUERY_PROPERTY, &seekQuery,
+                                        sizeof(seekQuery), seekBuffer, sizeof(seekBuffer),
+                                        &returned, nullptr);
+        CloseHandle(volume);
+        if (!ok)
+            return DriveUnknown;
+        const auto *penalty = reinterpret_cast<const DEVICE_SEEK_PENALTY_DESCRIPTOR *>(seekBuffer);
+        return penalty->IncursSeekPenalty ? DriveHdd : DriveSsd;
+    }
+
+    bool isHiddenOrSystem(const std::string &path) const override
+    {
+        const DWORD attributes = GetFileAttributesW(toWide(path).c_str());
+        // A failed attribute read does not hide the entry.
+        if (attributes == INVALID_FILE_ATTRIBUTES)
+            return false;
+        return (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+    }
+
+private:
+    // The first two characters of the absolute path, upper-cased: the drive letter and
+    // its colon.
+    static std::string drivePrefix(const std::string &path)
+    {
+        std::wstring absolute(MAX_PATH, L'\0');
+        const std::wstring wide = toWide(path);
+        DWORD length = GetFullPathNameW(wide.c_str(), static_cast<DWORD>(absolute.size()),
+                                        absolute.data(), nullptr);
+        if (length >= absolute.size()) {
+            absolute.resize(length + 1);
+            length = GetFullPathNameW(wide.c_str(), static_cast<DWORD>(absolute.size()),
+                                      absolute.data(), nullptr);
+        }
+        if (length < 2)
+            return {};
+        std::wstring prefix = absolute.substr(0, 2);
+        for (wchar_t &c : prefix)
+            c = static_cast<wchar_t>(std::towupper(c));
+        return toUtf8(prefix);
     }
 };
 

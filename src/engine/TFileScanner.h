@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/FileMeta.h"
+
+#include <atomic>
+
+#include <QFutureInterface>
+#include <QJsonObject>
+#include <QList>
+#include <QMutex>
+#include <QStringList>
+#include <QThread>
+
+class QWaitCondition;
+
+// First stage of a local scan: walks the root folders, applies the scan filters and
+// reports every accepted file. Runs on its own thread; the default walk fans out over a
+// private pool of idealThreadCount() workers.
+//
+// Links are followed, but each folder (device and inode) is walked at most once per
+// scan, so link loops end, and each file (device and inode) is reported at most once, so
+// a hard link or a link to a file never turns up as a copy of itself. Links are resolved
+// after the ordinary entries of a walk, so a file reachable both directly and through a
+// link is reported under its own path.
+class TFileScanner : public QThread
+{
+    Q_OBJECT
+public:
+    enum DriveType : int { DriveSsd = 0, DriveHdd = 1, DriveExternal = 2, DriveUnknown = 3 };
+
+    explicit TFileScanner(QObject *parent = nullptr);
+    ~TFileScanner() override;
+
+    // Copies the common configuration (the ignore-list preferences snapshot).
+    void applyConfig(const QJsonObject &common);
+
+    void setRoots(const QStringList &newRoots) { roots = newRoots; }
+    void setScanMode(qint64 mode) { scanMode = mode; }
+    void requestStop() { stopRequested.store(1); }
+    bool isStopRequested() const { return stopRequested.load() != 0; }
+
+    qint64 minimumSize() const { return minSize; }
+    qint64 maximumSize() const { return maxSize; }
+    QStringList onlyFileTypes() const { return onlyTypes; }
+    QStringList ignoredFileTypes() const { return ignoreTypes; }
+    bool skipsHiddenAndSystem() const { return skipHiddenSystem; }
+    QJsonObject configuration() const { return config; }
+
+    // Drive type of the drive holding path, cached per drive for the process (failed
+    // queries are not cached, so they are tried again on the next scan).
+    static int queryDriveType(const QString &path);
+
+signals:
+    void fileFound(qint64 key, const QString &filePath, int driveType);
+    // The files of one folder at once: the same reports as fileFound, bundled so that
+    // a receiver on another thread takes one queued call per folder instead of one per
+    // file.
+    void filesFound(const QList<FileMeta> &files);
+    void pathFound(const QString &path);
+    void progressUpdated(int scannedCount);
+    void scanFinished();
+
+protected:
+    void run() override;
+
+private:
+    struct WalkState;
+    struct Folder;
+
+    void scanWithQtRecursive(const QString &root);
+    void scanIncrementalParallel(const QString &root);
+    void processDir(WalkState &state, const Folder &folder, bool filtered);
+    void drainWithPool(WalkState &state);
+    bool resolveLinks(WalkState &state, bool filtered);
+    bool isIgnoredPath(const QString &path) const;
+    bool passesFileFilters(const QString &fileName, qint64 size) const;
+    void reportFile(
+        WalkState &state, QList<FileMeta> &batch, qint64 size, const QString &path, bool filtered);
+
+    QStringList roots;
+    qint64 scanMode = 1;
+    qint64 minSize = 0;
+    qint64 maxSize = 9223372036854775807LL;
+    QStringList ignorePaths;
+    QStringList onlyTypes;
+    QStringList ignoreTypes;
+    bool skipHiddenSystem = true;
+    int scanFileType = 0;
+    std::atomic<int> stopRequested {0};
+    std::atomic<int> scannedCount {0};
+    QFutureInterface<void> m_future;
+    QJsonObject config;
+
+    // Lower-cased ignorePaths, for the case-insensitive test on every entry.
+    QStringList m_ignoredLower;
+    // Identities (device, inode) of the folders walked and of the files with several
+    // names reported during the current run; they persist across the roots of one scan.
+    struct Seen;
+    Seen *m_seen = nullptr;
+};

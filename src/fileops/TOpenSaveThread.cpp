@@ -1,0 +1,586 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fileops/TOpenSaveThread.h"
+
+#include "app/AppIdentity.h"
+#include "app/FileTypeCatalogue.h"
+#include "app/TLogger.h"
+#include "engine/TFileData.h"
+
+#include <algorithm>
+#include <limits>
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSet>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+namespace {
+
+const QString kGroupsElement = QStringLiteral("groups");
+const QString kGroupElement = QStringLiteral("GroupItem");
+const QString kItemElement = QStringLiteral("Item");
+const QString kDefaultScanTime = QStringLiteral("00:00:00");
+// Longest path Windows accepts; anything longer cannot name a file.
+constexpr int kMaxPathLength = 32767;
+constexpr int kMaxKeyLength = 256;
+
+// One group as read from the file, before the disk is consulted.
+struct ReadGroup
+{
+    QString key;
+    QStringList entries;
+    QSet<QString> selected;
+};
+
+// A failure while reading: the flag and a reason that names the place in the file.
+struct ReadFailure
+{
+    int flag = TOpenSaveThread::ProjectSucceeded;
+    QString reason;
+};
+
+bool readInteger(const QXmlStreamAttributes &attributes, const QString &name, qint64 &value)
+{
+    if (!attributes.hasAttribute(name))
+        return false;
+    bool ok = false;
+    value = attributes.value(name).toLongLong(&ok);
+    return ok;
+}
+
+QString at(const QXmlStreamReader &xml, const QString &what)
+{
+    return QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(what);
+}
+
+} // namespace
+
+TOpenSaveThread::TOpenSaveThread(QObject *parent) : QThread(parent) { }
+
+TOpenSaveThread::~TOpenSaveThread()
+{
+    // A half-read project is simply dropped; a save in progress ends without committing,
+    // so the previous file on disk stays intact.
+    requestInterruption();
+    wait();
+}
+
+bool TOpenSaveThread::openProject(const QString &filepath)
+{
+    QMutexLocker locker(&m_mutex);
+    if (isRunning()) {
+        splog_d(QStringLiteral("[TOpenSaveThread]: busy, open refused. file=%1").arg(filepath));
+        return false;
+    }
+    m_request = Request::Open;
+    m_filepath = filepath;
+    start(QThread::InheritPriority);
+    return true;
+}
+
+bool TOpenSaveThread::saveProject(const QString &filepath, qint64 count, const QString &time)
+{
+    QMutexLocker locker(&m_mutex);
+    if (isRunning()) {
+        splog_d(QStringLiteral("[TOpenSaveThread]: busy, save refused. file=%1").arg(filepath));
+        return false;
+    }
+    m_request = Request::Save;
+    m_filepath = filepath;
+    m_count = count;
+    m_time = time;
+    start(QThread::InheritPriority);
+    return true;
+}
+
+void TOpenSaveThread::setGroupOrder(const QStringList &keys)
+{
+    QMutexLocker locker(&m_mutex);
+    m_groupOrder = keys;
+}
+
+void TOpenSaveThread::setMaxEntries(qint64 maxEntries)
+{
+    QMutexLocker locker(&m_mutex);
+    m_maxEntries = maxEntries;
+}
+
+qint64 TOpenSaveThread::scanFileCount() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_openedFileCount;
+}
+
+QString TOpenSaveThread::scanTime() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_openedScanTime;
+}
+
+QString TOpenSaveThread::lastError() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_lastError;
+}
+
+void TOpenSaveThread::setOutcome(const QString &error, qint64 fileCount, const QString &time)
+{
+    QMutexLocker locker(&m_mutex);
+    m_lastError = error;
+    m_openedFileCount = fileCount;
+    m_openedScanTime = time;
+}
+
+QString TOpenSaveThread::resultText(int flag)
+{
+    switch (flag) {
+    case ProjectSucceeded:
+        return {};
+    case ProjectFileNotOpened:
+        return tr("The project file could not be opened.");
+    case ProjectNotXml:
+        return tr("The project file is damaged or incomplete.");
+    case ProjectNotAProject:
+        return tr("This file is not a project file of this program.");
+    case ProjectInvalidContent:
+        return tr("The project file contains invalid data and was not opened.");
+    case ProjectNothingLeft:
+        return tr("None of the duplicate groups in this project exist any more.");
+    case ProjectWriteFailed:
+        return tr("The project file could not be saved.");
+    case ProjectCancelled:
+        return tr("The operation was cancelled.");
+    default:
+        return tr("Unknown error.");
+    }
+}
+
+void TOpenSaveThread::run()
+{
+    Request request;
+    QString filepath;
+    qint64 count = 0;
+    QString time;
+    QStringList order;
+    {
+        QMutexLocker locker(&m_mutex);
+        request = m_request;
+        filepath = m_filepath;
+        count = m_count;
+        time = m_time;
+        order = m_groupOrder;
+        m_request = Request::None;
+    }
+    // Failures never leave the thread as exceptions: they become the completion flag.
+    if (request == Request::Save) {
+        int flag = ProjectWriteFailed;
+        try {
+            flag = saveDocument(filepath, count, time, order);
+        } catch (const std::exception &error) {
+            setOutcome(QString::fromLocal8Bit(error.what()));
+            splog_d(QStringLiteral("[TOpenSaveThread]: save failed: %1. file=%2")
+                        .arg(QString::fromLocal8Bit(error.what()), filepath));
+        }
+        emit saveComplated(flag);
+    } else if (request == Request::Open) {
+        int flag = ProjectInvalidContent;
+        int files = 0;
+        qint64 size = 0;
+        try {
+            flag = openDocument(filepath, files, size);
+        } catch (const std::exception &error) {
+            // std::bad_alloc from a hostile file lands here; the store is untouched.
+            setOutcome(QString::fromLocal8Bit(error.what()));
+            splog_d(QStringLiteral("[TOpenSaveThread]: open failed: %1. file=%2")
+                        .arg(QString::fromLocal8Bit(error.what()), filepath));
+        }
+        if (flag != ProjectSucceeded) {
+            qDebug() << "Failed to open Project.";
+            splog_d(QStringLiteral("Failed to open Project! file=%1").arg(filepath));
+            files = 0;
+            size = 0;
+        } else {
+            emit openProjectInfo(scanFileCount(), scanTime());
+        }
+        emit openProjectComplated(flag, files, size);
+    }
+}
+
+int TOpenSaveThread::saveDocument(
+    const QString &filepath, qint64 count, const QString &time, const QStringList &order)
+{
+    const TFileData *store = TFileData::instance();
+    const TFileData::Groups groups = store->groups();
+    const TFileData::DirGroups dirGroups = store->dirGroups();
+    const TFileData::Groups selected = store->selected();
+
+    // Groups in the page's order first, then the rest by their first path so that the
+    // file does not depend on hash order.
+    QStringList keys;
+    QSet<QString> placed;
+    for (const QString &key : order) {
+        if ((groups.contains(key) || dirGroups.contains(key)) && !placed.contains(key)) {
+            keys.append(key);
+            placed.insert(key);
+        }
+    }
+    QStringList rest = groups.keys();
+    const auto byFirstFile = [&groups](const QString &a, const QString &b) {
+        return groups.value(a).value(0) < groups.value(b).value(0);
+    };
+    std::sort(rest.begin(), rest.end(), byFirstFile);
+    QStringList restDirs = dirGroups.keys();
+    const auto byFirstFolder = [&dirGroups](const QString &a, const QString &b) {
+        return dirGroups.value(a).value(0).folderPath < dirGroups.value(b).value(0).folderPath;
+    };
+    std::sort(restDirs.begin(), restDirs.end(), byFirstFolder);
+    for (const QString &key : std::as_const(rest) + std::as_const(restDirs)) {
+        if (!placed.contains(key))
+            keys.append(key);
+    }
+
+    // QSaveFile writes beside the target and renames at the end: a failed or cancelled
+    // save leaves an earlier project file as it was.
+    QSaveFile file(filepath);
+    if (!file.open(QIODevice::WriteOnly)) {
+        qDebug() << "Failed to WriteOnly.";
+        splog_d(QStringLiteral("Failed to WriteOnly! file=%1").arg(filepath));
+        setOutcome(file.errorString());
+        return ProjectWriteFailed;
+    }
+
+    QXmlStreamWriter xml(&file);
+    xml.setAutoFormatting(true);
+    xml.writeStartDocument();
+    xml.writeStartElement(AppIdentity::documentIdentifier);
+    xml.writeAttribute(QStringLiteral("fileCount"), QString::number(count));
+    xml.writeAttribute(QStringLiteral("scanTime"), time.isEmpty() ? kDefaultScanTime : time);
+    xml.writeAttribute(QStringLiteral("version"), AppIdentity::version);
+    xml.writeStartElement(kGroupsElement);
+    const double total = keys.size();
+    double done = 0;
+    for (const QString &key : std::as_const(keys)) {
+        if (isInterruptionRequested()) {
+            file.cancelWriting();
+            setOutcome(QStringLiteral("cancelled"));
+            return ProjectCancelled;
+        }
+        QStringList members = groups.value(key);
+        if (!groups.contains(key)) {
+            for (const DirGroupEntry &entry : dirGroups.value(key))
+                members.append(entry.folderPath);
+        }
+        const QStringList chosen = selected.value(key);
+        xml.writeStartElement(kGroupElement);
+        // A reserved pair kept in the format: always 0 when written, ignored when read.
+        xml.writeAttribute(QStringLiteral("GroupType"), QStringLiteral("0"));
+        xml.writeAttribute(QStringLiteral("GroupFlag"), QStringLiteral("0"));
+        xml.writeAttribute(QStringLiteral("key"), key);
+        for (const QString &path : std::as_const(members)) {
+            xml.writeStartElement(kItemElement);
+            xml.writeAttribute(QStringLiteral("selected"),
+                chosen.contains(path) ? QStringLiteral("1") : QStringLiteral("0"));
+            xml.writeCharacters(path);
+            xml.writeEndElement();
+        }
+        xml.writeEndElement();
+        emit saveProjectProcess(++done, total);
+    }
+    xml.writeEndElement();
+    xml.writeEndElement();
+    xml.writeEndDocument();
+    if (xml.hasError() || !file.commit()) {
+        qDebug() << "Failed to WriteOnly.";
+        splog_d(QStringLiteral("[TOpenSaveThread]: writing the project failed: %1. file=%2")
+                    .arg(file.errorString(), filepath));
+        setOutcome(file.errorString());
+        return ProjectWriteFailed;
+    }
+    splog_d(QStringLiteral("[TOpenSaveThread]: project saved, %1 groups. file=%2")
+                .arg(keys.size())
+                .arg(filepath));
+    setOutcome(QString());
+    return ProjectSucceeded;
+}
+
+int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &size)
+{
+    qint64 maxEntries;
+    {
+        QMutexLocker locker(&m_mutex);
+        maxEntries = m_maxEntries;
+    }
+    splog_d(QStringLiteral("Begin open project"));
+    const auto fail = [&](int flag, const QString &reason) {
+        splog_d(QStringLiteral("[TOpenSaveThread]: %1. file=%2").arg(reason, filepath));
+        setOutcome(reason);
+        return flag;
+    };
+
+    QFile file(filepath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qDebug() << "Failed to open XML file.";
+        splog_d(QStringLiteral("Failed to open project file! file=%1").arg(filepath));
+        splog_d(QStringLiteral("Failed to openProject! file=%1").arg(filepath));
+        setOutcome(file.errorString());
+        return ProjectFileNotOpened;
+    }
+    splog_d(QStringLiteral("file.open success."));
+
+    const double fileSize = double(std::max<qint64>(file.size(), 1));
+    QXmlStreamReader xml(&file);
+
+    ReadFailure failure;
+    const auto refuse = [&failure](int flag, const QString &reason) {
+        if (failure.flag == ProjectSucceeded)
+            failure = {flag, reason};
+    };
+
+    qint64 fileCount = 0;
+    QString scanTime = kDefaultScanTime;
+    QList<ReadGroup> readGroups;
+    QSet<QString> keys;
+    qint64 entryCount = 0;
+    bool sawRoot = false;
+    bool sawGroups = false;
+    double lastReported = -1;
+
+    while (failure.flag == ProjectSucceeded && !xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        // Entity declarations are the classic way to make a small file expand without
+        // bound; project files never carry a document type, so any is refused.
+        if (token == QXmlStreamReader::DTD) {
+            refuse(ProjectNotAProject,
+                at(xml, QStringLiteral("document type declarations are not allowed")));
+            break;
+        }
+        if (token != QXmlStreamReader::StartElement)
+            continue;
+        if (isInterruptionRequested()) {
+            refuse(ProjectCancelled, QStringLiteral("cancelled"));
+            break;
+        }
+        const QStringView name = xml.name();
+        if (!sawRoot) {
+            sawRoot = true;
+            qDebug() << "Root element name:" << name;
+            if (name != AppIdentity::documentIdentifier) {
+                refuse(ProjectNotAProject,
+                    at(xml, QStringLiteral("root element is \"%1\"").arg(name)));
+                break;
+            }
+            const QXmlStreamAttributes attributes = xml.attributes();
+            if (!readInteger(attributes, QStringLiteral("fileCount"), fileCount) || fileCount < 0) {
+                refuse(ProjectInvalidContent,
+                    at(xml, QStringLiteral("the root has no valid \"fileCount\"")));
+                break;
+            }
+            if (attributes.hasAttribute(QStringLiteral("scanTime")))
+                scanTime = attributes.value(QStringLiteral("scanTime")).toString().left(64);
+            if (attributes.value(QStringLiteral("version")).isEmpty()) {
+                refuse(
+                    ProjectInvalidContent, at(xml, QStringLiteral("the root has no \"version\"")));
+                break;
+            }
+            continue;
+        }
+        if (name == kGroupsElement) {
+            sawGroups = true;
+            continue;
+        }
+        if (name != kGroupElement) {
+            // Elements of later versions are skipped, not trusted.
+            xml.skipCurrentElement();
+            continue;
+        }
+        if (!sawGroups) {
+            refuse(ProjectInvalidContent, at(xml, QStringLiteral("GroupItem outside \"groups\"")));
+            break;
+        }
+        const QXmlStreamAttributes attributes = xml.attributes();
+        ReadGroup group;
+        group.key = attributes.value(QStringLiteral("key")).toString();
+        qint64 reserved = 0;
+        if (group.key.isEmpty() || group.key.size() > kMaxKeyLength) {
+            refuse(ProjectInvalidContent, at(xml, QStringLiteral("a group has no valid \"key\"")));
+            break;
+        }
+        if (!readInteger(attributes, QStringLiteral("GroupType"), reserved)
+            || !readInteger(attributes, QStringLiteral("GroupFlag"), reserved)) {
+            refuse(ProjectInvalidContent,
+                at(xml,
+                    QStringLiteral("group %1 lacks \"GroupType\" or \"GroupFlag\"")
+                        .arg(group.key)));
+            break;
+        }
+        if (keys.contains(group.key)) {
+            refuse(ProjectInvalidContent,
+                at(xml, QStringLiteral("group %1 is listed twice").arg(group.key)));
+            break;
+        }
+        keys.insert(group.key);
+        QSet<QString> seen;
+        while (failure.flag == ProjectSucceeded && xml.readNextStartElement()) {
+            if (xml.name() != kItemElement) {
+                xml.skipCurrentElement();
+                continue;
+            }
+            const QStringView flag = xml.attributes().value(QStringLiteral("selected"));
+            if (flag != QLatin1String("0") && flag != QLatin1String("1")) {
+                refuse(ProjectInvalidContent,
+                    at(xml,
+                        QStringLiteral("an item of group %1 has no valid \"selected\"")
+                            .arg(group.key)));
+                break;
+            }
+            const bool isSelected = flag == QLatin1String("1");
+            const QString entry = xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
+            if (xml.hasError())
+                break;
+            if (++entryCount > maxEntries) {
+                refuse(ProjectInvalidContent,
+                    at(xml, QStringLiteral("more than %1 entries").arg(maxEntries)));
+                break;
+            }
+            const QString path = stripSimilarTag(entry);
+            if (path.isEmpty() || entry.size() > kMaxPathLength || !QDir::isAbsolutePath(path)) {
+                refuse(ProjectInvalidContent,
+                    at(xml, QStringLiteral("group %1 holds an invalid path").arg(group.key)));
+                break;
+            }
+            // The same file twice in one group would let the removal take every copy.
+            if (seen.contains(path)) {
+                refuse(ProjectInvalidContent,
+                    at(xml, QStringLiteral("group %1 lists %2 twice").arg(group.key, path)));
+                break;
+            }
+            seen.insert(path);
+            group.entries.append(entry);
+            if (isSelected)
+                group.selected.insert(entry);
+        }
+        if (failure.flag != ProjectSucceeded || xml.hasError())
+            break;
+        if (group.entries.size() < 2) {
+            refuse(ProjectInvalidContent,
+                at(xml, QStringLiteral("group %1 has fewer than two entries").arg(group.key)));
+            break;
+        }
+        readGroups.append(std::move(group));
+        const double position = double(file.pos());
+        if (position - lastReported >= fileSize / 100) {
+            lastReported = position;
+            emit openProjectProcess(position, fileSize);
+        }
+    }
+
+    if (failure.flag == ProjectSucceeded && xml.hasError()) {
+        qDebug() << "Failed to parse XML content.";
+        splog_d(QStringLiteral("Failed to parse XML content! file=%1").arg(filepath));
+        return fail(ProjectNotXml,
+            QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(xml.errorString()));
+    }
+    if (failure.flag == ProjectSucceeded && !sawRoot) {
+        qDebug() << "Failed to parse XML content.";
+        splog_d(QStringLiteral("Failed to parse XML content! file=%1").arg(filepath));
+        return fail(ProjectNotXml, QStringLiteral("the file holds no XML element"));
+    }
+    if (failure.flag == ProjectSucceeded && !sawGroups)
+        refuse(ProjectInvalidContent, QStringLiteral("the project has no \"groups\" element"));
+    if (failure.flag != ProjectSucceeded)
+        return fail(failure.flag, failure.reason);
+    splog_d(QStringLiteral("doc.setContent success."));
+
+    // The file is sound; now compare it with the disk. Files deleted or moved since the
+    // save are left out rather than shown as if they were still there.
+    TFileData::Groups groups;
+    TFileData::DirGroups dirGroups;
+    TFileData::Groups selected;
+    qint64 memberCount = 0;
+    qint64 totalSize = 0;
+    int missing = 0;
+    for (const ReadGroup &group : std::as_const(readGroups)) {
+        if (isInterruptionRequested())
+            return fail(ProjectCancelled, QStringLiteral("cancelled"));
+        QStringList present;
+        QList<QFileInfo> infos;
+        int folders = 0;
+        for (const QString &entry : group.entries) {
+            const QFileInfo info(stripSimilarTag(entry));
+            if (!info.exists()) {
+                ++missing;
+                splog_d(
+                    QStringLiteral("[TOpenSaveThread]: %1 no longer exists, left out of group %2.")
+                        .arg(info.filePath(), group.key));
+                continue;
+            }
+            if (info.isDir()) {
+                if (isSimilarEntry(entry))
+                    return fail(ProjectInvalidContent,
+                        QStringLiteral("group %1 tags a folder as a similar picture")
+                            .arg(group.key));
+                ++folders;
+            }
+            present.append(entry);
+            infos.append(info);
+        }
+        if (folders > 0 && folders != present.size())
+            return fail(ProjectInvalidContent,
+                QStringLiteral("group %1 mixes files and folders").arg(group.key));
+        if (present.size() < 2) {
+            splog_d(QStringLiteral(
+                "[TOpenSaveThread]: group %1 keeps fewer than two members and is left out.")
+                        .arg(group.key));
+            continue;
+        }
+        QStringList chosen;
+        for (const QString &entry : std::as_const(present)) {
+            if (group.selected.contains(entry))
+                chosen.append(entry);
+        }
+        if (!chosen.isEmpty())
+            selected.insert(group.key, chosen);
+        if (folders > 0) {
+            QList<DirGroupEntry> entries;
+            for (const QFileInfo &info : std::as_const(infos)) {
+                DirGroupEntry entry;
+                entry.folderPath = info.filePath();
+                // The same count the finder uses: plain files directly in the folder.
+                const QFileInfoList content = QDir(entry.folderPath).entryInfoList(QDir::Files);
+                entry.fileCount = int(content.size());
+                for (const QFileInfo &fileInfo : content)
+                    entry.totalSize += fileInfo.size();
+                memberCount += entry.fileCount;
+                totalSize += entry.totalSize;
+                entries.append(entry);
+            }
+            dirGroups.insert(group.key, entries);
+        } else {
+            for (const QFileInfo &info : std::as_const(infos))
+                totalSize += info.size();
+            memberCount += present.size();
+            groups.insert(group.key, present);
+        }
+    }
+    if (!readGroups.isEmpty() && groups.isEmpty() && dirGroups.isEmpty())
+        return fail(ProjectNothingLeft,
+            QStringLiteral("none of the %1 groups has two members left on disk")
+                .arg(readGroups.size()));
+
+    TFileData::instance()->replaceAll(groups, dirGroups, selected);
+    emit openProjectProcess(fileSize, fileSize);
+    files = int(std::min<qint64>(memberCount, std::numeric_limits<int>::max()));
+    size = totalSize;
+    splog_d(QStringLiteral("[TOpenSaveThread]: project opened: %1 groups, %2 folder groups, %3 "
+                           "members no longer on disk. file=%4")
+                .arg(groups.size())
+                .arg(dirGroups.size())
+                .arg(missing)
+                .arg(filepath));
+    setOutcome(QString(), fileCount, scanTime);
+    return ProjectSucceeded;
+}

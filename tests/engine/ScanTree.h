@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QString>
+
+// Writes real files into a test's temporary folder.
+namespace ScanTree {
+
+inline QByteArray pattern(qint64 size, char seed)
+{
+    QByteArray data(size, Qt::Uninitialized);
+    quint32 state = 2166136261u ^ static_cast<unsigned char>(seed);
+    for (qint64 i = 0; i < size; ++i) {
+        state = state * 1664525u + 1013904223u;
+        data[i] = static_cast<char>(state >> 24);
+    }
+    return data;
+}
+
+inline QString write(const QString &root, const QString &relative, const QByteArray &data)
+{
+    const QString path = root + QLatin1Char('/') + relative;
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(data);
+    return QFileInfo(path).absoluteFilePath();
+}
+
+} // namespace ScanTree

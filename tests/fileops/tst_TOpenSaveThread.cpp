@@ -1,0 +1,362 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/TFileData.h"
+#include "fileops/TOpenSaveThread.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// A hand-written project with one valid group; the malformed rows change one detail.
+const char *const kValidProject = R"(<?xml version="1.0" encoding="UTF-8"?>
+<VeltrineDuplicateFinder fileCount="10" scanTime="00:01:02" version="4.5.0">
+  <groups>
+    <GroupItem GroupType="0" GroupFlag="0" key="K1">
+      <Item selected="0">%A%</Item>
+      <Item selected="1">%B%</Item>
+    </GroupItem>
+  </groups>
+</VeltrineDuplicateFinder>
+)";
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+} // namespace
+
+class TestTOpenSaveThread : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+    QString m_fileA;
+    QString m_fileB;
+    QString m_folder;
+
+    QString makeFile(const QString &relative, const QByteArray &bytes)
+    {
+        const QString path = m_dir.filePath(relative);
+        QDir().mkpath(QFileInfo(path).path());
+        if (!writeFile(path, bytes))
+            qFatal("cannot write %s", qPrintable(path));
+        return path;
+    }
+
+    QString projectText(QString text) const
+    {
+        return text.replace("%A%", m_fileA)
+            .replace("%B%", m_fileB)
+            .replace("%C%", m_folder)
+            .replace("%M%", m_dir.filePath("gone/missing.txt"));
+    }
+
+    // Some other results the user has open; a failed open must leave them alone.
+    static void fillSentinel()
+    {
+        TFileData::instance()->replaceAll({{"SENTINEL", {"/x/a.txt", "/x/b.txt"}}},
+            {{"DIRS", {DirGroupEntry {"/x", 2, 20}, DirGroupEntry {"/y", 2, 20}}}},
+            {{"SENTINEL", {"/x/b.txt"}}});
+    }
+
+    static int runOpen(
+        TOpenSaveThread &thread, const QString &path, QList<QVariant> *completion = nullptr)
+    {
+        QSignalSpy spy(&thread, &TOpenSaveThread::openProjectComplated);
+        if (!thread.openProject(path))
+            return -1;
+        thread.wait();
+        if (spy.size() != 1)
+            return -2;
+        if (completion)
+            *completion = spy.first();
+        return spy.first().first().toInt();
+    }
+
+    static int runSave(
+        TOpenSaveThread &thread, const QString &path, qint64 count, const QString &time)
+    {
+        QSignalSpy spy(&thread, &TOpenSaveThread::saveComplated);
+        if (!thread.saveProject(path, count, time))
+            return -1;
+        thread.wait();
+        return spy.size() == 1 ? spy.first().first().toInt() : -2;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        m_fileA = makeFile("plain/a.txt", "same content");
+        m_fileB = makeFile("plain/b.txt", "same content");
+        m_folder = m_dir.filePath("folder");
+        QVERIFY(QDir().mkpath(m_folder));
+    }
+
+    void roundTrip()
+    {
+        TFileData *store = TFileData::instance();
+        const QString c1 = makeFile("dup/c1.bin", QByteArray(100, 'c'));
+        const QString c2 = makeFile("dup/sub dir/c2.bin", QByteArray(100, 'c'));
+        const QString c3 = makeFile("dup/ünïcödé & <odd> \"name\".bin", QByteArray(100, 'c'));
+        const QString p1 = makeFile("pics/p1.jpg", QByteArray(40, 'p'));
+        const QString p2 = makeFile("pics/p2.jpg", QByteArray(60, 'q'));
+        const QString d1 = m_dir.filePath("folders/one");
+        const QString d2 = m_dir.filePath("folders/two");
+        makeFile("folders/one/x.txt", "xx");
+        makeFile("folders/one/y.txt", "yyy");
+        makeFile("folders/two/x.txt", "xx");
+        makeFile("folders/two/y.txt", "yyy");
+
+        const QStringList duplicates {c1, c2, c3};
+        const QStringList similar {p1 + "_simlar_100", p2 + "_simlar_87"};
+        const QString dupKey = TFileData::groupKey(c1);
+        const QString simKey = TFileData::groupKey(similar.first());
+        const QString dirKey = TFileData::groupKey(d1);
+        const TFileData::Groups groups {{dupKey, duplicates}, {simKey, similar}};
+        const TFileData::DirGroups dirGroups {
+            {dirKey, {DirGroupEntry {d1, 2, 5}, DirGroupEntry {d2, 2, 5}}}};
+        const TFileData::Groups selected {
+            {dupKey, {c2, c3}}, {simKey, {similar.at(1)}}, {dirKey, {d2}}};
+        store->replaceAll(groups, dirGroups, selected);
+
+        TOpenSaveThread thread;
+        thread.setGroupOrder({simKey, "NOT-A-GROUP", dupKey});
+        QSignalSpy progress(&thread, &TOpenSaveThread::saveProjectProcess);
+        const QString project = m_dir.filePath("result.dupproj");
+        QCOMPARE(
+            runSave(thread, project, 1234, "00:02:05"), int(TOpenSaveThread::ProjectSucceeded));
+        QCOMPARE(progress.size(), 3);
+        QCOMPARE(progress.last().at(0).toDouble(), 3.0);
+        QCOMPARE(progress.last().at(1).toDouble(), 3.0);
+
+        // The file has the documented shape, in the requested order.
+        QFile file(project);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        QVERIFY(text.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
+        QVERIFY(text.contains("<VeltrineDuplicateFinder fileCount=\"1234\" scanTime=\"00:02:05\" "
+                              "version=\"4.5.0\">"));
+        QVERIFY(text.contains(
+            QString("<GroupItem GroupType=\"0\" GroupFlag=\"0\" key=\"%1\">").arg(simKey)));
+        QVERIFY(text.indexOf(simKey) < text.indexOf(dupKey));
+        QVERIFY(text.indexOf(dupKey) < text.indexOf(dirKey));
+        QVERIFY(text.contains(QString("<Item selected=\"1\">%1</Item>").arg(similar.at(1))));
+        QVERIFY(text.contains(QString("<Item selected=\"0\">%1</Item>").arg(c1)));
+
+        fillSentinel();
+        QSignalSpy info(&thread, &TOpenSaveThread::openProjectInfo);
+        QSignalSpy openProgress(&thread, &TOpenSaveThread::openProjectProcess);
+        QList<QVariant> completion;
+        QCOMPARE(runOpen(thread, project, &completion), int(TOpenSaveThread::ProjectSucceeded));
+        QCOMPARE(store->groups(), groups);
+        QCOMPARE(store->dirGroups(), dirGroups);
+        QCOMPARE(store->selected(), selected);
+        // Members: 3 duplicates + 2 pictures + the 2 + 2 files of the two folders.
+        QCOMPARE(completion.at(1).toInt(), 9);
+        QCOMPARE(completion.at(2).toLongLong(), qint64(3 * 100 + 40 + 60 + 5 + 5));
+        QCOMPARE(info.size(), 1);
+        QCOMPARE(info.first().at(0).toLongLong(), qint64(1234));
+        QCOMPARE(info.first().at(1).toString(), QString("00:02:05"));
+        QCOMPARE(thread.scanFileCount(), qint64(1234));
+        QVERIFY(!openProgress.isEmpty());
+        QCOMPARE(openProgress.last().at(0).toDouble(), openProgress.last().at(1).toDouble());
+        store->clear();
+    }
+
+    void handWrittenProjectOpens()
+    {
+        const QString path = m_dir.filePath("hand.dupproj");
+        QVERIFY(writeFile(path, projectText(kValidProject).toUtf8()));
+        fillSentinel();
+        TOpenSaveThread thread;
+        QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
+        QCOMPARE(TFileData::instance()->groups(), (TFileData::Groups {{"K1", {m_fileA, m_fileB}}}));
+        QCOMPARE(TFileData::instance()->selected(), (TFileData::Groups {{"K1", {m_fileB}}}));
+        QVERIFY(TFileData::instance()->dirGroups().isEmpty());
+        QCOMPARE(thread.scanTime(), QString("00:01:02"));
+        TFileData::instance()->clear();
+    }
+
+    void missingMembersAreLeftOut()
+    {
+        const QString text = QString(R"(<?xml version="1.0"?>
+<VeltrineDuplicateFinder fileCount="3" version="4.5.0"><groups>
+<GroupItem GroupType="7" GroupFlag="-2" key="THREE"><Item selected="1">%M%</Item><Item selected="0">%A%</Item><Item selected="1">%B%</Item></GroupItem>
+<GroupItem GroupType="0" GroupFlag="0" key="GONE"><Item selected="1">%M%x</Item><Item selected="0">%B%</Item></GroupItem>
+</groups></VeltrineDuplicateFinder>)");
+        const QString path = m_dir.filePath("partly-gone.dupproj");
+        QVERIFY(writeFile(path, projectText(text).toUtf8()));
+        fillSentinel();
+        TOpenSaveThread thread;
+        QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
+        QCOMPARE(
+            TFileData::instance()->groups(), (TFileData::Groups {{"THREE", {m_fileA, m_fileB}}}));
+        QCOMPARE(TFileData::instance()->selected(), (TFileData::Groups {{"THREE", {m_fileB}}}));
+        // No scan time in the file: the default.
+        QCOMPARE(thread.scanTime(), QString("00:00:00"));
+        TFileData::instance()->clear();
+    }
+
+    void emptyResultsRoundTrip()
+    {
+        TFileData::instance()->clear();
+        TOpenSaveThread thread;
+        const QString path = m_dir.filePath("empty.dupproj");
+        QCOMPARE(runSave(thread, path, 0, QString()), int(TOpenSaveThread::ProjectSucceeded));
+        fillSentinel();
+        QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
+        QVERIFY(TFileData::instance()->isEmpty());
+    }
+
+    void saveFailureIsReported()
+    {
+        TOpenSaveThread thread;
+        const QString path = m_dir.filePath("no such folder/result.dupproj");
+        QCOMPARE(runSave(thread, path, 1, "00:00:01"), int(TOpenSaveThread::ProjectWriteFailed));
+        QVERIFY(!QFile::exists(path));
+        QVERIFY(!thread.lastError().isEmpty());
+    }
+
+    void malformedProjects_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("flag");
+        const QString valid = QString::fromUtf8(kValidProject);
+        const auto mutate = [&valid](const QString &from, const QString &to) {
+            Q_ASSERT(valid.contains(from));
+            return QString(valid).replace(from, to).toUtf8();
+        };
+        using T = TOpenSaveThread;
+        QTest::newRow("not XML at all")
+            << QByteArray("fileCount=10\nthis is a text file\n") << int(T::ProjectNotXml);
+        QTest::newRow("empty file") << QByteArray() << int(T::ProjectNotXml);
+        QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)
+                                << int(T::ProjectNotXml);
+        QTest::newRow("truncated")
+            << valid.toUtf8().left(valid.toUtf8().indexOf("%B%") + 2) << int(T::ProjectNotXml);
+        QTest::newRow("cut after the last group")
+            << valid.toUtf8().left(valid.toUtf8().indexOf("</groups>")) << int(T::ProjectNotXml);
+        QTest::newRow("wrong root")
+            << mutate("VeltrineDuplicateFinder", "SomeOtherDocument") << int(T::ProjectNotAProject);
+        QTest::newRow("entity expansion") << mutate("<VeltrineDuplicateFinder",
+            "<!DOCTYPE VeltrineDuplicateFinder [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b "
+            "\"&a;&a;&a;&a;&a;\">]>\n"
+            "<VeltrineDuplicateFinder") << int(T::ProjectNotAProject);
+        QTest::newRow("missing fileCount")
+            << mutate("fileCount=\"10\" ", "") << int(T::ProjectInvalidContent);
+        QTest::newRow("huge fileCount")
+            << mutate("fileCount=\"10\"", "fileCount=\"99999999999999999999999\"")
+            << int(T::ProjectInvalidContent);
+        QTest::newRow("negative fileCount")
+            << mutate("fileCount=\"10\"", "fileCount=\"-10\"") << int(T::ProjectInvalidContent);
+        QTest::newRow("missing version")
+            << mutate(" version=\"4.5.0\"", "") << int(T::ProjectInvalidContent);
+        QTest::newRow("missing key") << mutate(" key=\"K1\"", "") << int(T::ProjectInvalidContent);
+        QTest::newRow("missing GroupType")
+            << mutate("GroupType=\"0\" ", "") << int(T::ProjectInvalidContent);
+        QTest::newRow("GroupFlag not a number")
+            << mutate("GroupFlag=\"0\"", "GroupFlag=\"zero\"") << int(T::ProjectInvalidContent);
+        QTest::newRow("missing selected")
+            << mutate("<Item selected=\"0\">", "<Item>") << int(T::ProjectInvalidContent);
+        QTest::newRow("selected not 0 or 1") << mutate("<Item selected=\"0\">",
+            "<Item selected=\"yes\">") << int(T::ProjectInvalidContent);
+        QTest::newRow("group of one") << mutate("      <Item selected=\"1\">%B%</Item>\n", "")
+                                      << int(T::ProjectInvalidContent);
+        QTest::newRow("same path twice") << mutate("%B%", "%A%") << int(T::ProjectInvalidContent);
+        QTest::newRow("relative path")
+            << mutate("%B%", "plain/b.txt") << int(T::ProjectInvalidContent);
+        QTest::newRow("empty path") << mutate("%B%", "") << int(T::ProjectInvalidContent);
+        QTest::newRow("element inside a path") << mutate("%B%", "%B%<b/>") << int(T::ProjectNotXml);
+        QTest::newRow("key listed twice") << mutate("  </groups>",
+            "    <GroupItem GroupType=\"0\" GroupFlag=\"0\" key=\"K1\"><Item "
+            "selected=\"0\">%A%</Item>"
+            "<Item selected=\"0\">%B%</Item></GroupItem>\n  </groups>")
+                                          << int(T::ProjectInvalidContent);
+        QTest::newRow("no groups element")
+            << QByteArray("<VeltrineDuplicateFinder fileCount=\"1\" version=\"4.5.0\"/>")
+            << int(T::ProjectInvalidContent);
+        QTest::newRow("nonexistent paths")
+            << mutate("%A%", "%M%").replace("%B%", "%M%2") << int(T::ProjectNothingLeft);
+        QTest::newRow("files and folders mixed")
+            << mutate("%B%", "%C%") << int(T::ProjectInvalidContent);
+        QTest::newRow("similar tag on a folder")
+            << mutate("%A%", "%C%_simlar_90").replace("%B%", "%C%/")
+            << int(T::ProjectInvalidContent);
+    }
+    void malformedProjects()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, flag);
+        const QString path = m_dir.filePath("bad.dupproj");
+        QVERIFY(writeFile(path, projectText(QString::fromUtf8(content)).toUtf8()));
+        fillSentinel();
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        const TFileData::DirGroups dirGroups = TFileData::instance()->dirGroups();
+        const TFileData::Groups selected = TFileData::instance()->selected();
+
+        TOpenSaveThread thread;
+        QSignalSpy info(&thread, &TOpenSaveThread::openProjectInfo);
+        QList<QVariant> completion;
+        QCOMPARE(runOpen(thread, path, &completion), flag);
+        QCOMPARE(completion.at(1).toInt(), 0);
+        QCOMPARE(completion.at(2).toLongLong(), qint64(0));
+        QVERIFY(info.isEmpty());
+        QVERIFY(!thread.lastError().isEmpty());
+        QVERIFY(!TOpenSaveThread::resultText(flag).isEmpty());
+        QCOMPARE(TFileData::instance()->groups(), groups);
+        QCOMPARE(TFileData::instance()->dirGroups(), dirGroups);
+        QCOMPARE(TFileData::instance()->selected(), selected);
+    }
+
+    void unreadableProjectPaths_data()
+    {
+        QTest::addColumn<QString>("relative");
+        QTest::newRow("missing file") << "does-not-exist.dupproj";
+        QTest::newRow("a folder") << "folder";
+    }
+    void unreadableProjectPaths()
+    {
+        QFETCH(QString, relative);
+        fillSentinel();
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        TOpenSaveThread thread;
+        QCOMPARE(
+            runOpen(thread, m_dir.filePath(relative)), int(TOpenSaveThread::ProjectFileNotOpened));
+        QCOMPARE(TFileData::instance()->groups(), groups);
+    }
+
+    void entryLimit()
+    {
+        QString text
+            = QStringLiteral("<VeltrineDuplicateFinder fileCount=\"1\" version=\"4.5.0\"><groups>");
+        for (int g = 0; g < 3; ++g) {
+            text += QStringLiteral(
+                "<GroupItem GroupType=\"0\" GroupFlag=\"0\" key=\"G%1\">"
+                "<Item selected=\"0\">%A%</Item><Item selected=\"0\">%B%</Item></GroupItem>")
+                        .arg(g);
+        }
+        text += QStringLiteral("</groups></VeltrineDuplicateFinder>");
+        const QString path = m_dir.filePath("many.dupproj");
+        QVERIFY(writeFile(path, projectText(text).toUtf8()));
+        fillSentinel();
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        TOpenSaveThread thread;
+        thread.setMaxEntries(5);
+        QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectInvalidContent));
+        QCOMPARE(TFileData::instance()->groups(), groups);
+        thread.setMaxEntries(6);
+        QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
+        QCOMPARE(TFileData::instance()->groupCount(), 3);
+        TFileData::instance()->clear();
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTOpenSaveThread)
+#include "tst_TOpenSaveThread.moc"
