@@ -2,6 +2,8 @@
 #include "engine/TFileData.h"
 #include "results/GroupItemAutoSelector.h"
 
+#include <libheif/heif.h>
+
 #include <QDateTime>
 #include <QFile>
 #include <QImage>
@@ -286,6 +288,37 @@ private slots:
         const QString path = makeFile(0, 0, QSize(37, 21), true, QStringLiteral("png"));
         QCOMPARE(Selector::pictureSize(path), qMakePair(37, 21));
         QCOMPARE(Selector::pictureSize(m_dir.filePath("missing.png")), qMakePair(-1, -1));
+    }
+
+    // HEIC has no Qt image plug-in here; its size comes from the container's header.
+    void pictureSizeOfHeic()
+    {
+        const QString path = m_dir.filePath("picture.heic");
+        const int width = 64;
+        const int height = 48;
+        heif_context *context = heif_context_alloc();
+        heif_encoder *encoder = nullptr;
+        QVERIFY(heif_context_get_encoder_for_format(context, heif_compression_HEVC, &encoder).code
+            == heif_error_Ok);
+        heif_image *image = nullptr;
+        QVERIFY(heif_image_create(
+                    width, height, heif_colorspace_RGB, heif_chroma_interleaved_RGB, &image)
+                    .code
+            == heif_error_Ok);
+        QVERIFY(heif_image_add_plane(image, heif_channel_interleaved, width, height, 8).code
+            == heif_error_Ok);
+        int stride = 0;
+        uint8_t *pixels = heif_image_get_plane(image, heif_channel_interleaved, &stride);
+        for (int y = 0; y < height; ++y)
+            memset(pixels + y * stride, y * 4, size_t(width) * 3);
+        QVERIFY(heif_context_encode_image(context, image, encoder, nullptr, nullptr).code
+            == heif_error_Ok);
+        QVERIFY(heif_context_write_to_file(context, QFile::encodeName(path).constData()).code
+            == heif_error_Ok);
+        heif_image_release(image);
+        heif_encoder_release(encoder);
+        heif_context_free(context);
+        QCOMPARE(Selector::pictureSize(path), qMakePair(width, height));
     }
 
     void cloudProperties_data()
