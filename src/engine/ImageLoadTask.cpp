@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ImageLoadTask.h"
+
+#include "app/FileTypeCatalogue.h"
+#include "engine/TReadImage.h"
+
+#include <algorithm>
+#include <opencv2/imgproc.hpp>
+
+ImageLoadTask::ImageLoadTask(
+    int row, int category, const QString &path, bool isGroup, QObject *parent)
+    : QObject(parent), m_row(row), m_category(category), m_path(path), m_isGroup(isGroup)
+{
+    setAutoDelete(true);
+}
+
+QImage ImageLoadTask::loadThumbnail(const QString &path, int size)
+{
+    cv::Mat mat = TReadImage::readImage(path);
+    if (mat.empty())
+        return {};
+    if (mat.cols > size || mat.rows > size) {
+        const double scale = std::min(double(size) / mat.cols, double(size) / mat.rows);
+        cv::Mat small;
+        try {
+            cv::resize(mat, small,
+                cv::Size(std::max(1, int(mat.cols * scale)), std::max(1, int(mat.rows * scale))), 0,
+                0, cv::INTER_AREA);
+        } catch (...) {
+            return {};
+        }
+        mat = small;
+    }
+    return TReadImage::mat2QImage(mat);
+}
+
+void ImageLoadTask::run()
+{
+    // Members of similar-picture groups carry their tag; the file is the path before it.
+    const QString file = stripSimilarTag(m_path);
+    if (isCancelled()) {
+        emit finished(m_row, true, m_path, QImage());
+        return;
+    }
+    QImage image;
+    if (m_category == CategoryImages || isImageFile(file))
+        image = loadThumbnail(file);
+    // The view may have scrolled on while the file was decoded.
+    const bool cancelled = isCancelled();
+    emit finished(m_row, cancelled, m_path, cancelled ? QImage() : image);
+}

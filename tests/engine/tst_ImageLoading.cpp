@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reading pictures of every supported format into working-size matrices, and what happens
+// with broken, truncated and oversized files.
+
+#include "ImageFixtures.h"
+#include "TestEnvironment.h"
+#include "app/TLogger.h"
+#include "engine/ImageLoadTask.h"
+#include "engine/TReadImage.h"
+
+#include <opencv2/imgcodecs.hpp>
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QThreadPool>
+#include <QtTest>
+
+static TestEnvironment environment;
+
+// CRC-32 of PNG chunks (type and data).
+static quint32 crc32(const QByteArray &bytes)
+{
+    quint32 crc = 0xFFFFFFFFu;
+    for (const char c : bytes) {
+        crc ^= quint8(c);
+        for (int k = 0; k < 8; ++k)
+            crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+    }
+    return ~crc;
+}
+
+class tst_ImageLoading : public QObject
+{
+    Q_OBJECT
+private:
+    QTemporaryDir m_dir;
+    QTemporaryDir m_logDir;
+
+    QString file(const QString &name) const { return m_dir.filePath(name); }
+    QString logText() const
+    {
+        QString text;
+        const QDir logs(m_logDir.filePath(QStringLiteral("Log")));
+        for (const QString &name : logs.entryList(QDir::Files)) {
+            QFile f(logs.filePath(name));
+            if (f.open(QIODevice::ReadOnly))
+                text += QString::fromUtf8(f.readAll());
+        }
+        return text;
+    }
+    // Writes a picture of the given format; returns its path.
+    QString writePicture(const QString &format, const cv::Mat &scene, const QString &stem)
+    {
+        const QString path = file(stem + QLatin1Char('.') + format);
+        if (format == QLatin1String("heic")) {
+            if (!fixtures::writeHeic(path, scene, 64))
+                return {};
+        } else if (format == QLatin1String("dng")) {
+            const QByteArray jpeg = fixtures::encode(scene, ".jpg");
+            if (!fixtures::writeBytes(path, fixtures::makeDng(jpeg, scene.cols, scene.rows)))
+                return {};
+        } else if (!cv::imwrite(QFile::encodeName(path).toStdString(), scene)) {
+            return {};
+        }
+        return path;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        QVERIFY(initLogger(m_logDir.path()));
+    }
+    void cleanupTestCase() { shutdownLogger(); }
+
+    void readsEveryFormat_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<int>("expectedWidth");
+        QTest::addColumn<int>("expectedHeight");
+        QTest::addColumn<QString>("logLine");
+        // HEIC is read from its embedded 64-pixel thumbnail, DNG from its JPEG preview.
+        QTest::newRow("jpeg") << "jpg" << 320 << 240 << "[TReadImage]: Full read success.";
+        QTest::newRow("png") << "png" << 320 << 240 << "[TReadImage]: Full read success.";
+        QTest::newRow("webp") << "webp" << 320 << 240 << "[TReadImage]: Full read success.";
+        QTest::newRow("tiff") << "tif" << 320 << 240 << "[TReadImage]: Full read success.";
+        QTest::newRow("bmp") << "bmp" << 320 << 240 << "[TReadImage]: Full read success.";
+        QTest::newRow("heic thumbnail") << "heic" << 64 << 48 << "";
+        QTest::newRow("dng preview") << "dng" << 320 << 240 << "";
+    }
+    void readsEveryFormat()
+    {
+        QFETCH(QString, format);
+        QFETCH(int, expectedWidth);
+        QFETCH(int, expectedHeight);
+        QFETCH(QString, logLine);
+        const cv::Mat scene = fixtures::makeScene(320, 240, 1);
+        const QString path = writePicture(format, scene, QStringLiteral("good_") + format);
+        QVERIFY(!path.isEmpty());
+        int w = 0;
+        int h = 0;
+        const cv::Mat mat = TReadImage::readImage(path, &w, &h);
+        QVERIFY(!mat.empty());
+        QCOMPARE(mat.type(), CV_8UC3);
+        QCOMPARE(w, expectedWidth);
+        QCOMPARE(h, expectedHeight);
+        // Colours arrive in BGR order whichever decoder ran: compare with the scene
+        // brought to the same size (lossy codecs allow some difference).
+        cv::Mat expected;
+        cv::resize(scene, expected, mat.size(), 0, 0, cv::INTER_AREA);
+        QVERIFY2(cv::norm(expected, mat, cv::NORM_L1) / double(mat.total() * 3) < 25.0,
+            "decoded colours differ from the scene");
+        if (!logLine.isEmpty())
+            QVERIFY(logText().contains(logLine + QStringLiteral(" File: ") + path));
+    }
+
+    void heicWithoutThumbnailUsesPrimary()
+    {
+        const cv::Mat scene = fixtures::makeScene(256, 128, 2);
+        const QString path = file(QStringLiteral("primary.heic"));
+        QVERIFY(fixtures::writeHeic(path, scene, 0));
+        int w = 0;
+        int h = 0;
+        const cv::Mat mat = TReadImage::readImage(path, &w, &h);
+        QCOMPARE(w, 256);
+        QCOMPARE(h, 128);
+        QCOMPARE(mat.cols, 256);
+    }
+
+    void brokenFilesGiveEmptyMatrix_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<bool>("truncate");
+        QTest::addColumn<QString>("logLine");
+        const QStringList formats {"jpg", "png", "webp", "tif", "bmp", "heic", "dng"};
+        for (const QString &f : formats) {
+            QString line = QStringLiteral("[TReadImage]: QImageReader failed. File: ");
+            if (f == QLatin1String("heic"))
+                line = QStringLiteral("[TReadImage]: Failed to read HEIF.");
+            if (f == QLatin1String("dng"))
+                line = QStringLiteral("[TReadImage]: LibRaw ");
+            QTest::newRow(qPrintable(f + QStringLiteral(" truncated"))) << f << true << line;
+            QTest::newRow(qPrintable(f + QStringLiteral(" garbage"))) << f << false << line;
+        }
+    }
+    void brokenFilesGiveEmptyMatrix()
+    {
+        QFETCH(QString, format);
+        QFETCH(bool, truncate);
+        QFETCH(QString, logLine);
+        const QString good = writePicture(
+            format, fixtures::makeScene(200, 150, 3), QStringLiteral("src_") + format);
+        QVERIFY(!good.isEmpty());
+        QFile in(good);
+        QVERIFY(in.open(QIODevice::ReadOnly));
+        QByteArray bytes = in.readAll();
+        if (truncate) {
+            bytes.truncate(40);
+        } else {
+            // The start of a valid header followed by noise.
+            QByteArray noise(4000, '\0');
+            for (int i = 0; i < noise.size(); ++i)
+                noise[i] = char((i * 131 + 7) % 251);
+            bytes = bytes.left(4) + noise;
+        }
+        const QString path
+            = file(QStringLiteral("broken_%1_%2.%3").arg(truncate ? "t" : "g", format, format));
+        QVERIFY(fixtures::writeBytes(path, bytes));
+        int w = -1;
+        int h = -1;
+        const cv::Mat mat = TReadImage::readImage(path, &w, &h);
+        QVERIFY(mat.empty());
+        QCOMPARE(w, 0);
+        QCOMPARE(h, 0);
+        const QString log = logText();
+        QVERIFY2(log.contains(logLine) && log.contains(path), qPrintable(logLine));
+    }
+
+    void emptyFile()
+    {
+        const QString path = file(QStringLiteral("empty.jpg"));
+        QVERIFY(fixtures::writeBytes(path, QByteArray()));
+        QVERIFY(TReadImage::readImage(path).empty());
+        QVERIFY(TReadImage::imreadThroughMemory(path, cv::IMREAD_COLOR).empty());
+        QVERIFY(
+            logText().contains(QStringLiteral("[TImageRead]: File too large or empty: ") + path));
+    }
+
+    void hugeHeaderIsRefused()
+    {
+        // A PNG whose header announces 20000 x 10000 pixels and whose data is missing:
+        // no decoder may allocate the full picture, and the last-resort reader refuses it.
+        QByteArray png = fixtures::encode(fixtures::makeScene(8, 8, 4), ".png");
+        QVERIFY(png.size() > 33);
+        qToBigEndian(quint32(20000), png.data() + 16);
+        qToBigEndian(quint32(10000), png.data() + 20);
+        // The header chunk's checksum must match, or the reader rejects it before the size.
+        qToBigEndian(crc32(png.mid(12, 17)), png.data() + 29);
+        const QString path = file(QStringLiteral("huge.png"));
+        QVERIFY(fixtures::writeBytes(path, png));
+        QVERIFY(TReadImage::readImage(path).empty());
+        QVERIFY(logText().contains(
+            QStringLiteral("[TReadImage]: Image too large, skip. File: %1, Size: 20000x10000")
+                .arg(path)));
+    }
+
+    void workingSize_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("workingWidth");
+        QTest::addColumn<int>("workingHeight");
+        QTest::newRow("4000x3000") << 4000 << 3000 << 1024 << 768;
+        QTest::newRow("1024x1024 untouched") << 1024 << 1024 << 1024 << 1024;
+        QTest::newRow("tall") << 900 << 3000 << 307 << 1024;
+        QTest::newRow("thin strip") << 5000 << 3 << 1024 << 1;
+    }
+    void workingSize()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(int, workingWidth);
+        QFETCH(int, workingHeight);
+        const QString path = file(QStringLiteral("size_%1x%2.png").arg(width).arg(height));
+        QVERIFY(cv::imwrite(QFile::encodeName(path).toStdString(),
+            cv::Mat(height, width, CV_8UC3, cv::Scalar(10, 200, 30))));
+        int w = 0;
+        int h = 0;
+        const cv::Mat mat = TReadImage::readImage(path, &w, &h);
+        QCOMPARE(w, width);
+        QCOMPARE(h, height);
+        QCOMPARE(mat.cols, workingWidth);
+        QCOMPARE(mat.rows, workingHeight);
+        if (width > 1024 || height > 1024)
+            QVERIFY(
+                logText().contains(QStringLiteral("[TReadImage]: Resized image from %1x%2 to %3x%4")
+                                       .arg(width)
+                                       .arg(height)
+                                       .arg(workingWidth)
+                                       .arg(workingHeight)));
+    }
+
+    void nonAsciiPathReadsThroughMemory()
+    {
+        const QString path = file(QStringLiteral("ферма_写真.jpg"));
+        QVERIFY(TReadImage::needsMemoryRoute(path));
+        QVERIFY(
+            fixtures::writeBytes(path, fixtures::encode(fixtures::makeScene(100, 80, 5), ".jpg")));
+        const cv::Mat mat = TReadImage::readImage(path);
+        QCOMPARE(mat.cols, 100);
+        QCOMPARE(mat.rows, 80);
+    }
+
+    void conversionsKeepColours()
+    {
+        cv::Mat bgr(2, 3, CV_8UC3, cv::Scalar(255, 0, 0)); // blue in BGR
+        const QImage image = TReadImage::mat2QImage(bgr);
+        QCOMPARE(image.pixelColor(1, 1), QColor(0, 0, 255));
+        const cv::Mat back = TReadImage::qimage2Mat(image);
+        QCOMPARE(back.at<cv::Vec3b>(1, 2), cv::Vec3b(255, 0, 0));
+        QVERIFY(TReadImage::mat2QImage(cv::Mat(2, 2, CV_32FC1)).isNull());
+        QVERIFY(logText().contains(
+            QStringLiteral("[TReadImage]: mat2QImage: Unsupported cv::Mat type: 5")));
+        QVERIFY(TReadImage::qimage2Mat(QImage()).empty());
+        QVERIFY(logText().contains(QStringLiteral("[TReadImage]: qimage2Mat: result is empty!")));
+    }
+
+    void loadTaskReportsThumbnailOrCancel_data()
+    {
+        QTest::addColumn<bool>("cancelFirst");
+        QTest::newRow("runs") << false;
+        QTest::newRow("cancelled") << true;
+    }
+    void loadTaskReportsThumbnailOrCancel()
+    {
+        QFETCH(bool, cancelFirst);
+        const QString path = writePicture(
+            QStringLiteral("jpg"), fixtures::makeScene(1200, 600, 6), QStringLiteral("thumb"));
+        // The task is a tagged member of a similar group, as the result model passes it.
+        const QString entry = path + QStringLiteral("_simlar_87");
+        auto *task = new ImageLoadTask(7, 1, entry, false);
+        QSignalSpy spy(task, &ImageLoadTask::finished);
+        if (cancelFirst)
+            task->cancel();
+        task->setAutoDelete(false);
+        QThreadPool::globalInstance()->start(task);
+        QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
+        QCOMPARE(spy.count(), 1);
+        const QList<QVariant> args = spy.takeFirst();
+        QCOMPARE(args.at(0).toInt(), 7);
+        QCOMPARE(args.at(1).toBool(), cancelFirst);
+        QCOMPARE(args.at(2).toString(), entry);
+        const QImage image = args.at(3).value<QImage>();
+        if (cancelFirst) {
+            QVERIFY(image.isNull());
+        } else {
+            QCOMPARE(image.size(), QSize(256, 128));
+        }
+        delete task;
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ImageLoading)
+#include "tst_ImageLoading.moc"
