@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+#include <QStringList>
+
+// One result group as the group list shows it.
+struct GroupItem
+{
+    QString key;
+    QStringList files;
+    QString firstFile;
+    QString name;
+    // All copies are taken to be the size of the first one.
+    qint64 totalSize = 0;
+    int selectedCount = 0;
+    int count = 0;
+    int type = 7;
+};
+
+Q_DECLARE_METATYPE(GroupItem)

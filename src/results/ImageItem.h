@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+// One file of the open group, a row of the thumbnail grid or the detail table.
+struct ImageItem
+{
+    QString key;
+    int groupIndex = 0;
+    QString path;
+    QString extra;
+    qint64 size = 0;
+    // Preformatted modification date; when empty the model formats it itself.
+    QString dateText;
+    bool hidden = false;
+    bool checked = false;
+    int type = 7;
+    int similarity = 0;
+    QString displayName;
+};
+
+Q_DECLARE_METATYPE(ImageItem)

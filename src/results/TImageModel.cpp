@@ -1,0 +1,671 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/TImageModel.h"
+
+#include "app/FileTypeCatalogue.h"
+#include "engine/ImageLoadTask.h"
+#include "engine/TFileData.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QIcon>
+#include <QImageReader>
+#include <QRegularExpression>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+namespace {
+
+TImageModel::CloudPropertyGetter &cloudGetter()
+{
+    static TImageModel::CloudPropertyGetter getter;
+    return getter;
+}
+
+// Category of a cloud item from its MIME type ("image/jpeg" -> the jpeg suffix).
+int categoryOfMimeType(const QString &mimeType)
+{
+    if (mimeType == QLatin1String("application/vnd.google-apps.folder"))
+        return CategoryFolders;
+    const QString major = mimeType.section(QLatin1Char('/'), 0, 0);
+    QString minor = mimeType.section(QLatin1Char('/'), 1).section(QLatin1Char('+'), 0, 0);
+    if (minor.startsWith(QLatin1String("x-")))
+        minor = minor.mid(2);
+    const int byMinor = getFileType(minor);
+    if (byMinor != CategoryOthers)
+        return byMinor;
+    if (major == QLatin1String("image"))
+        return CategoryImages;
+    if (major == QLatin1String("audio"))
+        return CategoryAudio;
+    if (major == QLatin1String("video"))
+        return CategoryVideos;
+    if (major == QLatin1String("text") || minor == QLatin1String("pdf"))
+        return CategoryDocuments;
+    return CategoryOthers;
+}
+
+struct GroupSource
+{
+    TFileData::Groups groups;
+    TFileData::Groups selected;
+    TFileData::DirGroups dirGroups;
+    bool isCloud = false;
+    KvCloudObject *cloud = nullptr;
+};
+
+GroupItem buildGroup(const GroupSource &source, const QString &key)
+{
+    GroupItem item;
+    item.key = key;
+    item.files = source.groups.value(key);
+    item.count = int(item.files.size());
+    item.firstFile = item.files.isEmpty() ? QString() : item.files.first();
+    item.selectedCount = int(source.selected.value(key).size());
+    if (source.isCloud) {
+        const QString id = QFileInfo(item.firstFile).fileName();
+        const auto &getter = cloudGetter();
+        if (getter) {
+            item.name = getter(source.cloud, id, QStringLiteral("name")).toString();
+            item.totalSize
+                = getter(source.cloud, id, QStringLiteral("size")).toLongLong() * item.count;
+            item.type = categoryOfMimeType(
+                getter(source.cloud, id, QStringLiteral("mimeType")).toString());
+        } else {
+            item.name = id;
+        }
+        return item;
+    }
+    const QFileInfo info(item.firstFile);
+    item.name = info.fileName();
+    if (!info.exists()) {
+        item.type = CategoryOthers;
+        item.totalSize = 0;
+    } else if (info.isDir()) {
+        item.type = CategoryFolders;
+        for (const DirGroupEntry &entry : source.dirGroups.value(key))
+            item.totalSize += entry.totalSize;
+    } else {
+        item.type = getFileType(info.suffix());
+        item.totalSize = info.size() * item.count;
+    }
+    return item;
+}
+
+} // namespace
+
+void TImageModel::setCloudPropertyGetter(CloudPropertyGetter getter)
+{
+    cloudGetter() = std::move(getter);
+}
+
+TImageModel::TImageModel(DataModel mode, int thumbnailCacheSize)
+    : QAbstractListModel(nullptr), m_mode(mode)
+{
+    m_thumbnails.setMaxCost(thumbnailCacheSize);
+}
+
+TImageModel::~TImageModel()
+{
+    for (const auto &task : std::as_const(m_pending))
+        task->cancel();
+}
+
+int TImageModel::rowCount(const QModelIndex &parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return int(m_mode == ListView ? m_groups.size() : m_items.size());
+}
+
+int TImageModel::columnCount(const QModelIndex &) const
+{
+    return 6;
+}
+
+Qt::ItemFlags TImageModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    if (index.column() == 0)
+        return Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+}
+
+QString TImageModel::sizeText(qint64 bytes)
+{
+    static const qint64 kb = 1024, mb = 1048576, gb = 1073741824;
+    auto shortest = [](qint64 value, qint64 unit) {
+        const double truncated = std::floor(double(value) / double(unit) * 100.0) / 100.0;
+        return QString::number(truncated);
+    };
+    if (bytes < kb)
+        return QStringLiteral("%1 B").arg(bytes);
+    if (bytes < mb)
+        return QStringLiteral("%1 KB").arg(shortest(bytes, kb));
+    if (bytes < gb)
+        return QStringLiteral("%1 MB").arg(shortest(bytes, mb));
+    return QStringLiteral("%1 GB").arg(shortest(bytes, gb));
+}
+
+QVariant TImageModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() < 0)
+        return {};
+    if (m_mode == ListView) {
+        if (index.row() >= m_groups.size())
+            return {};
+        return groupData(m_groups.at(index.row()), role, index.row());
+    }
+    if (index.row() >= m_items.size())
+        return {};
+    return itemData(m_items.at(index.row()), index, role);
+}
+
+QVariant TImageModel::groupData(const GroupItem &group, int role, int row) const
+{
+    if (group.files.isEmpty())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case NameRole:
+        return group.name;
+    case FilePathRole:
+        return group.firstFile;
+    case KeyRole:
+        return group.key;
+    case FilesRole:
+        return group.files;
+    case ThumbnailRole:
+        if (const QPixmap *cached = m_thumbnails.object(group.firstFile))
+            return *cached;
+        requestThumbnail(row, group.type, group.firstFile);
+        return QPixmap();
+    case TypeRole:
+        return group.type;
+    case SizeTextRole:
+        return sizeText(group.totalSize);
+    case CountRole:
+        return group.count;
+    case SelectedCountRole:
+        return group.selectedCount;
+    case CheckedRole:
+        return false;
+    default:
+        return {};
+    }
+}
+
+QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, int role) const
+{
+    const int column = index.column();
+    if (role == Qt::DisplayRole || role == Qt::DecorationRole) {
+        if (column == 4)
+            return QIcon(QStringLiteral(":/resource/hideFile.png"));
+        if (column == 5)
+            return QIcon(QStringLiteral(":/resource/openInFinder.png"));
+        if (role == Qt::DecorationRole)
+            return {};
+        switch (column) {
+        case 0:
+            return item.checked ? 2 : 0;
+        case 1:
+            return m_nameMode == kPathNameMode ? item.path : item.displayName;
+        case 2:
+            return sizeText(item.size);
+        case 3:
+            return itemData(item, index, DateRole);
+        default:
+            return {};
+        }
+    }
+    switch (role) {
+    case Qt::CheckStateRole:
+        if (column == 0)
+            return item.checked ? 2 : 0;
+        return {};
+    case FilePathRole:
+        return item.path;
+    case KeyRole:
+        return item.key;
+    case ThumbnailRole:
+        if (const QPixmap *cached = m_thumbnails.object(item.path))
+            return *cached;
+        requestThumbnail(index.row(), item.type, item.path);
+        return QPixmap();
+    case NameRole:
+        return item.extra;
+    case TypeRole:
+        return item.type;
+    case DateRole: {
+        if (!item.dateText.isEmpty())
+            return item.dateText;
+        const QFileInfo info(item.path);
+        if (!info.exists())
+            return QString();
+        return info.lastModified().toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
+    }
+    case SizeTextRole:
+        return sizeText(item.size);
+    case DimensionsRole: {
+        // The header alone gives the size; the picture is not decoded.
+        const QSize size = QFileInfo::exists(item.path) ? QImageReader(item.path).size() : QSize();
+        if (size.width() < 1 || size.height() < 1)
+            return QStringLiteral("%1x%2").arg(QStringLiteral("-"), QStringLiteral("-"));
+        return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+    }
+    case CheckedRole:
+        return item.checked;
+    case HiddenRole:
+        return item.hidden;
+    case GroupIndexRole:
+        return item.groupIndex;
+    case SimilarityRole:
+        return item.similarity;
+    case DisplayNameRole:
+        return item.displayName;
+    default:
+        return {};
+    }
+}
+
+bool TImageModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    return setData(index, value, role, false);
+}
+
+bool TImageModel::setData(const QModelIndex &index, const QVariant &value, int role, bool notify)
+{
+    if (m_mode != IconView || !index.isValid() || index.row() < 0 || index.row() >= m_items.size())
+        return false;
+    if (role != CheckedRole && !(role == Qt::CheckStateRole && index.column() == 0))
+        return false;
+    const bool checked = value.toBool();
+    ImageItem &item = m_items[index.row()];
+    if (item.checked == checked) {
+        if (notify)
+            emit onItemSelectedChange(item.key, item.path, checked, item.groupIndex, notify);
+        return false;
+    }
+    item.checked = checked;
+    const auto master = m_itemRows.constFind(item.path);
+    if (master != m_itemRows.constEnd())
+        m_allItems[*master].checked = checked;
+    emit dataChanged(index, index, {role});
+    emit onItemSelectedChange(item.key, item.path, checked, item.groupIndex, notify);
+    return true;
+}
+
+bool TImageModel::removeRows(int row, int count, const QModelIndex &parent)
+{
+    if (parent.isValid() || row < 0 || count < 1)
+        return false;
+    const int size = rowCount();
+    if (row + count > size)
+        return false;
+    beginRemoveRows(QModelIndex(), row, row + count - 1);
+    QList<int> masterRows;
+    if (m_mode == ListView) {
+        for (int i = 0; i < count; ++i) {
+            const auto found = m_groupRows.constFind(m_groups.at(row + i).key);
+            if (found != m_groupRows.constEnd())
+                masterRows << *found;
+        }
+        m_groups.remove(row, count);
+    } else {
+        for (int i = 0; i < count; ++i) {
+            const auto found = m_itemRows.constFind(m_items.at(row + i).path);
+            if (found != m_itemRows.constEnd())
+                masterRows << *found;
+        }
+        m_items.remove(row, count);
+    }
+    std::sort(masterRows.begin(), masterRows.end(), std::greater<int>());
+    for (int masterRow : std::as_const(masterRows)) {
+        if (m_mode == ListView)
+            m_allGroups.removeAt(masterRow);
+        else
+            m_allItems.removeAt(masterRow);
+    }
+    if (m_mode == ListView)
+        rebuildGroupIndex();
+    else
+        rebuildItemIndex();
+    endRemoveRows();
+    return true;
+}
+
+void TImageModel::rebuildGroupIndex()
+{
+    m_groupRows.clear();
+    m_groupRows.reserve(m_allGroups.size());
+    for (int i = 0; i < m_allGroups.size(); ++i)
+        m_groupRows.insert(m_allGroups.at(i).key, i);
+}
+
+void TImageModel::rebuildItemIndex()
+{
+    m_itemRows.clear();
+    m_itemRows.reserve(m_allItems.size());
+    for (int i = 0; i < m_allItems.size(); ++i)
+        m_itemRows.insert(m_allItems.at(i).path, i);
+}
+
+void TImageModel::loadAllGroups(SortRole role, bool isCloud, KvCloudObject *cloud)
+{
+    GroupSource source;
+    TFileData *store = TFileData::instance();
+    source.groups = store->groups();
+    source.selected = store->selected();
+    source.dirGroups = store->dirGroups();
+    source.isCloud = isCloud;
+    source.cloud = cloud;
+    const QStringList keys = source.groups.keys();
+
+    std::atomic<qint64> totalSize {0};
+    std::atomic<int> selectedTotal {0};
+    auto map = [&source, &totalSize, &selectedTotal](const QString &key) {
+        GroupItem item = buildGroup(source, key);
+        totalSize.fetch_add(item.totalSize, std::memory_order_relaxed);
+        selectedTotal.fetch_add(item.selectedCount, std::memory_order_relaxed);
+        return item;
+    };
+    auto reduce = [](QList<GroupItem> &result, const GroupItem &item) { result.append(item); };
+    const QList<GroupItem> built = QtConcurrent::blockingMappedReduced<QList<GroupItem>>(keys,
+        std::function<GroupItem(const QString &)>(map),
+        std::function<void(QList<GroupItem> &, const GroupItem &)>(reduce),
+        QtConcurrent::OrderedReduce);
+
+    beginResetModel();
+    m_allGroups = built;
+    m_groups = built;
+    rebuildGroupIndex();
+    std::sort(m_groups.begin(), m_groups.end(),
+        [role](const GroupItem &a, const GroupItem &b) { return lessThan(b, a, role); });
+    endResetModel();
+    emit onLoadComplated(selectedTotal.load(), totalSize.load());
+}
+
+void TImageModel::setItems(const QList<ImageItem> &items)
+{
+    beginResetModel();
+    m_items = items;
+    m_allItems = items;
+    rebuildItemIndex();
+    endResetModel();
+}
+
+void TImageModel::clear()
+{
+    for (const auto &task : std::as_const(m_pending))
+        task->cancel();
+    m_pending.clear();
+    beginResetModel();
+    m_allGroups.clear();
+    m_groups.clear();
+    m_groupRows.clear();
+    m_allItems.clear();
+    m_items.clear();
+    m_itemRows.clear();
+    m_thumbnails.clear();
+    endResetModel();
+}
+
+bool TImageModel::lessThan(const GroupItem &a, const GroupItem &b, SortRole role)
+{
+    switch (role) {
+    case ByName:
+        return a.name < b.name;
+    case BySize:
+        return a.totalSize < b.totalSize;
+    case ByCount:
+        return a.count != b.count ? a.count < b.count : a.selectedCount < b.selectedCount;
+    case ByType:
+        return a.type != b.type ? a.type < b.type : a.count < b.count;
+    case BySelected:
+        return a.selectedCount != b.selectedCount ? a.selectedCount < b.selectedCount
+                                                  : a.count < b.count;
+    }
+    return false;
+}
+
+void TImageModel::sort(SortRole role, bool descending)
+{
+    if (descending)
+        std::sort(m_groups.begin(), m_groups.end(),
+            [role](const GroupItem &a, const GroupItem &b) { return lessThan(b, a, role); });
+    else
+        std::sort(m_groups.begin(), m_groups.end(),
+            [role](const GroupItem &a, const GroupItem &b) { return lessThan(a, b, role); });
+    if (!m_groups.isEmpty())
+        emit dataChanged(index(0, 0), index(int(m_groups.size()) - 1, columnCount() - 1));
+}
+
+template<typename T>
+QList<T> TImageModel::fastParallelFilter(
+    const QList<T> &source, const std::function<bool(const T &)> &keep)
+{
+    constexpr qsizetype chunkSize = 1000;
+    QList<QFuture<QList<T>>> chunks;
+    for (qsizetype begin = 0; begin < source.size(); begin += chunkSize) {
+        const qsizetype end = std::min(source.size(), begin + chunkSize);
+        chunks << QtConcurrent::run([&source, &keep, begin, end] {
+            QList<T> kept;
+            for (qsizetype i = begin; i < end; ++i)
+                if (keep(source.at(i)))
+                    kept.append(source.at(i));
+            return kept;
+        });
+    }
+    QList<T> result;
+    // Joined in chunk order, so the result keeps the source order.
+    for (auto &chunk : chunks)
+        result.append(chunk.result());
+    return result;
+}
+
+template QList<GroupItem> TImageModel::fastParallelFilter<GroupItem>(
+    const QList<GroupItem> &, const std::function<bool(const GroupItem &)> &);
+template QList<ImageItem> TImageModel::fastParallelFilter<ImageItem>(
+    const QList<ImageItem> &, const std::function<bool(const ImageItem &)> &);
+
+void TImageModel::setDisplayedGroups(const QList<GroupItem> &groups)
+{
+    beginResetModel();
+    m_groups = groups;
+    endResetModel();
+}
+
+void TImageModel::filterByName(const QString &text)
+{
+    setDisplayedGroups(fastParallelFilter<GroupItem>(m_allGroups,
+        [&text](const GroupItem &g) { return g.name.contains(text, Qt::CaseInsensitive); }));
+}
+
+void TImageModel::filterByType(int type)
+{
+    setDisplayedGroups(fastParallelFilter<GroupItem>(
+        m_allGroups, [type](const GroupItem &g) { return g.type == type; }));
+}
+
+void TImageModel::resetGroupFilter()
+{
+    setDisplayedGroups(m_allGroups);
+}
+
+void TImageModel::filterByShow(int mode, int minSimilarity)
+{
+    std::function<bool(const ImageItem &)> keep;
+    switch (mode) {
+    case 0:
+        keep = [minSimilarity](
+                   const ImageItem &i) { return !i.hidden && i.similarity >= minSimilarity; };
+        break;
+    case 1:
+        keep = [minSimilarity](
+                   const ImageItem &i) { return i.checked && i.similarity >= minSimilarity; };
+        break;
+    case 2:
+        keep = [minSimilarity](const ImageItem &i) { return i.similarity >= minSimilarity; };
+        break;
+    default:
+        return;
+    }
+    const QList<ImageItem> shown = fastParallelFilter<ImageItem>(m_allItems, keep);
+    beginResetModel();
+    m_items = shown;
+    endResetModel();
+}
+
+void TImageModel::refreshGroupSelection(const QModelIndexList &indexes)
+{
+    TFileData *store = TFileData::instance();
+    for (const QModelIndex &index : indexes) {
+        if (!index.isValid() || index.row() >= m_groups.size())
+            continue;
+        GroupItem &group = m_groups[index.row()];
+        group.selectedCount = store->selectedCount(group.key);
+        const auto master = m_groupRows.constFind(group.key);
+        if (master != m_groupRows.constEnd())
+            m_allGroups[*master].selectedCount = group.selectedCount;
+        emit dataChanged(index, index);
+    }
+}
+
+void TImageModel::refreshItemSelection()
+{
+    TFileData *store = TFileData::instance();
+    for (int row = 0; row < m_items.size(); ++row) {
+        ImageItem &item = m_items[row];
+        const bool checked = store->isSelected(item.key, item.path);
+        if (checked == item.checked)
+            continue;
+        item.checked = checked;
+        const auto master = m_itemRows.constFind(item.path);
+        if (master != m_itemRows.constEnd())
+            m_allItems[*master].checked = checked;
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1), {CheckedRole});
+    }
+    // Items filtered out of view follow the store as well.
+    for (ImageItem &item : m_allItems)
+        item.checked = store->isSelected(item.key, item.path);
+}
+
+void TImageModel::removeDeletedFile(const QString &key, const QString &path)
+{
+    int row = -1;
+    for (int i = 0; i < m_groups.size(); ++i) {
+        if (m_groups.at(i).key == key) {
+            row = i;
+            break;
+        }
+    }
+    if (row < 0)
+        return;
+    GroupItem &group = m_groups[row];
+    const QRegularExpression derived(
+        QStringLiteral("^%1%2_\\d+$").arg(QRegularExpression::escape(path), kSimilarTag));
+    group.files.removeAll(path);
+    group.files.removeIf(
+        [&derived](const QString &entry) { return derived.match(entry).hasMatch(); });
+
+    if (group.files.size() > 1) {
+        group.count = int(group.files.size());
+        group.firstFile = group.files.first();
+        const QFileInfo first(stripSimilarTag(group.firstFile));
+        group.totalSize = first.isFile() ? first.size() * group.count : 0;
+        const auto master = m_groupRows.constFind(key);
+        if (master != m_groupRows.constEnd()) {
+            GroupItem &stored = m_allGroups[*master];
+            stored.files = group.files;
+            stored.firstFile = group.firstFile;
+            stored.count = group.count;
+            stored.totalSize = group.totalSize;
+        }
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+        return;
+    }
+
+    // One copy left is no longer a duplicate: the group leaves the list.
+    beginRemoveRows(QModelIndex(), row, row);
+    m_groups.removeAt(row);
+    const auto master = m_groupRows.constFind(key);
+    if (master != m_groupRows.constEnd())
+        m_allGroups.removeAt(*master);
+    rebuildGroupIndex();
+    endRemoveRows();
+}
+
+QList<QPair<QString, QStringList>> TImageModel::displayedItemsByGroup() const
+{
+    QHash<QString, QStringList> byKey;
+    for (const ImageItem &item : m_items)
+        byKey[item.key].append(item.path);
+    QList<QPair<QString, QStringList>> result;
+    result.reserve(byKey.size());
+    for (auto it = byKey.cbegin(); it != byKey.cend(); ++it)
+        result.append({it.key(), it.value()});
+    return result;
+}
+
+void TImageModel::setNameMode(int mode)
+{
+    if (m_nameMode == mode)
+        return;
+    m_nameMode = mode;
+    if (m_mode == IconView && !m_items.isEmpty())
+        emit dataChanged(index(0, 1), index(int(m_items.size()) - 1, 1));
+}
+
+void TImageModel::requestThumbnail(int row, int type, const QString &path) const
+{
+    if (m_pending.contains(row))
+        return;
+    // The pool must not delete the task: the pending table shares it. The last owner
+    // hands it back to the model's thread for deletion, so its signal connections are
+    // never torn down on a worker thread.
+    std::shared_ptr<ImageLoadTask> task(new ImageLoadTask(row, type, path, m_mode == ListView),
+        [](ImageLoadTask *t) { t->deleteLater(); });
+    task->setAutoDelete(false);
+    connect(task.get(), &ImageLoadTask::finished, this, &TImageModel::onImageLoadTaskFinash,
+        Qt::QueuedConnection);
+    m_pending.insert(row, task);
+    QThreadPool::globalInstance()->start([task] { task->run(); });
+}
+
+void TImageModel::onImageLoadTaskFinash(
+    int row, bool cancel, const QString &imagefile, const QImage &image)
+{
+    Q_UNUSED(cancel)
+    if (!image.isNull() && image.width() > 0 && image.height() > 0) {
+        QMetaObject::invokeMethod(
+            this, [this, row, imagefile, image] { storeThumbnail(row, imagefile, image); },
+            Qt::QueuedConnection);
+    }
+    // A newer request for the same row may have replaced a cancelled one.
+    const auto pending = m_pending.find(row);
+    if (pending != m_pending.end() && (!sender() || pending->get() == sender()))
+        m_pending.erase(pending);
+}
+
+void TImageModel::storeThumbnail(int row, const QString &path, const QImage &image)
+{
+    m_thumbnails.insert(path, new QPixmap(QPixmap::fromImage(image)), 1);
+    if (row >= 0 && row < rowCount())
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1), {ThumbnailRole});
+}
+
+void TImageModel::cancelPendingLoads(int firstRow, int lastRow)
+{
+    for (auto it = m_pending.begin(); it != m_pending.end();) {
+        if (it.key() < firstRow || it.key() > lastRow) {
+            it.value()->cancel();
+            it = m_pending.erase(it);
+        } else {
+            ++it;
+        }
+    }
+}

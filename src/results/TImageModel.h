@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "results/GroupItem.h"
+#include "results/ImageItem.h"
+
+#include <functional>
+#include <memory>
+
+#include <QAbstractListModel>
+#include <QCache>
+#include <QHash>
+#include <QImage>
+#include <QPixmap>
+
+class ImageLoadTask;
+class KvCloudObject;
+
+// Order of the group list. The values are stored and passed around as integers.
+enum SortRole {
+    ByName = 0,
+    BySize = 1,
+    ByCount = 2,
+    ByType = 3,
+    BySelected = 4,
+};
+
+// The item model behind the result lists: one row per group (ListView) or one row per
+// file of the open group (IconView). It keeps a master list of everything loaded and a
+// displayed list that the filters cut down; views only ever see the displayed list.
+class TImageModel : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    enum DataModel {
+        ListView = 0,
+        IconView = 1,
+    };
+
+    enum Roles {
+        FilePathRole = Qt::UserRole + 1, // 257
+        KeyRole = 258,
+        FilesRole = 259,
+        ThumbnailRole = 260,
+        NameRole = 261, // group name; an item's extra text
+        TypeRole = 262,
+        DateRole = 263,
+        SizeTextRole = 264,
+        CountRole = 265,
+        SelectedCountRole = 266,
+        DimensionsRole = 267,
+        CheckedRole = 270,
+        HiddenRole = 271,
+        GroupIndexRole = 272,
+        SimilarityRole = 273,
+        DisplayNameRole = 274,
+    };
+
+    static constexpr int kPathNameMode = 20;
+
+    // Reads one property of a cloud item (id, property name). Installed by the cloud
+    // source, which owns the cloud library's interface.
+    using CloudPropertyGetter
+        = std::function<QVariant(KvCloudObject *, const QString &, const QString &)>;
+    static void setCloudPropertyGetter(CloudPropertyGetter getter);
+
+    TImageModel(DataModel mode, int thumbnailCacheSize);
+    ~TImageModel() override;
+
+    DataModel mode() const { return m_mode; }
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    // notify makes the model report the selection even when the value did not change.
+    bool setData(const QModelIndex &index, const QVariant &value, int role, bool notify);
+    bool removeRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
+
+    void loadAllGroups(SortRole role, bool isCloud = false, KvCloudObject *cloud = nullptr);
+    void setItems(const QList<ImageItem> &items);
+    void clear();
+
+    void sort(SortRole role, bool descending);
+    void filterByName(const QString &text);
+    void filterByType(int type);
+    void filterByShow(int mode, int minSimilarity);
+    // Back to the whole master group list.
+    void resetGroupFilter();
+
+    void refreshGroupSelection(const QModelIndexList &indexes);
+    void refreshItemSelection();
+    void removeDeletedFile(const QString &key, const QString &path);
+    void cancelPendingLoads(int firstRow, int lastRow);
+    QList<QPair<QString, QStringList>> displayedItemsByGroup() const;
+
+    int nameMode() const { return m_nameMode; }
+    void setNameMode(int mode);
+
+    const QList<GroupItem> &displayedGroups() const { return m_groups; }
+    const QList<GroupItem> &allGroups() const { return m_allGroups; }
+    const QList<ImageItem> &displayedItems() const { return m_items; }
+    const QList<ImageItem> &allItems() const { return m_allItems; }
+    int pendingLoadCount() const { return m_pending.size(); }
+    bool hasThumbnail(const QString &path) const { return m_thumbnails.contains(path); }
+
+    // Shared helpers, public for the pages that show the same texts.
+    static QString sizeText(qint64 bytes);
+    static bool lessThan(const GroupItem &a, const GroupItem &b, SortRole role);
+    // Parallel filter in chunks of 1000 that keeps the source order.
+    template<typename T>
+    static QList<T> fastParallelFilter(
+        const QList<T> &source, const std::function<bool(const T &)> &keep);
+
+signals:
+    void onItemSelectedChange(
+        const QString &key, const QString &file, bool newValue, int groupIndex, bool notify);
+    void onLoadComplated(int count, qint64 totalSize);
+    void updateComplated();
+
+public slots:
+    void onImageLoadTaskFinash(int row, bool cancel, const QString &imagefile, const QImage &image);
+
+private:
+    void rebuildGroupIndex();
+    void rebuildItemIndex();
+    void setDisplayedGroups(const QList<GroupItem> &groups);
+    void requestThumbnail(int row, int type, const QString &path) const;
+    QVariant groupData(const GroupItem &group, int role, int row) const;
+    QVariant itemData(const ImageItem &item, const QModelIndex &index, int role) const;
+    void storeThumbnail(int row, const QString &path, const QImage &image);
+
+    DataModel m_mode;
+    QList<GroupItem> m_allGroups;
+    QList<GroupItem> m_groups;
+    QHash<QString, int> m_groupRows;
+    QList<ImageItem> m_allItems;
+    QList<ImageItem> m_items;
+    QHash<QString, int> m_itemRows;
+    mutable QCache<QString, QPixmap> m_thumbnails;
+    mutable QHash<int, std::shared_ptr<ImageLoadTask>> m_pending;
+    int m_nameMode = kPathNameMode;
+};

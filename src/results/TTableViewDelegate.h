@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPersistentModelIndex>
+#include <QStyledItemDelegate>
+
+// Draws the check box and the two action icons of the detail table of a group's files
+// and turns clicks on them into a check-state change or a signal. An icon fires only
+// when the button goes down and comes up on the same cell.
+class TTableViewDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+public:
+    static constexpr int kCheckColumn = 0;
+    static constexpr int kHideColumn = 4;
+    static constexpr int kOpenColumn = 5;
+    static constexpr int kIconSide = 20;
+
+    explicit TTableViewDelegate(QObject *parent = nullptr);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+        const QModelIndex &index) const override;
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+        const QModelIndex &index) override;
+
+    QModelIndex pressedIndex() const { return m_pressed; }
+    // Square the icon of a cell is painted in (shrunk while the cell is pressed).
+    QRect iconRect(const QRect &cell, bool pressed) const;
+
+signals:
+    void hideClicked(QModelIndex index);
+    void openClicked(QModelIndex index);
+
+private:
+    QPersistentModelIndex m_pressed;
+};
