@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/FileMeta.h"
+
+#include <atomic>
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QMap>
+#include <QMutex>
+#include <QReadWriteLock>
+#include <QStringList>
+#include <QThread>
+
+// Second stage of a local scan: splits the same-size files reported by the scanner into
+// groups of identical files (sampled content key, whole-content key or file name), stores
+// each group with its initial selection in the result store, optionally matches whole
+// folders of duplicates, and sets aside the single pictures for the similar-image stage.
+// Runs on its own thread; the per-group work runs on the global thread pool.
+class DuplicateFileFinder : public QThread
+{
+    Q_OBJECT
+public:
+    using FileMeta = ::FileMeta;
+    using SizeTable = QHash<qint64, QList<FileMeta>>;
+
+    // One folder holding duplicate files, for the folder matching.
+    struct DirMatchInfo
+    {
+        QList<QByteArray> contentKeys;
+        QStringList groupKeys;
+        int fileCount = 0;
+        qint64 totalSize = 0;
+    };
+
+    enum ScanMethod : int { scanContent = 0, scanName = 1, scanAllContent = 2 };
+
+    explicit DuplicateFileFinder(QObject *parent = nullptr);
+    ~DuplicateFileFinder() override;
+
+    void applyConfig(const QJsonObject &duplication);
+    // Shared copies of the controller's scan table; called before start().
+    void setInput(const SizeTable &table, const QStringList &files);
+
+    void requestStop() { stopRequested.store(1); }
+    bool isStopRequested() const { return stopRequested.load() != 0; }
+
+    QStringList uniqueImageFiles() const;
+    int duplicateFiles() const { return duplicateFileCount.load(); }
+    qint64 duplicateSize() const { return duplicateTotalSize.load(); }
+    int scanMethodInUse() const { return scanMethod; }
+    bool matchesFolders() const { return scanDupDirectory; }
+    int selectHint() const { return duplicateSelectHint; }
+    QJsonObject configuration() const { return config; }
+
+    // Content keys: 16 lower-case hexadecimal digits of an XXH3-64 digest; empty when the
+    // file cannot be read (or is empty).
+    // Sampled: the whole file up to 12,288 bytes, else 4 KiB at 0, n/2-2048 and n-4096.
+    static QByteArray calculateFileHash(const QString &filePath, qint64 size, int driveType);
+    // The whole content.
+    static QByteArray streamHash(const QString &filePath, int driveType);
+    // Upper-case hexadecimal MD5 of the file name (the name mode).
+    static QByteArray nameKey(const QString &filePath);
+
+signals:
+    void progressUpdated(int progressType, double percent);
+    void onFindItem(int number, qint64 totalSize);
+    void scanFinished();
+
+protected:
+    void run() override;
+
+private:
+    void processDuplicates();
+    void hashGroup(const QList<FileMeta> &sizeGroup);
+    void processDirectories();
+    void storeGroup(
+        const QList<FileMeta> &sizeGroup, const QByteArray &contentKey, const QStringList &paths);
+
+    SizeTable sizeTable;
+    QStringList allFiles;
+    QStringList uniqueImages;
+    QHash<QString, DirMatchInfo> dirTable;
+    mutable QMutex m_mutex;
+    std::atomic<qint64> stopRequested {0};
+    QElapsedTimer m_timer;
+    QReadWriteLock m_lock;
+    std::atomic<int> duplicateFileCount {0};
+    std::atomic<qint64> duplicateTotalSize {0};
+    QJsonObject config;
+    int scanMethod = scanContent;
+    bool scanDupDirectory = false;
+    int duplicateSelectHint = 2;
+    QMap<QString, int> mapPriority;
+
+    // Progress of the file phase, shared by the pool threads.
+    QList<QList<FileMeta>> m_candidates;
+    std::atomic<int> m_done {0};
+    std::atomic<qint64> m_lastReportMs {0};
+    QHash<QByteArray, QStringList> m_signatureTable;
+};

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScanTree.h"
+#include "engine/DuplicateFileFinder.h"
+#include "engine/TFileData.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QByteArray withByteChanged(QByteArray data, qint64 offset)
+{
+    data[offset] = char(data[offset] ^ 0x5A);
+    return data;
+}
+
+// Runs the finder over real files and returns its groups as sorted lists of names.
+QList<QStringList> findGroups(const QString &root, const QStringList &names, int method,
+    int driveType = 0, bool folders = false, int hint = 8, QStringList *uniqueImages = nullptr)
+{
+    TFileData::instance()->clear();
+    DuplicateFileFinder::SizeTable table;
+    QStringList all;
+    for (const QString &name : names) {
+        const QString path = root + QLatin1Char('/') + name;
+        const qint64 size = QFileInfo(path).size();
+        table[size].append(FileMeta {size, path, driveType});
+        all.append(path);
+    }
+    DuplicateFileFinder finder;
+    finder.applyConfig(
+        {{"scanMethod", method}, {"scanDupDirectory", folders}, {"duplicateSelectHint", hint}});
+    finder.setInput(table, all);
+    finder.start();
+    finder.wait();
+    if (uniqueImages)
+        *uniqueImages = finder.uniqueImageFiles();
+    QList<QStringList> groups;
+    for (const QStringList &group : TFileData::instance()->groups()) {
+        QStringList relative;
+        for (const QString &path : group)
+            relative.append(path.mid(root.size() + 1));
+        relative.sort();
+        groups.append(relative);
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
+} // namespace
+
+class TestDuplicateFileFinder : public QObject
+{
+    Q_OBJECT
+private slots:
+    void keys_data();
+    void keys();
+    void selectionFollowsHint();
+    void duplicateFolders();
+    void singlePicturesSetAside();
+};
+
+void TestDuplicateFileFinder::keys_data()
+{
+    QTest::addColumn<int>("method");
+    QTest::addColumn<int>("driveType");
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QByteArrayList>("contents");
+    QTest::addColumn<QList<QStringList>>("expected");
+
+    const QByteArray whole = ScanTree::pattern(12288, 1);
+    const QByteArray sampled = ScanTree::pattern(12289, 2);
+    const QByteArray large = ScanTree::pattern(100000, 3);
+    const QByteArray mapped = ScanTree::pattern(2 << 20, 4);
+    const QList<QStringList> pair {{"a", "b"}};
+    const QList<QStringList> none;
+    for (int method : {0, 2}) {
+        const char *m = method == 0 ? "sampled" : "full";
+        QTest::addRow("%s: 12,288 bytes equal", m)
+            << method << 0 << QStringList {"a", "b"} << QByteArrayList {whole, whole} << pair;
+        QTest::addRow("%s: 12,288 bytes, middle byte differs", m)
+            << method << 0 << QStringList {"a", "b"}
+            << QByteArrayList {whole, withByteChanged(whole, 6000)} << none;
+        QTest::addRow("%s: 12,289 bytes equal", m)
+            << method << 0 << QStringList {"a", "b"} << QByteArrayList {sampled, sampled} << pair;
+        // Byte 8192 of a 12,289-byte file is the one byte the three blocks miss.
+        QTest::addRow("%s: 12,289 bytes, unsampled byte differs", m)
+            << method << 0 << QStringList {"a", "b"}
+            << QByteArrayList {sampled, withByteChanged(sampled, 8192)}
+            << (method == 0 ? pair : none);
+        QTest::addRow("%s: large, differs outside the blocks", m)
+            << method << 0 << QStringList {"a", "b"}
+            << QByteArrayList {large, withByteChanged(large, 20000)} << (method == 0 ? pair : none);
+        QTest::addRow("%s: large, differs in the middle block", m)
+            << method << 0 << QStringList {"a", "b"}
+            << QByteArrayList {large, withByteChanged(large, 100000 / 2 - 2048)} << none;
+        QTest::addRow("%s: large, differs in the last byte", m)
+            << method << 0 << QStringList {"a", "b"}
+            << QByteArrayList {large, withByteChanged(large, 99999)} << none;
+        for (int drive : {0, 2}) {
+            QTest::addRow("%s: mapped size, drive %d, differs outside", m, drive)
+                << method << drive << QStringList {"a", "b", "c"}
+                << QByteArrayList {mapped, withByteChanged(mapped, 300000), mapped}
+                << (method == 0 ? QList<QStringList> {{"a", "b", "c"}}
+                                : QList<QStringList> {{"a", "c"}});
+        }
+        QTest::addRow("%s: empty files never grouped", m)
+            << method << 0 << QStringList {"a", "b"} << QByteArrayList {"", ""} << none;
+    }
+    QTest::newRow("name: same name and size, other content")
+        << 1 << 0 << QStringList {"x/same.txt", "y/same.txt", "z/other.txt"}
+        << QByteArrayList {"abc", "xyz", "abc"}
+        << QList<QStringList> {{"x/same.txt", "y/same.txt"}};
+    QTest::newRow("name: same name, other size")
+        << 1 << 0 << QStringList {"x/same.txt", "y/same.txt"} << QByteArrayList {"abc", "abcd"}
+        << none;
+    QTest::newRow("name: names differ in case only")
+        << 1 << 0 << QStringList {"x/A.txt", "y/a.txt"} << QByteArrayList {"abc", "abc"} << none;
+    QTest::newRow("name: empty files never grouped")
+        << 1 << 0 << QStringList {"x/e", "y/e"} << QByteArrayList {"", ""} << none;
+}
+
+void TestDuplicateFileFinder::keys()
+{
+    QFETCH(int, method);
+    QFETCH(int, driveType);
+    QFETCH(QStringList, names);
+    QFETCH(QByteArrayList, contents);
+    QFETCH(QList<QStringList>, expected);
+    QTemporaryDir dir;
+    for (int i = 0; i < names.size(); ++i)
+        QVERIFY(!ScanTree::write(dir.path(), names.at(i), contents.at(i)).isEmpty());
+    QCOMPARE(findGroups(dir.path(), names, method, driveType), expected);
+}
+
+void TestDuplicateFileFinder::selectionFollowsHint()
+{
+    QTemporaryDir dir;
+    const QStringList names {"a.bin", "b.bin", "c.bin"};
+    for (const QString &name : names)
+        ScanTree::write(dir.path(), name, "same bytes");
+    findGroups(dir.path(), names, 0, 0, false, 8);
+    const QString key = TFileData::instance()->groups().keys().value(0);
+    QCOMPARE(TFileData::instance()->selectedCount(key), 0);
+    // Select high-quality keeps the last of equal sizes and selects the others.
+    findGroups(dir.path(), names, 0, 0, false, 6);
+    QCOMPARE(TFileData::instance()->selectedCount(key), 2);
+    QVERIFY(!TFileData::instance()->isSelected(key, dir.path() + "/c.bin"));
+}
+
+void TestDuplicateFileFinder::duplicateFolders()
+{
+    QTemporaryDir dir;
+    QStringList names;
+    for (const QString &folder : {"A", "B", "C", "D"}) {
+        for (int i = 0; i < 3; ++i) {
+            const QString name
+                = QString("%1/%2.bin").arg(folder).arg(folder == QString("C") ? 10 + i : i);
+            ScanTree::write(dir.path(), name, ScanTree::pattern(5000 + i, char(i)));
+            names.append(name);
+        }
+    }
+    // C holds one extra file without a copy; D one extra hidden file, which is not
+    // counted.
+    ScanTree::write(dir.path(), "C/unique.bin", ScanTree::pattern(7777, 9));
+    names.append("C/unique.bin");
+    ScanTree::write(dir.path(), "D/.hidden", ScanTree::pattern(7778, 9));
+
+    const QList<QStringList> groups = findGroups(dir.path(), names, 0, 0, true);
+    const TFileData::DirGroups dirGroups = TFileData::instance()->dirGroups();
+    QCOMPARE(dirGroups.size(), 1);
+    QStringList folders;
+    for (const DirGroupEntry &entry : dirGroups.begin().value()) {
+        folders.append(entry.folderPath.mid(dir.path().size() + 1));
+        QCOMPARE(entry.fileCount, 3);
+        QCOMPARE(entry.totalSize, qint64(5000 + 5001 + 5002));
+    }
+    QCOMPARE(folders, (QStringList {"A", "B", "D"}));
+    // The files of the matched folders leave their groups; C's copies alone are no group.
+    QVERIFY(groups.isEmpty());
+
+    // Without folder matching every content is a group of four.
+    QCOMPARE(findGroups(dir.path(), names, 0, 0, false).size(), 3);
+}
+
+void TestDuplicateFileFinder::singlePicturesSetAside()
+{
+    QTemporaryDir dir;
+    ScanTree::write(dir.path(), "photo.jpg", "jpeg-ish");
+    ScanTree::write(dir.path(), "note.txt", "a longer note");
+    ScanTree::write(dir.path(), "p1.png", "twin");
+    ScanTree::write(dir.path(), "p2.png", "twix");
+    QStringList images;
+    findGroups(dir.path(), {"photo.jpg", "note.txt", "p1.png", "p2.png"}, 0, 0, false, 8, &images);
+    images.sort();
+    QCOMPARE(images,
+        (QStringList {dir.path() + "/p1.png", dir.path() + "/p2.png", dir.path() + "/photo.jpg"}));
+}
+
+QTEST_GUILESS_MAIN(TestDuplicateFileFinder)
+#include "tst_DuplicateFileFinder.moc"
