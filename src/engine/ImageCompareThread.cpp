@@ -1,0 +1,551 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ImageCompareThread.h"
+
+#include "app/FileTypeCatalogue.h"
+#include "app/TLogger.h"
+#include "engine/TReadImage.h"
+#include "results/GroupItemAutoSelector.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <numeric>
+#include <opencv2/features2d.hpp>
+#include <opencv2/flann.hpp>
+#include <opencv2/img_hash.hpp>
+#include <opencv2/imgproc.hpp>
+#include <vector>
+
+#include <QFileInfo>
+#include <QHash>
+#include <QtConcurrent>
+
+namespace {
+
+// The preference value that means "no automatic selection".
+constexpr int kNoSelectedHint = 8;
+// Above this many pictures the automatic choice takes the cheaper 64-bit hash.
+constexpr int kSmartHashThreshold = 10000;
+// Fixed seed of OpenCV's generator before each LSH index, so that re-runs agree.
+constexpr uint64_t kLshSeed = 0x5eed1234u;
+
+QString what(const std::exception &e)
+{
+    return QString::fromLocal8Bit(e.what()).simplified();
+}
+
+} // namespace
+
+ImageCompareThread::ImageCompareThread(QObject *parent) : QThread(parent)
+{
+    qRegisterMetaType<ImageData>("ImageData");
+}
+
+ImageCompareThread::~ImageCompareThread()
+{
+    cancel();
+    wait();
+}
+
+void ImageCompareThread::applyConfig(const QJsonObject &config)
+{
+    // The pass marks are kept as float on purpose: the percent slider values are small
+    // integers and the comparisons below are made against exactly these values.
+    m_similarityValue = float(config.value(QStringLiteral("SimilarityValue")).toDouble() / 100.0);
+    m_featuresValue = float(config.value(QStringLiteral("FeaturesValue")).toDouble() / 100.0);
+    m_selectedSimilar = config.value(QStringLiteral("selectedSimilar")).toBool();
+    m_selectionHint = config.value(QStringLiteral("selectionHint")).toInt();
+    m_algorithmHint = config.value(QStringLiteral("algorithmHint")).toInt();
+    m_isAddFeatures = config.value(QStringLiteral("isAddFeatures")).toBool();
+    m_isImageType = config.value(QStringLiteral("isImageType")).toBool();
+    m_isImageSize = config.value(QStringLiteral("isImageSize")).toBool();
+    m_imageMinSize = config.value(QStringLiteral("imageMinSize")).toInt();
+    if (m_imageMinSize >= 11)
+        m_imageMinSize = 4;
+    // A limit below 1 would leave no ratio interval at all; 1 compares equal ratios only.
+    if (m_imageMinSize < 1)
+        m_imageMinSize = 1;
+    m_cancel.store(0);
+}
+
+void ImageCompareThread::setImagePaths(const QStringList &paths)
+{
+    m_imagePaths = paths;
+}
+
+void ImageCompareThread::setEarlierGroups(const TFileData::Groups &groups)
+{
+    m_earlierGroups = groups;
+}
+
+QString ImageCompareThread::elapsedSeconds() const
+{
+    return QString::number(m_timer.elapsed() / 1000.0, 'f', 3);
+}
+
+void ImageCompareThread::chooseMeasure(int imageCount)
+{
+    if (m_algorithmHint == 2)
+        m_measure = MeasurePHash;
+    else if (m_algorithmHint == 1)
+        m_measure = MeasureHistogram;
+    else
+        m_measure = imageCount > kSmartHashThreshold ? MeasurePHash : MeasureHistogram;
+}
+
+cv::Mat ImageCompareThread::makeHistogram(const cv::Mat &bgr)
+{
+    cv::Mat hist;
+    if (bgr.empty())
+        return hist;
+    if (bgr.channels() == 1) {
+        const int channels[] = {0};
+        const int bins[] = {256};
+        const float range[] = {0, 256};
+        const float *ranges[] = {range};
+        cv::calcHist(&bgr, 1, channels, cv::Mat(), hist, 1, bins, ranges);
+    } else {
+        cv::Mat hsv;
+        cv::cvtColor(bgr, hsv, cv::COLOR_BGR2HSV);
+        const int channels[] = {0, 1};
+        const int bins[] = {50, 60};
+        const float hueRange[] = {0, 180};
+        const float satRange[] = {0, 256};
+        const float *ranges[] = {hueRange, satRange};
+        cv::calcHist(&hsv, 1, channels, cv::Mat(), hist, 2, bins, ranges);
+    }
+    cv::normalize(hist, hist, 0, 1, cv::NORM_MINMAX);
+    return hist;
+}
+
+cv::Mat ImageCompareThread::makePHash(const cv::Mat &bgr)
+{
+    cv::Mat hash;
+    if (!bgr.empty())
+        cv::img_hash::pHash(bgr, hash);
+    return hash;
+}
+
+double ImageCompareThread::hashSimilarity(int distance)
+{
+    return 1.0 / (1.0 + std::exp(6.0 * (double(distance) / 64.0 - 0.25)));
+}
+
+bool ImageCompareThread::aspectRatioCompatible(int wa, int ha, int wb, int hb, double limit)
+{
+    const double ratioA = ha != 0 ? double(wa) / ha : 0.0;
+    const double ratioB = hb != 0 ? double(wb) / hb : 0.0;
+    if (ratioA == 0.0 || ratioB == 0.0)
+        return false;
+    const double r = ratioA / ratioB;
+    return r >= 1.0 / limit && r <= limit;
+}
+
+void ImageCompareThread::loadImages(QList<ImageData> &images)
+{
+    images.clear();
+    for (auto it = m_earlierGroups.cbegin(); it != m_earlierGroups.cend(); ++it) {
+        if (it.value().isEmpty())
+            continue;
+        ImageData data;
+        data.path = stripSimilarTag(it.value().first());
+        data.fromEarlierResult = true;
+        data.key = it.key();
+        images.append(data);
+    }
+    for (const QString &path : std::as_const(m_imagePaths)) {
+        ImageData data;
+        data.path = path;
+        images.append(data);
+    }
+    chooseMeasure(int(images.size()));
+    splog_d(QStringLiteral("[TImageCompareThread]: Start loading image data, number of images "
+                           "[%1]...")
+                .arg(images.size()));
+    const Measure measure = m_measure;
+    QtConcurrent::blockingMap(images, [this, measure](ImageData &data) {
+        data.fileType = QFileInfo(data.path).suffix().toLower();
+        if (isCancelled() || isSimilarExcludedFormat(data.fileType))
+            return;
+        try {
+            int w = 0;
+            int h = 0;
+            const cv::Mat picture = TReadImage::readImage(data.path, &w, &h);
+            if (picture.empty())
+                return;
+            data.width = w;
+            data.height = h;
+            if (measure == MeasurePHash) {
+                data.hash = makePHash(picture);
+                if (data.hash.total() == 8 && data.hash.type() == CV_8UC1)
+                    std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
+            } else {
+                data.hash = makeHistogram(picture);
+            }
+        } catch (const cv::Exception &e) {
+            data.hash.release();
+            splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+        } catch (const std::exception &e) {
+            data.hash.release();
+            splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+        } catch (...) {
+            data.hash.release();
+            splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+        }
+    });
+    emit progressChanged(2, 100);
+    splog_d(QStringLiteral("[TImageCompareThread]: Image data loading completed. Time taken: [%1] "
+                           "seconds. Quantity: [%2]")
+                .arg(elapsedSeconds())
+                .arg(images.size()));
+}
+
+double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) const
+{
+    if (a.hash.empty() || b.hash.empty())
+        return 0.0;
+    try {
+        if (m_measure == MeasurePHash) {
+            if (a.hash.cols != b.hash.cols)
+                return 0.0;
+            const int d = int(cv::norm(a.hash, b.hash, cv::NORM_HAMMING));
+            return hashSimilarity(d);
+        }
+        const int typeA = a.hash.depth();
+        const int typeB = b.hash.depth();
+        if (typeA != CV_32F && typeA != CV_64F) {
+            splog_d(QStringLiteral("[ImageCompareThread] img1 type invalid for compareHist: %1")
+                        .arg(a.hash.type()));
+            return 0.0;
+        }
+        if (typeB != CV_32F && typeB != CV_64F) {
+            splog_d(QStringLiteral("[ImageCompareThread] img2 type invalid for compareHist: %1")
+                        .arg(b.hash.type()));
+            return 0.0;
+        }
+        return 1.0 - cv::compareHist(a.hash, b.hash, cv::HISTCMP_BHATTACHARYYA);
+    } catch (const cv::Exception &e) {
+        splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+    } catch (...) {
+        splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+    }
+    return 0.0;
+}
+
+void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups)
+{
+    const int n = int(images.size());
+    QList<QPair<int, int>> links;
+    // similarity of image j, packed with the index i that wrote it: the value kept is the
+    // one of the largest i, which is what a sequential run in index order leaves behind,
+    // so that the result does not depend on the order in which the pool runs the tasks.
+    std::vector<std::atomic<quint64>> written(size_t(std::max(n, 0)));
+    for (auto &w : written)
+        w.store(0);
+    std::atomic_int finishedIndexes {0};
+
+    // The 64-bit hashes are compared as integers: the same Hamming distance as the matrix
+    // norm of compareFast, without a matrix operation per pair.
+    double hashTable[65];
+    for (int d = 0; d <= 64; ++d)
+        hashTable[d] = hashSimilarity(d);
+    const bool fastHash = m_measure == MeasurePHash;
+    const double passMark = double(m_similarityValue);
+    const double limit = double(m_imageMinSize);
+
+    QList<int> indexes(n);
+    std::iota(indexes.begin(), indexes.end(), 0);
+    QtConcurrent::blockingMap(indexes, [&](int i) {
+        const ImageData &a = images.at(i);
+        const bool aHash = fastHash && a.hash.total() == 8;
+        QList<QPair<int, int>> local;
+        for (int j = i + 1; j < n; ++j) {
+            if (isCancelled())
+                break;
+            const ImageData &b = images.at(j);
+            if (a.fromEarlierResult && b.fromEarlierResult)
+                continue;
+            if (m_isImageType && a.fileType != b.fileType)
+                continue;
+            if (m_isImageSize
+                && !aspectRatioCompatible(a.width, a.height, b.width, b.height, limit))
+                continue;
+            double similarity;
+            if (aHash && b.hash.total() == 8)
+                similarity = hashTable[qPopulationCount(a.hashBits ^ b.hashBits)];
+            else
+                similarity = compareFast(a, b);
+            if (similarity < passMark)
+                continue;
+            double percent = similarity * 100.0;
+            // A picture is never shown as 100 % similar to another one.
+            if (percent >= 100.0)
+                percent = 99.0;
+            const quint64 packed = (quint64(i + 1) << 32) | quint32(int(percent));
+            quint64 current = written[size_t(j)].load();
+            while (current < packed && !written[size_t(j)].compare_exchange_weak(current, packed)) {
+            }
+            local.append(qMakePair(i, j));
+        }
+        if (!local.isEmpty()) {
+            QMutexLocker locker(&m_linkMutex);
+            links.append(local);
+        }
+        finishedIndexes.fetch_add(1);
+    });
+    for (int j = 0; j < n; ++j) {
+        const quint64 packed = written[size_t(j)].load();
+        if (packed != 0)
+            images[j].similarity = qint32(packed & 0xffffffffu);
+    }
+
+    std::vector<std::vector<int>> adjacency(size_t(std::max(n, 0)));
+    for (const auto &link : std::as_const(links)) {
+        adjacency[size_t(link.first)].push_back(link.second);
+        adjacency[size_t(link.second)].push_back(link.first);
+    }
+    std::vector<char> placed(size_t(std::max(n, 0)), 0);
+    for (int start = 0; start < n; ++start) {
+        if (placed[size_t(start)] || adjacency[size_t(start)].empty())
+            continue;
+        QList<ImageData> group;
+        std::vector<int> stack {start};
+        placed[size_t(start)] = 1;
+        while (!stack.empty()) {
+            const int k = stack.back();
+            stack.pop_back();
+            group.append(images.at(k));
+            for (int next : adjacency[size_t(k)]) {
+                if (!placed[size_t(next)]) {
+                    placed[size_t(next)] = 1;
+                    stack.push_back(next);
+                }
+            }
+        }
+        std::sort(group.begin(), group.end(),
+            [](const ImageData &x, const ImageData &y) { return x.similarity > y.similarity; });
+        groups.append(group);
+    }
+
+    emit progressChanged(3, 100);
+    if (m_measure == MeasurePHash)
+        splog_d(
+            QStringLiteral("[TImageCompareThread]: Hash matching process completed. Time taken: "
+                           "[%1] seconds. Quantity: [%2]")
+                .arg(elapsedSeconds())
+                .arg(groups.size()));
+    else
+        splog_d(QStringLiteral("[TImageCompareThread]: Histogram matching process completed. Time "
+                               "taken: [%1] seconds. Quantity: [%2]")
+                    .arg(elapsedSeconds())
+                    .arg(groups.size()));
+}
+
+cv::Mat ImageCompareThread::computeDescriptors(const cv::Mat &bgr)
+{
+    if (bgr.empty())
+        return {};
+    cv::Mat picture = bgr.clone();
+    if (picture.cols < 5 || picture.rows < 5)
+        cv::resize(picture, picture, cv::Size(), 5.0, 5.0, cv::INTER_LINEAR);
+    if (picture.cols > 512 || picture.rows > 512) {
+        const double scale = std::min(512.0 / picture.cols, 512.0 / picture.rows);
+        const int w = std::max(1, int(picture.cols * scale));
+        const int h = std::max(1, int(picture.rows * scale));
+        if (w <= 5 || h <= 5) {
+            splog_d(QStringLiteral("[ImageData] Invalid resize dimensions calculated: width or "
+                                   "height <= 5"));
+            return {};
+        }
+        cv::resize(picture, picture, cv::Size(w, h), 0, 0, cv::INTER_LINEAR);
+    }
+    cv::Ptr<cv::ORB> orb = cv::ORB::create(500, 1.2f, 8, 31, 0, 2, cv::ORB::HARRIS_SCORE, 31, 20);
+    std::vector<cv::KeyPoint> keyPoints;
+    cv::Mat descriptors;
+    orb->detectAndCompute(picture, cv::noArray(), keyPoints, descriptors);
+    return descriptors;
+}
+
+double ImageCompareThread::compareFeatures(
+    const cv::Mat &descriptorsA, const cv::Mat &descriptorsB) const
+{
+    if (descriptorsA.empty() || descriptorsB.empty())
+        return 0.0;
+    if (descriptorsA.rows < 2) {
+        splog_d(QStringLiteral("[TImageCompareThread]: img1 descriptor count less than 2, skipping "
+                               "knnSearch."));
+        return 0.0;
+    }
+    try {
+        // The LSH tables draw their bit selections from OpenCV's (per-thread) generator.
+        cv::theRNG() = cv::RNG(kLshSeed);
+        cv::flann::Index index(
+            descriptorsA, cv::flann::LshIndexParams(12, 20, 2), cvflann::FLANN_DIST_HAMMING);
+        cv::Mat indices;
+        cv::Mat distances;
+        index.knnSearch(descriptorsB, indices, distances, 2, cv::flann::SearchParams(32, 0, true));
+        int good = 0;
+        for (int r = 0; r < indices.rows; ++r) {
+            if (indices.at<int>(r, 0) < 0 || indices.at<int>(r, 1) < 0)
+                continue;
+            const float d1 = float(distances.at<int>(r, 0));
+            const float d2 = float(distances.at<int>(r, 1));
+            if (d2 <= 0.0f)
+                continue;
+            const float ratio = d1 / d2;
+            if (double(ratio) < 0.9)
+                ++good;
+        }
+        return double(good) / double(std::max(descriptorsA.rows, descriptorsB.rows));
+    } catch (const cv::Exception &e) {
+        splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+    } catch (...) {
+        splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+    }
+    return 0.0;
+}
+
+void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
+{
+    splog_d(QStringLiteral("[TImageCompareThread]: Start OBR special symptom point deduplication. "
+                           "Quantity: [%1]...")
+                .arg(groups.size()));
+    int total = 0;
+    for (const auto &group : std::as_const(groups))
+        total += int(group.size());
+    std::atomic_int done {0};
+    const double passMark = double(m_featuresValue);
+    auto step = [&] {
+        const int now = done.fetch_add(1) + 1;
+        if (total > 0)
+            emit progressChanged(4, now * 100 / total);
+    };
+    QtConcurrent::blockingMap(groups, [&](QList<ImageData> &group) {
+        if (isCancelled() || group.isEmpty())
+            return;
+        try {
+            ImageData reference = group.first();
+            reference.descriptors = computeDescriptors(TReadImage::readImage(reference.path));
+            if (reference.descriptors.empty())
+                return;
+            step();
+            QList<ImageData> kept {reference};
+            for (int k = 1; k < group.size(); ++k) {
+                if (isCancelled())
+                    return; // the group stays as it was
+                ImageData candidate = group.at(k);
+                candidate.descriptors = computeDescriptors(TReadImage::readImage(candidate.path));
+                if (candidate.descriptors.empty())
+                    continue;
+                step();
+                if (compareFeatures(reference.descriptors, candidate.descriptors) >= passMark)
+                    kept.append(candidate);
+            }
+            group = kept;
+        } catch (const cv::Exception &e) {
+            splog_d(QStringLiteral("[TImageCompareThread]: OpenCV Exception: [%1].").arg(what(e)));
+        } catch (const std::exception &e) {
+            splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+        } catch (...) {
+            splog_d(QStringLiteral("[TImageCompareThread]: Unknown exception caught."));
+        }
+    });
+    // A picture left alone by the re-check is no longer similar to anything.
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                     [](const QList<ImageData> &g) { return g.size() < 2; }),
+        groups.end());
+    emit progressChanged(4, 100);
+    splog_d(QStringLiteral("[TImageCompareThread]: OBR special point deduplication completed. Time "
+                           "taken: [%1] seconds. Quantity: [%2]")
+                .arg(elapsedSeconds())
+                .arg(groups.size()));
+}
+
+QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>> &groups)
+{
+    QMutex newGroupsMutex;
+    QList<GroupItemAutoSelector::KeyedGroup> newGroups;
+    TFileData *store = TFileData::instance();
+    auto entryOf = [](const ImageData &image) {
+        return image.path + kSimilarTag + QLatin1Char('_') + QString::number(image.similarity);
+    };
+    QtConcurrent::blockingMap(groups, [&](const QList<ImageData> &group) {
+        QList<ImageData> earlier;
+        QStringList entries;
+        for (const ImageData &image : group) {
+            if (image.fromEarlierResult) {
+                earlier.append(image);
+                continue;
+            }
+            m_fileCount.fetch_add(1);
+            m_fileBytes.fetch_add(QFileInfo(image.path).size());
+            entries.append(entryOf(image));
+        }
+        if (entries.isEmpty())
+            return;
+        if (earlier.isEmpty()) {
+            if (entries.size() < 2)
+                return;
+            const QString key = TFileData::groupKey(entries.first());
+            store->insertGroup(key, entries);
+            QMutexLocker locker(&newGroupsMutex);
+            newGroups.append(qMakePair(key, entries));
+            return;
+        }
+    });
+    // New pictures similar to an earlier group of identical files join that group (the
+    // first earlier member's group); other earlier groups keep their own members. The
+    // merges run one at a time, so two groups joining one earlier group cannot overwrite
+    // each other's additions.
+    for (const QList<ImageData> &group : groups) {
+        auto firstEarlier = std::find_if(
+            group.cbegin(), group.cend(), [](const ImageData &i) { return i.fromEarlierResult; });
+        if (firstEarlier == group.cend())
+            continue;
+        QStringList members = store->group(firstEarlier->key);
+        if (members.isEmpty())
+            continue;
+        bool changed = false;
+        for (const ImageData &image : group) {
+            if (image.fromEarlierResult)
+                continue;
+            const QString entry = entryOf(image);
+            if (!members.contains(entry)) {
+                members.append(entry);
+                changed = true;
+            }
+        }
+        if (changed)
+            store->replaceGroup(firstEarlier->key, members);
+    }
+    if (m_selectedSimilar && m_selectionHint != kNoSelectedHint && !newGroups.isEmpty())
+        GroupItemAutoSelector::autoSelectAllEx(newGroups, m_selectionHint);
+    return qMakePair(m_fileCount.load(), m_fileBytes.load());
+}
+
+void ImageCompareThread::run()
+{
+    m_timer.restart();
+    m_fileCount.store(0);
+    m_fileBytes.store(0);
+    QList<ImageData> images;
+    QList<QList<ImageData>> groups;
+    auto guarded = [](const auto &stage) {
+        try {
+            stage();
+        } catch (const cv::Exception &e) {
+            splog_d(QStringLiteral("[TImageCompareThread]: OpenCV Exception: [%1].").arg(what(e)));
+        } catch (const std::exception &e) {
+            splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+        } catch (...) {
+            splog_d(QStringLiteral("[TImageCompareThread]: Unknown exception caught."));
+        }
+    };
+    guarded([&] { loadImages(images); });
+    guarded([&] { hashCompare(images, groups); });
+    images.clear();
+    if (m_isAddFeatures)
+        guarded([&] { orbFeatureMatch(groups); });
+    guarded([&] { storeGroups(groups); });
+    emit finished(m_fileCount.load(), m_fileBytes.load());
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/ImageData.h"
+#include "engine/TFileData.h"
+
+#include <atomic>
+
+#include <QElapsedTimer>
+#include <QJsonObject>
+#include <QList>
+#include <QMutex>
+#include <QPair>
+#include <QStringList>
+#include <QThread>
+
+// Finds groups of similar pictures among the image files of a scan: decodes every picture
+// to the working size, scores every pair with a perceptual hash or a colour histogram,
+// links the pairs that pass into connected groups, optionally re-checks each group with
+// ORB feature points, and writes the groups into TFileData with tagged member entries.
+// Runs on its own thread; reports only through queued signals.
+class ImageCompareThread : public QThread
+{
+    Q_OBJECT
+public:
+    enum Measure { MeasureHistogram = 1, MeasurePHash = 2 };
+
+    explicit ImageCompareThread(QObject *parent = nullptr);
+    ~ImageCompareThread() override;
+
+    // Settings of the next run (the similar-image preference snapshot).
+    void applyConfig(const QJsonObject &config);
+    // Local image paths to compare.
+    void setImagePaths(const QStringList &paths);
+    // Groups of an earlier result whose pictures take part again; each group is
+    // represented by its first member, and new pictures similar to it join that group.
+    void setEarlierGroups(const TFileData::Groups &groups);
+    // Raises the cancel flag: pair tasks stop at their next pair, ORB tasks at their next
+    // group; the run then stores what it found.
+    void cancel() { m_cancel.store(1); }
+    bool isCancelled() const { return m_cancel.load() != 0; }
+
+    // The stages, public so that tests can drive each one.
+    void loadImages(QList<ImageData> &images);
+    void hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups);
+    void orbFeatureMatch(QList<QList<ImageData>> &groups);
+    // Writes the groups into TFileData (and their automatic selection); returns the
+    // number of new files and their total bytes.
+    QPair<int, qint64> storeGroups(const QList<QList<ImageData>> &groups);
+
+    // Pair measures, 0..1.
+    double compareFast(const ImageData &a, const ImageData &b) const;
+    double compareFeatures(const cv::Mat &descriptorsA, const cv::Mat &descriptorsB) const;
+
+    // Fast-measure matrix of one decoded picture for the given measure.
+    static cv::Mat makeHistogram(const cv::Mat &bgr);
+    static cv::Mat makePHash(const cv::Mat &bgr);
+    // 1 / (1 + e^(6 (d / 64 - 0.25))) for a Hamming distance d of two 64-bit hashes.
+    static double hashSimilarity(int distance);
+    // ORB descriptors of a picture (copied, resized to at most 512 x 512); empty when the
+    // picture is too small or has no key points.
+    static cv::Mat computeDescriptors(const cv::Mat &bgr);
+    // Whether two pictures pass the aspect-ratio filter with the given limit.
+    static bool aspectRatioCompatible(int wa, int ha, int wb, int hb, double limit);
+
+    Measure measure() const { return m_measure; }
+    float similarityThreshold() const { return m_similarityValue; }
+    float featuresThreshold() const { return m_featuresValue; }
+    int aspectLimit() const { return m_imageMinSize; }
+
+signals:
+    void finished(int count, qint64 size);
+    void progressChanged(int progressType, int progress);
+
+protected:
+    void run() override;
+
+private:
+    QString elapsedSeconds() const;
+    void chooseMeasure(int imageCount);
+
+    // Settings.
+    float m_similarityValue = 0.0f;
+    float m_featuresValue = 0.0f;
+    bool m_selectedSimilar = false;
+    int m_selectionHint = 0;
+    int m_algorithmHint = 0;
+    bool m_isAddFeatures = true;
+    bool m_isImageType = true;
+    bool m_isImageSize = true;
+    int m_imageMinSize = 4;
+
+    // Input.
+    QStringList m_imagePaths;
+    TFileData::Groups m_earlierGroups;
+
+    // Run state.
+    std::atomic_int m_cancel {0};
+    QElapsedTimer m_timer;
+    Measure m_measure = MeasureHistogram;
+    std::atomic_int m_fileCount {0};
+    std::atomic<qint64> m_fileBytes {0};
+    QMutex m_linkMutex;
+};

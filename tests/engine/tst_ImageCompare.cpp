@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Similar-picture grouping: the two fast measures, the filters, the transitive groups, the
+// ORB re-check, the entries written into the result store, and cancelling a run.
+
+#include "ImageFixtures.h"
+#include "TestEnvironment.h"
+#include "app/FileTypeCatalogue.h"
+#include "engine/ImageCompareThread.h"
+#include "engine/TFileData.h"
+
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+static TestEnvironment environment;
+
+class tst_ImageCompare : public QObject
+{
+    Q_OBJECT
+private:
+    QTemporaryDir m_dir;
+
+    static QJsonObject config(int algorithm, bool features = false, bool sameType = true,
+        bool ratio = true, int limit = 4)
+    {
+        return QJsonObject {{"SimilarityValue", 55}, {"FeaturesValue", 50},
+            {"selectedSimilar", false}, {"selectionHint", 2}, {"algorithmHint", algorithm},
+            {"isAddFeatures", features}, {"isImageType", sameType}, {"isImageSize", ratio},
+            {"imageMinSize", limit}};
+    }
+    QString write(const QString &name, const cv::Mat &mat, std::vector<int> params = {})
+    {
+        const QString path = m_dir.filePath(name);
+        if (!cv::imwrite(QFile::encodeName(path).toStdString(), mat, params))
+            return {};
+        return path;
+    }
+    // Loads the given files through the thread's own loading stage.
+    static QList<ImageData> load(ImageCompareThread &thread, const QStringList &paths)
+    {
+        thread.setImagePaths(paths);
+        QList<ImageData> images;
+        thread.loadImages(images);
+        return images;
+    }
+    static ImageData hashed(const QString &name, quint64 bits)
+    {
+        ImageData d;
+        d.path = name;
+        d.fileType = QStringLiteral("jpg");
+        d.width = 400;
+        d.height = 300;
+        d.hashBits = bits;
+        d.hash = cv::Mat(1, 8, CV_8UC1);
+        std::memcpy(d.hash.ptr(), &bits, 8);
+        return d;
+    }
+
+private slots:
+    void initTestCase() { QVERIFY(m_dir.isValid()); }
+    void init() { TFileData::instance()->clear(); }
+
+    void identicalPictures_data()
+    {
+        QTest::addColumn<int>("algorithm");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("histogram") << 1 << 1.0;
+        QTest::newRow("phash") << 2 << 1.0 / (1.0 + std::exp(-1.5));
+    }
+    void identicalPictures()
+    {
+        QFETCH(int, algorithm);
+        QFETCH(double, expected);
+        const cv::Mat scene = fixtures::makeScene(300, 200, 11);
+        const QString a = write(QStringLiteral("same_a.png"), scene);
+        const QString b = write(QStringLiteral("same_b.png"), scene);
+        ImageCompareThread thread;
+        thread.applyConfig(config(algorithm));
+        QList<ImageData> images = load(thread, {a, b});
+        QCOMPARE(thread.measure(),
+            algorithm == 1 ? ImageCompareThread::MeasureHistogram
+                           : ImageCompareThread::MeasurePHash);
+        QVERIFY(qAbs(thread.compareFast(images[0], images[1]) - expected) < 1e-6);
+        QList<QList<ImageData>> groups;
+        thread.hashCompare(images, groups);
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups[0].size(), 2);
+        // Never shown as 100 %: the histogram's 1.0 is stored as 99, the hash's 0.82 as 81.
+        QCOMPARE(groups[0][0].similarity, algorithm == 1 ? 99 : 81);
+    }
+
+    void measureChoice_data()
+    {
+        QTest::addColumn<int>("hint");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("measure");
+        QTest::newRow("smart small") << 0 << 3 << int(ImageCompareThread::MeasureHistogram);
+        QTest::newRow("smart above 10000") << 0 << 10001 << int(ImageCompareThread::MeasurePHash);
+        QTest::newRow("histogram forced")
+            << 1 << 10001 << int(ImageCompareThread::MeasureHistogram);
+        QTest::newRow("phash forced") << 2 << 3 << int(ImageCompareThread::MeasurePHash);
+    }
+    void measureChoice()
+    {
+        QFETCH(int, hint);
+        QFETCH(int, count);
+        QFETCH(int, measure);
+        ImageCompareThread thread;
+        thread.applyConfig(config(hint));
+        // Files that do not exist are cheap: they stay empty and are counted.
+        QStringList paths;
+        for (int i = 0; i < count; ++i)
+            paths << m_dir.filePath(QStringLiteral("missing_%1.svg").arg(i));
+        const QList<ImageData> images = load(thread, paths);
+        QCOMPARE(images.size(), count);
+        QCOMPARE(int(thread.measure()), measure);
+    }
+
+    void aspectRatio_data()
+    {
+        QTest::addColumn<int>("wa");
+        QTest::addColumn<int>("ha");
+        QTest::addColumn<int>("configuredLimit");
+        QTest::addColumn<bool>("compared");
+        QTest::newRow("4:1 against 1:1, limit 4") << 4000 << 1000 << 4 << true;
+        QTest::newRow("5:1 against 1:1, limit 4") << 5000 << 1000 << 4 << false;
+        QTest::newRow("11 behaves as 4, inside") << 4000 << 1000 << 11 << true;
+        QTest::newRow("11 behaves as 4, outside") << 5000 << 1000 << 11 << false;
+        QTest::newRow("1:4 against 1:1") << 1000 << 4000 << 4 << true;
+        QTest::newRow("zero height") << 1000 << 0 << 4 << false;
+        QTest::newRow("limit 2") << 3000 << 1000 << 2 << false;
+    }
+    void aspectRatio()
+    {
+        QFETCH(int, wa);
+        QFETCH(int, ha);
+        QFETCH(int, configuredLimit);
+        QFETCH(bool, compared);
+        ImageCompareThread thread;
+        thread.applyConfig(config(2, false, true, true, configuredLimit));
+        thread.setImagePaths({});
+        QList<ImageData> none;
+        thread.loadImages(none);
+        // Two pictures with equal hashes: only the ratio filter can keep them apart.
+        ImageData a = hashed(QStringLiteral("a.jpg"), 0x0123456789abcdefULL);
+        ImageData b = hashed(QStringLiteral("b.jpg"), 0x0123456789abcdefULL);
+        a.width = wa;
+        a.height = ha;
+        b.width = 1000;
+        b.height = 1000;
+        QList<ImageData> images {a, b};
+        QList<QList<ImageData>> groups;
+        thread.hashCompare(images, groups);
+        QCOMPARE(groups.size(), compared ? 1 : 0);
+    }
+
+    void filtersAndTransitiveGroups()
+    {
+        ImageCompareThread thread;
+        thread.applyConfig(config(2));
+        thread.setImagePaths({});
+        QList<ImageData> none;
+        thread.loadImages(none);
+        // P-Q and Q-R differ in 10 bits (similarity 0.64), P-R in 20 bits (0.35).
+        const quint64 p = 0;
+        const quint64 q = (1ULL << 10) - 1;
+        const quint64 r = ((1ULL << 20) - 1);
+        ImageData earlierA = hashed(QStringLiteral("e1.jpg"), 0xffff0000ffff0000ULL);
+        earlierA.fromEarlierResult = true;
+        ImageData earlierB = earlierA;
+        earlierB.path = QStringLiteral("e2.jpg");
+        ImageData png = hashed(QStringLiteral("x.png"), 0xffffffff00000000ULL);
+        png.fileType = QStringLiteral("png");
+        ImageData jpg = hashed(QStringLiteral("x.jpg"), 0xffffffff00000000ULL);
+        QList<ImageData> images {hashed(QStringLiteral("p.jpg"), p), earlierA, png,
+            hashed(QStringLiteral("q.jpg"), q), earlierB, hashed(QStringLiteral("r.jpg"), r), jpg};
+        QList<QList<ImageData>> groups;
+        thread.hashCompare(images, groups);
+        // Two earlier entries are never compared again; a PNG and a JPEG are not compared.
+        QCOMPARE(groups.size(), 1);
+        QStringList names;
+        for (const ImageData &d : groups[0])
+            names << d.path;
+        names.sort();
+        QCOMPARE(names, QStringList({"p.jpg", "q.jpg", "r.jpg"}));
+        // Sorted by similarity, highest first.
+        for (int k = 1; k < groups[0].size(); ++k)
+            QVERIFY(groups[0][k - 1].similarity >= groups[0][k].similarity);
+
+        // Without the type filter the PNG and the JPEG copy form a group of their own.
+        thread.applyConfig(config(2, false, false));
+        thread.loadImages(none);
+        groups.clear();
+        thread.hashCompare(images, groups);
+        QCOMPARE(groups.size(), 2);
+    }
+
+    void featureRecheckDropsUnrelated()
+    {
+        const cv::Mat scene = fixtures::makeScene(640, 480, 21);
+        const QString original
+            = write(QStringLiteral("orb_original.jpg"), scene, {cv::IMWRITE_JPEG_QUALITY, 95});
+        const QString copy
+            = write(QStringLiteral("orb_copy.jpg"), scene, {cv::IMWRITE_JPEG_QUALITY, 60});
+        const QString other
+            = write(QStringLiteral("orb_other.jpg"), fixtures::makeScene(640, 480, 22));
+        ImageCompareThread thread;
+        thread.applyConfig(config(1, true));
+        QList<ImageData> images = load(thread, {original, copy, other});
+        images[0].similarity = 90;
+        images[1].similarity = 80;
+        images[2].similarity = 70;
+        QList<QList<ImageData>> groups {{images[0], images[1], images[2]}, {images[0], images[2]}};
+        QSignalSpy progress(&thread, &ImageCompareThread::progressChanged);
+        thread.orbFeatureMatch(groups);
+        // The unrelated picture leaves the first group; the second is left with one
+        // picture and disappears.
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups[0].size(), 2);
+        QCOMPARE(groups[0][0].path, original);
+        QCOMPARE(groups[0][1].path, copy);
+        QVERIFY(!progress.isEmpty());
+        QCOMPARE(progress.last().at(0).toInt(), 4);
+        QCOMPARE(progress.last().at(1).toInt(), 100);
+
+        // The measure itself: a picture against itself passes, against another it fails.
+        const cv::Mat d1 = ImageCompareThread::computeDescriptors(scene);
+        const cv::Mat d2
+            = ImageCompareThread::computeDescriptors(fixtures::makeScene(640, 480, 22));
+        QVERIFY(thread.compareFeatures(d1, d1) > 0.5);
+        QVERIFY(thread.compareFeatures(d1, d2) < 0.5);
+        QCOMPARE(thread.compareFeatures(d1, cv::Mat()), 0.0);
+        // Same inputs, same answer: the LSH index is seeded before it is built.
+        QCOMPARE(thread.compareFeatures(d1, d2), thread.compareFeatures(d1, d2));
+        QVERIFY(ImageCompareThread::computeDescriptors(cv::Mat(3000, 4, CV_8UC3)).empty());
+    }
+
+    void fullRunStoresTaggedGroups()
+    {
+        const cv::Mat scene = fixtures::makeScene(500, 400, 31);
+        const QString a = write(QStringLiteral("run_a.jpg"), scene, {cv::IMWRITE_JPEG_QUALITY, 95});
+        const QString b = write(QStringLiteral("run_b.jpg"), scene, {cv::IMWRITE_JPEG_QUALITY, 60});
+        const QString c = write(QStringLiteral("run_c.jpg"), fixtures::makeScene(500, 400, 32));
+        ImageCompareThread thread;
+        QJsonObject cfg = config(1, true);
+        thread.applyConfig(cfg);
+        thread.setImagePaths({a, b, c});
+        QSignalSpy finished(&thread, &ImageCompareThread::finished);
+        thread.start();
+        QVERIFY(thread.wait(120000));
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(finished.first().at(0).toInt(), 2);
+        QCOMPARE(finished.first().at(1).toLongLong(), QFileInfo(a).size() + QFileInfo(b).size());
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        QCOMPARE(groups.size(), 1);
+        const QString key = groups.constBegin().key();
+        const QStringList entries = groups.constBegin().value();
+        QCOMPARE(entries.size(), 2);
+        QCOMPARE(key, TFileData::groupKey(entries.first()));
+        for (const QString &entry : entries) {
+            QVERIFY(isSimilarEntry(entry));
+            const QString path = stripSimilarTag(entry);
+            QVERIFY(path == a || path == b);
+            const int percent = entry.section(QLatin1Char('_'), -1).toInt();
+            QVERIFY(percent < 100);
+        }
+    }
+
+    void earlierGroupReceivesNewPictures()
+    {
+        const cv::Mat scene = fixtures::makeScene(300, 300, 41);
+        const QString dup1 = write(QStringLiteral("dup1.png"), scene);
+        const QString dup2 = write(QStringLiteral("dup2.png"), scene);
+        cv::Mat touched = scene.clone();
+        cv::rectangle(
+            touched, cv::Point(10, 10), cv::Point(40, 30), cv::Scalar(0, 0, 255), cv::FILLED);
+        const QString similar = write(QStringLiteral("near.png"), touched);
+        const QString key = TFileData::groupKey(dup1);
+        TFileData::instance()->insertGroup(key, {dup1, dup2});
+        ImageCompareThread thread;
+        thread.applyConfig(config(1));
+        thread.setEarlierGroups(TFileData::instance()->imageGroups());
+        thread.setImagePaths({similar});
+        QSignalSpy finished(&thread, &ImageCompareThread::finished);
+        thread.start();
+        QVERIFY(thread.wait(120000));
+        QCOMPARE(finished.first().at(0).toInt(), 1);
+        const QStringList members = TFileData::instance()->group(key);
+        QCOMPARE(members.size(), 3);
+        QCOMPARE(members.mid(0, 2), QStringList({dup1, dup2}));
+        QCOMPARE(stripSimilarTag(members.at(2)), similar);
+        QCOMPARE(TFileData::instance()->groupCount(), 1);
+    }
+
+    void cancelMidRun()
+    {
+        QStringList paths;
+        const cv::Mat scene = fixtures::makeScene(800, 600, 51);
+        for (int i = 0; i < 60; ++i)
+            paths << write(QStringLiteral("many_%1.png").arg(i), scene + cv::Scalar(i % 5, 0, 0));
+        ImageCompareThread thread;
+        thread.applyConfig(config(1, true));
+        thread.setImagePaths(paths);
+        QSignalSpy finished(&thread, &ImageCompareThread::finished);
+        QSignalSpy progress(&thread, &ImageCompareThread::progressChanged);
+        thread.start();
+        thread.cancel();
+        QVERIFY(thread.wait(120000));
+        // The run ends normally with whatever it stored before the flag was seen.
+        QCOMPARE(finished.count(), 1);
+        QVERIFY(thread.isCancelled());
+        QVERIFY(finished.first().at(0).toInt() < paths.size());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ImageCompare)
+#include "tst_ImageCompare.moc"
