@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Measures the similar-picture search on a folder of pictures: runs the comparison's
+// stages one after the other with the given settings, writes the groups as JSON for
+// score_groups.py, and prints pictures per second for loading, pairs per second for
+// comparing, and the peak resident memory. With --baseline it instead times decoding
+// the same files with OpenCV alone, brought to the working size.
+
+#include "app/FileTypeCatalogue.h"
+#include "engine/ImageCompareThread.h"
+#include "engine/TFileData.h"
+
+#include <atomic>
+#include <cstdio>
+#include <opencv2/imgcodecs.hpp>
+#include <opencv2/imgproc.hpp>
+#include <sys/resource.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QtConcurrent>
+
+static double peakMegabytes()
+{
+    rusage usage {};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024.0;
+}
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addPositionalArgument("folder", "Folder of pictures (searched recursively).");
+    parser.addOptions({
+        {"threshold", "Pass mark of the fast measure, percent.", "percent", "55"},
+        {"algorithm", "smart, histogram or phash.", "name", "smart"},
+        {"features", "Pass mark of the ORB re-check, percent.", "percent", "50"},
+        {"no-features", "Leave out the ORB re-check."},
+        {"any-type", "Compare pictures of different file types."},
+        {"any-ratio", "Compare pictures of any aspect ratio."},
+        {"json", "Write the groups to this file.", "file"},
+        {"baseline", "Only decode the files with OpenCV at the working size."},
+    });
+    parser.process(app);
+    if (parser.positionalArguments().size() != 1)
+        parser.showHelp(2);
+
+    QStringList paths;
+    QDirIterator it(
+        parser.positionalArguments().first(), QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        if (isImageFile(path))
+            paths << path;
+    }
+    paths.sort();
+
+    if (parser.isSet("baseline")) {
+        std::atomic_int decoded {0};
+        QElapsedTimer timer;
+        timer.start();
+        QtConcurrent::blockingMap(paths, [&](const QString &path) {
+            cv::Mat mat = cv::imread(QFile::encodeName(path).toStdString(), cv::IMREAD_COLOR);
+            if (mat.empty())
+                return;
+            if (mat.cols > 1024 || mat.rows > 1024) {
+                const double s = std::min(1024.0 / mat.cols, 1024.0 / mat.rows);
+                cv::resize(mat, mat,
+                    cv::Size(std::max(1, int(mat.cols * s)), std::max(1, int(mat.rows * s))), 0, 0,
+                    cv::INTER_AREA);
+            }
+            decoded.fetch_add(1);
+        });
+        const double seconds = timer.elapsed() / 1000.0;
+        std::printf("baseline: %d of %lld files decoded by OpenCV in %.3f s (%.1f pictures/s), "
+                    "peak %.0f MB\n",
+            decoded.load(), qlonglong(paths.size()), seconds, decoded.load() / seconds,
+            peakMegabytes());
+        return 0;
+    }
+
+    const QString algorithm = parser.value("algorithm");
+    const int hint = algorithm == "histogram" ? 1 : algorithm == "phash" ? 2 : 0;
+    const QJsonObject config {{"SimilarityValue", parser.value("threshold").toDouble()},
+        {"FeaturesValue", parser.value("features").toDouble()}, {"selectedSimilar", false},
+        {"selectionHint", 2}, {"algorithmHint", hint},
+        {"isAddFeatures", !parser.isSet("no-features")}, {"isImageType", !parser.isSet("any-type")},
+        {"isImageSize", !parser.isSet("any-ratio")}, {"imageMinSize", 4}};
+    ImageCompareThread compare;
+    compare.applyConfig(config);
+    compare.setImagePaths(paths);
+    QList<ImageData> images;
+    QList<QList<ImageData>> groups;
+    QElapsedTimer timer;
+    timer.start();
+    compare.loadImages(images);
+    const double loadSeconds = timer.restart() / 1000.0;
+    compare.hashCompare(images, groups);
+    const double compareSeconds = timer.restart() / 1000.0;
+    const qint64 n = images.size();
+    images.clear();
+    double orbSeconds = 0;
+    if (!parser.isSet("no-features")) {
+        compare.orbFeatureMatch(groups);
+        orbSeconds = timer.restart() / 1000.0;
+    }
+    const auto totals = compare.storeGroups(groups);
+    const double pairs = double(n) * double(n - 1) / 2.0;
+    std::printf("measure %s, %lld pictures: load %.3f s (%.1f pictures/s), compare %.3f s "
+                "(%.0f pairs/s), re-check %.3f s, %lld groups, %d files, peak %.0f MB\n",
+        compare.measure() == ImageCompareThread::MeasurePHash ? "phash" : "histogram", qlonglong(n),
+        loadSeconds, n / loadSeconds, compareSeconds,
+        compareSeconds > 0 ? pairs / compareSeconds : 0.0, orbSeconds, qlonglong(groups.size()),
+        totals.first, peakMegabytes());
+    if (parser.isSet("json")) {
+        QJsonArray out;
+        const TFileData::Groups stored = TFileData::instance()->groups();
+        for (auto g = stored.cbegin(); g != stored.cend(); ++g)
+            out.append(QJsonArray::fromStringList(g.value()));
+        QFile file(parser.value("json"));
+        if (!file.open(QIODevice::WriteOnly)) {
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(parser.value("json")));
+            return 1;
+        }
+        file.write(QJsonDocument(out).toJson(QJsonDocument::Compact));
+    }
+    return 0;
+}
