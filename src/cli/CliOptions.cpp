@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CliOptions.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QThread>
+
+namespace {
+
+const QMap<QString, int> &methods()
+{
+    static const QMap<QString, int> map {{"sampled", 0}, {"name", 1}, {"full", 2}};
+    return map;
+}
+
+// "all" and "none" have no hint of their own: both run the finder without a selection.
+const QMap<QString, int> &selections()
+{
+    static const QMap<QString, int> map {{"newest", 0}, {"oldest", 1}, {"filename", 2},
+        {"priority", 3}, {"high-res", 4}, {"low-res", 5}, {"high-quality", 6}, {"low-quality", 7},
+        {"all", 8}, {"none", 8}};
+    return map;
+}
+
+QStringList extensionList(const QString &text)
+{
+    QStringList out;
+    for (QString item : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        item = item.trimmed().toLower();
+        if (item.startsWith(QLatin1Char('.')))
+            item.remove(0, 1);
+        if (!item.isEmpty() && !out.contains(item))
+            out.append(item);
+    }
+    return out;
+}
+
+QJsonArray toArray(const QStringList &list)
+{
+    QJsonArray array;
+    for (const QString &item : list)
+        array.append(item);
+    return array;
+}
+
+} // namespace
+
+QString CliOptions::usage()
+{
+    return QStringLiteral(
+        "usage: veltrine-duplicate-finder-cli scan [options] FOLDER...\n"
+        "\n"
+        "Finds duplicate files in the given folders. Nothing is deleted or moved.\n"
+        "\n"
+        "options:\n"
+        "  --method sampled|full|name  how files are compared (default sampled: size and three\n"
+        "                              4 KiB blocks; full: whole content; name: size and name)\n"
+        "  --folders                   also report folders whose files are all duplicates\n"
+        "  --select RULE               initial selection in each group: newest, oldest,\n"
+        "                              filename (default), priority, high-res, low-res,\n"
+        "                              high-quality, low-quality, all, none\n"
+        "  --priority FOLDER=N         folder priority for --select priority (repeatable)\n"
+        "  --min-size KB               skip files smaller than KB kibibytes\n"
+        "  --max-size MB               skip files larger than MB mebibytes (default 100000)\n"
+        "  --only EXT,...              scan only these extensions\n"
+        "  --ignore EXT,...            skip these extensions\n"
+        "  --ignore-path PATH          skip this folder or file (repeatable)\n"
+        "  --include-hidden            include hidden files and folders\n"
+        "  --similar                   also group similar pictures\n"
+        "  --json                      print the groups as one JSON object\n"
+        "  --save FILE.dupproj         save the result as a project file\n"
+        "  --log-dir DIR               write the program's log into DIR\n"
+        "  -h, --help                  show this text\n"
+        "\n"
+        "exit status: 0 done, 1 bad arguments, 2 a folder does not exist,\n"
+        "             3 the project file could not be saved\n");
+}
+
+CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
+{
+    if (arguments.isEmpty()) {
+        m_error = QStringLiteral("no command given");
+        return BadArguments;
+    }
+    if (arguments.first() == QLatin1String("-h") || arguments.first() == QLatin1String("--help"))
+        return Help;
+    if (arguments.first() != QLatin1String("scan")) {
+        m_error = QStringLiteral("unknown command \"%1\"").arg(arguments.first());
+        return BadArguments;
+    }
+    bool optionsEnded = false;
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString argument = arguments.at(i);
+        if (optionsEnded || !argument.startsWith(QLatin1String("-")) || argument == "-") {
+            m_folders.append(argument);
+            continue;
+        }
+        if (argument == QLatin1String("--")) {
+            optionsEnded = true;
+            continue;
+        }
+        QString name = argument;
+        QString value;
+        bool inlineValue = false;
+        const qsizetype equals = argument.indexOf(QLatin1Char('='));
+        if (argument.startsWith(QLatin1String("--")) && equals > 0) {
+            name = argument.left(equals);
+            value = argument.mid(equals + 1);
+            inlineValue = true;
+        }
+        const auto takeValue = [&]() -> bool {
+            if (inlineValue)
+                return true;
+            if (i + 1 >= arguments.size()) {
+                m_error = QStringLiteral("%1 needs a value").arg(name);
+                return false;
+            }
+            value = arguments.at(++i);
+            return true;
+        };
+        const auto takeNumber = [&](double &target) -> bool {
+            if (!takeValue())
+                return false;
+            bool ok = false;
+            const double number = value.toDouble(&ok);
+            if (!ok || number < 0) {
+                m_error = QStringLiteral("%1 needs a number of zero or more, not \"%2\"")
+                              .arg(name, value);
+                return false;
+            }
+            target = number;
+            return true;
+        };
+        if (name == QLatin1String("-h") || name == QLatin1String("--help")) {
+            return Help;
+        } else if (name == QLatin1String("--method")) {
+            if (!takeValue())
+                return BadArguments;
+            if (!methods().contains(value)) {
+                m_error
+                    = QStringLiteral("unknown method \"%1\" (sampled, full or name)").arg(value);
+                return BadArguments;
+            }
+            m_method = methods().value(value);
+        } else if (name == QLatin1String("--select")) {
+            if (!takeValue())
+                return BadArguments;
+            if (!selections().contains(value)) {
+                m_error = QStringLiteral("unknown selection rule \"%1\"").arg(value);
+                return BadArguments;
+            }
+            m_selectHint = selections().value(value);
+            m_selectAll = value == QLatin1String("all");
+        } else if (name == QLatin1String("--priority")) {
+            if (!takeValue())
+                return BadArguments;
+            const qsizetype cut = value.lastIndexOf(QLatin1Char('='));
+            bool ok = false;
+            const int priority = cut > 0 ? value.mid(cut + 1).toInt(&ok) : 0;
+            if (!ok) {
+                m_error = QStringLiteral("--priority needs FOLDER=NUMBER, not \"%1\"").arg(value);
+                return BadArguments;
+            }
+            m_priorities.insert(
+                QDir::cleanPath(QFileInfo(value.left(cut)).absoluteFilePath()), priority);
+        } else if (name == QLatin1String("--min-size")) {
+            if (!takeNumber(m_minSizeKb))
+                return BadArguments;
+        } else if (name == QLatin1String("--max-size")) {
+            if (!takeNumber(m_maxSizeMb))
+                return BadArguments;
+        } else if (name == QLatin1String("--only")) {
+            if (!takeValue())
+                return BadArguments;
+            m_only = extensionList(value);
+        } else if (name == QLatin1String("--ignore")) {
+            if (!takeValue())
+                return BadArguments;
+            m_ignore = extensionList(value);
+        } else if (name == QLatin1String("--ignore-path")) {
+            if (!takeValue())
+                return BadArguments;
+            m_ignorePaths.append(QDir::cleanPath(QFileInfo(value).absoluteFilePath()));
+        } else if (name == QLatin1String("--include-hidden") && !inlineValue) {
+            m_includeHidden = true;
+        } else if (name == QLatin1String("--folders") && !inlineValue) {
+            m_folderGroups = true;
+        } else if (name == QLatin1String("--similar") && !inlineValue) {
+            m_similar = true;
+        } else if (name == QLatin1String("--json") && !inlineValue) {
+            m_json = true;
+        } else if (name == QLatin1String("--save")) {
+            if (!takeValue())
+                return BadArguments;
+            m_savePath = value;
+        } else if (name == QLatin1String("--log-dir")) {
+            if (!takeValue())
+                return BadArguments;
+            m_logDirectory = value;
+        } else {
+            m_error = QStringLiteral("unknown option \"%1\"").arg(argument);
+            return BadArguments;
+        }
+    }
+    if (!m_only.isEmpty() && !m_ignore.isEmpty()) {
+        m_error = QStringLiteral("--only and --ignore cannot be combined");
+        return BadArguments;
+    }
+    if (m_folders.isEmpty()) {
+        m_error = QStringLiteral("no folder given");
+        return BadArguments;
+    }
+    return Ok;
+}
+
+QJsonObject CliOptions::commonConfig() const
+{
+    return QJsonObject {
+        {"MinFileSize", m_minSizeKb},
+        {"MaxFileSize", m_maxSizeMb},
+        {"IgnoreSystemHidden", !m_includeHidden},
+        {"IgnoreBundle", false},
+        // 0: the only-list governs; 1: the ignore list governs.
+        {"ScanFileType", m_ignore.isEmpty() ? 0 : 1},
+        {"ThreadCount", std::max(2, QThread::idealThreadCount())},
+        {"TrashFolder", QString()},
+        {"OpenFolder", QString()},
+        {"SaveFolder", QString()},
+        {"IgnorePathFile", toArray(m_ignorePaths)},
+        {"IgnoreFileType", toArray(m_ignore)},
+        {"OnlyFileType", toArray(m_only)},
+    };
+}
+
+QJsonObject CliOptions::duplicationConfig() const
+{
+    QJsonObject priorities;
+    for (auto it = m_priorities.begin(); it != m_priorities.end(); ++it)
+        priorities.insert(it.key(), it.value());
+    return QJsonObject {
+        {"scanMethod", m_method},
+        {"duplicateSelectHint", m_selectHint},
+        {"similarSelectHint", m_selectHint},
+        {"scanDupDirectory", m_folderGroups},
+        {"mapPriority", priorities},
+    };
+}
+
+QJsonObject CliOptions::similarConfig() const
+{
+    return QJsonObject {
+        {"hasSimilar", m_similar},
+        {"SimilarityValue", 55},
+        {"FeaturesValue", 50},
+        {"selectedSimilar", m_selectHint != 8},
+        {"scanPriority", 1},
+        {"selectionHint", m_selectHint},
+        {"algorithmHint", 0},
+        {"isAddFeatures", true},
+        {"isImageType", true},
+        {"isImageSize", true},
+        {"imageMinSize", 4},
+    };
+}

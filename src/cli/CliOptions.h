@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QJsonObject>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+// The command line of the headless scanner, turned into the same three configuration
+// snapshots the preferences give the window's scans. The user's preferences file is
+// never read or written.
+class CliOptions
+{
+public:
+    enum ParseResult { Ok, Help, BadArguments };
+
+    // Parses the arguments after the program name; on BadArguments error() says why.
+    ParseResult parse(const QStringList &arguments);
+
+    static QString usage();
+
+    QString error() const { return m_error; }
+    QStringList folders() const { return m_folders; }
+    bool json() const { return m_json; }
+    QString savePath() const { return m_savePath; }
+    QString logDirectory() const { return m_logDirectory; }
+    // "all" selects every member of each group once the scan is done; the finder itself
+    // then stores no selection.
+    bool selectAll() const { return m_selectAll; }
+
+    QJsonObject commonConfig() const;
+    QJsonObject duplicationConfig() const;
+    QJsonObject similarConfig() const;
+
+private:
+    QString m_error;
+    QStringList m_folders;
+    int m_method = 0;
+    int m_selectHint = 2;
+    bool m_selectAll = false;
+    bool m_folderGroups = false;
+    bool m_includeHidden = false;
+    bool m_similar = false;
+    bool m_json = false;
+    double m_minSizeKb = 0;
+    double m_maxSizeMb = 100000;
+    QStringList m_only;
+    QStringList m_ignore;
+    QStringList m_ignorePaths;
+    QMap<QString, int> m_priorities;
+    QString m_savePath;
+    QString m_logDirectory;
+};

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mainwindow/TControlUI.h"
+
+#include "app/TLogger.h"
+#include "engine/TFileData.h"
+#include "preferences/DFGenernalPreferences.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFPreferences.h"
+#include "preferences/DFSelectionPreferences.h"
+
+#include <QJsonDocument>
+
+TControlUI *TControlUI::instance()
+{
+    static TControlUI controller;
+    return &controller;
+}
+
+TControlUI::TControlUI(QObject *parent) : QObject(parent)
+{
+    qRegisterMetaType<FileMeta>("FileMeta");
+    qRegisterMetaType<QList<FileMeta>>("QList<FileMeta>");
+    // The engines emit from their own threads (the scanner also from its pool); every
+    // report is queued into this object's thread.
+    connect(&m_scanner, &TFileScanner::filesFound, this, &TControlUI::onFilesFound,
+        Qt::QueuedConnection);
+    connect(&m_scanner, &TFileScanner::scanFinished, this, &TControlUI::onScannerFinished,
+        Qt::QueuedConnection);
+    connect(&m_finder, &DuplicateFileFinder::progressUpdated, this, &TControlUI::onFinderProgress,
+        Qt::QueuedConnection);
+    connect(&m_finder, &DuplicateFileFinder::onFindItem, this, &TControlUI::onFinderItems,
+        Qt::QueuedConnection);
+    connect(&m_finder, &DuplicateFileFinder::scanFinished, this, &TControlUI::onFinderFinished,
+        Qt::QueuedConnection);
+    connect(&m_compare, QOverload<int, qint64>::of(&ImageCompareThread::finished), this,
+        &TControlUI::onCompareFinished, Qt::QueuedConnection);
+    connect(
+        &m_compare, &ImageCompareThread::progressChanged, this,
+        [this](int, int progress) { emit processChange(progress); }, Qt::QueuedConnection);
+    connect(&m_openSave, &TOpenSaveThread::openProjectComplated, this,
+        &TControlUI::openProjectComplated, Qt::QueuedConnection);
+    connect(&m_openSave, &TOpenSaveThread::saveComplated, this, &TControlUI::saveComplated,
+        Qt::QueuedConnection);
+    m_timer.setInterval(1000);
+    connect(&m_timer, &QTimer::timeout, this, &TControlUI::onTimerTick);
+}
+
+TControlUI::~TControlUI()
+{
+    m_scanner.requestStop();
+    m_finder.requestStop();
+    m_compare.cancel();
+    m_scanner.wait();
+    m_finder.wait();
+    m_compare.wait();
+    m_openSave.wait();
+}
+
+double TControlUI::elapsedSeconds() const
+{
+    return m_clock.isValid() ? m_clock.elapsed() / 1000.0 : 0.0;
+}
+
+QString TControlUI::seconds() const
+{
+    return QString::number(elapsedSeconds(), 'f', 3);
+}
+
+QString TControlUI::formatSeconds(qint64 seconds)
+{
+    return QStringLiteral("%1:%2:%3")
+        .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
+        .arg((seconds / 60) % 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString TControlUI::elapsedText() const
+{
+    return formatSeconds(m_seconds);
+}
+
+void TControlUI::startScan(const QStringList &roots)
+{
+    DFPreferences *preferences = DFPreferences::instance();
+    startScan(roots, preferences->ignoreListPreferences()->toJson(),
+        preferences->selectionPreferences()->toJson(), preferences->generalPreferences()->toJson());
+}
+
+void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
+    const QJsonObject &duplication, const QJsonObject &similar)
+{
+    // A scan still running (the caller did not stop it) is stopped first, so that no
+    // engine is reconfigured while it works.
+    if (m_scanner.isRunning() || m_finder.isRunning() || m_compare.isRunning())
+        stop();
+    m_clock.start();
+    m_roots = roots;
+    m_table.clear();
+    m_allFiles.clear();
+    m_scannedFiles = 0;
+    m_timer.start();
+    m_seconds = 0;
+    m_similarCount = 0;
+    m_similarSize = 0;
+    m_duplicateCount = 0;
+    m_duplicateSize = 0;
+    m_stage = StageScanning;
+    m_runState = Running;
+    m_cloudMode = false;
+    m_projectPath.clear();
+
+    const auto indented = [](const QJsonObject &object) {
+        return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Indented));
+    };
+    splog_d(QStringLiteral("[TControlUI]: Common configuration information: [%1].")
+                .arg(indented(common)));
+    splog_d(QStringLiteral("[TControlUI]: Duplication configuration information: [%1].")
+                .arg(indented(duplication)));
+    splog_d(QStringLiteral("[TControlUI]: Similar configuration information: [%1].")
+                .arg(indented(similar)));
+    m_scanner.applyConfig(common);
+    m_finder.applyConfig(duplication);
+    m_compare.applyConfig(similar);
+    m_similarEnabled = similar.value(QStringLiteral("hasSimilar")).toBool(false);
+
+    splog_d(QStringLiteral("[TControlUI]: Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
+    m_scanner.setRoots(roots);
+    m_scanner.start(QThread::InheritPriority);
+}
+
+void TControlUI::stop()
+{
+    m_runState = Stopped;
+    m_timer.stop();
+    switch (m_stage) {
+    case StageScanning:
+        m_scanner.requestStop();
+        m_scanner.wait();
+        break;
+    case StageMatching:
+        m_finder.requestStop();
+        m_finder.wait();
+        break;
+    case StageSimilar:
+        m_compare.cancel();
+        m_compare.wait();
+        break;
+    default:
+        break;
+    }
+}
+
+void TControlUI::onFilesFound(const QList<FileMeta> &files)
+{
+    for (const FileMeta &meta : files) {
+        m_table[meta.size].append(meta);
+        m_allFiles.append(meta.filePath);
+    }
+    const int before = m_scannedFiles;
+    m_scannedFiles += int(files.size());
+    // The window's counter follows in steps of 100 files.
+    if (before / 100 != m_scannedFiles / 100)
+        emit filesScaningChange(m_scannedFiles);
+}
+
+void TControlUI::onScannerFinished()
+{
+    emit filesScaningChange(m_scannedFiles);
+    if (m_runState == Stopped) {
+        splog_d(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning process. "
+                               "This task takes:[%1] seconds.")
+                    .arg(seconds()));
+        endScan();
+        return;
+    }
+    splog_d(QStringLiteral("[TControlUI]: Scan is complete, start matching duplicate files. Total "
+                           "number of files: [%1]. This task takes:[%2] seconds.")
+                .arg(m_allFiles.size())
+                .arg(seconds()));
+    m_finder.setInput(m_table, m_allFiles);
+    // The finder holds the only copy from here on and releases it when it ends.
+    m_table = DuplicateFileFinder::SizeTable();
+    m_allFiles = QStringList();
+    m_stage = StageMatching;
+    m_finder.start(QThread::InheritPriority);
+}
+
+void TControlUI::onFinderProgress(int, double percent)
+{
+    emit processChange(percent);
+}
+
+void TControlUI::onFinderItems(int number, qint64 total)
+{
+    m_duplicateCount = number;
+    m_duplicateSize = total;
+    emit onDuplicateItemFound(number, total);
+}
+
+void TControlUI::onFinderFinished()
+{
+    if (m_runState == Stopped) {
+        splog_d(QStringLiteral("[TControlUI]: The user clicks Stop during the matching process. "
+                               "This task takes: [%1] seconds.")
+                    .arg(seconds()));
+        endScan();
+        return;
+    }
+    if (m_similarEnabled) {
+        const QStringList uniqueImages = m_finder.uniqueImageFiles();
+        const TFileData::Groups imageGroups = TFileData::instance()->imageGroups();
+        splog_d(QStringLiteral("[TControlUI]: Matching duplicate files ends, and the process of "
+                               "matching similar images begins. Duplicate Group: [%1]; Unique "
+                               "Image: [%2]. This task takes: [%3] seconds.")
+                    .arg(TFileData::instance()->groupCount())
+                    .arg(uniqueImages.size())
+                    .arg(seconds()));
+        m_compare.setEarlierGroups(imageGroups);
+        m_compare.setImagePaths(uniqueImages);
+        m_stage = StageSimilar;
+        m_compare.start(QThread::InheritPriority);
+        return;
+    }
+    endScan();
+}
+
+void TControlUI::onCompareFinished(int count, qint64 size)
+{
+    if (m_runState != Stopped) {
+        m_runState = Stopped;
+        splog_d(QStringLiteral("[TControlUI]: The process of matching similar images ends "
+                               "normally."));
+    } else {
+        splog_d(QStringLiteral("[TControlUI]: User clicks to stop the matching similar images "
+                               "process."));
+    }
+    m_similarCount += count;
+    m_similarSize += size;
+    emit onDuplicateItemFound(m_duplicateCount + m_similarCount, m_duplicateSize + m_similarSize);
+    endScan();
+}
+
+void TControlUI::endScan()
+{
+    splog_d(QStringLiteral("[TControlUI]: All tasks are completed. This task takes:[%1] seconds.")
+                .arg(seconds()));
+    m_timer.stop();
+    m_runState = Stopped;
+    emit onAllComplate();
+}
+
+void TControlUI::onTimerTick()
+{
+    if (m_runState != Running)
+        return;
+    ++m_seconds;
+    emit onUpdateTimer(formatSeconds(m_seconds));
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/DuplicateFileFinder.h"
+#include "engine/FileMeta.h"
+#include "engine/ImageCompareThread.h"
+#include "engine/TFileScanner.h"
+#include "fileops/TOpenSaveThread.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+#include <QJsonObject>
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+// The scan controller: chains the file scanner, the duplicate finder and, when the
+// similar-photo option is on, the picture comparison; keeps the scan table the scanner
+// fills; reports counts, progress, elapsed time and the end of a scan to the window (or
+// to the command line). Lives on the GUI thread; the engines report by queued signals.
+class TControlUI : public QObject
+{
+    Q_OBJECT
+public:
+    enum Stage : int { StageScanning = 1, StageMatching = 2, StageSimilar = 4 };
+    enum RunState : int { Running = 1, Stopped = 2 };
+
+    static TControlUI *instance();
+
+    explicit TControlUI(QObject *parent = nullptr);
+    ~TControlUI() override;
+
+    // Starts a local scan with the three snapshots of the stored preferences.
+    void startScan(const QStringList &roots);
+    // Starts a local scan with the given snapshots (common, duplication, similar).
+    void startScan(const QStringList &roots, const QJsonObject &common,
+        const QJsonObject &duplication, const QJsonObject &similar);
+    // Stops the running stage and waits for its thread; the scan then ends through the
+    // usual chain, with onAllComplate().
+    void stop();
+
+    int stage() const { return m_stage; }
+    int runState() const { return m_runState; }
+    bool isRunning() const { return m_runState == Running; }
+    QStringList scanRoots() const { return m_roots; }
+    // Files reported by the scanner in the current (or last) scan.
+    int scannedFileCount() const { return m_scannedFiles; }
+    double elapsedSeconds() const;
+    // "hh:mm:ss" of the timer's seconds.
+    QString elapsedText() const;
+    static QString formatSeconds(qint64 seconds);
+
+    bool cloudMode() const { return m_cloudMode; }
+    void setCloudMode(bool cloud) { m_cloudMode = cloud; }
+    QString projectPath() const { return m_projectPath; }
+    void setProjectPath(const QString &path) { m_projectPath = path; }
+
+    TFileScanner *scanner() { return &m_scanner; }
+    DuplicateFileFinder *finder() { return &m_finder; }
+    ImageCompareThread *comparison() { return &m_compare; }
+    TOpenSaveThread *openSaveThread() { return &m_openSave; }
+
+signals:
+    void filesScaningChange(int fileCount);
+    void processChange(double value);
+    void onDuplicateItemFound(int number, qint64 total);
+    void onUpdateTimer(const QString &time);
+    void onAllComplate();
+    void openProjectComplated(int flag, int files, qint64 size);
+    void saveComplated(int flag);
+
+private slots:
+    void onFilesFound(const QList<FileMeta> &files);
+    void onScannerFinished();
+    void onFinderFinished();
+    void onCompareFinished(int count, qint64 size);
+    void onFinderProgress(int progressType, double percent);
+    void onFinderItems(int number, qint64 total);
+    void onTimerTick();
+
+private:
+    void endScan();
+    QString seconds() const;
+
+    TFileScanner m_scanner;
+    DuplicateFileFinder m_finder;
+    ImageCompareThread m_compare;
+    TOpenSaveThread m_openSave;
+
+    QStringList m_roots;
+    DuplicateFileFinder::SizeTable m_table;
+    QStringList m_allFiles;
+    int m_scannedFiles = 0;
+    int m_stage = StageScanning;
+    int m_runState = Stopped;
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+    qint64 m_seconds = 0;
+    int m_similarCount = 0;
+    qint64 m_similarSize = 0;
+    int m_duplicateCount = 0;
+    qint64 m_duplicateSize = 0;
+    bool m_similarEnabled = false;
+    bool m_cloudMode = false;
+    QString m_projectPath;
+};
