@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ScanTree.h"
+#include "engine/TFileData.h"
+#include "mainwindow/TControlUI.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QJsonObject kCommon {{"IgnoreSystemHidden", true}};
+const QJsonObject kSimilarOff {{"hasSimilar", false}};
+
+} // namespace
+
+class TestControlUI : public QObject
+{
+    Q_OBJECT
+private slots:
+    void formatSeconds_data();
+    void formatSeconds();
+    void scanRunsScannerThenFinder();
+    void stopWhileScanningEndsOnce();
+};
+
+void TestControlUI::formatSeconds_data()
+{
+    QTest::addColumn<qint64>("seconds");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("zero") << qint64(0) << "00:00:00";
+    QTest::newRow("minute carry") << qint64(61) << "00:01:01";
+    QTest::newRow("hours") << qint64(3 * 3600 + 59 * 60 + 59) << "03:59:59";
+    QTest::newRow("beyond a day") << qint64(100 * 3600) << "100:00:00";
+}
+
+void TestControlUI::formatSeconds()
+{
+    QFETCH(qint64, seconds);
+    QFETCH(QString, text);
+    QCOMPARE(TControlUI::formatSeconds(seconds), text);
+}
+
+void TestControlUI::scanRunsScannerThenFinder()
+{
+    QTemporaryDir dir;
+    ScanTree::write(dir.path(), "a/one.bin", ScanTree::pattern(20000, 1));
+    ScanTree::write(dir.path(), "b/two.bin", ScanTree::pattern(20000, 1));
+    ScanTree::write(dir.path(), "b/other.bin", ScanTree::pattern(20000, 2));
+    ScanTree::write(dir.path(), "c/.hidden.bin", ScanTree::pattern(20000, 1));
+    TFileData::instance()->clear();
+
+    TControlUI controller;
+    QSignalSpy done(&controller, &TControlUI::onAllComplate);
+    QSignalSpy found(&controller, &TControlUI::onDuplicateItemFound);
+    controller.startScan(
+        {dir.path()}, kCommon, {{"scanMethod", 2}, {"duplicateSelectHint", 2}}, kSimilarOff);
+    QCOMPARE(controller.runState(), int(TControlUI::Running));
+    QVERIFY(done.wait(30000));
+    QCOMPARE(done.count(), 1);
+    QCOMPARE(controller.runState(), int(TControlUI::Stopped));
+    QCOMPARE(controller.stage(), int(TControlUI::StageMatching));
+    QCOMPARE(controller.scannedFileCount(), 3);
+    QVERIFY(!found.isEmpty());
+    QCOMPARE(found.last().at(0).toInt(), 2);
+    QCOMPARE(found.last().at(1).toLongLong(), qint64(40000));
+    const TFileData::Groups groups = TFileData::instance()->groups();
+    QCOMPARE(groups.size(), 1);
+    QCOMPARE(TFileData::instance()->selectedCount(groups.begin().key()), 1);
+}
+
+void TestControlUI::stopWhileScanningEndsOnce()
+{
+    QTemporaryDir dir;
+    for (int i = 0; i < 2000; ++i)
+        ScanTree::write(dir.path(), QString("d%1/f%2.txt").arg(i % 200).arg(i), "x");
+    TControlUI controller;
+    QSignalSpy done(&controller, &TControlUI::onAllComplate);
+    controller.startScan({dir.path(), dir.path()}, kCommon, {}, kSimilarOff);
+    controller.stop();
+    QCOMPARE(controller.runState(), int(TControlUI::Stopped));
+    QVERIFY(done.wait(30000));
+    // Let any late report arrive: the scan must end exactly once.
+    QTest::qWait(200);
+    QCOMPARE(done.count(), 1);
+    QCOMPARE(controller.stage(), int(TControlUI::StageScanning));
+}
+
+QTEST_GUILESS_MAIN(TestControlUI)
+#include "tst_TControlUI.moc"
