@@ -2,19 +2,1016 @@
 #include "mainwindow/MainWindow.h"
 
 #include "app/AppIdentity.h"
+#include "app/BuildSettings.h"
+#include "app/DataDirectory.h"
+#include "app/FeatureReporter.h"
+#include "app/LanguageSetup.h"
+#include "app/TLogger.h"
+#include "engine/TFileData.h"
+#include "fileops/TOpenSaveThread.h"
+#include "mainwindow/DailyRunReport.h"
+#include "mainwindow/EnvironmentLog.h"
+#include "mainwindow/ScanRootList.h"
+#include "mainwindow/TControlUI.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFPreferences.h"
+#include "results/CListViewDelegate.h"
+#include "results/GroupListPage.h"
+#include "results/TImageModel.h"
+#include "widgets/CRotateLabel.h"
+#include "widgets/RoundProgressBar.h"
 
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStandardItemModel>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
-MainWindow::MainWindow(const QStringList &arguments, QWidget *parent)
-    : QWidget(parent)
+namespace {
+
+const QString kTag = QStringLiteral("[MainWindows]: ");
+
+QPixmap picture(const QString &name)
 {
-    Q_UNUSED(arguments)
+    return QPixmap(QStringLiteral(":/resource/") + name);
+}
+
+QPushButton *iconButton(QWidget *parent, const QString &name, const QString &icon)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(name);
+    button->setIcon(QIcon(QStringLiteral(":/resource/") + icon));
+    button->setIconSize(QSize(20, 20));
+    button->setFixedSize(32, 32);
+    button->setFlat(true);
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
+// Menu order of the languages and the index each stores under "Language".
+struct LanguageEntry
+{
+    const char *label;
+    int index;
+};
+const LanguageEntry kLanguages[] = {
+    {"English", 1},
+    {"Deutsch", 5},
+    {"Español", 6},
+    {"Français", 2},
+    {"Italiano", 4},
+    {"Português", 3},
+    {"\u65e5\u672c\u8a9e", 7},
+};
+
+} // namespace
+
+MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWindow(parent)
+{
+    QCoreApplication::setOrganizationName(AppIdentity::organizationName);
+    QCoreApplication::setApplicationName(AppIdentity::applicationName);
+    EnvironmentLog::write();
+
     setObjectName(QStringLiteral("MainWindow"));
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setAcceptDrops(true);
+    m_projectThread = TControlUI::instance()->openSaveThread();
+    buildUi();
+    buildMenus();
+    connectController();
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [] {
+        splog_d(kTag + QStringLiteral("Application is about to quit, start clean cache."));
+        TFileData::instance()->clear();
+    });
+    setTitle();
+    resize(1000, 680);
+
+    const QString project = arguments.size() > 1 ? arguments.at(1) : QString();
+    if (!project.isEmpty() && QFileInfo(project).isFile())
+        openProject(QFileInfo(project).absoluteFilePath());
+    else
+        setStatus(StateReady);
+
+    if (DFPreferences::instance()->ignoreListPreferences()->deleteException() == 1)
+        QTimer::singleShot(0, this, &MainWindow::showAbnormalExitNotice);
+
+    m_runReport = new DailyRunReport(
+        QStringLiteral(VELTRINE_ANALYTICS_ID), QStringLiteral(VELTRINE_ANALYTICS_SECRET), this);
+    QTimer::singleShot(0, this, &MainWindow::onTimeout);
+}
+
+MainWindow::~MainWindow()
+{
+    if (m_resultPage)
+        delete m_resultPage;
+    splog_d(kTag + QStringLiteral("Program is exit") + QString(57, QLatin1Char('.')));
+}
+
+// ----------------------------------------------------------------------------- layout
+
+void MainWindow::buildUi()
+{
+    auto *central = new QWidget(this);
+    central->setObjectName(QStringLiteral("centralwidget"));
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    buildTitleFrame(central);
+    layout->addWidget(m_titleFrame);
+
+    m_pages = new QStackedWidget(central);
+    m_pages->setObjectName(QStringLiteral("stackedWidget"));
+    m_pages->addWidget(buildFolderPage());
+    m_pages->addWidget(buildScanPage());
+    m_pages->addWidget(buildNoResultPage());
+    layout->addWidget(m_pages, 1);
+
+    auto *bottom = new QFrame(central);
+    bottom->setObjectName(QStringLiteral("frame_bottom"));
+    auto *bottomLayout = new QHBoxLayout(bottom);
+    bottomLayout->setContentsMargins(32, 8, 32, 24);
+    m_btnAdd = new QPushButton(bottom);
+    m_btnAdd->setObjectName(QStringLiteral("btnAdd"));
+    m_btnAdd->setFixedSize(120, 120);
+    m_btnAdd->setIconSize(QSize(120, 120));
+    m_btnAdd->setCursor(Qt::PointingHandCursor);
+    m_btnScan = new QPushButton(bottom);
+    m_btnScan->setObjectName(QStringLiteral("btn_scan"));
+    m_btnScan->setMinimumSize(160, 44);
+    m_btnScan->setCursor(Qt::PointingHandCursor);
+    bottomLayout->addStretch(1);
+    bottomLayout->addWidget(m_btnAdd);
+    bottomLayout->addStretch(1);
+    bottomLayout->addWidget(m_btnScan, 0, Qt::AlignVCenter);
+    layout->addWidget(bottom);
+    setCentralWidget(central);
+
+    connect(m_btnAdd, &QPushButton::clicked, this, &MainWindow::on_btnAdd_clicked);
+    connect(m_btnScan, &QPushButton::clicked, this, &MainWindow::on_btn_scan_clicked);
+    connect(m_btnSet, &QPushButton::clicked, this, &MainWindow::on_btn_set_clicked);
+    connect(m_btnMinimize, &QPushButton::clicked, this, &QWidget::showMinimized);
+    connect(m_btnClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_btnPre, &QPushButton::clicked, this, &MainWindow::on_btn_pre_clicked);
+    connect(m_btnNext, &QPushButton::clicked, this, &MainWindow::on_btn_next_clicked);
+}
+
+void MainWindow::buildTitleFrame(QWidget *parent)
+{
+    m_titleFrame = new QFrame(parent);
+    m_titleFrame->setObjectName(QStringLiteral("frame_title"));
+    m_titleFrame->setFixedHeight(48);
+    auto *layout = new QHBoxLayout(m_titleFrame);
+    layout->setContentsMargins(16, 0, 10, 0);
+    auto *logo = new QLabel(m_titleFrame);
+    logo->setObjectName(QStringLiteral("lab_logo"));
+    logo->setPixmap(picture(QStringLiteral("logo.png")));
+    m_title = new QLabel(m_titleFrame);
+    m_title->setObjectName(QStringLiteral("lab_title"));
+    m_btnSet = iconButton(m_titleFrame, QStringLiteral("btn_set"), QStringLiteral("btn_set.png"));
+    m_btnMenu
+        = iconButton(m_titleFrame, QStringLiteral("btn_menu"), QStringLiteral("btn_menu.png"));
+    m_btnMinimize = iconButton(
+        m_titleFrame, QStringLiteral("btn_minimize"), QStringLiteral("btn_minimize.png"));
+    m_btnClose
+        = iconButton(m_titleFrame, QStringLiteral("btn_close"), QStringLiteral("btn_close.png"));
+    layout->addWidget(logo);
+    layout->addWidget(m_title);
+    layout->addStretch(1);
+    layout->addWidget(m_btnSet);
+    layout->addWidget(m_btnMenu);
+    layout->addWidget(m_btnMinimize);
+    layout->addWidget(m_btnClose);
+}
+
+QWidget *MainWindow::buildFolderPage()
+{
+    auto *page = new QWidget;
+    page->setObjectName(QStringLiteral("page_folders"));
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(40, 24, 40, 8);
+    m_background = new QLabel(page);
+    m_background->setObjectName(QStringLiteral("lab_background"));
+    m_background->setAlignment(Qt::AlignCenter);
+    m_background->setPixmap(picture(LanguageSetup::current().noSelectionBackground.isEmpty()
+            ? QStringLiteral("noSelection_bg.png")
+            : LanguageSetup::current().noSelectionBackground));
+    layout->addWidget(m_background, 1);
+
+    auto *listRow = new QHBoxLayout;
+    m_btnPre = iconButton(page, QStringLiteral("btn_pre"), QStringLiteral("btn_pre.png"));
+    m_btnNext = iconButton(page, QStringLiteral("btn_next"), QStringLiteral("btn_next.png"));
+    m_pathModel = new QStandardItemModel(this);
+    m_pathView = new QListView(page);
+    m_pathView->setObjectName(QStringLiteral("listview_path"));
+    m_pathView->setModel(m_pathModel);
+    m_pathView->setMouseTracking(true);
+    m_pathView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_pathView->setIconSize(QSize(24, 24));
+    auto *delegate = new CListViewDelegate(m_pathView);
+    m_pathView->setItemDelegate(delegate);
+    connect(delegate, &CListViewDelegate::deleteItem, this, &MainWindow::deleteSelectPath,
+        Qt::QueuedConnection);
+    connect(m_pathView, &QListView::indexesMoved, this, &MainWindow::on_listview_path_indexesMoved);
+    connect(m_pathView->selectionModel(), &QItemSelectionModel::currentChanged, this,
+        &MainWindow::setPushButtonEnable);
+    listRow->addWidget(m_btnPre, 0, Qt::AlignVCenter);
+    listRow->addWidget(m_pathView, 1);
+    listRow->addWidget(m_btnNext, 0, Qt::AlignVCenter);
+    layout->addLayout(listRow, 1);
+
+    m_dragHint = new QLabel(page);
+    m_dragHint->setObjectName(QStringLiteral("lab_dragHint"));
+    m_dragHint->setAlignment(Qt::AlignCenter);
+    m_dragHint->setPixmap(picture(LanguageSetup::current().noSelectionLiteBackground.isEmpty()
+            ? QStringLiteral("noSelection_LiteBG.png")
+            : LanguageSetup::current().noSelectionLiteBackground));
+    layout->addWidget(m_dragHint);
+    m_labNumber = new QLabel(page);
+    m_labNumber->setObjectName(QStringLiteral("lab_number"));
+    m_labNumber->setAlignment(Qt::AlignCenter);
+    layout->addWidget(m_labNumber);
+    return page;
+}
+
+QWidget *MainWindow::buildScanPage()
+{
+    auto *page = new QWidget;
+    page->setObjectName(QStringLiteral("page_scan"));
+    auto *layout = new QHBoxLayout(page);
+    layout->setContentsMargins(60, 24, 60, 8);
+
+    auto *ringBox = new QWidget(page);
+    ringBox->setFixedSize(240, 240);
+    m_ring = new RoundProgressBar(ringBox);
+    m_ring->setObjectName(QStringLiteral("progress_ring"));
+    m_ring->setGeometry(0, 0, 240, 240);
+    // A thin track along the outside of a wide arc keeps the ring inside the widget.
+    m_ring->setWidths(4.0, 14.0);
+    m_ring->setPaintFlags(
+        RoundProgressBar::Ring | RoundProgressBar::GradientArc | RoundProgressBar::EndDot);
+    m_ring->setColors(QColor(194, 220, 255), QColor(69, 146, 220), QColor(49, 120, 200));
+    m_animation = new CRotateLabel(ringBox);
+    m_animation->setObjectName(QStringLiteral("lab_animation"));
+    m_animation->setPixmap(picture(QStringLiteral("scan_rotate.png")));
+    m_animation->setGeometry(40, 40, 160, 160);
+    layout->addWidget(ringBox, 0, Qt::AlignCenter);
+
+    auto *grid = new QGridLayout;
+    grid->setVerticalSpacing(18);
+    grid->setHorizontalSpacing(32);
+    grid->setColumnStretch(2, 1);
+    auto addRow = [&](int row, const QString &objectName, const QString &caption, QLabel *&value) {
+        auto *label = new QLabel(caption, page);
+        label->setObjectName(objectName + QStringLiteral("_caption"));
+        value = new QLabel(page);
+        value->setObjectName(objectName);
+        value->setProperty("scanValue", true);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(value, row, 1);
+    };
+    addRow(0, QStringLiteral("lab_fileNumber"), tr("Files scanned"), m_labFileNumber);
+    addRow(1, QStringLiteral("lab_findNumber"), tr("Duplicates found"), m_labFindNumber);
+    addRow(2, QStringLiteral("lab_findSize"), tr("Size of duplicates"), m_labFindSize);
+    addRow(3, QStringLiteral("lab_progress"), tr("Progress"), m_labProgress);
+    addRow(4, QStringLiteral("lab_findTime"), tr("Elapsed time"), m_labFindTime);
+    m_labFindTime->setText(QStringLiteral("00:00:00"));
+    layout->addSpacing(48);
+    auto *column = new QVBoxLayout;
+    column->addStretch(1);
+    column->addLayout(grid);
+    column->addStretch(1);
+    layout->addLayout(column, 1);
+    return page;
+}
+
+QWidget *MainWindow::buildNoResultPage()
+{
+    auto *page = new QWidget;
+    page->setObjectName(QStringLiteral("page_noResults"));
+    auto *layout = new QVBoxLayout(page);
+    auto *ring = new QLabel(page);
+    ring->setObjectName(QStringLiteral("lab_noDuplicatesRing"));
+    ring->setPixmap(picture(QStringLiteral("noduplicatesfound_ring_bg.png")));
+    ring->setAlignment(Qt::AlignCenter);
+    auto *text = new QLabel(page);
+    text->setObjectName(QStringLiteral("lab_noDuplicates"));
+    text->setPixmap(picture(LanguageSetup::current().noDuplicatesBackground.isEmpty()
+            ? QStringLiteral("noduplicatesfound_bg.png")
+            : LanguageSetup::current().noDuplicatesBackground));
+    text->setAlignment(Qt::AlignCenter);
+    layout->addStretch(1);
+    layout->addWidget(ring);
+    layout->addWidget(text);
+    layout->addStretch(1);
+    return page;
+}
+
+void MainWindow::buildMenus()
+{
+    m_addMenu = new QMenu(this);
+    m_addMenu->setObjectName(QStringLiteral("menu_add"));
+    QAction *local
+        = m_addMenu->addAction(QIcon(QStringLiteral(":/resource/local.png")), tr("Local Computer"));
+    local->setObjectName(QStringLiteral("action_local"));
+    connect(local, &QAction::triggered, this, &MainWindow::on_local_menu_add_clicked);
+    m_addMenu->addSeparator();
+    const QList<QPair<QString, QString>> clouds {
+        {QStringLiteral("Google Drive"), QStringLiteral("googledrive.png")},
+        {QStringLiteral("OneDrive"), QStringLiteral("onedrive.png")},
+        {QStringLiteral("Google Photos"), QStringLiteral("google_photos.png")},
+        {QStringLiteral("Dropbox"), QStringLiteral("dropbox.png")}};
+    for (const auto &cloud : clouds) {
+        QAction *action = m_addMenu->addAction(
+            QIcon(QStringLiteral(":/resource/") + cloud.second), cloud.first);
+        action->setData(cloud.first);
+        connect(action, &QAction::triggered, this, &MainWindow::on_cloud_menu_clicked);
+    }
+
+    m_systemMenu = new QMenu(this);
+    m_systemMenu->setObjectName(QStringLiteral("menu_system"));
+    auto add = [this](const QString &text, const QString &name) {
+        QAction *action = m_systemMenu->addAction(text);
+        action->setObjectName(name);
+        return action;
+    };
+    add(tr("User Guide"), QStringLiteral("action_userGuide"));
+    add(tr("Product FAQ"), QStringLiteral("action_faq"));
+    add(tr("Feedback and Support"), QStringLiteral("action_feedback"));
+    add(tr("Check for Updates"), QStringLiteral("action_updates"));
+    add(tr("About"), QStringLiteral("action_about"));
+    m_languageMenu = m_systemMenu->addMenu(tr("Language"));
+    m_languageMenu->setObjectName(QStringLiteral("menu_language"));
+    m_languageGroup = new QActionGroup(this);
+    const int current = QSettings().value(QStringLiteral("Language"), 1).toInt();
+    for (const LanguageEntry &entry : kLanguages) {
+        QAction *action = m_languageMenu->addAction(QString::fromUtf8(entry.label));
+        action->setCheckable(true);
+        action->setData(entry.index);
+        action->setChecked(entry.index == current);
+        m_languageGroup->addAction(action);
+    }
+    connect(m_languageGroup, &QActionGroup::triggered, this, &MainWindow::languageSwitch);
+    add(tr("Show Log in Explorer"), QStringLiteral("action_showLog"));
+    m_systemMenu->addSeparator();
+    m_actOpenProject = add(tr("Open Project"), QStringLiteral("action_openProject"));
+    m_actSaveProject = add(tr("Save Project"), QStringLiteral("action_saveProject"));
+    m_actShowResults = add(tr("Show Results"), QStringLiteral("action_showResults"));
+    // The actions that follow the window state, in the order the state table names them.
+    m_stateActions
+        = {m_actOpenProject, m_languageMenu->menuAction(), m_actSaveProject, m_actShowResults};
+    connect(m_systemMenu, &QMenu::triggered, this, &MainWindow::onSystemMenuEvent);
+    connect(m_btnMenu, &QPushButton::clicked, this,
+        [this] { m_systemMenu->popup(m_btnMenu->mapToGlobal(QPoint(0, m_btnMenu->height()))); });
+}
+
+void MainWindow::connectController()
+{
+    TControlUI *controller = TControlUI::instance();
+    connect(controller, &TControlUI::filesScaningChange, this, &MainWindow::filesCountChange);
+    connect(controller, &TControlUI::processChange, this, &MainWindow::onProcessChange);
+    connect(controller, &TControlUI::onDuplicateItemFound, this, &MainWindow::onItemFound);
+    connect(controller, &TControlUI::onUpdateTimer, this, &MainWindow::onUpdateTimer);
+    connect(controller, &TControlUI::onAllComplate, this, &MainWindow::allThreadComplate);
+    connect(
+        controller, &TControlUI::openProjectComplated, this, &MainWindow::onProjectOpenComplated);
+    connect(controller, &TControlUI::saveComplated, this, &MainWindow::onSaveProjectComplated);
+    connect(m_projectThread, &TOpenSaveThread::openProjectProcess, this,
+        &MainWindow::onOpenProjectProcess);
+}
+
+// ----------------------------------------------------------------------------- states
+
+void MainWindow::setStatus(int state)
+{
+    m_state = state;
+    auto enableActions = [this](std::initializer_list<bool> enabled) {
+        int i = 0;
+        for (bool on : enabled)
+            m_stateActions.at(i++)->setEnabled(on);
+    };
+    switch (state) {
+    case StateReady:
+        m_btnAdd->setEnabled(true);
+        m_btnAdd->setText(QString());
+        m_btnAdd->setIcon(QIcon(QStringLiteral(":/resource/button_plus_enable.png")));
+        m_btnScan->setText(tr("Scan"));
+        m_btnScan->setEnabled(!m_folders.isEmpty() || !m_cloudFolders.isEmpty());
+        m_animation->setRotating(false);
+        m_ring->setValue(0);
+        m_labProgress->setText(QStringLiteral("0.00%"));
+        m_labFileNumber->setText(QStringLiteral("0"));
+        m_labFindNumber->setText(QStringLiteral("0"));
+        m_labFindSize->setText(QStringLiteral("0M"));
+        enableActions({true, true, false, false});
+        break;
+    case StateScanning:
+        m_btnAdd->setEnabled(true);
+        m_btnAdd->setIcon(QIcon());
+        m_btnAdd->setText(tr("Stop"));
+        m_btnScan->setEnabled(false);
+        enableActions({false, false, false, false});
+        m_animation->setRotating(true);
+        break;
+    case StateContinue:
+        m_btnAdd->setEnabled(true);
+        m_btnAdd->setIcon(QIcon());
+        m_btnAdd->setText(tr("Continue"));
+        enableActions({false, true, true, true});
+        break;
+    case StateFinished:
+        m_btnAdd->setEnabled(true);
+        m_btnAdd->setIcon(QIcon());
+        m_btnAdd->setText(tr("New Scan"));
+        enableActions({true, true, true, true});
+        // The end state of the animation: the sweep stops where it is.
+        m_animation->setRotating(false);
+        if (m_resultKind == ResultsFound) {
+            m_btnScan->setText(tr("Show results"));
+            m_btnScan->setEnabled(true);
+        }
+        break;
+    case StateOpening:
+        m_btnAdd->setEnabled(false);
+        m_pages->setCurrentIndex(1);
+        m_ring->setValue(0);
+        m_stateActions.at(1)->setEnabled(false);
+        m_stateActions.at(2)->setEnabled(false);
+        m_stateActions.at(3)->setEnabled(false);
+        break;
+    default:
+        break;
+    }
+    updateFolderPageView();
+}
+
+// ----------------------------------------------------------------------------- folders
+
+bool MainWindow::addFolder(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isDir())
+        return false;
+    const QString folder = QDir::cleanPath(info.absoluteFilePath());
+    if (m_folders.contains(folder))
+        return false;
+    splog_d(kTag + QStringLiteral("Add a directory :%1").arg(folder));
+    m_folders << folder;
+    auto *item = new QStandardItem(QIcon(QStringLiteral(":/resource/folder.png")),
+        info.fileName().isEmpty() ? folder : info.fileName());
+    item->setToolTip(QDir::toNativeSeparators(folder));
+    item->setData(folder, Qt::UserRole);
+    m_pathModel->appendRow(item);
+    m_pathView->setCurrentIndex(m_pathModel->index(m_pathModel->rowCount() - 1, 0));
+    refreshCountLabel();
+    setPushButtonEnable();
+    updateFolderPageView();
+    return true;
+}
+
+void MainWindow::refreshCountLabel()
+{
+    if (m_cloudMode)
+        m_labNumber->setText(m_cloudAccount);
+    else
+        m_labNumber->setText(
+            QStringLiteral("%1 %2").arg(m_folders.size()).arg(tr("folders added")));
+}
+
+void MainWindow::updateFolderPageView()
+{
+    const bool empty = m_pathModel->rowCount() == 0;
+    m_background->setVisible(empty);
+    m_pathView->setVisible(!empty);
+    m_btnPre->setVisible(!empty);
+    m_btnNext->setVisible(!empty);
+    m_dragHint->setVisible(!empty);
+}
+
+void MainWindow::deleteSelectPath(const QModelIndex &index)
+{
+    if (!index.isValid() || m_state != StateReady)
+        return;
+    const QString folder = index.data(Qt::UserRole).toString();
+    m_folders.removeAll(folder);
+    m_pathModel->removeRow(index.row());
+    splog_d(kTag + QStringLiteral("Remove a directory :%1").arg(folder));
+    refreshCountLabel();
+    setPushButtonEnable();
+    updateFolderPageView();
+}
+
+void MainWindow::on_local_menu_add_clicked()
+{
+    if (!m_cloudFolders.isEmpty()) {
+        QMessageBox::information(this, tr("Note"),
+            tr("After adding cloud accounts and directories, local "
+               "directories can no longer be added."));
+        return;
+    }
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Select Folder"));
+    if (folder.isEmpty())
+        return;
+    m_cloudMode = false;
+    addFolder(folder);
+}
+
+void MainWindow::on_cloud_menu_clicked()
+{
+    const auto *action = qobject_cast<QAction *>(sender());
+    const QString cloudType = action ? action->data().toString() : QString();
+    if (!m_folders.isEmpty()) {
+        QMessageBox::information(this, tr("Note"),
+            tr("After adding local directories, cloud accounts can no "
+               "longer be added."));
+        return;
+    }
+    emit cloudSourceRequested(cloudType);
+}
+
+void MainWindow::on_btn_pre_clicked()
+{
+    const int row = m_pathView->currentIndex().row();
+    if (row > 0)
+        m_pathView->setCurrentIndex(m_pathModel->index(row - 1, 0));
+    setPushButtonEnable();
+}
+
+void MainWindow::on_btn_next_clicked()
+{
+    const int row = m_pathView->currentIndex().row();
+    if (row + 1 < m_pathModel->rowCount())
+        m_pathView->setCurrentIndex(m_pathModel->index(row + 1, 0));
+    setPushButtonEnable();
+}
+
+void MainWindow::on_listview_path_indexesMoved(const QModelIndexList &)
+{
+    setPushButtonEnable();
+}
+
+void MainWindow::setPushButtonEnable()
+{
+    const int row = m_pathView->currentIndex().row();
+    const int rows = m_pathModel->rowCount();
+    m_btnPre->setEnabled(rows > 0 && row > 0);
+    m_btnNext->setEnabled(rows > 0 && row + 1 < rows);
+    if (m_state == StateReady)
+        m_btnScan->setEnabled(!m_folders.isEmpty() || !m_cloudFolders.isEmpty());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setDropAction(Qt::LinkAction);
+    if (m_state == StateReady && event->mimeData()->hasUrls()
+        && ScanRootList::acceptsDrag(event->mimeData()))
+        event->accept();
+    else
+        event->ignore();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    if (m_state != StateReady)
+        return;
+    if (!m_cloudFolders.isEmpty()) {
+        QMessageBox::information(this, tr("Note"),
+            tr("After adding cloud accounts and directories, local "
+               "directories can no longer be added."));
+        return;
+    }
+    m_cloudMode = false;
+    for (const QString &folder : ScanRootList::droppedFolders(event->mimeData()))
+        addFolder(folder);
+    event->acceptProposedAction();
+}
+
+// ----------------------------------------------------------------------------- scanning
+
+void MainWindow::on_btnAdd_clicked()
+{
+    switch (m_state) {
+    case StateReady:
+        // The add menu is the way folders come in.
+        m_addMenu->popup(m_btnAdd->mapToGlobal(QPoint(0, m_btnAdd->height())));
+        break;
+    case StateScanning:
+        emit stopTask();
+        TControlUI::instance()->stop();
+        setStatus(StateFinished);
+        break;
+    case StateContinue:
+        if (!m_cloudMode)
+            setStatus(StateScanning);
+        break;
+    case StateFinished: {
+        if (!confirmDiscardResults())
+            return;
+        TControlUI::instance()->stop();
+        if (m_resultPage)
+            m_resultPage->deleteLater();
+        TFileData::instance()->clear();
+        m_showResultsWhenDone = true;
+        m_pages->setCurrentIndex(0);
+        m_folders.clear();
+        m_cloudFolders.clear();
+        m_cloudAccount.clear();
+        m_cloudMode = false;
+        m_projectPath.clear();
+        m_resultKind = ResultsFound;
+        m_labFindTime->setText(QStringLiteral("00:00:00"));
+        m_cloudInteger = 20;
+        m_pathModel->removeRows(0, m_pathModel->rowCount());
+        setStatus(StateReady);
+        refreshCountLabel();
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void MainWindow::on_btn_scan_clicked()
+{
+    if (m_state != StateReady) {
+        openResultPage();
+        return;
+    }
+    if (m_cloudMode) {
+        // The cloud source starts its own traversal once it is wired in.
+        if (m_cloudFolders.isEmpty())
+            return;
+        emit cloudSourceRequested(QString());
+        return;
+    }
+    if (m_folders.isEmpty())
+        return;
+    startLocalScan();
+}
+
+void MainWindow::startLocalScan()
+{
+    m_lastScanRoots = ScanRootList::pruneNested(m_folders);
+    m_projectPath.clear();
+    m_resultKind = ResultsFound;
+    m_filesScanned = 0;
+    m_ring->setValue(0);
+    m_labProgress->setText(QStringLiteral("0.00%"));
+    m_labFileNumber->setText(QStringLiteral("0"));
+    m_labFindNumber->setText(QStringLiteral("0"));
+    m_labFindSize->setText(QStringLiteral("0M"));
+    m_labFindTime->setText(QStringLiteral("00:00:00"));
+    m_pages->setCurrentIndex(1);
+    setStatus(StateScanning);
+    TControlUI::instance()->startScan(m_lastScanRoots);
+}
+
+void MainWindow::filesCountChange(int fileCount)
+{
+    m_filesScanned = fileCount;
+    m_labFileNumber->setText(QString::number(fileCount));
+}
+
+void MainWindow::onProcessChange(double value)
+{
+    m_labProgress->setText(QString::number(value, 'f', 2) + QLatin1Char('%'));
+    m_ring->setValue(value);
+}
+
+void MainWindow::onItemFound(int number, qint64 total)
+{
+    m_labFindNumber->setText(QString::number(number));
+    m_labFindSize->setText(TImageModel::sizeText(total));
+}
+
+void MainWindow::onUpdateTimer(const QString &time)
+{
+    m_elapsed = time;
+    m_labFindTime->setText(time);
+}
+
+bool MainWindow::hasResults() const
+{
+    return !TFileData::instance()->isEmpty();
+}
+
+void MainWindow::allThreadComplate()
+{
+    setStatus(StateFinished);
+    onProcessChange(100.0);
+    if (hasResults()) {
+        m_resultKind = ResultsFound;
+        setStatus(StateFinished);
+        if (m_showResultsWhenDone)
+            openResultPage();
+    } else {
+        m_resultKind = NoResults;
+        m_pages->setCurrentIndex(2);
+        m_btnScan->setEnabled(false);
+    }
+}
+
+void MainWindow::openResultPage()
+{
+    if (!hasResults())
+        return;
+    if (!m_resultPage) {
+        // The main window hides while the results show; the program must not quit then.
+        QApplication::setQuitOnLastWindowClosed(false);
+        m_resultPage = new GroupListPage;
+        m_resultPage->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+        m_resultPage->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_resultPage, &GroupListPage::closed, this, &MainWindow::onResultWindowClose);
+        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+        const QSize stored = QSettings().value(QStringLiteral("ResultForm.size")).toSize();
+        if (stored.width() >= available.width() * 0.9
+            && stored.height() >= available.height() * 0.9)
+            m_resultPage->setGeometry(available);
+        else if (stored.isValid())
+            m_resultPage->resize(stored.boundedTo(available.size()));
+    }
+    hide();
+    m_resultPage->show();
+    m_resultPage->raise();
+}
+
+void MainWindow::onResultWindowClose(bool update)
+{
+    Q_UNUSED(update)
+    if (m_resultPage)
+        QSettings().setValue(QStringLiteral("ResultForm.size"), m_resultPage->size());
+    show();
+    QApplication::setQuitOnLastWindowClosed(true);
+}
+
+// ----------------------------------------------------------------------------- projects
+
+void MainWindow::openProject(const QString &path)
+{
+    m_showResultsWhenDone = true;
+    setStatus(StateOpening);
+    splog_d(kTag + QStringLiteral("Open project: %1").arg(path));
+    if (!m_projectThread->openProject(path)) {
+        setStatus(StateReady);
+        return;
+    }
+    m_projectPath = path;
+    TControlUI::instance()->setProjectPath(path);
+}
+
+void MainWindow::onOpenProjectProcess(double cur, double total)
+{
+    if (total > 0)
+        onProcessChange(cur * 100.0 / total);
+}
+
+void MainWindow::onProjectOpenComplated(int flag, int files, qint64 size)
+{
+    if (flag != TOpenSaveThread::ProjectSucceeded) {
+        m_projectPath.clear();
+        m_pages->setCurrentIndex(0);
+        setStatus(hasResults() ? StateFinished : StateReady);
+        QMessageBox::warning(this, tr("Open File"), TOpenSaveThread::resultText(flag));
+        return;
+    }
+    filesCountChange(int(m_projectThread->scanFileCount()));
+    onUpdateTimer(m_projectThread->scanTime());
+    onItemFound(files, size);
+    allThreadComplate();
+}
+
+void MainWindow::onSaveProjectComplated(int flag)
+{
+    if (flag == TOpenSaveThread::ProjectSucceeded)
+        return;
+    QMessageBox::warning(this, tr("Save File"), TOpenSaveThread::resultText(flag));
+}
+
+bool MainWindow::saveProjectBlocking(const QString &path)
+{
+    QEventLoop loop;
+    int result = TOpenSaveThread::ProjectWriteFailed;
+    const auto connection = connect(
+        TControlUI::instance(), &TControlUI::saveComplated, &loop, [&loop, &result](int flag) {
+            result = flag;
+            loop.quit();
+        });
+    if (!m_projectThread->saveProject(path, m_filesScanned, m_elapsed)) {
+        disconnect(connection);
+        return false;
+    }
+    loop.exec();
+    disconnect(connection);
+    if (result == TOpenSaveThread::ProjectSucceeded) {
+        m_projectPath = path;
+        TControlUI::instance()->setProjectPath(path);
+    }
+    return result == TOpenSaveThread::ProjectSucceeded;
+}
+
+void MainWindow::saveProjectFromMenu()
+{
+    if (m_cloudMode) {
+        QMessageBox::information(
+            this, tr("Note"), tr("The cloud drive scan results cannot be saved."));
+        return;
+    }
+    if (!hasResults())
+        return;
+    QString path = QFileDialog::getSaveFileName(
+        this, tr("Save File"), QString(), QStringLiteral("(*.dupproj)"));
+    if (path.isEmpty())
+        return;
+    if (!path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
+        path += QStringLiteral(".dupproj");
+    const bool previous = m_showResultsWhenDone;
+    m_showResultsWhenDone = false;
+    saveProjectBlocking(path);
+    m_showResultsWhenDone = previous;
+}
+
+void MainWindow::openProjectFromMenu()
+{
+    if (!confirmDiscardResults())
+        return;
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open File"), QString(), QStringLiteral("(*.dupproj)"));
+    if (!path.isEmpty())
+        openProject(path);
+}
+
+bool MainWindow::confirmDiscardResults()
+{
+    if (!hasResults() || !m_projectPath.isEmpty() || m_cloudMode)
+        return true;
+    const auto answer = QMessageBox::question(this, tr("Note"),
+        tr("The current scan results have not been saved. Do you want to save the file?"),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    if (answer == QMessageBox::Cancel)
+        return false;
+    if (answer == QMessageBox::No)
+        return true;
+    QString path = QFileDialog::getSaveFileName(
+        this, tr("Save File"), QString(), QStringLiteral("(*.dupproj)"));
+    if (path.isEmpty())
+        return false;
+    if (!path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
+        path += QStringLiteral(".dupproj");
+    m_showResultsWhenDone = false;
+    return saveProjectBlocking(path);
+}
+
+// ----------------------------------------------------------------------------- menus
+
+void MainWindow::onSystemMenuEvent(QAction *action)
+{
+    const QString name = action->objectName();
+    const QString home = QStringLiteral(VELTRINE_HOMEPAGE_URL);
+    auto openAddress = [](const QString &address) {
+        if (!address.isEmpty())
+            QDesktopServices::openUrl(QUrl(address));
+    };
+    if (name == QLatin1String("action_userGuide"))
+        openAddress(QStringLiteral(VELTRINE_HELP_URL));
+    else if (name == QLatin1String("action_faq"))
+        openAddress(home.isEmpty() ? QString() : home + QStringLiteral("/faq"));
+    else if (name == QLatin1String("action_feedback"))
+        openAddress(home.isEmpty() ? QString() : home + QStringLiteral("/support"));
+    else if (name == QLatin1String("action_updates"))
+        openAddress(home.isEmpty() ? QString() : home + QStringLiteral("/download"));
+    else if (name == QLatin1String("action_about"))
+        QMessageBox::about(this, tr("About"),
+            tr("%1<br>Version %2 (%3)")
+                .arg(AppIdentity::applicationName, AppIdentity::version, AppIdentity::buildDate));
+    else if (name == QLatin1String("action_showLog"))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::logDirectory()));
+    else if (name == QLatin1String("action_openProject"))
+        openProjectFromMenu();
+    else if (name == QLatin1String("action_saveProject"))
+        saveProjectFromMenu();
+    else if (name == QLatin1String("action_showResults"))
+        openResultPage();
+}
+
+void MainWindow::languageSwitch(QAction *action)
+{
+    const int index = action->data().toInt();
+    QSettings().setValue(QStringLiteral("Language"), index);
+    splog_d(kTag + QStringLiteral("Language switched to %1 for the next start.").arg(index));
+    QMessageBox::information(this, tr("Language"),
+        tr("The new language takes effect the next time the program "
+           "starts."));
+}
+
+void MainWindow::retranslate()
+{
+    setTitle();
+    refreshCountLabel();
+    setStatus(m_state);
+    emit retranslateSignal();
+}
+
+void MainWindow::setTitle()
+{
     setWindowTitle(AppIdentity::applicationName);
-    resize(1080, 720);
-    auto *layout = new QVBoxLayout(this);
-    auto *label = new QLabel(tr("Add folders to find duplicate files and similar photos."), this);
-    label->setAlignment(Qt::AlignCenter);
-    layout->addWidget(label);
+    m_title->setText(AppIdentity::applicationName);
+    refreshCountLabel();
+}
+
+void MainWindow::onTimeout()
+{
+    m_runReport->sendIfDue();
+}
+
+void MainWindow::on_btn_set_clicked()
+{
+    // The preferences dialog is opened by its own page; until it is present the
+    // settings file can be edited in the data folder.
+    QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::base()));
+}
+
+void MainWindow::showAbnormalExitNotice()
+{
+    reportFeature(AppIdentity::featureDeletedExcept, QString());
+    QMessageBox::information(this, tr("Abnormal Exit Detected During Last Deletion"),
+        tr("The program exited unexpectedly during the last batch deletion,<br>possibly "
+           "due to interference from antivirus software.<br><br>Please disable your "
+           "antivirus temporarily or add this application<br>to its whitelist to avoid "
+           "deletion failures or crashes."));
+    DFPreferences::instance()->ignoreListPreferences()->setDeleteException(0);
+    DFPreferences::instance()->save();
+}
+
+// ----------------------------------------------------------------------------- window
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (hasResults() && m_projectPath.isEmpty() && !m_cloudMode) {
+        const auto answer = QMessageBox::question(this, tr("Note"),
+            tr("The current scan results have not been saved. Do you want to save the "
+               "file?"),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        if (answer == QMessageBox::Cancel) {
+            event->ignore();
+            return;
+        }
+        if (answer == QMessageBox::Yes) {
+            TControlUI::instance()->stop();
+            m_showResultsWhenDone = false;
+            QString path = QFileDialog::getSaveFileName(
+                this, tr("Save File"), QString(), QStringLiteral("(*.dupproj)"));
+            if (!path.isEmpty() && !path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
+                path += QStringLiteral(".dupproj");
+            if (path.isEmpty() || !saveProjectBlocking(path)) {
+                m_showResultsWhenDone = true;
+                event->ignore();
+                return;
+            }
+        }
+    }
+    TControlUI::instance()->stop();
+    event->accept();
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton
+        && m_titleFrame->geometry().contains(event->position().toPoint())) {
+        m_dragging = true;
+        m_dragOffset = event->globalPosition().toPoint() - frameGeometry().topLeft();
+    }
+    QMainWindow::mousePressEvent(event);
+}
+
+void MainWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_dragging && (event->buttons() & Qt::LeftButton))
+        move(event->globalPosition().toPoint() - m_dragOffset);
+    QMainWindow::mouseMoveEvent(event);
+}
+
+void MainWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_dragging = false;
+    QMainWindow::mouseReleaseEvent(event);
 }

@@ -1,12 +1,174 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include "results/GroupListPage.h"
 
-// The program's single window.
-class MainWindow : public QWidget
+#include <QMainWindow>
+#include <QModelIndexList>
+#include <QPointer>
+#include <QStringList>
+
+class CRotateLabel;
+class DailyRunReport;
+class QAction;
+class QActionGroup;
+class QFrame;
+class QLabel;
+class QListView;
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+class QStandardItemModel;
+class RoundProgressBar;
+class TOpenSaveThread;
+
+// The program's single window: collects the folders, starts and stops the scan through
+// the scan controller, shows its progress and leads to the results. Window states:
+// 1 ready, 2 scanning, 3 paused (kept in the table; nothing enters it), 4 finished,
+// 5 opening a project.
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
+    enum State {
+        StateReady = 1,
+        StateScanning = 2,
+        StateContinue = 3,
+        StateFinished = 4,
+        StateOpening = 5,
+    };
+    enum ResultKind {
+        ResultsFound = 1,
+        NoResults = 2,
+    };
+
     explicit MainWindow(const QStringList &arguments, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    int state() const { return m_state; }
+    int resultKind() const { return m_resultKind; }
+    QStringList folders() const { return m_folders; }
+    QString projectPath() const { return m_projectPath; }
+    // The folders the last start handed to the controller (nested ones removed).
+    QStringList lastScanRoots() const { return m_lastScanRoots; }
+    void setShowResultsWhenDone(bool show) { m_showResultsWhenDone = show; }
+    GroupListPage *resultPage() const { return m_resultPage; }
+    QMenu *systemMenu() const { return m_systemMenu; }
+    QMenu *addMenu() const { return m_addMenu; }
+
+    // Adds one folder to the list; false when it is already listed or not a folder.
+    bool addFolder(const QString &path);
+    void setStatus(int state);
+
+public slots:
+    void on_btnAdd_clicked();
+    void on_btn_scan_clicked();
+    void on_local_menu_add_clicked();
+    void on_cloud_menu_clicked();
+    void on_btn_pre_clicked();
+    void on_btn_next_clicked();
+    void on_btn_set_clicked();
+    void on_listview_path_indexesMoved(const QModelIndexList &indexes);
+    void setPushButtonEnable();
+    void deleteSelectPath(const QModelIndex &index);
+    void filesCountChange(int fileCount);
+    void onProcessChange(double value);
+    void onItemFound(int number, qint64 total);
+    void onUpdateTimer(const QString &time);
+    void allThreadComplate();
+    void onResultWindowClose(bool update);
+    void onProjectOpenComplated(int flag, int files, qint64 size);
+    void onOpenProjectProcess(double cur, double total);
+    void onSaveProjectComplated(int flag);
+    void onSystemMenuEvent(QAction *action);
+    void languageSwitch(QAction *action);
+    void retranslate();
+    void setTitle();
+    void onTimeout();
+
+signals:
+    void stopTask();
+    void retranslateSignal();
+    // A cloud entry of the add menu was chosen (cloud type as the menu names it).
+    void cloudSourceRequested(const QString &cloudType);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    void buildUi();
+    void buildTitleFrame(QWidget *parent);
+    QWidget *buildFolderPage();
+    QWidget *buildScanPage();
+    QWidget *buildNoResultPage();
+    void buildMenus();
+    void connectController();
+    void refreshCountLabel();
+    void updateFolderPageView();
+    void startLocalScan();
+    void openResultPage();
+    void openProject(const QString &path);
+    // Asks to save unsaved results: true to go on, false to stay (Cancel or failed save).
+    bool confirmDiscardResults();
+    // Runs a save and waits for its end while the window keeps painting.
+    bool saveProjectBlocking(const QString &path);
+    void saveProjectFromMenu();
+    void openProjectFromMenu();
+    bool hasResults() const;
+    void showAbnormalExitNotice();
+
+    int m_state = StateReady;
+    int m_resultKind = ResultsFound;
+    bool m_showResultsWhenDone = true;
+    bool m_cloudMode = false;
+    QStringList m_folders;
+    QStringList m_cloudFolders;
+    QString m_cloudAccount;
+    int m_cloudInteger = 20;
+    QStringList m_lastScanRoots;
+    QString m_projectPath;
+    qint64 m_filesScanned = 0;
+    QString m_elapsed = QStringLiteral("00:00:00");
+
+    QFrame *m_titleFrame = nullptr;
+    QLabel *m_title = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    QLabel *m_background = nullptr;
+    QLabel *m_dragHint = nullptr;
+    QListView *m_pathView = nullptr;
+    QStandardItemModel *m_pathModel = nullptr;
+    QLabel *m_labNumber = nullptr;
+    CRotateLabel *m_animation = nullptr;
+    RoundProgressBar *m_ring = nullptr;
+    QLabel *m_labFileNumber = nullptr;
+    QLabel *m_labFindNumber = nullptr;
+    QLabel *m_labFindSize = nullptr;
+    QLabel *m_labProgress = nullptr;
+    QLabel *m_labFindTime = nullptr;
+    QPushButton *m_btnAdd = nullptr;
+    QPushButton *m_btnScan = nullptr;
+    QPushButton *m_btnSet = nullptr;
+    QPushButton *m_btnMenu = nullptr;
+    QPushButton *m_btnMinimize = nullptr;
+    QPushButton *m_btnClose = nullptr;
+    QPushButton *m_btnPre = nullptr;
+    QPushButton *m_btnNext = nullptr;
+    QMenu *m_addMenu = nullptr;
+    QMenu *m_systemMenu = nullptr;
+    QMenu *m_languageMenu = nullptr;
+    QActionGroup *m_languageGroup = nullptr;
+    QList<QAction *> m_stateActions;
+    QAction *m_actShowResults = nullptr;
+    QAction *m_actOpenProject = nullptr;
+    QAction *m_actSaveProject = nullptr;
+    TOpenSaveThread *m_projectThread = nullptr;
+    DailyRunReport *m_runReport = nullptr;
+    QPointer<GroupListPage> m_resultPage;
+    QPoint m_dragOffset;
+    bool m_dragging = false;
 };

@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TestEnvironment.h"
+#include "app/DataDirectory.h"
+#include "app/TLogger.h"
+#include "engine/TFileData.h"
+#include "fileops/TOpenSaveThread.h"
+#include "mainwindow/MainWindow.h"
+#include "mainwindow/TControlUI.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+static TestEnvironment environment;
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void statesAndButtonTexts_data();
+    void statesAndButtonTexts();
+    void dragEnter_data();
+    void dragEnter();
+    void dropAddsFoldersOnce();
+    void scanThroughButtons();
+    void stopDuringScan();
+    void noDuplicatesPage();
+    void projectFromCommandLine();
+
+private:
+    template<typename T>
+    T *child(const char *name) const
+    {
+        return m_window->findChild<T *>(QString::fromLatin1(name));
+    }
+    QString makeFile(const QString &relative, const QByteArray &content);
+    QString todaysLog() const;
+    QTemporaryDir m_tree;
+    MainWindow *m_window = nullptr;
+};
+
+QString tst_MainWindow::makeFile(const QString &relative, const QByteArray &content)
+{
+    const QString path = m_tree.filePath(relative);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write %s", qPrintable(path));
+    file.write(content);
+    return path;
+}
+
+QString tst_MainWindow::todaysLog() const
+{
+    QFile log(DataDirectory::todaysLogFile());
+    return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
+}
+
+void tst_MainWindow::initTestCase()
+{
+    initLogger(DataDirectory::base());
+    // A small tree: three copies of one file, two of another, and unique files.
+    makeFile(QStringLiteral("a/one.bin"), QByteArray(5000, 'a'));
+    makeFile(QStringLiteral("a/sub/one-copy.bin"), QByteArray(5000, 'a'));
+    makeFile(QStringLiteral("b/one-again.bin"), QByteArray(5000, 'a'));
+    makeFile(QStringLiteral("b/two.txt"), QByteArray(3000, 't'));
+    makeFile(QStringLiteral("a/sub/two.txt"), QByteArray(3000, 't'));
+    for (int i = 0; i < 5; ++i)
+        makeFile(QStringLiteral("b/unique%1.dat").arg(i), QByteArray(100 + i, char('k' + i)));
+    QDir(m_tree.path()).mkpath(QStringLiteral("empty"));
+    makeFile(QStringLiteral("lonely/only.txt"), "one");
+}
+
+void tst_MainWindow::init()
+{
+    TFileData::instance()->clear();
+    m_window = new MainWindow({QStringLiteral("program")});
+    m_window->setShowResultsWhenDone(false);
+    m_window->show();
+}
+
+void tst_MainWindow::cleanup()
+{
+    TControlUI::instance()->stop();
+    TFileData::instance()->clear();
+    delete m_window;
+    m_window = nullptr;
+}
+
+void tst_MainWindow::statesAndButtonTexts_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("mainText");
+    QTest::addColumn<bool>("mainEnabled");
+    QTest::addColumn<QList<bool>>("actions");
+    QTest::newRow("ready") << 1 << QString() << true << QList<bool> {true, true, false, false};
+    QTest::newRow("scanning") << 2 << "Stop" << true << QList<bool> {false, false, false, false};
+    QTest::newRow("continue") << 3 << "Continue" << true << QList<bool> {false, true, true, true};
+    QTest::newRow("finished") << 4 << "New Scan" << true << QList<bool> {true, true, true, true};
+    QTest::newRow("opening") << 5 << QString() << false << QList<bool> {true, false, false, false};
+}
+
+void tst_MainWindow::statesAndButtonTexts()
+{
+    QFETCH(int, state);
+    QFETCH(QString, mainText);
+    QFETCH(bool, mainEnabled);
+    QFETCH(QList<bool>, actions);
+    auto *add = child<QPushButton>("btnAdd");
+    auto *scan = child<QPushButton>("btn_scan");
+    QVERIFY(add && scan);
+    QCOMPARE(m_window->state(), 1);
+    QVERIFY(!add->icon().isNull() || add->text().isEmpty());
+    QCOMPARE(scan->text(), QStringLiteral("Scan"));
+    QVERIFY(!scan->isEnabled());
+    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("0 folders added"));
+
+    m_window->setStatus(state);
+    QCOMPARE(add->text(), mainText);
+    QCOMPARE(add->isEnabled(), mainEnabled);
+    const QList<QAction *> stateActions {child<QAction>("action_openProject"),
+        m_window->findChild<QMenu *>(QStringLiteral("menu_language"))->menuAction(),
+        child<QAction>("action_saveProject"), child<QAction>("action_showResults")};
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(stateActions.at(i)->isEnabled(), actions.at(i));
+    if (state == 1) {
+        QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("0.00%"));
+        QCOMPARE(child<QLabel>("lab_findSize")->text(), QStringLiteral("0M"));
+    }
+    if (state == 4)
+        QCOMPARE(scan->text(), QStringLiteral("Show results"));
+    if (state == 5)
+        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
+}
+
+void tst_MainWindow::dragEnter_data()
+{
+    QTest::addColumn<QStringList>("paths");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("a folder") << QStringList {"a"} << 1 << true;
+    QTest::newRow("files only") << QStringList {"a/one.bin", "b/two.txt"} << 1 << false;
+    QTest::newRow("a file and a folder") << QStringList {"b/two.txt", "b"} << 1 << true;
+    QTest::newRow("a folder while scanning") << QStringList {"a"} << 2 << false;
+    QTest::newRow("a missing folder") << QStringList {"nowhere"} << 1 << false;
+}
+
+void tst_MainWindow::dragEnter()
+{
+    QFETCH(QStringList, paths);
+    QFETCH(int, state);
+    QFETCH(bool, accepted);
+    m_window->setStatus(state);
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString &p : paths)
+        urls << QUrl::fromLocalFile(m_tree.filePath(p));
+    data.setUrls(urls);
+    QDragEnterEvent event(
+        QPoint(10, 10), Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window, &event);
+    QCOMPARE(event.isAccepted(), accepted);
+    QCOMPARE(event.dropAction(), Qt::LinkAction);
+}
+
+void tst_MainWindow::dropAddsFoldersOnce()
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a")),
+        QUrl::fromLocalFile(m_tree.filePath("b/two.txt")),
+        QUrl::fromLocalFile(m_tree.filePath("a/sub")), QUrl::fromLocalFile(m_tree.filePath("a"))});
+    QDropEvent drop(QPointF(10, 10), Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window, &drop);
+    QCOMPARE(m_window->folders(), QStringList({m_tree.filePath("a"), m_tree.filePath("a/sub")}));
+    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("2 folders added"));
+    QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
+}
+
+void tst_MainWindow::scanThroughButtons()
+{
+    // The nested folder a/sub is dropped from the roots before the scan.
+    m_window->addFolder(m_tree.filePath("a"));
+    m_window->addFolder(m_tree.filePath("a/sub"));
+    m_window->addFolder(m_tree.filePath("b"));
+    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    QCOMPARE(m_window->lastScanRoots(), QStringList({m_tree.filePath("a"), m_tree.filePath("b")}));
+    QCOMPARE(child<QPushButton>("btnAdd")->text(), QStringLiteral("Stop"));
+    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
+    QVERIFY(done.wait(60000));
+    QCOMPARE(m_window->state(), 4);
+    QCOMPARE(child<QPushButton>("btnAdd")->text(), QStringLiteral("New Scan"));
+    QCOMPARE(child<QLabel>("lab_fileNumber")->text(), QStringLiteral("10"));
+    QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("100.00%"));
+    QCOMPARE(TFileData::instance()->groupCount(), 2);
+    // The count is of files in groups: three copies and two copies.
+    QCOMPARE(child<QLabel>("lab_findNumber")->text(), QStringLiteral("5"));
+    QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
+    QCOMPARE(child<QPushButton>("btn_scan")->text(), QStringLiteral("Show results"));
+
+    // "Show results" opens the group list with both groups.
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    QVERIFY(m_window->resultPage());
+    QCOMPARE(m_window->resultPage()->groupCount(), 2);
+    m_window->resultPage()->close();
+    QVERIFY(m_window->isVisible());
+
+    // New Scan after saving returns to an empty folder page.
+    TControlUI::instance()->setProjectPath(QStringLiteral("saved"));
+    TFileData::instance()->clear();
+    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+    QCOMPARE(m_window->state(), 1);
+    QVERIFY(m_window->folders().isEmpty());
+    QCOMPARE(child<QLabel>("lab_findTime")->text(), QStringLiteral("00:00:00"));
+    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 0);
+}
+
+void tst_MainWindow::stopDuringScan()
+{
+    // Enough files that the scan is still walking when Stop is pressed.
+    for (int i = 0; i < 3000; ++i)
+        makeFile(QStringLiteral("many/%1/f%2.txt").arg(i % 30).arg(i), QByteArray::number(i));
+    m_window->addFolder(m_tree.filePath("many"));
+    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+    QCOMPARE(m_window->state(), 4);
+    QVERIFY(done.count() == 1 || done.wait(30000));
+    QCOMPARE(m_window->state(), 4);
+    const QString log = todaysLog();
+    QVERIFY(log.contains(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning "
+                                        "process.")));
+    QVERIFY(log.lastIndexOf(QStringLiteral("All tasks are completed"))
+        > log.lastIndexOf(QStringLiteral("The user clicks Stop during the scanning")));
+    QDir(m_tree.filePath("many")).removeRecursively();
+}
+
+void tst_MainWindow::noDuplicatesPage()
+{
+    m_window->addFolder(m_tree.filePath("lonely"));
+    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    QVERIFY(done.wait(30000));
+    QCOMPARE(m_window->state(), 4);
+    QCOMPARE(m_window->resultKind(), 2);
+    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 2);
+    QVERIFY(!child<QPushButton>("btn_scan")->isEnabled());
+}
+
+void tst_MainWindow::projectFromCommandLine()
+{
+    const QString a = m_tree.filePath("a/one.bin");
+    const QString b = m_tree.filePath("b/one-again.bin");
+    const QString key = TFileData::groupKey(a);
+    TFileData::instance()->insertGroup(key, {a, b});
+    TFileData::instance()->setSelected(key, {b});
+    const QString project = m_tree.filePath("saved.dupproj");
+    {
+        TOpenSaveThread writer;
+        QSignalSpy saved(&writer, &TOpenSaveThread::saveComplated);
+        QVERIFY(writer.saveProject(project, 7, QStringLiteral("00:00:05")));
+        QVERIFY(saved.wait(10000));
+        QCOMPARE(saved.at(0).at(0).toInt(), int(TOpenSaveThread::ProjectSucceeded));
+    }
+    TFileData::instance()->clear();
+
+    MainWindow window({QStringLiteral("program"), project});
+    window.setShowResultsWhenDone(false);
+    QCOMPARE(window.state(), 5);
+    QTRY_COMPARE_WITH_TIMEOUT(window.state(), 4, 10000);
+    QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
+    QCOMPARE(window.projectPath(), project);
+    QCOMPARE(
+        window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), QStringLiteral("7"));
+    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(),
+        QStringLiteral("00:00:05"));
+    TFileData::instance()->clear();
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"

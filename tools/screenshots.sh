@@ -1,0 +1,15 @@
+#!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Saves a screenshot of each page of the main window under Xvfb:
+#   tools/screenshots.sh <build dir> <output dir>
+# The pages are filled with sample values by the driver program;
+# see tests/mainwindow/ScreenshotPages.cpp.
+set -eu
+build=${1:?build directory}
+out=${2:?output directory}
+mkdir -p "$out"
+export XDG_RUNTIME_DIR=$(mktemp -d)
+export XDG_CONFIG_HOME=$(mktemp -d)
+export XDG_DATA_HOME=$(mktemp -d)
+xvfb-run -a -s "-screen 0 1280x800x24" "$build/tests/mainwindow/screenshot_pages" "$out"
+ls -l "$out"
