@@ -3,6 +3,7 @@
 
 #include "results/TImageModel.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QListView>
@@ -22,10 +23,14 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
         const QModelIndex &index) const override
     {
+        // The row background and selection come from the style; the texts are drawn here.
         QStyleOptionViewItem plain(option);
+        initStyleOption(&plain, index);
         plain.text.clear();
         plain.state &= ~QStyle::State_HasFocus;
-        QStyledItemDelegate::paint(painter, plain, index);
+        const QWidget *widget = option.widget;
+        QStyle *style = widget ? widget->style() : QApplication::style();
+        style->drawControl(QStyle::CE_ItemViewItem, &plain, painter, widget);
         const QRect text = option.rect.adjusted(10, 0, -10, 0);
         const QString detail = GroupListPage::tr("%1 copies, %2")
                                    .arg(index.data(TImageModel::CountRole).toInt())
@@ -58,8 +63,7 @@ GroupListPage::GroupListPage(QWidget *parent)
     qint64 total = 0;
     for (const GroupItem &group : m_model->allGroups())
         total += group.totalSize;
-    m_summary->setText(tr("%1 groups of duplicates, %2 in all")
-                           .arg(m_model->rowCount())
+    m_summary->setText(tr("%n group(s) of duplicates, %1 in all", nullptr, m_model->rowCount())
                            .arg(TImageModel::sizeText(total)));
 
     m_list = new QListView(this);
