@@ -1,4 +1,272 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES">
+<context>
+    <name>CustomProgressDialog</name>
+    <message>
+        <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/CustomProgressDialog.cpp" line="91"/>
+        <source>Cancelling...</source>
+        <translation>Cancelando...</translation>
+    </message>
+</context>
+<context>
+    <name>GroupListPage</name>
+    <message>
+        <location filename="../../src/results/GroupListPage.cpp" line="35"/>
+        <source>%1 copies, %2</source>
+        <translation>%1 copias, %2</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/GroupListPage.cpp" line="58"/>
+        <source>Scan results</source>
+        <translation>Resultados del análisis</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupListPage.cpp" line="66"/>
+        <source>%n group(s) of duplicates, %1 in all</source>
+        <translation>
+            <numerusform>%n grupo de duplicados, %1 en total</numerusform>
+            <numerusform>%n grupos de duplicados, %1 en total</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/GroupListPage.cpp" line="75"/>
+        <source>Back</source>
+        <translation>Volver</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="293"/>
+        <source>Files scanned</source>
+        <translation>Archivos analizados</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="294"/>
+        <source>Duplicates found</source>
+        <translation>Duplicados encontrados</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="295"/>
+        <source>Size of duplicates</source>
+        <translation>Tamaño de los duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="296"/>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="297"/>
+        <source>Elapsed time</source>
+        <translation>Tiempo transcurrido</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <source>Local Computer</source>
+        <translation>Equipo local</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="358"/>
+        <source>User Guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="359"/>
+        <source>Product FAQ</source>
+        <translation>Preguntas frecuentes</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="360"/>
+        <source>Feedback and Support</source>
+        <translation>Comentarios y soporte</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="361"/>
+        <source>Check for Updates</source>
+        <translation>Buscar actualizaciones</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="362"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="903"/>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="363"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="375"/>
+        <source>Show Log in Explorer</source>
+        <translation>Mostrar registro en el explorador</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="377"/>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <source>Save Project</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="379"/>
+        <source>Show Results</source>
+        <translation>Mostrar resultados</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <source>Scan</source>
+        <translation>Analizar</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="439"/>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
+        <source>New Scan</source>
+        <translation>Nuevo análisis</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="450"/>
+        <source>Show results</source>
+        <translation>Mostrar resultados</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="498"/>
+        <source>folders added</source>
+        <translation>carpetas añadidas</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="527"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="544"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="598"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="970"/>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="528"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="599"/>
+        <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
+        <translation>Después de añadir cuentas y carpetas en la nube, ya no se pueden añadir carpetas locales.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="532"/>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="545"/>
+        <source>After adding local directories, cloud accounts can no longer be added.</source>
+        <translation>Después de añadir carpetas locales, ya no se pueden añadir cuentas en la nube.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="794"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="858"/>
+        <source>Open File</source>
+        <translation>Abrir archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="807"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="842"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="875"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="982"/>
+        <source>Save File</source>
+        <translation>Guardar archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <source>The cloud drive scan results cannot be saved.</source>
+        <translation>Los resultados del análisis de la nube no se pueden guardar.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="971"/>
+        <source>The current scan results have not been saved. Do you want to save the file?</source>
+        <translation>Los resultados del análisis actual no se han guardado. ¿Desea guardar el archivo?</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="904"/>
+        <source>%1&lt;br&gt;Version %2 (%3)</source>
+        <translation>%1&lt;br&gt;Versión %2 (%3)</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="922"/>
+        <source>The new language takes effect the next time the program starts.</source>
+        <translation>El nuevo idioma se aplicará la próxima vez que se inicie el programa.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="956"/>
+        <source>Abnormal Exit Detected During Last Deletion</source>
+        <translation>Se detectó un cierre anómalo durante la última eliminación</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="957"/>
+        <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
+        <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>
+    </message>
+</context>
+<context>
+    <name>TOpenSaveThread</name>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
+        <source>The project file could not be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
+        <source>The project file is damaged or incomplete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
+        <source>This file is not a project file of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
+        <source>The project file contains invalid data and was not opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
+        <source>None of the duplicate groups in this project exist any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
+        <source>The project file could not be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
+        <source>The operation was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
+        <source>Unknown error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

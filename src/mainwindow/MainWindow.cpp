@@ -160,6 +160,8 @@ void MainWindow::buildUi()
     m_btnScan->setObjectName(QStringLiteral("btn_scan"));
     m_btnScan->setMinimumSize(160, 44);
     m_btnScan->setCursor(Qt::PointingHandCursor);
+    // A spacer as wide as the scan button keeps the round button in the middle.
+    bottomLayout->addSpacing(160);
     bottomLayout->addStretch(1);
     bottomLayout->addWidget(m_btnAdd);
     bottomLayout->addStretch(1);
