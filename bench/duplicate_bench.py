@@ -1,0 +1,171 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Benchmark of the duplicate-file engine against fdupes, jdupes and rmlint.
+
+Builds each tree with make_tree.py (fixed seed), runs the command line in every scan
+method and the three peers on the same tree in the same run, checks every tool's groups
+against the tree's ground truth with check_groups.py, and prints wall time, CPU time and
+peak memory per tool, each also as a ratio to the fastest peer (and the sampled mode as a
+ratio to a bare `find -type f -printf '%s'`).
+
+usage: duplicate_bench.py [--preset medium] [--runs 3] [--work DIR] [--cli PATH]
+                          [--tools LIST] [--keep-trees]
+"""
+import argparse
+import json
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+SHARED_BENCH = os.path.normpath(os.path.join(HERE, "..", "..", "shared", "bench"))
+SEEDS = {"small": 1, "medium": 2, "many-small": 3, "large-files": 4}
+
+
+def run_timed(cmd, stdout_path):
+    """Runs cmd under /usr/bin/time; returns (wall s, cpu s, peak KiB, exit status)."""
+    with tempfile.NamedTemporaryFile("r", suffix=".time") as timing, \
+            open(stdout_path, "wb") as out:
+        status = subprocess.call(["/usr/bin/time", "-f", "%e %U %S %M", "-o", timing.name] + cmd,
+                                 stdout=out, stderr=subprocess.DEVNULL)
+        fields = timing.read().split()[-4:]
+    wall, user, system, peak = (float(x) for x in fields)
+    return wall, user + system, peak, status
+
+
+def cli_json_to_fdupes(json_path, out_path):
+    """Our JSON groups -> fdupes text (raw file-name bytes, blank line between groups)."""
+    with open(json_path, encoding="utf-8", errors="surrogatepass") as f:
+        doc = json.loads(f.read())
+    with open(out_path, "wb") as out:
+        for group in doc["groups"]:
+            if group["kind"] != "files":
+                continue
+            for path in group["files"]:
+                out.write(path.encode("utf-8", "surrogateescape") + b"\n")
+            out.write(b"\n")
+    return doc.get("scannedFiles", 0)
+
+
+def check(truth, tree, output, fmt, mode):
+    result = subprocess.run([sys.executable, os.path.join(SHARED_BENCH, "check_groups.py"),
+                             "--truth", truth, "--root", tree, "--format", fmt, "--mode", mode,
+                             "--json", output], capture_output=True, text=True)
+    try:
+        r = json.loads(result.stdout)
+    except ValueError:
+        return "error"
+    if r["correct"]:
+        return "yes"
+    return "no (%d missing, %d extra, %d trap fails)" % (
+        len(r["missing"]), len(r["extra"]), len(r["trap_fails"]))
+
+
+def tool_commands(tool, tree, cli):
+    """(command, output format for check_groups, truth mode) of one tool."""
+    if tool.startswith("cli-"):
+        method = tool[4:]
+        return ([cli, "scan", "--method", method, "--include-hidden", "--select", "none",
+                 "--json", tree], "cli-json", {"sampled": "sampled", "full": "exact"}.get(method))
+    if tool == "fdupes":
+        return (["fdupes", "-r", "-n", "-q", tree], "fdupes", "exact")
+    if tool == "jdupes":
+        return (["jdupes", "-r", "-q", tree], "fdupes", "exact")
+    if tool == "rmlint":
+        return (["rmlint", "-T", "df", "-r", "-F", "-L", "-o", "json:stdout", tree],
+                "rmlint-json", "exact")
+    if tool == "find":
+        return (["find", tree, "-type", "f", "-printf", "%s\n"], None, None)
+    raise ValueError(tool)
+
+
+def bench_tree(preset, args, out_dir):
+    tree = os.path.join(args.work, preset)
+    truth = tree + ".truth.json"
+    if not os.path.exists(truth):
+        print(f"building {preset} tree in {tree} ...", flush=True)
+        subprocess.check_call([sys.executable, os.path.join(SHARED_BENCH, "make_tree.py"),
+                               "--preset", preset, "--seed", str(SEEDS[preset]), tree],
+                              stdout=subprocess.DEVNULL)
+    files = sum(len(f) for _, _, f in os.walk(tree))
+    rows = []
+    for tool in args.tools.split(","):
+        if not tool.startswith("cli-") and tool != "find" and shutil.which(tool) is None:
+            print(f"skip {tool}: not installed")
+            continue
+        cmd, fmt, mode = tool_commands(tool, tree, args.cli)
+        out = os.path.join(out_dir, f"{preset}.{tool}.out")
+        run_timed(cmd, out)  # warm-up: page cache and the tool's own libraries
+        samples = [run_timed(cmd, out) for _ in range(args.runs)]
+        wall = statistics.median(s[0] for s in samples)
+        cpu = statistics.median(s[1] for s in samples)
+        peak = max(s[2] for s in samples)
+        status = samples[-1][3]
+        scanned = None
+        verdict = "-"
+        if fmt == "cli-json":
+            converted = out + ".fdupes"
+            scanned = cli_json_to_fdupes(out, converted)
+            verdict = check(truth, tree, converted, "fdupes", mode) if mode else "n/a (name)"
+        elif fmt:
+            verdict = check(truth, tree, out, fmt, mode)
+        rows.append(dict(tool=tool, wall=wall, cpu=cpu, peak_kib=peak, status=status,
+                         scanned=scanned, correct=verdict))
+        print(f"  {tool:12s} wall {wall:7.3f} s  cpu {cpu:7.3f} s  peak {peak / 1024:8.1f} MiB"
+              f"  exit {status}  correct={verdict}", flush=True)
+
+    peers = [r for r in rows if r["tool"] in ("fdupes", "jdupes", "rmlint")]
+    fastest = min(peers, key=lambda r: r["wall"]) if peers else None
+    find = next((r for r in rows if r["tool"] == "find"), None)
+    print(f"\n== {preset}: {files} files; ratios to the fastest peer"
+          + (f" ({fastest['tool']})" if fastest else "") + "\n")
+    print(f"{'tool':12s} {'wall s':>8s} {'cpu s':>8s} {'peak MiB':>9s} {'B/file':>7s}"
+          f" {'wall x':>7s} {'cpu x':>7s} {'mem x':>7s} {'x find':>7s}  correct")
+    for r in rows:
+        ratio = lambda key: (r[key] / fastest[key]) if fastest and fastest[key] > 0 else float("nan")
+        vs_find = r["wall"] / find["wall"] if find and find["wall"] > 0 else float("nan")
+        per_file = r["peak_kib"] * 1024 / files if files else 0
+        print(f"{r['tool']:12s} {r['wall']:8.3f} {r['cpu']:8.3f} {r['peak_kib'] / 1024:9.1f}"
+              f" {per_file:7.0f} {ratio('wall'):7.2f} {ratio('cpu'):7.2f} {ratio('peak_kib'):7.2f}"
+              f" {vs_find:7.2f}  {r['correct']}")
+    print()
+    return rows
+
+
+def main():
+    ap = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
+    ap.add_argument("--preset", action="append",
+                    help="small, medium, many-small or large-files (repeatable; default medium)")
+    ap.add_argument("--runs", type=int, default=3, help="timed runs per tool (median taken)")
+    ap.add_argument("--work", default=os.path.join(tempfile.gettempdir(), "veltrine-bench"),
+                    help="folder for the trees (reused when present)")
+    ap.add_argument("--cli", default=None, help="path of veltrine-duplicate-finder-cli")
+    ap.add_argument("--tools", default="find,cli-sampled,cli-full,cli-name,fdupes,jdupes,rmlint")
+    ap.add_argument("--out", default=None, help="keep raw outputs here")
+    ap.add_argument("--remove-trees", action="store_true", help="delete the trees afterwards")
+    args = ap.parse_args()
+    if args.cli is None:
+        for candidate in ("build/veltrine-duplicate-finder-cli",
+                          "build-engine/veltrine-duplicate-finder-cli"):
+            path = os.path.join(HERE, "..", candidate)
+            if os.path.exists(path):
+                args.cli = os.path.abspath(path)
+                break
+    if not args.cli or not os.path.exists(args.cli):
+        ap.error("the command line was not found; build it and give --cli")
+    os.makedirs(args.work, exist_ok=True)
+    out_dir = args.out or tempfile.mkdtemp(prefix="dupbench.")
+    os.makedirs(out_dir, exist_ok=True)
+    print(f"cli: {args.cli}\ncores: {os.cpu_count()}  outputs: {out_dir}\n")
+    for preset in args.preset or ["medium"]:
+        bench_tree(preset, args, out_dir)
+        if args.remove_trees:
+            shutil.rmtree(os.path.join(args.work, preset), ignore_errors=True)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
