@@ -771,6 +771,7 @@ void MainWindow::onResultWindowClose(bool update)
 void MainWindow::openProject(const QString &path)
 {
     m_showResultsWhenDone = true;
+    rememberProjectFolder(path);
     setStatus(StateOpening);
     splog_d(kTag + QStringLiteral("Open project: %1").arg(path));
     if (!m_projectThread->openProject(path)) {
@@ -831,6 +832,30 @@ bool MainWindow::saveProjectBlocking(const QString &path)
     return result == TOpenSaveThread::ProjectSucceeded;
 }
 
+void MainWindow::rememberProjectFolder(const QString &path)
+{
+    DFIgnoreListPreferences *common = DFPreferences::instance()->ignoreListPreferences();
+    const QString folder = QFileInfo(path).absolutePath();
+    if (common->SaveFolder() == folder)
+        return;
+    common->setSaveFolder(folder);
+    DFPreferences::instance()->save();
+}
+
+QString MainWindow::chooseProjectFile(bool save)
+{
+    const QString start = DFPreferences::instance()->ignoreListPreferences()->SaveFolder();
+    const QString filter = QStringLiteral("(*.dupproj)");
+    QString path = save ? QFileDialog::getSaveFileName(this, tr("Save File"), start, filter)
+                        : QFileDialog::getOpenFileName(this, tr("Open File"), start, filter);
+    if (path.isEmpty())
+        return path;
+    if (save && !path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
+        path += QStringLiteral(".dupproj");
+    rememberProjectFolder(path);
+    return path;
+}
+
 void MainWindow::saveProjectFromMenu()
 {
     if (m_cloudMode) {
@@ -840,12 +865,9 @@ void MainWindow::saveProjectFromMenu()
     }
     if (!hasResults())
         return;
-    QString path = QFileDialog::getSaveFileName(
-        this, tr("Save File"), QString(), QStringLiteral("(*.dupproj)"));
+    const QString path = chooseProjectFile(true);
     if (path.isEmpty())
         return;
-    if (!path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
-        path += QStringLiteral(".dupproj");
     const bool previous = m_showResultsWhenDone;
     m_showResultsWhenDone = false;
     saveProjectBlocking(path);
@@ -856,8 +878,7 @@ void MainWindow::openProjectFromMenu()
 {
     if (!confirmDiscardResults())
         return;
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open File"), QString(), QStringLiteral("(*.dupproj)"));
+    const QString path = chooseProjectFile(false);
     if (!path.isEmpty())
         openProject(path);
 }
@@ -873,12 +894,9 @@ bool MainWindow::confirmDiscardResults()
         return false;
     if (answer == QMessageBox::No)
         return true;
-    QString path = QFileDialog::getSaveFileName(
-        this, tr("Save File"), QString(), QStringLiteral("(*.dupproj)"));
+    const QString path = chooseProjectFile(true);
     if (path.isEmpty())
         return false;
-    if (!path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
-        path += QStringLiteral(".dupproj");
     m_showResultsWhenDone = false;
     return saveProjectBlocking(path);
 }
@@ -980,10 +998,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         if (answer == QMessageBox::Yes) {
             TControlUI::instance()->stop();
             m_showResultsWhenDone = false;
-            QString path = QFileDialog::getSaveFileName(
-                this, tr("Save File"), QString(), QStringLiteral("(*.dupproj)"));
-            if (!path.isEmpty() && !path.endsWith(QLatin1String(".dupproj"), Qt::CaseInsensitive))
-                path += QStringLiteral(".dupproj");
+            const QString path = chooseProjectFile(true);
             if (path.isEmpty() || !saveProjectBlocking(path)) {
                 m_showResultsWhenDone = true;
                 event->ignore();

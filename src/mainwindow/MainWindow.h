@@ -118,6 +118,10 @@ private:
     // Runs a save and waits for its end while the window keeps painting.
     bool saveProjectBlocking(const QString &path);
     void saveProjectFromMenu();
+    // File dialog for a project, starting in the folder used last; the chosen folder is
+    // kept in the preferences ("SaveFolder") for the next time.
+    QString chooseProjectFile(bool save);
+    void rememberProjectFolder(const QString &path);
     void openProjectFromMenu();
     bool hasResults() const;
     void showAbnormalExitNotice();

@@ -6,18 +6,22 @@
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFPreferences.h"
 
 #include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 static TestEnvironment environment;
@@ -38,6 +42,7 @@ private slots:
     void stopDuringScan();
     void noDuplicatesPage();
     void projectFromCommandLine();
+    void abnormalExitNoticeOnce();
 
 private:
     template<typename T>
@@ -282,11 +287,41 @@ void tst_MainWindow::projectFromCommandLine()
     QTRY_COMPARE_WITH_TIMEOUT(window.state(), 4, 10000);
     QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
     QCOMPARE(window.projectPath(), project);
+    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->SaveFolder(), m_tree.path());
     QCOMPARE(
         window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), QStringLiteral("7"));
     QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(),
         QStringLiteral("00:00:05"));
     TFileData::instance()->clear();
+}
+
+void tst_MainWindow::abnormalExitNoticeOnce()
+{
+    DFPreferences::instance()->ignoreListPreferences()->setDeleteException(1);
+    DFPreferences::instance()->save();
+    QStringList titles;
+    // The notice is a modal box: note its title and close it when it appears.
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [&titles] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            titles << box->windowTitle();
+            box->accept();
+        }
+    });
+    closer.start(20);
+    {
+        MainWindow window({QStringLiteral("program")});
+        window.show();
+        QTRY_COMPARE(titles.size(), 1);
+    }
+    QCOMPARE(titles.first(), QStringLiteral("Abnormal Exit Detected During Last Deletion"));
+    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
+    {
+        MainWindow again({QStringLiteral("program")});
+        again.show();
+        QTest::qWait(200);
+    }
+    QCOMPARE(titles.size(), 1);
 }
 
 QTEST_MAIN(tst_MainWindow)
