@@ -551,6 +551,18 @@ void MainWindow::on_cloud_menu_clicked()
     emit cloudSourceRequested(cloudType);
 }
 
+void MainWindow::setCloudSelection(const QString &account, const QStringList &folders)
+{
+    if (!m_folders.isEmpty())
+        return;
+    m_cloudMode = !folders.isEmpty();
+    m_cloudAccount = account;
+    m_cloudFolders = folders;
+    TControlUI::instance()->setCloudMode(m_cloudMode);
+    refreshCountLabel();
+    setPushButtonEnable();
+}
+
 void MainWindow::on_btn_pre_clicked()
 {
     const int row = m_pathView->currentIndex().row();
@@ -618,8 +630,10 @@ void MainWindow::on_btnAdd_clicked()
         m_addMenu->popup(m_btnAdd->mapToGlobal(QPoint(0, m_btnAdd->height())));
         break;
     case StateScanning:
+        // A cloud scan is stopped by the cloud source, which listens to stopTask.
         emit stopTask();
-        TControlUI::instance()->stop();
+        if (!m_cloudMode)
+            TControlUI::instance()->stop();
         setStatus(StateFinished);
         break;
     case StateContinue:
@@ -663,7 +677,9 @@ void MainWindow::on_btn_scan_clicked()
         // The cloud source starts its own traversal once it is wired in.
         if (m_cloudFolders.isEmpty())
             return;
-        emit cloudSourceRequested(QString());
+        m_pages->setCurrentIndex(1);
+        setStatus(StateScanning);
+        emit cloudScanRequested(m_cloudFolders, m_cloudInteger);
         return;
     }
     if (m_folders.isEmpty())
@@ -731,6 +747,14 @@ void MainWindow::allThreadComplate()
         m_pages->setCurrentIndex(2);
         m_btnScan->setEnabled(false);
     }
+}
+
+void MainWindow::allCloudThreadComplated(bool isAbort)
+{
+    splog_d(kTag
+        + QStringLiteral("Cloud scan ended%1.")
+              .arg(isAbort ? QStringLiteral(" (stopped)") : QString()));
+    allThreadComplate();
 }
 
 void MainWindow::openResultPage()

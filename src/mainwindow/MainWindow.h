@@ -59,6 +59,9 @@ public:
     // Adds one folder to the list; false when it is already listed or not a folder.
     bool addFolder(const QString &path);
     void setStatus(int state);
+    // The cloud account and folders chosen by the cloud source; local folders exclude them.
+    void setCloudSelection(const QString &account, const QStringList &folders);
+    bool isCloudMode() const { return m_cloudMode; }
 
 public slots:
     void on_btnAdd_clicked();
@@ -76,6 +79,7 @@ public slots:
     void onItemFound(int number, qint64 total);
     void onUpdateTimer(const QString &time);
     void allThreadComplate();
+    void allCloudThreadComplated(bool isAbort);
     void onResultWindowClose(bool update);
     void onProjectOpenComplated(int flag, int files, qint64 size);
     void onOpenProjectProcess(double cur, double total);
@@ -91,6 +95,9 @@ signals:
     void retranslateSignal();
     // A cloud entry of the add menu was chosen (cloud type as the menu names it).
     void cloudSourceRequested(const QString &cloudType);
+    // Scan pressed with cloud folders chosen: the cloud source runs the traversal and
+    // ends it through allCloudThreadComplated.
+    void cloudScanRequested(const QStringList &folders, int cloudInteger);
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -43,6 +43,7 @@ private slots:
     void noDuplicatesPage();
     void projectFromCommandLine();
     void abnormalExitNoticeOnce();
+    void cloudAndLocalExclusive();
 
 private:
     template<typename T>
@@ -52,6 +53,8 @@ private:
     }
     QString makeFile(const QString &relative, const QByteArray &content);
     QString todaysLog() const;
+    // A drop arrives after its drag entered, as from a file manager.
+    void dropOnWindow(QMimeData *data);
     QTemporaryDir m_tree;
     MainWindow *m_window = nullptr;
 };
@@ -65,6 +68,14 @@ QString tst_MainWindow::makeFile(const QString &relative, const QByteArray &cont
         qFatal("cannot write %s", qPrintable(path));
     file.write(content);
     return path;
+}
+
+void tst_MainWindow::dropOnWindow(QMimeData *data)
+{
+    QDragEnterEvent enter(QPoint(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window, &enter);
+    QDropEvent drop(QPointF(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window, &drop);
 }
 
 QString tst_MainWindow::todaysLog() const
@@ -186,8 +197,7 @@ void tst_MainWindow::dropAddsFoldersOnce()
     data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a")),
         QUrl::fromLocalFile(m_tree.filePath("b/two.txt")),
         QUrl::fromLocalFile(m_tree.filePath("a/sub")), QUrl::fromLocalFile(m_tree.filePath("a"))});
-    QDropEvent drop(QPointF(10, 10), Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_window, &drop);
+    dropOnWindow(&data);
     QCOMPARE(m_window->folders(), QStringList({m_tree.filePath("a"), m_tree.filePath("a/sub")}));
     QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("2 folders added"));
     QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
@@ -322,6 +332,41 @@ void tst_MainWindow::abnormalExitNoticeOnce()
         QTest::qWait(200);
     }
     QCOMPARE(titles.size(), 1);
+}
+
+void tst_MainWindow::cloudAndLocalExclusive()
+{
+    m_window->setCloudSelection(QStringLiteral("someone@example.org"), {QStringLiteral("root-id")});
+    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("someone@example.org"));
+    QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
+    QStringList texts;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [&texts] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            texts << box->text();
+            box->accept();
+        }
+    });
+    closer.start(20);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
+    dropOnWindow(&data);
+    QCOMPARE(texts,
+        QStringList {QStringLiteral("After adding cloud accounts and directories, "
+                                    "local directories can no longer be added.")});
+    QVERIFY(m_window->folders().isEmpty());
+
+    QSignalSpy cloudScan(m_window, &MainWindow::cloudScanRequested);
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    QCOMPARE(cloudScan.count(), 1);
+    QCOMPARE(cloudScan.at(0).at(0).toStringList(), QStringList {QStringLiteral("root-id")});
+    QCOMPARE(cloudScan.at(0).at(1).toInt(), 20);
+    QCOMPARE(m_window->state(), 2);
+    QSignalSpy stop(m_window, &MainWindow::stopTask);
+    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+    QCOMPARE(stop.count(), 1);
+    QCOMPARE(m_window->state(), 4);
+    TControlUI::instance()->setCloudMode(false);
 }
 
 QTEST_MAIN(tst_MainWindow)
