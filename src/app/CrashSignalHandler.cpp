@@ -25,7 +25,7 @@ namespace {
         int reportFd = -1;
         FILE *reportFile = nullptr;
         std::vector<char> altStack;
-        struct sigaction previous[sizeof(kSignals) / sizeof(kSignals[0])] {};
+        struct sigaction previous[sizeof(kSignals) / sizeof(kSignals[0])] = {};
         bool installed = false;
     };
 
@@ -152,9 +152,7 @@ bool install(const Setup &setup)
     stack.ss_size = s.altStack.size();
     ::sigaltstack(&stack, nullptr);
 
-    struct sigaction action
-    {
-    };
+    struct sigaction action = {};
     action.sa_sigaction = &onFatalSignal;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_RESETHAND;
     sigemptyset(&action.sa_mask);
@@ -172,9 +170,7 @@ void uninstall()
     for (size_t i = 0; i < sizeof(kSignals) / sizeof(kSignals[0]); ++i)
         ::sigaction(kSignals[i], &s.previous[i], nullptr);
     std::fflush(s.reportFile);
-    struct stat info
-    {
-    };
+    struct stat info = {};
     const bool empty = ::fstat(s.reportFd, &info) == 0 && info.st_size == 0;
     std::fclose(s.reportFile);
     s.reportFile = nullptr;

@@ -20,20 +20,25 @@ void onSignal(int signalNumber)
 
 } // namespace
 
-TerminationSignalWatcher::TerminationSignalWatcher(QObject *parent) : QObject(parent)
+void TerminationSignalWatcher::installHandlers()
 {
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, g_sockets) != 0)
+    if (g_sockets[0] >= 0 || ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, g_sockets) != 0)
         return;
-    m_notifier = new QSocketNotifier(g_sockets[1], QSocketNotifier::Read, this);
-    connect(m_notifier, &QSocketNotifier::activated, this, &TerminationSignalWatcher::onReadable);
-    struct sigaction action
-    {
-    };
+    struct sigaction action = {};
     action.sa_handler = &onSignal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
     for (int signalNumber : kSignals)
         ::sigaction(signalNumber, &action, nullptr);
+}
+
+TerminationSignalWatcher::TerminationSignalWatcher(QObject *parent) : QObject(parent)
+{
+    installHandlers();
+    if (g_sockets[1] < 0)
+        return;
+    m_notifier = new QSocketNotifier(g_sockets[1], QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &TerminationSignalWatcher::onReadable);
 }
 
 TerminationSignalWatcher::~TerminationSignalWatcher()

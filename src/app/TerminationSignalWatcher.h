@@ -13,6 +13,10 @@ class TerminationSignalWatcher : public QObject
 {
     Q_OBJECT
 public:
+    // Installs the handlers. Called first thing in main(): a signal that arrives before
+    // the event loop runs waits in the socket and is acted on once the loop starts.
+    static void installHandlers();
+
     explicit TerminationSignalWatcher(QObject *parent = nullptr);
     ~TerminationSignalWatcher() override;
 

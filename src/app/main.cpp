@@ -78,6 +78,7 @@ void placeWindow(QWidget &window)
 
 int main(int argc, char *argv[])
 {
+    TerminationSignalWatcher::installHandlers();
     const QString base = DataDirectory::base();
     QDir().mkpath(base + QStringLiteral("sentrydb"));
     QDir().mkpath(base + QStringLiteral("Log"));
