@@ -23,6 +23,12 @@ const QMap<QString, int> &selections()
     return map;
 }
 
+const QMap<QString, int> &algorithms()
+{
+    static const QMap<QString, int> map {{"smart", 0}, {"histogram", 1}, {"phash", 2}};
+    return map;
+}
+
 QStringList extensionList(const QString &text)
 {
     QStringList out;
@@ -67,7 +73,17 @@ QString CliOptions::usage()
         "  --ignore EXT,...            skip these extensions\n"
         "  --ignore-path PATH          skip this folder or file (repeatable)\n"
         "  --include-hidden            include hidden files and folders\n"
-        "  --similar                   also group similar pictures\n"
+        "  --similar                   also group similar pictures; each option below\n"
+        "                              turns this on as well:\n"
+        "  --threshold PERCENT         pass mark of the fast comparison, 0 to 100 (default 55)\n"
+        "  --algorithm smart|histogram|phash\n"
+        "                              fast comparison: colour histogram, 64-bit perceptual\n"
+        "                              hash, or smart (default: the hash above 10000 pictures)\n"
+        "  --features PERCENT          pass mark of the feature-point re-check, 0 to 100\n"
+        "                              (default 50)\n"
+        "  --no-features               leave out the feature-point re-check\n"
+        "  --any-type                  also compare pictures of different file types\n"
+        "  --any-ratio                 also compare pictures of very different aspect ratios\n"
         "  --json                      print the groups as one JSON object\n"
         "  --save FILE.dupproj         save the result as a project file\n"
         "  --log-dir DIR               write the program's log into DIR\n"
@@ -117,6 +133,20 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
                 return false;
             }
             value = arguments.at(++i);
+            return true;
+        };
+        const auto takePercent = [&](double &target) -> bool {
+            if (!takeValue())
+                return false;
+            bool ok = false;
+            const double number = value.toDouble(&ok);
+            if (!ok || !(number >= 0 && number <= 100)) {
+                m_error = QStringLiteral("%1 needs a percent from 0 to 100, not \"%2\"")
+                              .arg(name, value);
+                return false;
+            }
+            target = number;
+            m_similar = true;
             return true;
         };
         const auto takeNumber = [&](double &target) -> bool {
@@ -188,6 +218,31 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             m_folderGroups = true;
         } else if (name == QLatin1String("--similar") && !inlineValue) {
             m_similar = true;
+        } else if (name == QLatin1String("--threshold")) {
+            if (!takePercent(m_threshold))
+                return BadArguments;
+        } else if (name == QLatin1String("--features")) {
+            if (!takePercent(m_features))
+                return BadArguments;
+        } else if (name == QLatin1String("--algorithm")) {
+            if (!takeValue())
+                return BadArguments;
+            if (!algorithms().contains(value)) {
+                m_error = QStringLiteral("unknown algorithm \"%1\" (smart, histogram or phash)")
+                              .arg(value);
+                return BadArguments;
+            }
+            m_algorithm = algorithms().value(value);
+            m_similar = true;
+        } else if (name == QLatin1String("--no-features") && !inlineValue) {
+            m_addFeatures = false;
+            m_similar = true;
+        } else if (name == QLatin1String("--any-type") && !inlineValue) {
+            m_sameType = false;
+            m_similar = true;
+        } else if (name == QLatin1String("--any-ratio") && !inlineValue) {
+            m_sameRatio = false;
+            m_similar = true;
         } else if (name == QLatin1String("--json") && !inlineValue) {
             m_json = true;
         } else if (name == QLatin1String("--save")) {
@@ -251,15 +306,15 @@ QJsonObject CliOptions::similarConfig() const
 {
     return QJsonObject {
         {"hasSimilar", m_similar},
-        {"SimilarityValue", 55},
-        {"FeaturesValue", 50},
+        {"SimilarityValue", m_threshold},
+        {"FeaturesValue", m_features},
         {"selectedSimilar", m_selectHint != 8},
         {"scanPriority", 1},
         {"selectionHint", m_selectHint},
-        {"algorithmHint", 0},
-        {"isAddFeatures", true},
-        {"isImageType", true},
-        {"isImageSize", true},
+        {"algorithmHint", m_algorithm},
+        {"isAddFeatures", m_addFeatures},
+        {"isImageType", m_sameType},
+        {"isImageSize", m_sameRatio},
         {"imageMinSize", 4},
     };
 }

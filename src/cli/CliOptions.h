@@ -41,6 +41,13 @@ private:
     bool m_folderGroups = false;
     bool m_includeHidden = false;
     bool m_similar = false;
+    // Similar-picture settings; any of their options turns the similar search on.
+    double m_threshold = 55;
+    double m_features = 50;
+    int m_algorithm = 0;
+    bool m_addFeatures = true;
+    bool m_sameType = true;
+    bool m_sameRatio = true;
     bool m_json = false;
     double m_minSizeKb = 0;
     double m_maxSizeMb = 100000;

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The similar-picture options of the command line, run as a real process on pictures
+// encoded here: one scene saved as JPEG, as a smaller JPEG, as PNG and stretched to a very
+// different aspect ratio, plus an unrelated scene.
+#include "engine/ImageFixtures.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+struct CliRun
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+CliRun runCli(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(VELTRINE_CLI_PATH), arguments);
+    CliRun run;
+    if (!process.waitForFinished(120000))
+        return run;
+    run.exitCode = process.exitCode();
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
+}
+
+const QRegularExpression &taggedEntry()
+{
+    static const QRegularExpression pattern(QStringLiteral("^(.+)_simlar_(\\d+)$"));
+    return pattern;
+}
+
+} // namespace
+
+class TestCliSimilar : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void badValues_data();
+    void badValues();
+    void similarGroups_data();
+    void similarGroups();
+    void savesSimilarGroups();
+
+private:
+    // "kind:name,name" per group, names sorted, similar tags checked and removed.
+    QStringList groupsOf(const QByteArray &json) const;
+
+    QTemporaryDir m_dir;
+    QString m_root;
+};
+
+void TestCliSimilar::initTestCase()
+{
+    QVERIFY(m_dir.isValid());
+    m_root = m_dir.path();
+    const cv::Mat scene = fixtures::makeScene(640, 480, 11);
+    const cv::Mat other = fixtures::makeScene(640, 480, 12);
+    cv::Mat smaller;
+    cv::resize(scene, smaller, cv::Size(480, 360), 0, 0, cv::INTER_AREA);
+    // 1600 x 240 against 640 x 480: the ratios differ five times, beyond the default limit
+    // of 4, while the perceptual hash (taken on a square reduction) barely changes.
+    cv::Mat stretched;
+    cv::resize(scene, stretched, cv::Size(1600, 240), 0, 0, cv::INTER_AREA);
+    const std::vector<int> q92 {cv::IMWRITE_JPEG_QUALITY, 92};
+    const std::vector<int> q85 {cv::IMWRITE_JPEG_QUALITY, 85};
+    QVERIFY(fixtures::writeBytes(m_root + "/a.jpg", fixtures::encode(scene, ".jpg", q92)));
+    QVERIFY(fixtures::writeBytes(m_root + "/a_small.jpg", fixtures::encode(smaller, ".jpg", q85)));
+    QVERIFY(fixtures::writeBytes(m_root + "/a.png", fixtures::encode(scene, ".png")));
+    QVERIFY(fixtures::writeBytes(m_root + "/a_wide.jpg", fixtures::encode(stretched, ".jpg", q92)));
+    QVERIFY(fixtures::writeBytes(m_root + "/b.jpg", fixtures::encode(other, ".jpg", q92)));
+}
+
+QStringList TestCliSimilar::groupsOf(const QByteArray &json) const
+{
+    QStringList out;
+    const QJsonDocument document = QJsonDocument::fromJson(json);
+    if (!document.isObject())
+        return {QStringLiteral("not JSON: ") + QString::fromUtf8(json.left(200))};
+    for (const QJsonValue &value : document.object().value("groups").toArray()) {
+        const QJsonObject group = value.toObject();
+        const QString kind = group.value("kind").toString();
+        QStringList names;
+        for (const QJsonValue &file : group.value("files").toArray()) {
+            QString entry = file.toString();
+            const QRegularExpressionMatch match = taggedEntry().match(entry);
+            // A similar group lists tagged entries and nothing else; a file group none.
+            if (match.hasMatch() != (kind == QLatin1String("similar")))
+                return {QStringLiteral("wrongly tagged: ") + entry};
+            if (match.hasMatch()) {
+                const int percent = match.captured(2).toInt();
+                if (percent > 99)
+                    return {QStringLiteral("percent above 99: ") + entry};
+                entry = match.captured(1);
+            }
+            names.append(entry.mid(m_root.size() + 1));
+        }
+        names.sort();
+        out.append(kind + ":" + names.join(","));
+    }
+    out.sort();
+    return out;
+}
+
+void TestCliSimilar::badValues_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("threshold above 100") << QStringList {"--threshold", "101"};
+    QTest::newRow("threshold below 0") << QStringList {"--threshold", "-1"};
+    QTest::newRow("threshold not a number") << QStringList {"--threshold", "high"};
+    QTest::newRow("threshold inline") << QStringList {"--threshold=150"};
+    QTest::newRow("threshold without value") << QStringList {"--threshold"};
+    QTest::newRow("unknown algorithm") << QStringList {"--algorithm", "orb"};
+    QTest::newRow("algorithm in capitals") << QStringList {"--algorithm", "PHASH"};
+    QTest::newRow("features above 100") << QStringList {"--features", "100.5"};
+    QTest::newRow("features not a number") << QStringList {"--features", "nan"};
+    QTest::newRow("switch given a value") << QStringList {"--any-type=yes"};
+}
+
+void TestCliSimilar::badValues()
+{
+    QFETCH(QStringList, options);
+    // The folder comes first so that an option left without its value is the last word.
+    const CliRun run = runCli(QStringList {"scan", m_root} + options);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY(run.err.contains("usage: veltrine-duplicate-finder-cli scan"));
+    QVERIFY(run.out.isEmpty());
+}
+
+void TestCliSimilar::similarGroups_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("no similar search") << QStringList {} << QStringList {};
+    QTest::newRow("histogram with re-check")
+        << QStringList {"--similar"} << QStringList {"similar:a.jpg,a_small.jpg"};
+    QTest::newRow("histogram pass mark 99")
+        << QStringList {"--similar", "--threshold", "99"} << QStringList {};
+    QTest::newRow("threshold alone turns the search on")
+        << QStringList {"--threshold", "50"} << QStringList {"similar:a.jpg,a_small.jpg"};
+    QTest::newRow("phash") << QStringList {"--algorithm", "phash"}
+                           << QStringList {"similar:a.jpg,a_small.jpg"};
+    QTest::newRow("phash pass mark 99")
+        << QStringList {"--algorithm", "phash", "--threshold", "99"} << QStringList {};
+    QTest::newRow("phash any type: the PNG joins its JPEG") << QStringList {
+        "--algorithm", "phash", "--any-type"} << QStringList {"similar:a.jpg,a.png,a_small.jpg"};
+    QTest::newRow("phash any ratio: the stretched copy joins")
+        << QStringList {"--algorithm", "phash", "--any-ratio", "--no-features"}
+        << QStringList {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
+    QTest::newRow("both filters off")
+        << QStringList {"--algorithm", "phash", "--any-ratio", "--any-type", "--no-features"}
+        << QStringList {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
+    QTest::newRow("pass mark 0 links every pair") << QStringList {"--algorithm", "phash",
+        "--threshold", "0", "--no-features"} << QStringList {"similar:a.jpg,a_small.jpg,b.jpg"};
+    QTest::newRow("feature pass mark 100 drops every pair")
+        << QStringList {"--algorithm", "phash", "--features", "100"} << QStringList {};
+}
+
+void TestCliSimilar::similarGroups()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QStringList, expected);
+    const CliRun run = runCli(
+        QStringList {"scan", "--json", "--select", "none"} + options + QStringList {m_root});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(QJsonDocument::fromJson(run.out).object().value("scannedFiles").toInt(), 5);
+    QCOMPARE(groupsOf(run.out), expected);
+}
+
+void TestCliSimilar::savesSimilarGroups()
+{
+    QTemporaryDir out;
+    const QString project = out.path() + "/pictures.dupproj";
+    const CliRun run
+        = runCli({"scan", "--algorithm", "phash", "--any-type", "--save", project, m_root});
+    QCOMPARE(run.exitCode, 0);
+    QFile file(project);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    for (const QString &name : {"a.jpg", "a.png", "a_small.jpg"})
+        QVERIFY2(text.contains(QRegularExpression(
+                     QRegularExpression::escape(m_root + "/" + name) + "_simlar_\\d+<")),
+            qPrintable(name));
+    QVERIFY(!text.contains("b.jpg"));
+    QVERIFY(!text.contains("a_wide.jpg"));
+}
+
+QTEST_GUILESS_MAIN(TestCliSimilar)
+#include "tst_CliSimilar.moc"
