@@ -12,7 +12,7 @@ PACKAGES=(
     rclone xvfb xauth imagemagick g++-mingw-w64-x86-64
     fonts-dejavu-core fonts-noto-cjk
     fdupes jdupes rmlint python3 time
-    python3-numpy python3-pil python3-opencv
+    python3-numpy python3-pil python3-opencv libjpeg-dev libpng-dev
 )
 
 missing=()
