@@ -2,6 +2,7 @@
 #include "mainwindow/DailyRunReport.h"
 
 #include "app/AppIdentity.h"
+#include "app/BuildSettings.h"
 #include "app/TLogger.h"
 
 #include <QJsonArray>
@@ -25,12 +26,12 @@ DailyRunReport::DailyRunReport(
     : QObject(parent)
     , m_measurementId(measurementId)
     , m_apiSecret(apiSecret)
-    , m_endpoint(QStringLiteral("https://www.google-analytics.com/mp/collect"))
+    , m_endpoint(QStringLiteral(VELTRINE_ANALYTICS_URL))
 { }
 
 bool DailyRunReport::isConfigured() const
 {
-    return !m_measurementId.isEmpty() && !m_apiSecret.isEmpty();
+    return !m_measurementId.isEmpty() && !m_apiSecret.isEmpty() && !m_endpoint.isEmpty();
 }
 
 QString DailyRunReport::clientId()

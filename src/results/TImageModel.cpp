@@ -28,7 +28,7 @@ TImageModel::CloudPropertyGetter &cloudGetter()
 // Category of a cloud item from its MIME type ("image/jpeg" -> the jpeg suffix).
 int categoryOfMimeType(const QString &mimeType)
 {
-    if (mimeType == QLatin1String("application/vnd.google-apps.folder"))
+    if (mimeType == QLatin1String("inode/directory"))
         return CategoryFolders;
     const QString major = mimeType.section(QLatin1Char('/'), 0, 0);
     QString minor = mimeType.section(QLatin1Char('/'), 1).section(QLatin1Char('+'), 0, 0);
