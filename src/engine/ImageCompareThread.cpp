@@ -253,27 +253,47 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
     const double passMark = double(m_similarityValue);
     const double limit = double(m_imageMinSize);
 
+    // The hashes and the flags the inner loop reads first, side by side in memory: with
+    // the hash measure most pairs fail on the distance alone, and this way they are
+    // decided without touching the pictures' records. Every test is a plain condition of
+    // the pair, so their order does not change which pairs pass.
+    std::vector<quint64> bits(size_t(std::max(n, 0)));
+    std::vector<char> hasBits(size_t(std::max(n, 0)));
+    std::vector<char> earlier(size_t(std::max(n, 0)));
+    for (int k = 0; k < n; ++k) {
+        const ImageData &image = images.at(k);
+        hasBits[size_t(k)] = fastHash && image.hash.total() == 8;
+        bits[size_t(k)] = image.hashBits;
+        earlier[size_t(k)] = image.fromEarlierResult;
+    }
+
     QList<int> indexes(n);
     std::iota(indexes.begin(), indexes.end(), 0);
     QtConcurrent::blockingMap(indexes, [&](int i) {
         const ImageData &a = images.at(i);
-        const bool aHash = fastHash && a.hash.total() == 8;
+        const bool aHash = hasBits[size_t(i)];
+        const bool aEarlier = earlier[size_t(i)];
+        const quint64 aBits = bits[size_t(i)];
         QList<QPair<int, int>> local;
         for (int j = i + 1; j < n; ++j) {
             if (isCancelled())
                 break;
-            const ImageData &b = images.at(j);
-            if (a.fromEarlierResult && b.fromEarlierResult)
+            if (aEarlier && earlier[size_t(j)])
                 continue;
+            const bool pairHash = aHash && hasBits[size_t(j)];
+            double similarity = 0.0;
+            if (pairHash) {
+                similarity = hashTable[qPopulationCount(aBits ^ bits[size_t(j)])];
+                if (similarity < passMark)
+                    continue;
+            }
+            const ImageData &b = images.at(j);
             if (m_isImageType && a.fileType != b.fileType)
                 continue;
             if (m_isImageSize
                 && !aspectRatioCompatible(a.width, a.height, b.width, b.height, limit))
                 continue;
-            double similarity;
-            if (aHash && b.hash.total() == 8)
-                similarity = hashTable[qPopulationCount(a.hashBits ^ b.hashBits)];
-            else
+            if (!pairHash)
                 similarity = compareFast(a, b);
             if (similarity < passMark)
                 continue;
@@ -299,6 +319,9 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
             images[j].similarity = qint32(packed & 0xffffffffu);
     }
 
+    // The pool appends the links in whatever order its tasks finish; sorted, the groups
+    // and the order of their members come out the same on every run.
+    std::sort(links.begin(), links.end());
     std::vector<std::vector<int>> adjacency(size_t(std::max(n, 0)));
     for (const auto &link : std::as_const(links)) {
         adjacency[size_t(link.first)].push_back(link.second);
@@ -322,7 +345,7 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
                 }
             }
         }
-        std::sort(group.begin(), group.end(),
+        std::stable_sort(group.begin(), group.end(),
             [](const ImageData &x, const ImageData &y) { return x.similarity > y.similarity; });
         groups.append(group);
     }

@@ -8,6 +8,9 @@
 #include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
 
+#include <functional>
+#include <numeric>
+
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -194,6 +197,115 @@ private slots:
         groups.clear();
         thread.hashCompare(images, groups);
         QCOMPARE(groups.size(), 2);
+    }
+
+    // Many pictures with random hashes around a few centres, random types, sizes and
+    // earlier entries: the groups and the similarity written into each member must be
+    // those of the plain definition, every pair tested in index order with every filter.
+    void randomHashesMatchPlainDefinition_data()
+    {
+        QTest::addColumn<int>("threshold");
+        QTest::addColumn<bool>("sameType");
+        QTest::addColumn<bool>("ratio");
+        QTest::addColumn<int>("seed");
+        QTest::newRow("defaults") << 55 << true << true << 1;
+        QTest::newRow("strict, no filters") << 80 << false << false << 2;
+        QTest::newRow("loose, type filter") << 35 << true << false << 3;
+        QTest::newRow("pass mark 0 links every pair") << 0 << false << false << 4;
+        QTest::newRow("pass mark 100 links nothing") << 100 << true << true << 5;
+    }
+    void randomHashesMatchPlainDefinition()
+    {
+        QFETCH(int, threshold);
+        QFETCH(bool, sameType);
+        QFETCH(bool, ratio);
+        QFETCH(int, seed);
+        QJsonObject settings = config(2, false, sameType, ratio);
+        settings.insert(QStringLiteral("SimilarityValue"), threshold);
+        ImageCompareThread thread;
+        thread.applyConfig(settings);
+        thread.setImagePaths({});
+        QList<ImageData> none;
+        thread.loadImages(none);
+
+        cv::RNG rng {uint64(seed)};
+        const auto random64 = [&rng] { return (quint64(unsigned(rng)) << 32) | unsigned(rng); };
+        std::vector<quint64> centres(12);
+        for (quint64 &centre : centres)
+            centre = random64();
+        const int n = 400;
+        QList<ImageData> images;
+        for (int k = 0; k < n; ++k) {
+            quint64 bits = centres[size_t(rng.uniform(0, int(centres.size())))];
+            for (int flips = rng.uniform(0, 24); flips > 0; --flips)
+                bits ^= 1ULL << rng.uniform(0, 64);
+            if (rng.uniform(0, 10) == 0)
+                bits = random64();
+            ImageData image = hashed(QStringLiteral("p%1").arg(k), bits);
+            image.fileType = rng.uniform(0, 4) == 0 ? QStringLiteral("png") : QStringLiteral("jpg");
+            image.width = rng.uniform(1, 5000);
+            image.height = rng.uniform(1, 1000);
+            image.fromEarlierResult = rng.uniform(0, 8) == 0;
+            if (rng.uniform(0, 40) == 0)
+                image.hash.release(); // not decoded: never similar to anything
+            images.append(image);
+        }
+
+        // The plain definition.
+        const double passMark = double(float(threshold / 100.0));
+        std::vector<int> parent(static_cast<size_t>(n));
+        std::iota(parent.begin(), parent.end(), 0);
+        const std::function<int(int)> root = [&](int k) {
+            return parent[size_t(k)] == k ? k : parent[size_t(k)] = root(parent[size_t(k)]);
+        };
+        std::vector<int> expectedPercent(size_t(n), 0);
+        std::vector<char> linked(size_t(n), 0);
+        for (int i = 0; i < n; ++i) {
+            for (int j = i + 1; j < n; ++j) {
+                const ImageData &a = images[i];
+                const ImageData &b = images[j];
+                if (a.fromEarlierResult && b.fromEarlierResult)
+                    continue;
+                if (sameType && a.fileType != b.fileType)
+                    continue;
+                if (ratio
+                    && !ImageCompareThread::aspectRatioCompatible(
+                        a.width, a.height, b.width, b.height, 4))
+                    continue;
+                const double similarity = a.hash.empty() || b.hash.empty()
+                    ? 0.0
+                    : ImageCompareThread::hashSimilarity(qPopulationCount(a.hashBits ^ b.hashBits));
+                if (similarity < passMark)
+                    continue;
+                expectedPercent[size_t(j)] = std::min(99, int(similarity * 100.0));
+                linked[size_t(i)] = linked[size_t(j)] = 1;
+                parent[size_t(root(i))] = root(j);
+            }
+        }
+        QMap<int, QStringList> expectedGroups;
+        for (int k = 0; k < n; ++k) {
+            if (linked[size_t(k)])
+                expectedGroups[root(k)].append(
+                    images[k].path + ":" + QString::number(expectedPercent[size_t(k)]));
+        }
+        QList<QStringList> expected = expectedGroups.values();
+        for (QStringList &group : expected)
+            group.sort();
+        std::sort(expected.begin(), expected.end());
+
+        QList<QList<ImageData>> groups;
+        thread.hashCompare(images, groups);
+        QList<QStringList> actual;
+        for (const QList<ImageData> &group : std::as_const(groups)) {
+            QStringList members;
+            for (const ImageData &image : group)
+                members.append(image.path + ":" + QString::number(image.similarity));
+            members.sort();
+            actual.append(members);
+        }
+        std::sort(actual.begin(), actual.end());
+        QVERIFY(threshold == 100 ? expected.isEmpty() : expected.size() >= 1);
+        QCOMPARE(actual, expected);
     }
 
     void featureRecheckDropsUnrelated()
