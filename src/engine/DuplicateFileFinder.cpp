@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <unordered_map>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -72,22 +73,6 @@ QString fileNameOf(const QString &path)
 }
 
 #ifdef Q_OS_UNIX
-// Opens a regular file for reading; -1 for anything else. O_NONBLOCK keeps a file that
-// was replaced by a pipe since the scan from blocking the read.
-int openRegular(const QString &path, struct stat &info)
-{
-    const QByteArray native = FilePathCodec::encode(path);
-    const int fd = ::open(native.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (fd < 0)
-        return -1;
-    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
-        ::close(fd);
-        errno = EINVAL;
-        return -1;
-    }
-    return fd;
-}
-
 qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
 {
     qint64 total = 0;
@@ -100,6 +85,176 @@ qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
         total += got;
     }
     return total;
+}
+
+// Sampled key of the file `name`, opened relative to the folder descriptor `dirfd`
+// (AT_FDCWD with a full path). The blocks are chosen from the size the scanner recorded,
+// so no fstat is needed on the common path; only when a read comes back short (the file
+// shrank since the scan, or is no regular file any more) is the file asked for its size,
+// and the blocks are then chosen again from the smaller size, exactly as if it had been
+// asked first. Files that are mapped are always asked first, since a map must not reach
+// past the end. pathOf() builds the path for messages only.
+template<typename PathOf>
+bool sampledKeyAt(
+    int dirfd, const char *name, qint64 size, int driveType, quint64 &key, const PathOf &pathOf)
+{
+    const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) {
+        splog_d(QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
+                    .arg(pathOf(), QString::fromLocal8Bit(std::strerror(errno))));
+        return false;
+    }
+    qint64 n = size;
+    bool checked = false;
+    // Asks the file for its size; false when it is no regular file.
+    const auto check = [&]() {
+        checked = true;
+        struct stat info
+        {
+        };
+        if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+            splog_d(QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
+                        .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
+            return false;
+        }
+        n = std::min<qint64>(info.st_size, size);
+        return true;
+    };
+    const bool mapped = driveType != kExternalDrive && n >= kSampledMapThreshold;
+    if (mapped && !check()) {
+        ::close(fd);
+        return false;
+    }
+    char buffer[kWholeFileLimit];
+    for (;;) {
+        if (n < 1) {
+            ::close(fd);
+            return false;
+        }
+        if (n <= kWholeFileLimit) {
+            const qint64 got = readFully(fd, buffer, n, 0);
+            if (got < n && !checked) {
+                if (!check()) {
+                    ::close(fd);
+                    return false;
+                }
+                continue;
+            }
+            ::close(fd);
+            key = XXH3_64bits(buffer, size_t(got));
+            return true;
+        }
+        const qint64 offsets[3] = {0, std::clamp<qint64>(n / 2 - 2048, 0, n - kBlock), n - kBlock};
+        XXH3_state_t state;
+        XXH3_64bits_reset(&state);
+        if (driveType != kExternalDrive && n >= kSampledMapThreshold && checked) {
+            void *map = ::mmap(nullptr, size_t(n), PROT_READ, MAP_SHARED, fd, 0);
+            if (map == MAP_FAILED) {
+                splog_d(QStringLiteral("[TDuplicateFinleFinder]: file.map failed.: [%1].")
+                            .arg(pathOf()));
+            } else {
+                for (qint64 offset : offsets)
+                    XXH3_64bits_update(&state, static_cast<const char *>(map) + offset, kBlock);
+                ::munmap(map, size_t(n));
+                ::close(fd);
+                key = XXH3_64bits_digest(&state);
+                return true;
+            }
+        }
+        // External drives are never mapped: a drive pulled out while mapped pages are read
+        // ends the process.
+        bool restart = false;
+        for (qint64 offset : offsets) {
+            const qint64 got = readFully(fd, buffer, kBlock, offset);
+            if (got < kBlock && !checked) {
+                restart = true;
+                break;
+            }
+            if (got > 0)
+                XXH3_64bits_update(&state, buffer, size_t(got));
+        }
+        if (restart) {
+            if (!check()) {
+                ::close(fd);
+                return false;
+            }
+            continue;
+        }
+        ::close(fd);
+        key = XXH3_64bits_digest(&state);
+        return true;
+    }
+}
+
+// Whole-content key of an open regular file of the given size; false (after a message)
+// when the file cannot be read to its end.
+template<typename NameOf>
+bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf &nameOf)
+{
+    XXH3_state_t *state = XXH3_createState();
+    if (!state) {
+        splog_d(QStringLiteral("[streamHash] Failed to create XXH3 state"));
+        return false;
+    }
+    XXH3_64bits_reset(state);
+    bool hashed = false;
+    if (driveType != kExternalDrive && size <= kMapLimit && size >= kStreamMapThreshold) {
+        void *map = ::mmap(nullptr, size_t(size), PROT_READ, MAP_SHARED, fd, 0);
+        if (map != MAP_FAILED) {
+            ::madvise(map, size_t(size), MADV_SEQUENTIAL | MADV_WILLNEED);
+            const char *bytes = static_cast<const char *>(map);
+            for (qint64 offset = 0; offset < size; offset += kStreamPiece)
+                XXH3_64bits_update(
+                    state, bytes + offset, size_t(std::min(kStreamPiece, size - offset)));
+            ::munmap(map, size_t(size));
+            hashed = true;
+        }
+    }
+    if (!hashed) {
+        static thread_local QByteArray buffer(kStreamPiece * 4, Qt::Uninitialized);
+        qint64 offset = 0;
+        while (offset < size) {
+            const ssize_t got = ::read(fd, buffer.data(), size_t(buffer.size()));
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got <= 0) {
+                splog_d(QStringLiteral("[streamHash] Failed to read file or reached EOF: %1")
+                            .arg(nameOf()));
+                XXH3_freeState(state);
+                return false;
+            }
+            XXH3_64bits_update(state, buffer.constData(), size_t(got));
+            offset += got;
+        }
+    }
+    key = XXH3_64bits_digest(state);
+    XXH3_freeState(state);
+    return true;
+}
+
+// Whole-content key of the file `name` relative to `dirfd`.
+template<typename NameOf>
+bool streamKeyAt(int dirfd, const char *name, int driveType, quint64 &key, const NameOf &nameOf)
+{
+    const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat info
+    {
+    };
+    if (fd >= 0 && (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))) {
+        ::close(fd);
+        errno = EINVAL;
+        splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(nameOf()));
+        return false;
+    }
+    if (fd < 0 || info.st_size < 1) {
+        if (fd >= 0)
+            ::close(fd);
+        splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(nameOf()));
+        return false;
+    }
+    const bool ok = streamKeyOf(fd, info.st_size, driveType, key, nameOf);
+    ::close(fd);
+    return ok;
 }
 
 // Counts the plain files of a folder the way a directory listing of files only does:
@@ -169,10 +324,12 @@ void DuplicateFileFinder::applyConfig(const QJsonObject &duplication)
     }
 }
 
-void DuplicateFileFinder::setInput(const SizeTable &table, const QStringList &files)
+void DuplicateFileFinder::setInput(const SizeTable &table, const QStringList &)
 {
-    sizeTable = table;
-    allFiles = files;
+    m_table.clear();
+    for (auto it = table.cbegin(); it != table.cend(); ++it)
+        for (const FileMeta &meta : it.value())
+            m_table.append(meta);
 }
 
 QStringList DuplicateFileFinder::uniqueImageFiles() const
@@ -193,53 +350,12 @@ QByteArray DuplicateFileFinder::calculateFileHash(
 {
     try {
 #ifdef Q_OS_UNIX
-        struct stat info
-        {
-        };
-        const int fd = openRegular(filePath, info);
-        if (fd < 0) {
-            splog_d(QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                        .arg(filePath, QString::fromLocal8Bit(std::strerror(errno))));
+        const QByteArray native = FilePathCodec::encode(filePath);
+        quint64 key = 0;
+        if (!sampledKeyAt(AT_FDCWD, native.constData(), size, driveType, key,
+                [&filePath] { return filePath; }))
             return {};
-        }
-        const qint64 n = std::min<qint64>(info.st_size, size);
-        if (info.st_size < 1 || n < 1) {
-            ::close(fd);
-            return {};
-        }
-        char buffer[kWholeFileLimit];
-        if (n <= kWholeFileLimit) {
-            const qint64 got = readFully(fd, buffer, n, 0);
-            ::close(fd);
-            return hexKey(XXH3_64bits(buffer, size_t(got)));
-        }
-        const qint64 offsets[3] = {0, std::clamp<qint64>(n / 2 - 2048, 0, n - kBlock), n - kBlock};
-        XXH3_state_t state;
-        XXH3_64bits_reset(&state);
-        bool hashed = false;
-        if (driveType != kExternalDrive && n >= kSampledMapThreshold) {
-            void *map = ::mmap(nullptr, size_t(n), PROT_READ, MAP_SHARED, fd, 0);
-            if (map == MAP_FAILED) {
-                splog_d(QStringLiteral("[TDuplicateFinleFinder]: file.map failed.: [%1].")
-                            .arg(filePath));
-            } else {
-                for (qint64 offset : offsets)
-                    XXH3_64bits_update(&state, static_cast<const char *>(map) + offset, kBlock);
-                ::munmap(map, size_t(n));
-                hashed = true;
-            }
-        }
-        if (!hashed) {
-            // External drives are never mapped: a drive pulled out while mapped pages are
-            // read ends the process.
-            for (qint64 offset : offsets) {
-                const qint64 got = readFully(fd, buffer, kBlock, offset);
-                if (got > 0)
-                    XXH3_64bits_update(&state, buffer, size_t(got));
-            }
-        }
-        ::close(fd);
-        return hexKey(XXH3_64bits_digest(&state));
+        return hexKey(key);
 #else
         QFile file(filePath);
         if (!file.open(QIODevice::ReadOnly)) {
@@ -286,6 +402,14 @@ QByteArray DuplicateFileFinder::calculateFileHash(
 
 QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveType)
 {
+#ifdef Q_OS_UNIX
+    const QByteArray native = FilePathCodec::encode(filePath);
+    quint64 key = 0;
+    if (!streamKeyAt(AT_FDCWD, native.constData(), driveType, key,
+            [&filePath] { return fileNameOf(filePath); }))
+        return {};
+    return hexKey(key);
+#else
     XXH3_state_t *state = XXH3_createState();
     if (!state) {
         splog_d(QStringLiteral("[streamHash] Failed to create XXH3 state"));
@@ -293,52 +417,6 @@ QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveTyp
     }
     XXH3_64bits_reset(state);
     QByteArray key;
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    const int fd = openRegular(filePath, info);
-    if (fd < 0 || info.st_size < 1) {
-        if (fd >= 0)
-            ::close(fd);
-        splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(fileNameOf(filePath)));
-        XXH3_freeState(state);
-        return {};
-    }
-    const qint64 size = info.st_size;
-    bool hashed = false;
-    if (driveType != kExternalDrive && size <= kMapLimit && size >= kStreamMapThreshold) {
-        void *map = ::mmap(nullptr, size_t(size), PROT_READ, MAP_SHARED, fd, 0);
-        if (map != MAP_FAILED) {
-            ::madvise(map, size_t(size), MADV_SEQUENTIAL | MADV_WILLNEED);
-            const char *bytes = static_cast<const char *>(map);
-            for (qint64 offset = 0; offset < size; offset += kStreamPiece)
-                XXH3_64bits_update(
-                    state, bytes + offset, size_t(std::min(kStreamPiece, size - offset)));
-            ::munmap(map, size_t(size));
-            hashed = true;
-        }
-    }
-    if (!hashed) {
-        static thread_local QByteArray buffer(kStreamPiece * 4, Qt::Uninitialized);
-        qint64 offset = 0;
-        while (offset < size) {
-            const ssize_t got = ::read(fd, buffer.data(), size_t(buffer.size()));
-            if (got < 0 && errno == EINTR)
-                continue;
-            if (got <= 0) {
-                splog_d(QStringLiteral("[streamHash] Failed to read file or reached EOF: %1")
-                            .arg(fileNameOf(filePath)));
-                ::close(fd);
-                XXH3_freeState(state);
-                return {};
-            }
-            XXH3_64bits_update(state, buffer.constData(), size_t(got));
-            offset += got;
-        }
-    }
-    ::close(fd);
-#else
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly) || file.size() < 1) {
         splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(fileNameOf(filePath)));
@@ -364,10 +442,10 @@ QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveTyp
             XXH3_64bits_update(state, buffer.constData(), size_t(got));
         }
     }
-#endif
     key = hexKey(XXH3_64bits_digest(state));
     XXH3_freeState(state);
     return key;
+#endif
 }
 
 void DuplicateFileFinder::run()
@@ -378,22 +456,35 @@ void DuplicateFileFinder::run()
         dirTable.clear();
         uniqueImages.clear();
         m_signatureTable.clear();
-        m_candidates.clear();
     }
     duplicateFileCount.store(0);
     duplicateTotalSize.store(0);
     processDuplicates();
     if (!isStopRequested() && scanDupDirectory)
         processDirectories();
-    sizeTable = SizeTable();
-    allFiles = QStringList();
+    m_table.clear();
+    m_order = {};
+    m_runs = {};
+    m_keys = {};
+    m_keyState = {};
     {
         QMutexLocker locker(&m_mutex);
         dirTable.clear();
         m_signatureTable.clear();
-        m_candidates.clear();
     }
     emit scanFinished();
+}
+
+void DuplicateFileFinder::reportProgress(bool force)
+{
+    const qint64 now = m_timer.elapsed();
+    if (!force && now - m_lastReportMs.load() <= 100)
+        return;
+    m_lastReportMs.store(now);
+    const double total = double(m_wantedFiles) + double(m_runs.size());
+    const double done = double(m_keyedFiles.load()) + double(m_done.load());
+    emit progressUpdated(0, total > 0 ? done * 100.0 / total : 100.0);
+    emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
 }
 
 void DuplicateFileFinder::processDuplicates()
@@ -401,149 +492,239 @@ void DuplicateFileFinder::processDuplicates()
     m_timer.start();
     m_lastReportMs.store(0);
     m_done.store(0);
-    QList<QList<FileMeta>> sizeGroups = sizeTable.values();
+    m_keyedFiles.store(0);
+    m_wantedFiles = 0;
+    m_table.squeeze();
+    m_order = m_table.bySize();
 
     // Stage A: single files are never opened; single pictures wait for the similar stage.
-    QtConcurrent::blockingMap(sizeGroups, [this](QList<FileMeta> &group) {
-        if (group.isEmpty())
-            return;
-        if (group.size() == 1) {
-            if (isImageFile(group.first().filePath)) {
+    m_runs.clear();
+    const size_t count = m_order.size();
+    for (size_t begin = 0; begin < count;) {
+        const qint64 size = m_table.file(m_order[begin]).size;
+        size_t end = begin + 1;
+        while (end < count && m_table.file(m_order[end]).size == size)
+            ++end;
+        if (end - begin == 1) {
+            if (isImageFile(m_table.fileName(m_order[begin]))) {
                 QMutexLocker locker(&m_mutex);
-                uniqueImages.append(group.first().filePath);
+                uniqueImages.append(m_table.filePath(m_order[begin]));
             }
-            return;
+        } else {
+            m_runs.push_back(SizeRun {quint32(begin), quint32(end - begin)});
         }
-        QMutexLocker locker(&m_mutex);
-        m_candidates.append(group);
-    });
-    sizeGroups.clear();
+        begin = end;
+    }
     // Large groups first, so that the last chunk does not leave one thread hashing a
     // big file alone.
-    std::sort(m_candidates.begin(), m_candidates.end(),
-        [](const QList<FileMeta> &a, const QList<FileMeta> &b) {
-            return a.first().size * a.size() > b.first().size * b.size();
-        });
+    std::sort(m_runs.begin(), m_runs.end(), [this](const SizeRun &a, const SizeRun &b) {
+        return m_table.file(m_order[a.begin]).size * a.count
+            > m_table.file(m_order[b.begin]).size * b.count;
+    });
+
+    if (scanMethod != scanName)
+        computeSampledKeys();
 
     // Stage B, in chunks so that a stop takes effect between them.
-    const qsizetype candidates = m_candidates.size();
+    const qsizetype candidates = qsizetype(m_runs.size());
     const qsizetype chunk
         = std::max<qsizetype>(10, candidates / std::max(1, QThread::idealThreadCount()));
-    for (qsizetype start = 0; start < candidates; start += chunk) {
-        QList<QList<FileMeta>> part = m_candidates.mid(start, chunk);
-        QtConcurrent::blockingMap(part, [this](QList<FileMeta> &group) { hashGroup(group); });
-        if (isStopRequested())
-            break;
+    for (qsizetype start = 0; start < candidates && !isStopRequested(); start += chunk) {
+        const qsizetype end = std::min(candidates, start + chunk);
+        QtConcurrent::blockingMap(m_runs.begin() + start, m_runs.begin() + end,
+            [this](const SizeRun &run) { hashGroup(run); });
     }
     emit progressUpdated(0, isStopRequested() ? 0.0 : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
 }
 
-void DuplicateFileFinder::hashGroup(const QList<FileMeta> &sizeGroup)
+void DuplicateFileFinder::computeSampledKeys()
 {
-    if (isStopRequested() || sizeGroup.isEmpty())
+    const size_t files = size_t(m_table.fileCount());
+    m_keys.assign(files, 0);
+    m_keyState.assign(files, 0);
+    for (const SizeRun &run : m_runs) {
+        // Empty files are never opened: they are never duplicates.
+        if (m_table.file(m_order[run.begin]).size < 1)
+            continue;
+        for (quint32 i = run.begin; i < run.begin + run.count; ++i)
+            m_keyState[m_order[i]] = 1;
+        m_wantedFiles += run.count;
+    }
+    QList<quint32> folders;
+    for (quint32 f = 0; f < quint32(m_table.folderCount()); ++f) {
+        const ScanTable::Folder &folder = m_table.folder(f);
+        const auto first = m_keyState.begin() + folder.firstFile;
+        if (std::find(first, first + folder.fileCount, quint8(1)) != first + folder.fileCount)
+            folders.append(f);
+    }
+    QtConcurrent::blockingMap(folders, [this](quint32 folder) { keyFolder(folder); });
+}
+
+void DuplicateFileFinder::keyFolder(quint32 index)
+{
+    if (isStopRequested())
         return;
-    const qint64 size = sizeGroup.first().size;
+    const ScanTable::Folder &folder = m_table.folder(index);
+    const quint32 end = folder.firstFile + folder.fileCount;
+#ifdef Q_OS_UNIX
+    // The folder is opened once; each file is then looked up by its name alone. A folder
+    // that cannot be opened this way leaves its files to full paths.
+    const int dirfd = ::open(folder.native.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+#endif
+    for (quint32 i = folder.firstFile; i < end; ++i) {
+        if (m_keyState[i] != 1)
+            continue;
+        if (isStopRequested())
+            break;
+        quint64 key = 0;
+        bool keyed = false;
+        try {
+#ifdef Q_OS_UNIX
+            const auto pathOf = [this, i] { return m_table.filePath(i); };
+            if (dirfd >= 0) {
+                keyed = sampledKeyAt(dirfd, m_table.nativeName(i), m_table.file(i).size,
+                    folder.driveType, key, pathOf);
+            } else {
+                const QByteArray native = m_table.nativePath(i);
+                keyed = sampledKeyAt(AT_FDCWD, native.constData(), m_table.file(i).size,
+                    folder.driveType, key, pathOf);
+            }
+#else
+            const QByteArray hex
+                = calculateFileHash(m_table.filePath(i), m_table.file(i).size, folder.driveType);
+            keyed = !hex.isEmpty();
+            key = hex.toULongLong(nullptr, 16);
+#endif
+        } catch (const std::exception &error) {
+            splog_d(QStringLiteral("[TDuplicateFinleFinder]: Exception in calculateFileHash: [%1].")
+                        .arg(QString::fromLocal8Bit(error.what())));
+        } catch (...) {
+            splog_d(
+                QStringLiteral("[TDuplicateFinleFinder]: Unknown exception in calculateFileHash."));
+        }
+        m_keys[i] = key;
+        m_keyState[i] = keyed ? 2 : 3;
+        m_keyedFiles.fetch_add(1);
+    }
+#ifdef Q_OS_UNIX
+    if (dirfd >= 0)
+        ::close(dirfd);
+#endif
+    reportProgress(false);
+}
+
+void DuplicateFileFinder::hashGroup(const SizeRun &run)
+{
+    if (isStopRequested() || run.count == 0)
+        return;
+    const qint64 size = m_table.file(m_order[run.begin]).size;
     // Empty files are never duplicates of one another, in any mode: they hold nothing
     // to recover.
     if (size < 1) {
         m_done.fetch_add(1);
         return;
     }
-    // Key -> indices into sizeGroup, keys in first-seen order.
-    QHash<QByteArray, QList<int>> keyed;
-    QList<QByteArray> order;
-    const auto add = [&](const QByteArray &key, int index) {
-        auto it = keyed.find(key);
-        if (it == keyed.end()) {
-            order.append(key);
-            keyed.insert(key, QList<int> {index});
+    // Files by key, keys in first-seen order. Content keys are the 64-bit digests; the
+    // name mode's keys are the MD5 texts.
+    struct Bucket
+    {
+        quint64 key = 0;
+        QByteArray text;
+        std::vector<quint32> members;
+    };
+    std::vector<Bucket> buckets;
+    std::unordered_map<quint64, size_t> byKey;
+    QHash<QByteArray, size_t> byText;
+    const auto add = [](std::vector<Bucket> &into, std::unordered_map<quint64, size_t> &index,
+                         quint64 key, quint32 file) {
+        const auto found = index.find(key);
+        if (found == index.end()) {
+            index.emplace(key, into.size());
+            into.push_back(Bucket {key, {}, {file}});
         } else {
-            it->append(index);
+            into[found->second].members.push_back(file);
         }
     };
-    for (int i = 0; i < sizeGroup.size(); ++i) {
+    for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
         if (isStopRequested())
             return;
-        const FileMeta &meta = sizeGroup.at(i);
-        QByteArray key;
-        if (scanMethod == scanName)
-            key = nameKey(meta.filePath);
-        else
-            key = calculateFileHash(meta.filePath, meta.size, meta.driveType);
-        if (!key.isEmpty())
-            add(key, i);
+        const quint32 file = m_order[i];
+        if (scanMethod == scanName) {
+            const QByteArray key = nameKey(m_table.fileName(file));
+            const auto found = byText.constFind(key);
+            if (found == byText.constEnd()) {
+                byText.insert(key, buckets.size());
+                buckets.push_back(Bucket {0, key, {file}});
+            } else {
+                buckets[found.value()].members.push_back(file);
+            }
+        } else if (m_keyState[file] == 2) {
+            add(buckets, byKey, m_keys[file], file);
+        }
     }
 
     if (scanMethod == scanAllContent && size > kWholeFileLimit) {
         // Whole files are read only where the sampled keys already agree: files whose
         // samples differ cannot have equal contents, so the groups are the same as from
         // hashing every file whole.
-        QHash<QByteArray, QList<int>> full;
-        QList<QByteArray> fullOrder;
-        for (const QByteArray &sampled : std::as_const(order)) {
-            const QList<int> members = keyed.value(sampled);
-            if (members.size() < 2) {
-                fullOrder.append(sampled);
-                full.insert(sampled, members);
+        std::vector<Bucket> full;
+        std::unordered_map<quint64, size_t> byFull;
+        for (Bucket &sampled : buckets) {
+            if (sampled.members.size() < 2) {
+                add(full, byFull, sampled.key, sampled.members.front());
                 continue;
             }
-            for (int index : members) {
+            for (quint32 file : sampled.members) {
                 if (isStopRequested())
                     return;
-                const FileMeta &meta = sizeGroup.at(index);
-                const QByteArray key = streamHash(meta.filePath, meta.driveType);
-                if (key.isEmpty())
+                const int driveType = m_table.folder(m_table.file(file).folder).driveType;
+                quint64 key = 0;
+#ifdef Q_OS_UNIX
+                const QByteArray native = m_table.nativePath(file);
+                if (!streamKeyAt(AT_FDCWD, native.constData(), driveType, key,
+                        [this, file] { return m_table.fileName(file); }))
                     continue;
-                auto it = full.find(key);
-                if (it == full.end()) {
-                    fullOrder.append(key);
-                    full.insert(key, QList<int> {index});
-                } else {
-                    it->append(index);
-                }
+#else
+                const QByteArray hex = streamHash(m_table.filePath(file), driveType);
+                if (hex.isEmpty())
+                    continue;
+                key = hex.toULongLong(nullptr, 16);
+#endif
+                add(full, byFull, key, file);
             }
         }
-        keyed.swap(full);
-        order.swap(fullOrder);
+        buckets.swap(full);
     }
 
-    for (const QByteArray &key : std::as_const(order)) {
-        const QList<int> members = keyed.value(key);
-        if (members.size() == 1) {
-            const QString &path = sizeGroup.at(members.first()).filePath;
-            if (isImageFile(path)) {
+    for (const Bucket &bucket : buckets) {
+        if (bucket.members.size() == 1) {
+            const quint32 file = bucket.members.front();
+            if (isImageFile(m_table.fileName(file))) {
                 QMutexLocker locker(&m_mutex);
-                uniqueImages.append(path);
+                uniqueImages.append(m_table.filePath(file));
             }
             continue;
         }
-        if (members.size() < 2)
+        if (bucket.members.size() < 2)
             continue;
         QStringList paths;
-        paths.reserve(members.size());
-        for (int index : members)
-            paths.append(sizeGroup.at(index).filePath);
-        storeGroup(sizeGroup, key, paths);
+        paths.reserve(qsizetype(bucket.members.size()));
+        for (quint32 file : bucket.members)
+            paths.append(m_table.filePath(file));
+        storeGroup(size, scanMethod == scanName ? bucket.text : hexKey(bucket.key), paths);
         if (isStopRequested())
             return;
     }
 
     const int done = m_done.fetch_add(1) + 1;
-    const qint64 now = m_timer.elapsed();
-    const qsizetype total = m_candidates.size();
-    if (done != total && now - m_lastReportMs.load() <= 100)
-        return;
-    m_lastReportMs.store(now);
-    emit progressUpdated(0, total > 0 ? done * 100.0 / total : 100.0);
-    emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
+    reportProgress(done == int(m_runs.size()));
 }
 
 void DuplicateFileFinder::storeGroup(
-    const QList<FileMeta> &sizeGroup, const QByteArray &contentKey, const QStringList &paths)
+    qint64 size, const QByteArray &contentKey, const QStringList &paths)
 {
     const QString groupKey = TFileData::groupKey(paths.first());
-    const qint64 size = sizeGroup.first().size;
     if (scanDupDirectory) {
         for (const QString &path : paths) {
             if (isStopRequested())

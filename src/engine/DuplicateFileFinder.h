@@ -2,8 +2,10 @@
 #pragma once
 
 #include "engine/FileMeta.h"
+#include "engine/ScanTable.h"
 
 #include <atomic>
+#include <vector>
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -43,8 +45,11 @@ public:
     ~DuplicateFileFinder() override;
 
     void applyConfig(const QJsonObject &duplication);
-    // Shared copies of the controller's scan table; called before start().
+    // The scan table as size groups of paths (converted into the compact table here);
+    // called before start().
     void setInput(const SizeTable &table, const QStringList &files);
+    // The controller's compact scan table, handed over before start().
+    void setInput(ScanTable table) { m_table = std::move(table); }
 
     void requestStop() { stopRequested.store(1); }
     bool isStopRequested() const { return stopRequested.load() != 0; }
@@ -75,14 +80,25 @@ protected:
     void run() override;
 
 private:
-    void processDuplicates();
-    void hashGroup(const QList<FileMeta> &sizeGroup);
-    void processDirectories();
-    void storeGroup(
-        const QList<FileMeta> &sizeGroup, const QByteArray &contentKey, const QStringList &paths);
+    // One size group: a run of m_order.
+    struct SizeRun
+    {
+        quint32 begin = 0;
+        quint32 count = 0;
+    };
 
-    SizeTable sizeTable;
-    QStringList allFiles;
+    void processDuplicates();
+    // Sampled keys of every file of a size group, computed folder by folder so that each
+    // file is opened relative to its folder (one short look-up instead of a walk of the
+    // whole path); hashGroup then only compares them.
+    void computeSampledKeys();
+    void keyFolder(quint32 folder);
+    void hashGroup(const SizeRun &run);
+    void reportProgress(bool force);
+    void processDirectories();
+    void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths);
+
+    ScanTable m_table;
     QStringList uniqueImages;
     QHash<QString, DirMatchInfo> dirTable;
     mutable QMutex m_mutex;
@@ -97,8 +113,16 @@ private:
     int duplicateSelectHint = 2;
     QMap<QString, int> mapPriority;
 
-    // Progress of the file phase, shared by the pool threads.
-    QList<QList<FileMeta>> m_candidates;
+    // File indices of m_table ordered by size, and the size groups of two or more files.
+    std::vector<quint32> m_order;
+    std::vector<SizeRun> m_runs;
+    // Per file: the sampled key and its state (0 not wanted, 1 wanted, 2 keyed, 3 unreadable).
+    std::vector<quint64> m_keys;
+    std::vector<quint8> m_keyState;
+    // Progress of the file phase, shared by the pool threads: files keyed and size groups
+    // done, out of m_wantedFiles and m_runs.size().
+    qint64 m_wantedFiles = 0;
+    std::atomic<qint64> m_keyedFiles {0};
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
     QHash<QByteArray, QStringList> m_signatureTable;

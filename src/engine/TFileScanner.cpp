@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
+#include <QMetaMethod>
 #include <QMutexLocker>
 #include <QThreadPool>
 #include <QWaitCondition>
@@ -114,6 +115,7 @@ TFileScanner::TFileScanner(QObject *parent) : QThread(parent)
 {
     qRegisterMetaType<FileMeta>("FileMeta");
     qRegisterMetaType<QList<FileMeta>>("QList<FileMeta>");
+    qRegisterMetaType<ScanBatch>("ScanBatch");
 }
 
 TFileScanner::~TFileScanner()
@@ -182,6 +184,8 @@ void TFileScanner::run()
             cleaned.chop(1);
         m_ignoredLower.append(cleaned.toLower());
     }
+    m_perFileSignals = isSignalConnected(QMetaMethod::fromSignal(&TFileScanner::fileFound))
+        || isSignalConnected(QMetaMethod::fromSignal(&TFileScanner::filesFound));
     Seen seen;
     m_seen = &seen;
     for (const QString &root : std::as_const(roots)) {
@@ -215,11 +219,15 @@ bool TFileScanner::passesFileFilters(const QString &fileName, qint64 size) const
     return !ignoreTypes.contains(suffix);
 }
 
-void TFileScanner::reportFile(
-    WalkState &state, QList<FileMeta> &batch, qint64 size, const QString &path, bool filtered)
+void TFileScanner::reportFile(WalkState &state, ScanBatch &batch, QList<FileMeta> &metas,
+    qint64 size, const char *name, const QString &path, bool filtered)
 {
-    batch.append(FileMeta {size, path, state.driveType});
-    emit fileFound(size, path, state.driveType);
+    batch.names.append(name, qsizetype(std::strlen(name) + 1));
+    batch.sizes.append(size);
+    if (m_perFileSignals) {
+        metas.append(FileMeta {size, path, state.driveType});
+        emit fileFound(size, path, state.driveType);
+    }
     const int before = scannedCount.fetch_add(1);
     // The parallel walk tests the count before the increment, the plain walk the count
     // after it.
@@ -228,11 +236,23 @@ void TFileScanner::reportFile(
         emit progressUpdated(tested);
 }
 
+void TFileScanner::emitBatch(ScanBatch &batch, QList<FileMeta> &metas)
+{
+    if (!metas.isEmpty())
+        emit filesFound(metas);
+    if (!batch.sizes.isEmpty())
+        emit folderFilesFound(batch);
+}
+
 void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filtered)
 {
     if (isStopRequested() || (filtered && isIgnoredPath(folder.path)))
         return;
-    QList<FileMeta> batch;
+    ScanBatch batch;
+    batch.folder = folder.path;
+    batch.nativeFolder = folder.native;
+    batch.driveType = state.driveType;
+    QList<FileMeta> metas;
     bool completed = false;
     try {
 #ifdef Q_OS_UNIX
@@ -262,6 +282,10 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
         std::vector<Identity> singles;
         const QString prefix
             = folder.path.endsWith(QLatin1Char('/')) ? folder.path : folder.path + QLatin1Char('/');
+        // A file's full path string is only built when something needs it: the ignore
+        // list, the per-file signals or a message.
+        const bool pathPerEntry = (filtered && !m_ignoredLower.isEmpty()) || m_perFileSignals;
+        const bool typeFilters = filtered && !(onlyTypes.isEmpty() && ignoreTypes.isEmpty());
         bool cut = false;
         while (const dirent *entry = ::readdir(dir)) {
             if (isStopRequested()) {
@@ -271,7 +295,9 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             const char *name = entry->d_name;
             if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
                 continue;
-            const QString path = prefix + FilePathCodec::decode(name, qsizetype(std::strlen(name)));
+            const qsizetype nameLength = qsizetype(std::strlen(name));
+            const auto pathOf = [&] { return prefix + FilePathCodec::decode(name, nameLength); };
+            const QString path = pathPerEntry ? pathOf() : QString();
             if (filtered && isIgnoredPath(path))
                 continue;
             if (filtered && skipHiddenSystem
@@ -282,7 +308,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             if (type == DT_UNKNOWN || type == DT_REG) {
                 if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0) {
                     splog_d(QStringLiteral("[TFileScanner]: Cannot read file, skipped: [%1]. %2")
-                                .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
+                                .arg(pathOf(), QString::fromLocal8Bit(std::strerror(errno))));
                     continue;
                 }
                 haveStat = true;
@@ -297,14 +323,17 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             }
             if (type == DT_DIR) {
                 QMutexLocker locker(&state.mutex);
-                state.queue.push_back(Folder {path, joinNative(folder.native, name)});
+                state.queue.push_back(Folder {pathOf(), joinNative(folder.native, name)});
                 state.wake.wakeOne();
             } else if (type == DT_LNK) {
                 QMutexLocker locker(&state.mutex);
-                state.links.push_back(Folder {path, joinNative(folder.native, name)});
+                state.links.push_back(Folder {pathOf(), joinNative(folder.native, name)});
             } else if (type == DT_REG && haveStat) {
                 const qint64 size = info.st_size;
-                if (filtered && !passesFileFilters(path.mid(prefix.size()), size))
+                if (filtered && (size < minSize || size > maxSize))
+                    continue;
+                if (typeFilters
+                    && !passesFileFilters(FilePathCodec::decode(name, nameLength), size))
                     continue;
                 const Identity id {
                     static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
@@ -315,7 +344,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 } else {
                     singles.push_back(id);
                 }
-                reportFile(state, batch, size, path, filtered);
+                reportFile(state, batch, metas, size, name, path, filtered);
             }
             // Pipes, sockets and devices are never reported: reading them can block.
         }
@@ -353,7 +382,8 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 const qint64 size = entry.size();
                 if (filtered && !passesFileFilters(entry.fileName(), size))
                     continue;
-                reportFile(state, batch, size, path, filtered);
+                reportFile(state, batch, metas, size,
+                    FilePathCodec::encode(entry.fileName()).constData(), path, filtered);
             }
         }
         completed = !cut;
@@ -364,8 +394,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
     } catch (...) {
         splog_d(QStringLiteral("[TFileScanner] Unknown exception in processDir."));
     }
-    if (!batch.isEmpty())
-        emit filesFound(batch);
+    emitBatch(batch, metas);
     if (completed && filtered && !isStopRequested())
         emit pathFound(folder.path);
 }
@@ -435,7 +464,26 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
     // Resolve in a fixed order so that the same tree always gives the same report.
     std::sort(links.begin(), links.end(),
         [](const Folder &a, const Folder &b) { return a.native < b.native; });
-    QList<FileMeta> batch;
+    // Links of one folder are adjacent after the sort; each folder's files go out as one
+    // batch.
+    ScanBatch batch;
+    QList<FileMeta> metas;
+    const auto batchFor = [&](const Folder &link) -> ScanBatch & {
+        const qsizetype slash = link.path.lastIndexOf(QLatin1Char('/'));
+        const QString folder = slash <= 0 ? QStringLiteral("/") : link.path.left(slash);
+        if (batch.folder != folder) {
+            emitBatch(batch, metas);
+            batch = ScanBatch();
+            metas.clear();
+            batch.folder = folder;
+            const qsizetype nativeSlash = link.native.lastIndexOf('/');
+            batch.nativeFolder = nativeSlash <= 0 ? QByteArray("/") : link.native.left(nativeSlash);
+            batch.driveType = state.driveType;
+        }
+        return batch;
+    };
+    const auto nativeNameOf
+        = [](const Folder &link) { return link.native.mid(link.native.lastIndexOf('/') + 1); };
 #ifdef Q_OS_UNIX
     IdentitySet singles;
     {
@@ -471,7 +519,8 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
             if (info.st_nlink <= 1)
                 m_seen->singleFiles.push_back(id);
             seenLocker.unlock();
-            reportFile(state, batch, info.st_size, link.path, filtered);
+            reportFile(state, batchFor(link), metas, info.st_size, nativeNameOf(link).constData(),
+                link.path, filtered);
         }
     }
 #else
@@ -485,12 +534,12 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         } else if (target.isFile()) {
             if (filtered && !passesFileFilters(target.fileName(), target.size()))
                 continue;
-            reportFile(state, batch, target.size(), link.path, filtered);
+            reportFile(state, batchFor(link), metas, target.size(), nativeNameOf(link).constData(),
+                link.path, filtered);
         }
     }
 #endif
-    if (!batch.isEmpty())
-        emit filesFound(batch);
+    emitBatch(batch, metas);
     QMutexLocker locker(&state.mutex);
     return !state.queue.empty();
 }

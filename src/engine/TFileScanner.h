@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/FileMeta.h"
+#include "engine/ScanBatch.h"
 
 #include <atomic>
 
@@ -57,6 +58,10 @@ signals:
     // a receiver on another thread takes one queued call per folder instead of one per
     // file.
     void filesFound(const QList<FileMeta> &files);
+    // The same files again, in compact form: the folder once and the names as bytes. The
+    // scan controller takes this one. The per-file forms above are only built while
+    // something is connected to them.
+    void folderFilesFound(const ScanBatch &batch);
     void pathFound(const QString &path);
     void progressUpdated(int scannedCount);
     void scanFinished();
@@ -75,8 +80,11 @@ private:
     bool resolveLinks(WalkState &state, bool filtered);
     bool isIgnoredPath(const QString &path) const;
     bool passesFileFilters(const QString &fileName, qint64 size) const;
-    void reportFile(
-        WalkState &state, QList<FileMeta> &batch, qint64 size, const QString &path, bool filtered);
+    // Adds one accepted file to the folder's batch and counts it; path is only needed
+    // (and only built) while the per-file signals are connected.
+    void reportFile(WalkState &state, ScanBatch &batch, QList<FileMeta> &metas, qint64 size,
+        const char *name, const QString &path, bool filtered);
+    void emitBatch(ScanBatch &batch, QList<FileMeta> &metas);
 
     QStringList roots;
     qint64 scanMode = 1;
@@ -94,6 +102,9 @@ private:
 
     // Lower-cased ignorePaths, for the case-insensitive test on every entry.
     QStringList m_ignoredLower;
+    // Whether fileFound and filesFound have receivers, decided once per run: their
+    // per-file path strings are the most costly part of a walk.
+    bool m_perFileSignals = true;
     // Identities (device, inode) of the folders walked and of the files with several
     // names reported during the current run; they persist across the roots of one scan.
     struct Seen;

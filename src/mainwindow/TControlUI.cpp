@@ -20,9 +20,11 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
 {
     qRegisterMetaType<FileMeta>("FileMeta");
     qRegisterMetaType<QList<FileMeta>>("QList<FileMeta>");
+    qRegisterMetaType<ScanBatch>("ScanBatch");
     // The engines emit from their own threads (the scanner also from its pool); every
-    // report is queued into this object's thread.
-    connect(&m_scanner, &TFileScanner::filesFound, this, &TControlUI::onFilesFound,
+    // report is queued into this object's thread. The scanner's compact per-folder batch
+    // is taken, so that it need not build a path string per file.
+    connect(&m_scanner, &TFileScanner::folderFilesFound, this, &TControlUI::onFolderFilesFound,
         Qt::QueuedConnection);
     connect(&m_scanner, &TFileScanner::scanFinished, this, &TControlUI::onScannerFinished,
         Qt::QueuedConnection);
@@ -96,7 +98,6 @@ void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
     m_clock.start();
     m_roots = roots;
     m_table.clear();
-    m_allFiles.clear();
     m_scannedFiles = 0;
     m_timer.start();
     m_seconds = 0;
@@ -150,14 +151,11 @@ void TControlUI::stop()
     }
 }
 
-void TControlUI::onFilesFound(const QList<FileMeta> &files)
+void TControlUI::onFolderFilesFound(const ScanBatch &batch)
 {
-    for (const FileMeta &meta : files) {
-        m_table[meta.size].append(meta);
-        m_allFiles.append(meta.filePath);
-    }
+    m_table.append(batch);
     const int before = m_scannedFiles;
-    m_scannedFiles += int(files.size());
+    m_scannedFiles += int(batch.sizes.size());
     // The window's counter follows in steps of 100 files.
     if (before / 100 != m_scannedFiles / 100)
         emit filesScaningChange(m_scannedFiles);
@@ -175,12 +173,11 @@ void TControlUI::onScannerFinished()
     }
     splog_d(QStringLiteral("[TControlUI]: Scan is complete, start matching duplicate files. Total "
                            "number of files: [%1]. This task takes:[%2] seconds.")
-                .arg(m_allFiles.size())
+                .arg(m_table.fileCount())
                 .arg(seconds()));
-    m_finder.setInput(m_table, m_allFiles);
     // The finder holds the only copy from here on and releases it when it ends.
-    m_table = DuplicateFileFinder::SizeTable();
-    m_allFiles = QStringList();
+    m_finder.setInput(std::move(m_table));
+    m_table.clear();
     m_stage = StageMatching;
     m_finder.start(QThread::InheritPriority);
 }

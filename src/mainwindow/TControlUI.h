@@ -70,7 +70,7 @@ signals:
     void saveComplated(int flag);
 
 private slots:
-    void onFilesFound(const QList<FileMeta> &files);
+    void onFolderFilesFound(const ScanBatch &batch);
     void onScannerFinished();
     void onFinderFinished();
     void onCompareFinished(int count, qint64 size);
@@ -88,8 +88,8 @@ private:
     TOpenSaveThread m_openSave;
 
     QStringList m_roots;
-    DuplicateFileFinder::SizeTable m_table;
-    QStringList m_allFiles;
+    // The scanned files in compact form; the finder groups them by size.
+    ScanTable m_table;
     int m_scannedFiles = 0;
     int m_stage = StageScanning;
     int m_runState = Stopped;

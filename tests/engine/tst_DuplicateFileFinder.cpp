@@ -58,6 +58,8 @@ private slots:
     void selectionFollowsHint();
     void duplicateFolders();
     void singlePicturesSetAside();
+    void keyOfChangedFile_data();
+    void keyOfChangedFile();
 };
 
 void TestDuplicateFileFinder::keys_data()
@@ -195,6 +197,38 @@ void TestDuplicateFileFinder::singlePicturesSetAside()
     images.sort();
     QCOMPARE(images,
         (QStringList {dir.path() + "/p1.png", dir.path() + "/p2.png", dir.path() + "/photo.jpg"}));
+}
+
+void TestDuplicateFileFinder::keyOfChangedFile_data()
+{
+    // The sampled key trusts the size recorded by the scan and only asks the file again
+    // when a read comes back short: a file that shrank since must still get the key of its
+    // current content, as if its size had been asked first.
+    QTest::addColumn<qint64>("actual");
+    QTest::addColumn<qint64>("recorded");
+    QTest::addColumn<int>("driveType");
+    QTest::newRow("whole file, shrank") << qint64(5000) << qint64(9000) << 0;
+    QTest::newRow("whole file, shrank below the block limit") << qint64(9000) << qint64(20000) << 0;
+    QTest::newRow("three blocks, shrank") << qint64(20000) << qint64(30000) << 0;
+    QTest::newRow("three blocks, shrank by one byte") << qint64(20000) << qint64(20001) << 2;
+    QTest::newRow("mapped, shrank") << qint64(2000000) << qint64(3000000) << 0;
+    QTest::newRow("grew: the recorded size counts") << qint64(30000) << qint64(20000) << 0;
+}
+
+void TestDuplicateFileFinder::keyOfChangedFile()
+{
+    QFETCH(qint64, actual);
+    QFETCH(qint64, recorded);
+    QFETCH(int, driveType);
+    QTemporaryDir dir;
+    const QByteArray data = ScanTree::pattern(actual, 7);
+    const QString path = ScanTree::write(dir.path(), "f.bin", data);
+    const QString reference
+        = ScanTree::write(dir.path(), "ref.bin", data.left(std::min(actual, recorded)));
+    const QByteArray key = DuplicateFileFinder::calculateFileHash(path, recorded, driveType);
+    QVERIFY(!key.isEmpty());
+    QCOMPARE(key,
+        DuplicateFileFinder::calculateFileHash(reference, std::min(actual, recorded), driveType));
 }
 
 QTEST_GUILESS_MAIN(TestDuplicateFileFinder)

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ScanTable.h"
+
+#include "engine/FilePathCodec.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+
+namespace {
+
+QString joined(const QString &folder, const QString &name)
+{
+    if (folder.isEmpty())
+        return name;
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
+} // namespace
+
+quint32 ScanTable::startFolder(const QString &path, const QByteArray &native, int driveType)
+{
+    Folder folder;
+    folder.path = path;
+    folder.native = native;
+    folder.driveType = driveType;
+    folder.nameBase = qint64(m_names.size());
+    folder.firstFile = quint32(m_files.size());
+    m_folders.push_back(std::move(folder));
+    return quint32(m_folders.size() - 1);
+}
+
+void ScanTable::addName(const char *name, qsizetype length, qint64 size)
+{
+    Folder &folder = m_folders.back();
+    File entry;
+    entry.size = size;
+    entry.folder = quint32(m_folders.size() - 1);
+    entry.name = quint32(qint64(m_names.size()) - folder.nameBase);
+    m_names.insert(m_names.end(), name, name + length);
+    m_names.push_back('\0');
+    m_files.push_back(entry);
+    ++folder.fileCount;
+}
+
+void ScanTable::append(const ScanBatch &batch)
+{
+    if (batch.sizes.isEmpty())
+        return;
+    startFolder(batch.folder, batch.nativeFolder, batch.driveType);
+    const char *cursor = batch.names.constData();
+    const char *end = cursor + batch.names.size();
+    for (qint64 size : batch.sizes) {
+        if (cursor >= end)
+            break;
+        const qsizetype length = qsizetype(std::strlen(cursor));
+        addName(cursor, length, size);
+        cursor += length + 1;
+    }
+}
+
+void ScanTable::append(const FileMeta &meta)
+{
+    const QString &path = meta.filePath;
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    const QString folderPath = slash < 0 ? QString()
+        : slash == 0                     ? QStringLiteral("/")
+                                         : path.left(slash);
+    const QByteArray name = FilePathCodec::encode(path.mid(slash + 1));
+    if (m_folders.empty() || m_folders.back().path != folderPath
+        || m_folders.back().driveType != meta.driveType)
+        startFolder(folderPath, FilePathCodec::encode(folderPath), meta.driveType);
+    addName(name.constData(), name.size(), meta.size);
+}
+
+void ScanTable::clear()
+{
+    m_folders = {};
+    m_files = {};
+    m_names = {};
+}
+
+void ScanTable::squeeze()
+{
+    m_folders.shrink_to_fit();
+    m_files.shrink_to_fit();
+    m_names.shrink_to_fit();
+}
+
+QString ScanTable::fileName(quint32 index) const
+{
+    const char *name = nativeName(index);
+    return FilePathCodec::decode(name, qsizetype(std::strlen(name)));
+}
+
+QString ScanTable::filePath(quint32 index) const
+{
+    return joined(m_folders[m_files[index].folder].path, fileName(index));
+}
+
+QByteArray ScanTable::nativePath(quint32 index) const
+{
+    const QByteArray &folder = m_folders[m_files[index].folder].native;
+    QByteArray out;
+    if (!folder.isEmpty()) {
+        out = folder;
+        if (!out.endsWith('/'))
+            out.append('/');
+    }
+    out.append(nativeName(index));
+    return out;
+}
+
+std::vector<quint32> ScanTable::bySize() const
+{
+    std::vector<quint32> order(m_files.size());
+    std::iota(order.begin(), order.end(), quint32(0));
+    std::stable_sort(order.begin(), order.end(),
+        [this](quint32 a, quint32 b) { return m_files[a].size < m_files[b].size; });
+    return order;
+}
