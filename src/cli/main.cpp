@@ -127,8 +127,14 @@ void printText(const QList<OutputGroup> &groups)
 {
     for (const OutputGroup &group : groups) {
         for (const QString &path : group.files) {
-            const QByteArray bytes = FilePathCodec::encode(path);
+            // Similar entries carry their percent as a tag; the text shows the real path
+            // and the percent beside it.
+            const QString file = isSimilarEntry(path) ? stripSimilarTag(path) : path;
+            const QByteArray bytes = FilePathCodec::encode(file);
             std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+            if (file.size() != path.size())
+                std::fprintf(stdout, "\t[similar %s%%]",
+                    qPrintable(path.mid(file.size() + kSimilarTag.size() + 1)));
             if (group.selected.contains(path))
                 std::fputs("\t[selected]", stdout);
             if (group.kind == QLatin1String("folders"))

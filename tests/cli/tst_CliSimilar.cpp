@@ -54,6 +54,7 @@ private slots:
     void similarGroups_data();
     void similarGroups();
     void savesSimilarGroups();
+    void textReport();
 
 private:
     // "kind:name,name" per group, names sorted, similar tags checked and removed.
@@ -196,6 +197,25 @@ void TestCliSimilar::savesSimilarGroups()
             qPrintable(name));
     QVERIFY(!text.contains("b.jpg"));
     QVERIFY(!text.contains("a_wide.jpg"));
+}
+
+void TestCliSimilar::textReport()
+{
+    const CliRun run = runCli({"scan", "--algorithm", "phash", "--select", "none", m_root});
+    QCOMPARE(run.exitCode, 0);
+    QStringList lines = QString::fromUtf8(run.out).split('\n', Qt::SkipEmptyParts);
+    lines.sort();
+    QCOMPARE(lines.size(), 2);
+    const QRegularExpression line("^" + QRegularExpression::escape(m_root)
+        + "/(a\\.jpg|a_small\\.jpg)\t\\[similar (\\d+)%\\]$");
+    QStringList names;
+    for (const QString &text : std::as_const(lines)) {
+        const QRegularExpressionMatch match = line.match(text);
+        QVERIFY2(match.hasMatch(), qPrintable(text));
+        QVERIFY(match.captured(2).toInt() <= 99);
+        names.append(match.captured(1));
+    }
+    QCOMPARE(names, QStringList({"a.jpg", "a_small.jpg"}));
 }
 
 QTEST_GUILESS_MAIN(TestCliSimilar)
