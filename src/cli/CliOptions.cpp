@@ -90,7 +90,8 @@ QString CliOptions::usage()
         "  -h, --help                  show this text\n"
         "\n"
         "exit status: 0 done, 1 bad arguments, 2 a folder does not exist,\n"
-        "             3 the project file could not be saved\n");
+        "             3 the project file could not be saved, 4 the picture comparison\n"
+        "             could not be started\n");
 }
 
 CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)

@@ -11,13 +11,16 @@
 #include "results/GroupItemAutoSelector.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QTimer>
 
@@ -165,6 +168,20 @@ int main(int argc, char *argv[])
     case CliOptions::Ok:
         break;
     }
+#ifdef VELTRINE_CLI_PICTURE_BUILD
+    // This build has no picture stage (it starts without loading the picture libraries):
+    // a run that compares pictures continues in the full build beside it, with the same
+    // arguments.
+    if (options.similarConfig().value(QStringLiteral("hasSimilar")).toBool()) {
+        const QByteArray full = QFile::encodeName(QCoreApplication::applicationDirPath()
+            + QStringLiteral("/" VELTRINE_CLI_PICTURE_BUILD));
+        ::execv(full.constData(), argv);
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: cannot start %s for the picture comparison: %s\n",
+            full.constData(), std::strerror(errno));
+        return 4;
+    }
+#endif
     QStringList roots;
     for (const QString &folder : options.folders()) {
         const QFileInfo info(folder);

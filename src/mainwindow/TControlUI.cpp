@@ -2,6 +2,7 @@
 #include "mainwindow/TControlUI.h"
 
 #include "app/TLogger.h"
+#include "engine/PictureStage.h"
 #include "engine/TFileData.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
@@ -34,11 +35,14 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
         Qt::QueuedConnection);
     connect(&m_finder, &DuplicateFileFinder::scanFinished, this, &TControlUI::onFinderFinished,
         Qt::QueuedConnection);
-    connect(&m_compare, QOverload<int, qint64>::of(&ImageCompareThread::finished), this,
-        &TControlUI::onCompareFinished, Qt::QueuedConnection);
-    connect(
-        &m_compare, &ImageCompareThread::progressChanged, this,
-        [this](int, int progress) { emit processChange(progress); }, Qt::QueuedConnection);
+    m_compare = PictureStage::create(this);
+    if (m_compare) {
+        // Connected by signature: the stage's class is not known here.
+        connect(m_compare, SIGNAL(finished(int, qint64)), this,
+            SLOT(onCompareFinished(int, qint64)), Qt::QueuedConnection);
+        connect(m_compare, SIGNAL(progressChanged(int, int)), this,
+            SLOT(onCompareProgress(int, int)), Qt::QueuedConnection);
+    }
     connect(&m_openSave, &TOpenSaveThread::openProjectComplated, this,
         &TControlUI::openProjectComplated, Qt::QueuedConnection);
     connect(&m_openSave, &TOpenSaveThread::saveComplated, this, &TControlUI::saveComplated,
@@ -51,10 +55,12 @@ TControlUI::~TControlUI()
 {
     m_scanner.requestStop();
     m_finder.requestStop();
-    m_compare.cancel();
+    if (m_compare)
+        PictureStage::cancel(m_compare);
     m_scanner.wait();
     m_finder.wait();
-    m_compare.wait();
+    if (m_compare)
+        m_compare->wait();
     m_openSave.wait();
 }
 
@@ -93,7 +99,7 @@ void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
 {
     // A scan still running (the caller did not stop it) is stopped first, so that no
     // engine is reconfigured while it works.
-    if (m_scanner.isRunning() || m_finder.isRunning() || m_compare.isRunning())
+    if (m_scanner.isRunning() || m_finder.isRunning() || (m_compare && m_compare->isRunning()))
         stop();
     m_clock.start();
     m_roots = roots;
@@ -121,7 +127,8 @@ void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
                 .arg(indented(similar)));
     m_scanner.applyConfig(common);
     m_finder.applyConfig(duplication);
-    m_compare.applyConfig(similar);
+    if (m_compare)
+        PictureStage::applyConfig(m_compare, similar);
     m_similarEnabled = similar.value(QStringLiteral("hasSimilar")).toBool(false);
 
     splog_d(QStringLiteral("[TControlUI]: Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
@@ -143,8 +150,10 @@ void TControlUI::stop()
         m_finder.wait();
         break;
     case StageSimilar:
-        m_compare.cancel();
-        m_compare.wait();
+        if (m_compare) {
+            PictureStage::cancel(m_compare);
+            m_compare->wait();
+        }
         break;
     default:
         break;
@@ -203,7 +212,10 @@ void TControlUI::onFinderFinished()
         endScan();
         return;
     }
-    if (m_similarEnabled) {
+    if (m_similarEnabled && !m_compare)
+        splog_d(QStringLiteral("[TControlUI]: This build has no similar-picture stage; the "
+                               "scan ends with the duplicate files."));
+    if (m_similarEnabled && m_compare) {
         const QStringList uniqueImages = m_finder.uniqueImageFiles();
         const TFileData::Groups imageGroups = TFileData::instance()->imageGroups();
         splog_d(QStringLiteral("[TControlUI]: Matching duplicate files ends, and the process of "
@@ -212,10 +224,9 @@ void TControlUI::onFinderFinished()
                     .arg(TFileData::instance()->groupCount())
                     .arg(uniqueImages.size())
                     .arg(seconds()));
-        m_compare.setEarlierGroups(imageGroups);
-        m_compare.setImagePaths(uniqueImages);
+        PictureStage::setInput(m_compare, imageGroups, uniqueImages);
         m_stage = StageSimilar;
-        m_compare.start(QThread::InheritPriority);
+        m_compare->start(QThread::InheritPriority);
         return;
     }
     endScan();
@@ -235,6 +246,11 @@ void TControlUI::onCompareFinished(int count, qint64 size)
     m_similarSize += size;
     emit onDuplicateItemFound(m_duplicateCount + m_similarCount, m_duplicateSize + m_similarSize);
     endScan();
+}
+
+void TControlUI::onCompareProgress(int, int progress)
+{
+    emit processChange(progress);
 }
 
 void TControlUI::endScan()

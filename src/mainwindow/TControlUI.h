@@ -3,7 +3,7 @@
 
 #include "engine/DuplicateFileFinder.h"
 #include "engine/FileMeta.h"
-#include "engine/ImageCompareThread.h"
+#include "engine/ScanTable.h"
 #include "engine/TFileScanner.h"
 #include "fileops/TOpenSaveThread.h"
 
@@ -57,7 +57,8 @@ public:
 
     TFileScanner *scanner() { return &m_scanner; }
     DuplicateFileFinder *finder() { return &m_finder; }
-    ImageCompareThread *comparison() { return &m_compare; }
+    // The similar-picture stage (an ImageCompareThread); nullptr in a build without it.
+    QThread *comparison() { return m_compare; }
     TOpenSaveThread *openSaveThread() { return &m_openSave; }
 
 signals:
@@ -74,6 +75,7 @@ private slots:
     void onScannerFinished();
     void onFinderFinished();
     void onCompareFinished(int count, qint64 size);
+    void onCompareProgress(int progressType, int progress);
     void onFinderProgress(int progressType, double percent);
     void onFinderItems(int number, qint64 total);
     void onTimerTick();
@@ -84,7 +86,9 @@ private:
 
     TFileScanner m_scanner;
     DuplicateFileFinder m_finder;
-    ImageCompareThread m_compare;
+    // Created through PictureStage, so that this class links without the picture
+    // libraries; owned as a child.
+    QThread *m_compare = nullptr;
     TOpenSaveThread m_openSave;
 
     QStringList m_roots;
