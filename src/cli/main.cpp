@@ -41,26 +41,37 @@ void writeJsonString(std::FILE *out, const QString &text)
     QByteArray buffer;
     buffer.reserve(text.size() + 8);
     buffer.append('"');
+    // Characters that need no escape are converted a run at a time: one conversion per
+    // path instead of one per character.
+    qsizetype run = 0;
+    const auto flush = [&](qsizetype end) {
+        if (end > run)
+            buffer.append(QStringView(text).mid(run, end - run).toUtf8());
+    };
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t c = text.at(i).unicode();
         if (c == '"' || c == '\\') {
+            flush(i);
             buffer.append('\\').append(char(c));
+            run = i + 1;
         } else if (c < 0x20) {
+            flush(i);
             buffer.append(QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0')).toLatin1());
+            run = i + 1;
         } else if (QChar::isSurrogate(c)) {
             const bool paired = QChar::isHighSurrogate(c) && i + 1 < text.size()
                 && QChar::isLowSurrogate(text.at(i + 1).unicode());
             if (paired) {
-                buffer.append(QStringView(text).mid(i, 2).toUtf8());
                 ++i;
             } else {
+                flush(i);
                 buffer.append(
                     QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0')).toLatin1());
+                run = i + 1;
             }
-        } else {
-            buffer.append(QStringView(text).mid(i, 1).toUtf8());
         }
     }
+    flush(text.size());
     buffer.append('"');
     std::fwrite(buffer.constData(), 1, size_t(buffer.size()), out);
 }
