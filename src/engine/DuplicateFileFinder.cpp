@@ -496,6 +496,7 @@ void DuplicateFileFinder::processDuplicates()
     m_wantedFiles = 0;
     m_table.squeeze();
     m_order = m_table.bySize();
+    prepareImageTest();
 
     // Stage A: single files are never opened; single pictures wait for the similar stage.
     m_runs.clear();
@@ -506,7 +507,7 @@ void DuplicateFileFinder::processDuplicates()
         while (end < count && m_table.file(m_order[end]).size == size)
             ++end;
         if (end - begin == 1) {
-            if (isImageFile(m_table.fileName(m_order[begin]))) {
+            if (isImage(m_order[begin])) {
                 QMutexLocker locker(&m_mutex);
                 uniqueImages.append(m_table.filePath(m_order[begin]));
             }
@@ -536,6 +537,34 @@ void DuplicateFileFinder::processDuplicates()
     }
     emit progressUpdated(0, isStopRequested() ? 0.0 : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
+}
+
+void DuplicateFileFinder::prepareImageTest()
+{
+    m_imageSuffixes.clear();
+    m_asciiImageTest = true;
+    for (const QString &suffix : FileTypeCatalogue::categoryExtensions().value(CategoryImages)) {
+        for (QChar c : suffix)
+            m_asciiImageTest = m_asciiImageTest && c.unicode() < 0x80;
+        m_imageSuffixes.insert(suffix.toLatin1().toLower());
+    }
+}
+
+bool DuplicateFileFinder::isImage(quint32 file) const
+{
+    if (m_asciiImageTest) {
+        // The suffix as QFileInfo::suffix() takes it: the text after the last dot.
+        const char *name = m_table.nativeName(file);
+        const char *dot = std::strrchr(name, '.');
+        const char *suffix = dot ? dot + 1 : name + std::strlen(name);
+        bool ascii = true;
+        for (const char *c = suffix; *c && ascii; ++c)
+            ascii = static_cast<unsigned char>(*c) < 0x80;
+        // For ASCII text a case-insensitive comparison is a comparison of lower case.
+        if (ascii)
+            return m_imageSuffixes.contains(QByteArray(suffix).toLower());
+    }
+    return isImageFile(m_table.fileName(file));
 }
 
 void DuplicateFileFinder::computeSampledKeys()
@@ -700,7 +729,7 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
     for (const Bucket &bucket : buckets) {
         if (bucket.members.size() == 1) {
             const quint32 file = bucket.members.front();
-            if (isImageFile(m_table.fileName(file))) {
+            if (isImage(file)) {
                 QMutexLocker locker(&m_mutex);
                 uniqueImages.append(m_table.filePath(file));
             }

@@ -15,6 +15,7 @@
 #include <QMap>
 #include <QMutex>
 #include <QReadWriteLock>
+#include <QSet>
 #include <QStringList>
 #include <QThread>
 
@@ -95,6 +96,11 @@ private:
     void keyFolder(quint32 folder);
     void hashGroup(const SizeRun &run);
     void reportProgress(bool force);
+    // The file-type catalogue's image test on a file of the table, answered from the
+    // name's bytes where the suffix is plain ASCII (nearly always), without building a
+    // string per file.
+    void prepareImageTest();
+    bool isImage(quint32 file) const;
     void processDirectories();
     void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths);
 
@@ -119,6 +125,10 @@ private:
     // Per file: the sampled key and its state (0 not wanted, 1 wanted, 2 keyed, 3 unreadable).
     std::vector<quint64> m_keys;
     std::vector<quint8> m_keyState;
+    // Lower-case image suffixes for isImage(); empty m_asciiImageTest when the catalogue
+    // lists a suffix that is not plain ASCII (then every test goes through the catalogue).
+    QSet<QByteArray> m_imageSuffixes;
+    bool m_asciiImageTest = false;
     // Progress of the file phase, shared by the pool threads: files keyed and size groups
     // done, out of m_wantedFiles and m_runs.size().
     qint64 m_wantedFiles = 0;

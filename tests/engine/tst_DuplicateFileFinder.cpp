@@ -192,11 +192,22 @@ void TestDuplicateFileFinder::singlePicturesSetAside()
     ScanTree::write(dir.path(), "note.txt", "a longer note");
     ScanTree::write(dir.path(), "p1.png", "twin");
     ScanTree::write(dir.path(), "p2.png", "twix");
+    // The suffix test is case-insensitive and takes the text after the last dot only.
+    ScanTree::write(dir.path(), "UPPER.JPEG", "a picture, loud");
+    ScanTree::write(dir.path(), "png", "no suffix at all");
+    ScanTree::write(dir.path(), "archive.png.txt", "not a picture, x");
+    ScanTree::write(dir.path(), QString::fromUtf8("caf\xC3\xA9.jpg"), "accented name");
+    ScanTree::write(dir.path(), QString::fromUtf8("x.j\xC3\xA9g"), "accented suffix");
     QStringList images;
-    findGroups(dir.path(), {"photo.jpg", "note.txt", "p1.png", "p2.png"}, 0, 0, false, 8, &images);
+    findGroups(dir.path(),
+        {"photo.jpg", "note.txt", "p1.png", "p2.png", "UPPER.JPEG", "png", "archive.png.txt",
+            QString::fromUtf8("caf\xC3\xA9.jpg"), QString::fromUtf8("x.j\xC3\xA9g")},
+        0, 0, false, 8, &images);
     images.sort();
     QCOMPARE(images,
-        (QStringList {dir.path() + "/p1.png", dir.path() + "/p2.png", dir.path() + "/photo.jpg"}));
+        (QStringList {dir.path() + "/UPPER.JPEG",
+            dir.path() + QString::fromUtf8("/caf\xC3\xA9.jpg"), dir.path() + "/p1.png",
+            dir.path() + "/p2.png", dir.path() + "/photo.jpg"}));
 }
 
 void TestDuplicateFileFinder::keyOfChangedFile_data()
