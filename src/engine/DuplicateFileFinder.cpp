@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <string_view>
 #include <unordered_map>
 
 #include <QCryptographicHash>
@@ -47,6 +48,8 @@ constexpr qint64 kSampledMapThreshold = 1 << 20;
 // The same trade-off for whole-file hashing: maps pay off only for larger files.
 constexpr qint64 kStreamMapThreshold = 1 << 20;
 constexpr int kExternalDrive = 2;
+// Image suffixes up to this length are tested on the name's bytes.
+constexpr size_t kShortSuffix = 16;
 
 QByteArray hexKey(XXH64_hash_t digest)
 {
@@ -542,12 +545,15 @@ void DuplicateFileFinder::processDuplicates()
 void DuplicateFileFinder::prepareImageTest()
 {
     m_imageSuffixes.clear();
+    m_longestImageSuffix = 0;
     m_asciiImageTest = true;
     for (const QString &suffix : FileTypeCatalogue::categoryExtensions().value(CategoryImages)) {
         for (QChar c : suffix)
             m_asciiImageTest = m_asciiImageTest && c.unicode() < 0x80;
-        m_imageSuffixes.insert(suffix.toLatin1().toLower());
+        m_imageSuffixes.push_back(suffix.toLatin1().toLower().toStdString());
+        m_longestImageSuffix = std::max(m_longestImageSuffix, m_imageSuffixes.back().size());
     }
+    m_asciiImageTest = m_asciiImageTest && m_longestImageSuffix <= kShortSuffix;
 }
 
 bool DuplicateFileFinder::isImage(quint32 file) const
@@ -556,13 +562,27 @@ bool DuplicateFileFinder::isImage(quint32 file) const
         // The suffix as QFileInfo::suffix() takes it: the text after the last dot.
         const char *name = m_table.nativeName(file);
         const char *dot = std::strrchr(name, '.');
-        const char *suffix = dot ? dot + 1 : name + std::strlen(name);
+        char lower[kShortSuffix];
+        size_t length = 0;
         bool ascii = true;
-        for (const char *c = suffix; *c && ascii; ++c)
-            ascii = static_cast<unsigned char>(*c) < 0x80;
-        // For ASCII text a case-insensitive comparison is a comparison of lower case.
-        if (ascii)
-            return m_imageSuffixes.contains(QByteArray(suffix).toLower());
+        for (const char *c = dot ? dot + 1 : ""; *c; ++c) {
+            const unsigned char byte = static_cast<unsigned char>(*c);
+            if (byte >= 0x80) {
+                ascii = false;
+                break;
+            }
+            // For ASCII text a case-insensitive comparison is a comparison of lower case.
+            if (length < kShortSuffix)
+                lower[length] = char(byte >= 'A' && byte <= 'Z' ? byte + ('a' - 'A') : byte);
+            ++length;
+        }
+        if (ascii) {
+            if (length > m_longestImageSuffix)
+                return false;
+            const std::string_view suffix(lower, length);
+            return std::find(m_imageSuffixes.begin(), m_imageSuffixes.end(), suffix)
+                != m_imageSuffixes.end();
+        }
     }
     return isImageFile(m_table.fileName(file));
 }

@@ -5,6 +5,7 @@
 #include "engine/ScanTable.h"
 
 #include <atomic>
+#include <string>
 #include <vector>
 
 #include <QByteArray>
@@ -15,7 +16,6 @@
 #include <QMap>
 #include <QMutex>
 #include <QReadWriteLock>
-#include <QSet>
 #include <QStringList>
 #include <QThread>
 
@@ -127,7 +127,8 @@ private:
     std::vector<quint8> m_keyState;
     // Lower-case image suffixes for isImage(); empty m_asciiImageTest when the catalogue
     // lists a suffix that is not plain ASCII (then every test goes through the catalogue).
-    QSet<QByteArray> m_imageSuffixes;
+    std::vector<std::string> m_imageSuffixes;
+    size_t m_longestImageSuffix = 0;
     bool m_asciiImageTest = false;
     // Progress of the file phase, shared by the pool threads: files keyed and size groups
     // done, out of m_wantedFiles and m_runs.size().

@@ -485,20 +485,39 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
     const auto nativeNameOf
         = [](const Folder &link) { return link.native.mid(link.native.lastIndexOf('/') + 1); };
 #ifdef Q_OS_UNIX
-    IdentitySet singles;
+    struct Target
     {
-        QMutexLocker locker(&m_seen->mutex);
-        singles.reserve(m_seen->singleFiles.size());
-        singles.insert(m_seen->singleFiles.begin(), m_seen->singleFiles.end());
-    }
-    for (const Folder &link : links) {
-        if (isStopRequested())
-            break;
+        bool exists = false;
         struct stat info
         {
         };
-        if (::stat(link.native.constData(), &info) != 0)
-            continue; // a dangling link
+    };
+    std::vector<Target> targets(links.size());
+    // Files with one name met so far are only collected as a list; of them, only those a
+    // link points to are looked up, so no table of every file is built here.
+    IdentitySet wanted;
+    for (size_t i = 0; i < links.size() && !isStopRequested(); ++i) {
+        Target &target = targets[i];
+        // A dangling link does not exist.
+        target.exists = ::stat(links[i].native.constData(), &target.info) == 0;
+        if (target.exists && S_ISREG(target.info.st_mode) && target.info.st_nlink <= 1)
+            wanted.insert(Identity {static_cast<quint64>(target.info.st_dev),
+                static_cast<quint64>(target.info.st_ino)});
+    }
+    IdentitySet singles;
+    if (!wanted.empty()) {
+        QMutexLocker locker(&m_seen->mutex);
+        for (const Identity &id : m_seen->singleFiles)
+            if (wanted.count(id))
+                singles.insert(id);
+    }
+    for (size_t i = 0; i < links.size(); ++i) {
+        if (isStopRequested())
+            break;
+        const Folder &link = links[i];
+        if (!targets[i].exists)
+            continue;
+        const struct stat &info = targets[i].info;
         const Identity id {static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
         if (S_ISDIR(info.st_mode)) {
             QMutexLocker seenLocker(&m_seen->mutex);
