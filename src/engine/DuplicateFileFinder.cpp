@@ -674,94 +674,140 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
         m_done.fetch_add(1);
         return;
     }
-    // Files by key, keys in first-seen order. Content keys are the 64-bit digests; the
-    // name mode's keys are the MD5 texts.
-    struct Bucket
+    // Files by key, keys in first-seen order, members in their order. Content keys are
+    // the 64-bit digests, grouped by sorting (no allocation per file or key); the name
+    // mode's keys are the MD5 texts.
+    struct Keyed
     {
-        quint64 key = 0;
-        QByteArray text;
+        quint64 key;
+        quint32 seq;
+        quint32 file;
+    };
+    struct Range
+    {
+        quint32 begin;
+        quint32 end;
+    };
+    thread_local std::vector<Keyed> keyed;
+    thread_local std::vector<Keyed> full;
+    thread_local std::vector<Range> ranges;
+    thread_local std::vector<Range> fullRanges;
+    // Sorts items by key (then arrival) and lists the runs of one key in first-seen order.
+    const auto group = [](std::vector<Keyed> &items, std::vector<Range> &out) {
+        std::sort(items.begin(), items.end(), [](const Keyed &a, const Keyed &b) {
+            return a.key != b.key ? a.key < b.key : a.seq < b.seq;
+        });
+        out.clear();
+        for (quint32 b = 0; b < quint32(items.size());) {
+            quint32 e = b + 1;
+            while (e < quint32(items.size()) && items[e].key == items[b].key)
+                ++e;
+            out.push_back(Range {b, e});
+            b = e;
+        }
+        std::sort(out.begin(), out.end(), [&items](const Range &a, const Range &b) {
+            return items[a.begin].seq < items[b.begin].seq;
+        });
+    };
+    // The groups to report: members in order, with the content key of each.
+    struct Found
+    {
+        QByteArray key;
         std::vector<quint32> members;
     };
-    std::vector<Bucket> buckets;
-    std::unordered_map<quint64, size_t> byKey;
-    QHash<QByteArray, size_t> byText;
-    const auto add = [](std::vector<Bucket> &into, std::unordered_map<quint64, size_t> &index,
-                         quint64 key, quint32 file) {
-        const auto found = index.find(key);
-        if (found == index.end()) {
-            index.emplace(key, into.size());
-            into.push_back(Bucket {key, {}, {file}});
-        } else {
-            into[found->second].members.push_back(file);
-        }
-    };
-    for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
-        if (isStopRequested())
-            return;
-        const quint32 file = m_order[i];
-        if (scanMethod == scanName) {
-            const QByteArray key = nameKey(m_table.fileName(file));
-            const auto found = byText.constFind(key);
-            if (found == byText.constEnd()) {
-                byText.insert(key, buckets.size());
-                buckets.push_back(Bucket {0, key, {file}});
-            } else {
-                buckets[found.value()].members.push_back(file);
-            }
-        } else if (m_keyState[file] == 2) {
-            add(buckets, byKey, m_keys[file], file);
-        }
-    }
+    std::vector<Found> found;
+    std::vector<quint32> singles;
 
-    if (scanMethod == scanAllContent && size > kWholeFileLimit) {
-        // Whole files are read only where the sampled keys already agree: files whose
-        // samples differ cannot have equal contents, so the groups are the same as from
-        // hashing every file whole.
-        std::vector<Bucket> full;
-        std::unordered_map<quint64, size_t> byFull;
-        for (Bucket &sampled : buckets) {
-            if (sampled.members.size() < 2) {
-                add(full, byFull, sampled.key, sampled.members.front());
+    if (scanMethod == scanName) {
+        QHash<QByteArray, size_t> byText;
+        for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
+            if (isStopRequested())
+                return;
+            const quint32 file = m_order[i];
+            const QByteArray key = nameKey(m_table.fileName(file));
+            const auto at = byText.constFind(key);
+            if (at == byText.constEnd()) {
+                byText.insert(key, found.size());
+                found.push_back(Found {key, {file}});
+            } else {
+                found[at.value()].members.push_back(file);
+            }
+        }
+    } else {
+        keyed.clear();
+        for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
+            const quint32 file = m_order[i];
+            if (m_keyState[file] == 2)
+                keyed.push_back(Keyed {m_keys[file], quint32(keyed.size()), file});
+        }
+        group(keyed, ranges);
+        std::vector<Keyed> *result = &keyed;
+        std::vector<Range> *resultRanges = &ranges;
+        if (scanMethod == scanAllContent && size > kWholeFileLimit) {
+            // Whole files are read only where the sampled keys already agree: files whose
+            // samples differ cannot have equal contents, so the groups are the same as
+            // from hashing every file whole.
+            full.clear();
+            for (const Range &range : ranges) {
+                if (range.end - range.begin < 2) {
+                    full.push_back(Keyed {
+                        keyed[range.begin].key, quint32(full.size()), keyed[range.begin].file});
+                    continue;
+                }
+                for (quint32 k = range.begin; k < range.end; ++k) {
+                    if (isStopRequested())
+                        return;
+                    const quint32 file = keyed[k].file;
+                    const int driveType = m_table.folder(m_table.file(file).folder).driveType;
+                    quint64 key = 0;
+#ifdef Q_OS_UNIX
+                    const QByteArray native = m_table.nativePath(file);
+                    if (!streamKeyAt(AT_FDCWD, native.constData(), driveType, key,
+                            [this, file] { return m_table.fileName(file); }))
+                        continue;
+#else
+                    const QByteArray hex = streamHash(m_table.filePath(file), driveType);
+                    if (hex.isEmpty())
+                        continue;
+                    key = hex.toULongLong(nullptr, 16);
+#endif
+                    full.push_back(Keyed {key, quint32(full.size()), file});
+                }
+            }
+            group(full, fullRanges);
+            result = &full;
+            resultRanges = &fullRanges;
+        }
+        for (const Range &range : *resultRanges) {
+            if (range.end - range.begin == 1) {
+                singles.push_back((*result)[range.begin].file);
                 continue;
             }
-            for (quint32 file : sampled.members) {
-                if (isStopRequested())
-                    return;
-                const int driveType = m_table.folder(m_table.file(file).folder).driveType;
-                quint64 key = 0;
-#ifdef Q_OS_UNIX
-                const QByteArray native = m_table.nativePath(file);
-                if (!streamKeyAt(AT_FDCWD, native.constData(), driveType, key,
-                        [this, file] { return m_table.fileName(file); }))
-                    continue;
-#else
-                const QByteArray hex = streamHash(m_table.filePath(file), driveType);
-                if (hex.isEmpty())
-                    continue;
-                key = hex.toULongLong(nullptr, 16);
-#endif
-                add(full, byFull, key, file);
-            }
+            Found entry {hexKey((*result)[range.begin].key), {}};
+            for (quint32 k = range.begin; k < range.end; ++k)
+                entry.members.push_back((*result)[k].file);
+            found.push_back(std::move(entry));
         }
-        buckets.swap(full);
     }
 
-    for (const Bucket &bucket : buckets) {
-        if (bucket.members.size() == 1) {
-            const quint32 file = bucket.members.front();
-            if (isImage(file)) {
-                QMutexLocker locker(&m_mutex);
-                uniqueImages.append(m_table.filePath(file));
-            }
-            continue;
+    // Keys in first-seen order: a single file is only looked at as a picture.
+    for (const Found &entry : found)
+        if (entry.members.size() == 1)
+            singles.push_back(entry.members.front());
+    for (quint32 file : singles) {
+        if (isImage(file)) {
+            QMutexLocker locker(&m_mutex);
+            uniqueImages.append(m_table.filePath(file));
         }
-        if (bucket.members.size() < 2)
+    }
+    for (const Found &entry : found) {
+        if (entry.members.size() < 2)
             continue;
         QStringList paths;
-        paths.reserve(qsizetype(bucket.members.size()));
-        for (quint32 file : bucket.members)
+        paths.reserve(qsizetype(entry.members.size()));
+        for (quint32 file : entry.members)
             paths.append(m_table.filePath(file));
-        storeGroup(size, scanMethod == scanName ? bucket.text : hexKey(bucket.key), paths);
+        storeGroup(size, entry.key, paths);
         if (isStopRequested())
             return;
     }
