@@ -6,6 +6,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QHash>
 #include <QMutex>
 
 namespace {
@@ -14,6 +15,11 @@ namespace {
 // written while another thread shuts the logger down stays safe.
 QMutex g_loggerMutex;
 std::shared_ptr<spdlog::logger> g_logger;
+
+// Messages per kind since the last flush, in the order the kinds first came.
+QMutex g_repeatMutex;
+QHash<QByteArray, qint64> g_repeatCounts;
+QList<QByteArray> g_repeatOrder;
 
 } // namespace
 
@@ -63,4 +69,37 @@ void splog_d(const QString &message)
     const QByteArray text = message.simplified().toUtf8();
     logger->log(spdlog::source_loc {"TLogger", 15, "splog_d"}, spdlog::level::info,
         spdlog::string_view_t(text.constData(), static_cast<size_t>(text.size())));
+}
+
+void splog_repeated(const char *kind, const QString &message)
+{
+    qint64 seen = 0;
+    {
+        QMutexLocker lock(&g_repeatMutex);
+        const QByteArray key(kind);
+        qint64 &count = g_repeatCounts[key];
+        if (count == 0)
+            g_repeatOrder.append(key);
+        seen = ++count;
+    }
+    if (seen <= kRepeatedInFull)
+        splog_d(message);
+}
+
+void splog_flush_repeated()
+{
+    QHash<QByteArray, qint64> counts;
+    QList<QByteArray> order;
+    {
+        QMutexLocker lock(&g_repeatMutex);
+        counts.swap(g_repeatCounts);
+        order.swap(g_repeatOrder);
+    }
+    for (const QByteArray &kind : std::as_const(order)) {
+        const qint64 held = counts.value(kind) - kRepeatedInFull;
+        if (held > 0)
+            splog_d(QStringLiteral("%1: %2 more like this, not logged one by one.")
+                        .arg(QString::fromUtf8(kind))
+                        .arg(held));
+    }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/FileMeta.h"
+#include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
 
 #include <atomic>
@@ -51,6 +52,10 @@ public:
     void setInput(const SizeTable &table, const QStringList &files);
     // The controller's compact scan table, handed over before start().
     void setInput(ScanTable table) { m_table = std::move(table); }
+    // The scan's root folders: duplicate folders are looked for up to them, not above.
+    void setRoots(const QStringList &roots) { m_roots = roots; }
+    // Where files that cannot be read or have vanished are counted; may be null.
+    void setProblems(ScanProblems *problems) { m_problems = problems; }
 
     void requestStop() { stopRequested.store(1); }
     bool isStopRequested() const { return stopRequested.load() != 0; }
@@ -105,6 +110,8 @@ private:
     void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths);
 
     ScanTable m_table;
+    QStringList m_roots;
+    ScanProblems *m_problems = nullptr;
     QStringList uniqueImages;
     QHash<QString, DirMatchInfo> dirTable;
     mutable QMutex m_mutex;

@@ -3,6 +3,7 @@
 
 #include "engine/FileMeta.h"
 #include "engine/ScanBatch.h"
+#include "engine/ScanProblems.h"
 
 #include <atomic>
 
@@ -38,6 +39,9 @@ public:
 
     void setRoots(const QStringList &newRoots) { roots = newRoots; }
     void setScanMode(qint64 mode) { scanMode = mode; }
+    // Where unreadable folders and files, links leading outside the roots and pseudo file
+    // systems are counted; owned by the caller, may be null.
+    void setProblems(ScanProblems *problems) { m_problems = problems; }
     void requestStop() { stopRequested.store(1); }
     bool isStopRequested() const { return stopRequested.load() != 0; }
 
@@ -99,6 +103,7 @@ private:
     std::atomic<int> scannedCount {0};
     QFutureInterface<void> m_future;
     QJsonObject config;
+    ScanProblems *m_problems = nullptr;
 
     // Lower-cased ignorePaths, for the case-insensitive test on every entry.
     QStringList m_ignoredLower;

@@ -47,6 +47,8 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
         &TControlUI::openProjectComplated, Qt::QueuedConnection);
     connect(&m_openSave, &TOpenSaveThread::saveComplated, this, &TControlUI::saveComplated,
         Qt::QueuedConnection);
+    m_scanner.setProblems(&m_problems);
+    m_finder.setProblems(&m_problems);
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &TControlUI::onTimerTick);
 }
@@ -103,6 +105,7 @@ void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
         stop();
     m_clock.start();
     m_roots = roots;
+    m_problems.clear(int(roots.size()));
     m_table.clear();
     m_scannedFiles = 0;
     m_timer.start();
@@ -185,6 +188,7 @@ void TControlUI::onScannerFinished()
                 .arg(m_table.fileCount())
                 .arg(seconds()));
     // The finder holds the only copy from here on and releases it when it ends.
+    m_finder.setRoots(m_roots);
     m_finder.setInput(std::move(m_table));
     m_table.clear();
     m_stage = StageMatching;
@@ -257,6 +261,14 @@ void TControlUI::endScan()
 {
     splog_d(QStringLiteral("[TControlUI]: All tasks are completed. This task takes:[%1] seconds.")
                 .arg(seconds()));
+    const QString unreadable = m_problems.unreadableSummary();
+    if (!unreadable.isEmpty())
+        splog_d(QStringLiteral("[TControlUI]: %1.").arg(unreadable));
+    if (const qint64 links = m_problems.count(ScanProblems::LinkOutsideRoots))
+        splog_d(QStringLiteral("[TControlUI]: %1 links lead outside the scanned folders and were "
+                               "not followed.")
+                    .arg(links));
+    splog_flush_repeated();
     m_timer.stop();
     m_runState = Stopped;
     emit onAllComplate();

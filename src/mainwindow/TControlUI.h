@@ -3,6 +3,7 @@
 
 #include "engine/DuplicateFileFinder.h"
 #include "engine/FileMeta.h"
+#include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
 #include "engine/TFileScanner.h"
 #include "fileops/TOpenSaveThread.h"
@@ -55,6 +56,9 @@ public:
     QString projectPath() const { return m_projectPath; }
     void setProjectPath(const QString &path) { m_projectPath = path; }
 
+    // What the current (or last) scan could not read or did not follow.
+    const ScanProblems &problems() const { return m_problems; }
+
     TFileScanner *scanner() { return &m_scanner; }
     DuplicateFileFinder *finder() { return &m_finder; }
     // The similar-picture stage (an ImageCompareThread); nullptr in a build without it.
@@ -91,6 +95,7 @@ private:
     QThread *m_compare = nullptr;
     TOpenSaveThread m_openSave;
 
+    ScanProblems m_problems;
     QStringList m_roots;
     // The scanned files in compact form; the finder groups them by size.
     ScanTable m_table;
