@@ -53,6 +53,41 @@ struct IdentityHash
 
 using IdentitySet = std::unordered_set<Identity, IdentityHash>;
 
+#ifdef Q_OS_UNIX
+// Whether this process may read a file, told from the owner and mode bits of the stat
+// the walk has anyway, instead of one more system call per file. Only a "no" is then
+// confirmed by the system, since access lists can grant more than the bits show.
+class ReadPermission
+{
+public:
+    ReadPermission() : m_uid(::geteuid()), m_gid(::getegid())
+    {
+        const int count = ::getgroups(0, nullptr);
+        if (count > 0) {
+            m_groups.resize(size_t(count));
+            m_groups.resize(size_t(std::max(0, ::getgroups(count, m_groups.data()))));
+        }
+    }
+
+    bool byMode(const struct stat &info) const
+    {
+        if (m_uid == 0)
+            return true;
+        if (info.st_uid == m_uid)
+            return info.st_mode & S_IRUSR;
+        if (info.st_gid == m_gid
+            || std::find(m_groups.begin(), m_groups.end(), info.st_gid) != m_groups.end())
+            return info.st_mode & S_IRGRP;
+        return info.st_mode & S_IROTH;
+    }
+
+private:
+    uid_t m_uid;
+    gid_t m_gid;
+    std::vector<gid_t> m_groups;
+};
+#endif
+
 QString joinPath(const QString &folder, const QString &name)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
@@ -85,6 +120,9 @@ struct TFileScanner::Folder
 {
     QString path;
     QByteArray native;
+    int driveType = DriveUnknown;
+    // A chosen root: when it cannot be listed, the scan read nothing of it.
+    bool root = false;
 };
 
 struct TFileScanner::Seen
@@ -98,11 +136,24 @@ struct TFileScanner::Seen
     // resolved after the ordinary entries, so they are only collected here and looked up
     // when links are resolved.
     std::vector<Identity> singleFiles;
+    // Device numbers of pseudo file systems, never entered.
+    std::vector<unsigned long long> pseudoDevices;
+#ifdef Q_OS_UNIX
+    ReadPermission permission;
+#endif
+};
+
+// A root as the file system resolves it (no link in it), with its drive type: links are
+// followed only to places inside one of these.
+struct TFileScanner::Root
+{
+    QString path;
+    QByteArray native;
+    int driveType = DriveUnknown;
 };
 
 struct TFileScanner::WalkState
 {
-    int driveType = DriveUnknown;
     QMutex mutex;
     QWaitCondition wake;
     std::deque<Folder> queue;
@@ -187,23 +238,109 @@ void TFileScanner::run()
     m_perFileSignals = isSignalConnected(QMetaMethod::fromSignal(&TFileScanner::fileFound))
         || isSignalConnected(QMetaMethod::fromSignal(&TFileScanner::filesFound));
     Seen seen;
+    seen.pseudoDevices = platform::current().pseudoFileSystemDevices();
     m_seen = &seen;
+    m_roots.clear();
     for (const QString &root : std::as_const(roots)) {
+        const Root resolved = resolveRoot(root);
+        if (!resolved.path.isEmpty())
+            m_roots.push_back(resolved);
+    }
+    // Links are resolved only once every root has been walked: a file reachable both
+    // directly and through a link is then always met under its own path first, whatever
+    // the order of the roots.
+    WalkState state;
+    const bool filtered = scanMode == 1;
+    for (const Root &root : std::as_const(m_roots)) {
         if (isStopRequested())
             break;
-        const QString absolute = QDir::cleanPath(QFileInfo(root).absoluteFilePath());
         if (scanMode == 0)
-            scanWithQtRecursive(absolute);
+            scanWithQtRecursive(state, root);
         else if (scanMode == 1)
-            scanIncrementalParallel(absolute);
+            scanIncrementalParallel(state, root);
+    }
+    if (scanMode == 0 || scanMode == 1) {
+        while (!isStopRequested() && resolveLinks(state, filtered)) {
+            if (filtered)
+                drainWithPool(state);
+            else
+                drainInOrder(state);
+        }
     }
     m_seen = nullptr;
     emit scanFinished();
 }
 
+TFileScanner::Root TFileScanner::resolveRoot(const QString &root) const
+{
+    Root resolved;
+    resolved.path = QDir::cleanPath(QFileInfo(root).absoluteFilePath());
+    resolved.native = FilePathCodec::encode(resolved.path);
+#ifdef Q_OS_UNIX
+    // The walk runs on the real path, so every reported path is free of links and a
+    // link's target can be told to lie inside a root by its path alone.
+    if (char *real = ::realpath(resolved.native.constData(), nullptr)) {
+        const QByteArray native(real);
+        std::free(real);
+        if (native != resolved.native) {
+            splog_d(QStringLiteral("[TFileScanner]: Root [%1] is scanned as [%2].")
+                        .arg(resolved.path, FilePathCodec::decode(native)));
+            resolved.native = native;
+            resolved.path = FilePathCodec::decode(native);
+        }
+    }
+#else
+    const QString canonical = QFileInfo(resolved.path).canonicalFilePath();
+    if (!canonical.isEmpty())
+        resolved.path = canonical;
+    resolved.native = FilePathCodec::encode(resolved.path);
+#endif
+    return resolved;
+}
+
+const TFileScanner::Root *TFileScanner::rootHolding(const QByteArray &native) const
+{
+    const Root *best = nullptr;
+    for (const Root &root : m_roots) {
+        const QByteArray &prefix = root.native;
+        const bool inside = native == prefix
+            || (native.startsWith(prefix)
+                && (prefix.endsWith('/') || native.at(prefix.size()) == '/'));
+        if (inside && (!best || prefix.size() > best->native.size()))
+            best = &root;
+    }
+    return best;
+}
+
+void TFileScanner::noteProblem(ScanProblems::Kind kind, const QString &path)
+{
+    if (m_problems)
+        m_problems->add(kind, path);
+}
+
+void TFileScanner::unreadableFile(const QString &path, int error)
+{
+    splog_repeated("[TFileScanner]: Cannot read file",
+        QStringLiteral("[TFileScanner]: Cannot read file, skipped: [%1]. %2")
+            .arg(path, QString::fromLocal8Bit(std::strerror(error))));
+    noteProblem(ScanProblems::UnreadableFile, path);
+}
+
 bool TFileScanner::isIgnoredPath(const QString &path) const
 {
     return !m_ignoredLower.isEmpty() && m_ignoredLower.contains(path.toLower());
+}
+
+bool TFileScanner::isUnderIgnoredPath(const QString &path) const
+{
+    if (m_ignoredLower.isEmpty())
+        return false;
+    const QString lower = path.toLower();
+    for (const QString &ignored : m_ignoredLower)
+        if (lower == ignored
+            || (lower.startsWith(ignored) && lower.at(ignored.size()) == QLatin1Char('/')))
+            return true;
+    return false;
 }
 
 bool TFileScanner::passesFileFilters(const QString &fileName, qint64 size) const
@@ -219,14 +356,14 @@ bool TFileScanner::passesFileFilters(const QString &fileName, qint64 size) const
     return !ignoreTypes.contains(suffix);
 }
 
-void TFileScanner::reportFile(WalkState &state, ScanBatch &batch, QList<FileMeta> &metas,
-    qint64 size, const char *name, const QString &path, bool filtered)
+void TFileScanner::reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size,
+    const char *name, const QString &path, bool filtered)
 {
     batch.names.append(name, qsizetype(std::strlen(name) + 1));
     batch.sizes.append(size);
     if (m_perFileSignals) {
-        metas.append(FileMeta {size, path, state.driveType});
-        emit fileFound(size, path, state.driveType);
+        metas.append(FileMeta {size, path, batch.driveType});
+        emit fileFound(size, path, batch.driveType);
     }
     const int before = scannedCount.fetch_add(1);
     // The parallel walk tests the count before the increment, the plain walk the count
@@ -251,15 +388,25 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
     ScanBatch batch;
     batch.folder = folder.path;
     batch.nativeFolder = folder.native;
-    batch.driveType = state.driveType;
+    batch.driveType = folder.driveType;
     QList<FileMeta> metas;
     bool completed = false;
     try {
 #ifdef Q_OS_UNIX
         DIR *dir = ::opendir(folder.native.constData());
         if (!dir) {
-            splog_d(QStringLiteral("[TFileScanner]: Cannot read folder, skipped: [%1]. %2")
-                        .arg(folder.path, QString::fromLocal8Bit(std::strerror(errno))));
+            const int error = errno;
+            // A sub-folder removed while the walk ran held nothing to lose; anything else
+            // is a folder the user will want to hear about.
+            if (error == ENOENT && !folder.root)
+                return;
+            splog_repeated("[TFileScanner]: Cannot read folder",
+                QStringLiteral("[TFileScanner]: Cannot read folder, skipped: [%1]. %2")
+                    .arg(folder.path, QString::fromLocal8Bit(std::strerror(error))));
+            if (folder.root && m_problems)
+                m_problems->addUnreadableRoot(folder.path);
+            else
+                noteProblem(ScanProblems::UnreadableFolder, folder.path);
             return;
         }
         const int fd = ::dirfd(dir);
@@ -269,6 +416,14 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
         if (::fstat(fd, &info) == 0) {
             const Identity id {
                 static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
+            const auto &pseudo = m_seen->pseudoDevices;
+            if (std::find(pseudo.begin(), pseudo.end(), info.st_dev) != pseudo.end()) {
+                ::closedir(dir);
+                splog_d(QStringLiteral("[TFileScanner]: Pseudo file system, not entered: [%1].")
+                            .arg(folder.path));
+                noteProblem(ScanProblems::PseudoFileSystem, folder.path);
+                return;
+            }
             QMutexLocker locker(&m_seen->mutex);
             if (!m_seen->folders.insert(id).second) {
                 locker.unlock();
@@ -307,8 +462,9 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             bool haveStat = false;
             if (type == DT_UNKNOWN || type == DT_REG) {
                 if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0) {
-                    splog_d(QStringLiteral("[TFileScanner]: Cannot read file, skipped: [%1]. %2")
-                                .arg(pathOf(), QString::fromLocal8Bit(std::strerror(errno))));
+                    const int error = errno;
+                    if (error != ENOENT)
+                        unreadableFile(pathOf(), error);
                     continue;
                 }
                 haveStat = true;
@@ -323,11 +479,13 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             }
             if (type == DT_DIR) {
                 QMutexLocker locker(&state.mutex);
-                state.queue.push_back(Folder {pathOf(), joinNative(folder.native, name)});
+                state.queue.push_back(
+                    Folder {pathOf(), joinNative(folder.native, name), folder.driveType});
                 state.wake.wakeOne();
             } else if (type == DT_LNK) {
                 QMutexLocker locker(&state.mutex);
-                state.links.push_back(Folder {pathOf(), joinNative(folder.native, name)});
+                state.links.push_back(
+                    Folder {pathOf(), joinNative(folder.native, name), folder.driveType});
             } else if (type == DT_REG && haveStat) {
                 const qint64 size = info.st_size;
                 if (filtered && (size < minSize || size > maxSize))
@@ -335,6 +493,13 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 if (typeFilters
                     && !passesFileFilters(FilePathCodec::decode(name, nameLength), size))
                     continue;
+                // A file nobody may read can never be compared: it is counted, not
+                // reported.
+                if (!m_seen->permission.byMode(info)
+                    && ::faccessat(fd, name, R_OK, AT_EACCESS) != 0) {
+                    unreadableFile(pathOf(), EACCES);
+                    continue;
+                }
                 const Identity id {
                     static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
                 if (info.st_nlink > 1) {
@@ -344,7 +509,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 } else {
                     singles.push_back(id);
                 }
-                reportFile(state, batch, metas, size, name, path, filtered);
+                reportFile(batch, metas, size, name, path, filtered);
             }
             // Pipes, sockets and devices are never reported: reading them can block.
         }
@@ -355,6 +520,16 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
         }
         completed = !cut;
 #else
+        if (!QFileInfo(folder.path).isReadable()) {
+            splog_repeated("[TFileScanner]: Cannot read folder",
+                QStringLiteral("[TFileScanner]: Cannot read folder, skipped: [%1].")
+                    .arg(folder.path));
+            if (folder.root && m_problems)
+                m_problems->addUnreadableRoot(folder.path);
+            else
+                noteProblem(ScanProblems::UnreadableFolder, folder.path);
+            return;
+        }
         const QFileInfoList entries = QDir(folder.path)
                                           .entryInfoList(QDir::AllEntries | QDir::Hidden
                                                   | QDir::System | QDir::NoDotAndDotDot,
@@ -373,17 +548,17 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 continue;
             if (entry.isSymLink() || entry.isJunction()) {
                 QMutexLocker locker(&state.mutex);
-                state.links.push_back(Folder {path, FilePathCodec::encode(path)});
+                state.links.push_back(Folder {path, FilePathCodec::encode(path), folder.driveType});
             } else if (entry.isDir()) {
                 QMutexLocker locker(&state.mutex);
-                state.queue.push_back(Folder {path, FilePathCodec::encode(path)});
+                state.queue.push_back(Folder {path, FilePathCodec::encode(path), folder.driveType});
                 state.wake.wakeOne();
             } else if (entry.isFile()) {
                 const qint64 size = entry.size();
                 if (filtered && !passesFileFilters(entry.fileName(), size))
                     continue;
-                reportFile(state, batch, metas, size,
-                    FilePathCodec::encode(entry.fileName()).constData(), path, filtered);
+                reportFile(batch, metas, size, FilePathCodec::encode(entry.fileName()).constData(),
+                    path, filtered);
             }
         }
         completed = !cut;
@@ -461,49 +636,87 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
     }
     if (links.empty() || isStopRequested())
         return false;
-    // Resolve in a fixed order so that the same tree always gives the same report.
-    std::sort(links.begin(), links.end(),
-        [](const Folder &a, const Folder &b) { return a.native < b.native; });
-    // Links of one folder are adjacent after the sort; each folder's files go out as one
-    // batch.
-    ScanBatch batch;
-    QList<FileMeta> metas;
-    const auto batchFor = [&](const Folder &link) -> ScanBatch & {
-        const qsizetype slash = link.path.lastIndexOf(QLatin1Char('/'));
-        const QString folder = slash <= 0 ? QStringLiteral("/") : link.path.left(slash);
-        if (batch.folder != folder) {
-            emitBatch(batch, metas);
-            batch = ScanBatch();
-            metas.clear();
-            batch.folder = folder;
-            const qsizetype nativeSlash = link.native.lastIndexOf('/');
-            batch.nativeFolder = nativeSlash <= 0 ? QByteArray("/") : link.native.left(nativeSlash);
-            batch.driveType = state.driveType;
-        }
-        return batch;
-    };
-    const auto nativeNameOf
-        = [](const Folder &link) { return link.native.mid(link.native.lastIndexOf('/') + 1); };
-#ifdef Q_OS_UNIX
+    // Each link stands for its target, under the target's real path: a file reached
+    // through a link is the same item as the file itself, and the link is never a member
+    // of a group (removing a link keeps nothing, removing its target leaves it dangling).
     struct Target
     {
-        bool exists = false;
+        Folder link;
+        Folder real;
+        qint64 size = 0;
+        bool isFolder = false;
+        Identity id;
+        bool multiLink = false;
+    };
+    std::vector<Target> targets;
+    targets.reserve(links.size());
+    for (Folder &link : links) {
+        if (isStopRequested())
+            break;
+        Target target;
+#ifdef Q_OS_UNIX
+        char *real = ::realpath(link.native.constData(), nullptr);
+        if (!real) {
+            splog_repeated("[TFileScanner]: Dangling link",
+                QStringLiteral("[TFileScanner]: Dangling link, skipped: [%1]. %2")
+                    .arg(link.path, QString::fromLocal8Bit(std::strerror(errno))));
+            continue;
+        }
+        target.real.native = QByteArray(real);
+        std::free(real);
+        target.real.path = FilePathCodec::decode(target.real.native);
+#else
+        target.real.path = QFileInfo(link.path).canonicalFilePath();
+        if (target.real.path.isEmpty())
+            continue;
+        target.real.native = FilePathCodec::encode(target.real.path);
+#endif
+        const Root *root = rootHolding(target.real.native);
+        if (!root) {
+            splog_repeated("[TFileScanner]: Link leads outside the scanned folders",
+                QStringLiteral("[TFileScanner]: Link leads outside the scanned folders, not "
+                               "followed: [%1] -> [%2].")
+                    .arg(link.path, target.real.path));
+            noteProblem(ScanProblems::LinkOutsideRoots, link.path);
+            continue;
+        }
+        target.real.driveType = root->driveType;
+        // The ordinary walk never enters an ignored folder; neither does a link.
+        if (filtered && isUnderIgnoredPath(target.real.path))
+            continue;
+#ifdef Q_OS_UNIX
         struct stat info
         {
         };
-    };
-    std::vector<Target> targets(links.size());
+        if (::stat(target.real.native.constData(), &info) != 0)
+            continue;
+        target.id = Identity {static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
+        target.isFolder = S_ISDIR(info.st_mode);
+        if (!target.isFolder && !S_ISREG(info.st_mode))
+            continue;
+        target.size = info.st_size;
+        target.multiLink = info.st_nlink > 1;
+#else
+        const QFileInfo info(target.real.path);
+        target.isFolder = info.isDir();
+        if (!target.isFolder && !info.isFile())
+            continue;
+        target.size = info.size();
+#endif
+        target.link = std::move(link);
+        targets.push_back(std::move(target));
+    }
+    // Resolved in a fixed order, so that the same tree always gives the same report;
+    // targets of one folder are then adjacent and go out as one batch.
+    std::sort(targets.begin(), targets.end(),
+        [](const Target &a, const Target &b) { return a.real.native < b.real.native; });
+
     // Files with one name met so far are only collected as a list; of them, only those a
     // link points to are looked up, so no table of every file is built here.
     IdentitySet wanted;
-    for (size_t i = 0; i < links.size() && !isStopRequested(); ++i) {
-        Target &target = targets[i];
-        // A dangling link does not exist.
-        target.exists = ::stat(links[i].native.constData(), &target.info) == 0;
-        if (target.exists && S_ISREG(target.info.st_mode) && target.info.st_nlink <= 1)
-            wanted.insert(Identity {static_cast<quint64>(target.info.st_dev),
-                static_cast<quint64>(target.info.st_ino)});
-    }
+    for (const Target &target : targets)
+        if (!target.isFolder && !target.multiLink)
+            wanted.insert(target.id);
     IdentitySet singles;
     if (!wanted.empty()) {
         QMutexLocker locker(&m_seen->mutex);
@@ -511,90 +724,93 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
             if (wanted.count(id))
                 singles.insert(id);
     }
-    for (size_t i = 0; i < links.size(); ++i) {
+
+    ScanBatch batch;
+    QList<FileMeta> metas;
+    for (const Target &target : targets) {
         if (isStopRequested())
             break;
-        const Folder &link = links[i];
-        if (!targets[i].exists)
-            continue;
-        const struct stat &info = targets[i].info;
-        const Identity id {static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
-        if (S_ISDIR(info.st_mode)) {
+        if (target.isFolder) {
+#ifdef Q_OS_UNIX
             QMutexLocker seenLocker(&m_seen->mutex);
-            if (m_seen->folders.count(id))
+            if (m_seen->folders.count(target.id))
                 continue;
             seenLocker.unlock();
+#endif
             QMutexLocker locker(&state.mutex);
-            state.queue.push_back(link);
-        } else if (S_ISREG(info.st_mode)) {
-            const qsizetype slash = link.path.lastIndexOf(QLatin1Char('/'));
-            if (filtered && !passesFileFilters(link.path.mid(slash + 1), info.st_size))
-                continue;
+            state.queue.push_back(target.real);
+            continue;
+        }
+        const qsizetype slash = target.real.path.lastIndexOf(QLatin1Char('/'));
+        const QString name = target.real.path.mid(slash + 1);
+        if (filtered && !passesFileFilters(name, target.size))
+            continue;
+#ifdef Q_OS_UNIX
+        {
             QMutexLocker seenLocker(&m_seen->mutex);
-            const bool fresh = info.st_nlink > 1 ? m_seen->multiLinkFiles.insert(id).second
-                                                 : singles.insert(id).second;
+            const bool fresh = target.multiLink ? m_seen->multiLinkFiles.insert(target.id).second
+                                                : singles.insert(target.id).second;
             if (!fresh)
                 continue;
-            if (info.st_nlink <= 1)
-                m_seen->singleFiles.push_back(id);
-            seenLocker.unlock();
-            reportFile(state, batchFor(link), metas, info.st_size, nativeNameOf(link).constData(),
-                link.path, filtered);
+            if (!target.multiLink)
+                m_seen->singleFiles.push_back(target.id);
         }
-    }
-#else
-    for (const Folder &link : links) {
-        if (isStopRequested())
-            break;
-        const QFileInfo target(link.path);
-        if (target.isDir()) {
-            QMutexLocker locker(&state.mutex);
-            state.queue.push_back(link);
-        } else if (target.isFile()) {
-            if (filtered && !passesFileFilters(target.fileName(), target.size()))
-                continue;
-            reportFile(state, batchFor(link), metas, target.size(), nativeNameOf(link).constData(),
-                link.path, filtered);
-        }
-    }
 #endif
+        const QString folder = slash <= 0 ? QStringLiteral("/") : target.real.path.left(slash);
+        if (batch.folder != folder) {
+            emitBatch(batch, metas);
+            batch = ScanBatch();
+            metas.clear();
+            batch.folder = folder;
+            const qsizetype nativeSlash = target.real.native.lastIndexOf('/');
+            batch.nativeFolder
+                = nativeSlash <= 0 ? QByteArray("/") : target.real.native.left(nativeSlash);
+            batch.driveType = target.real.driveType;
+        }
+        const QByteArray nativeName
+            = target.real.native.mid(target.real.native.lastIndexOf('/') + 1);
+        splog_repeated("[TFileScanner]: Link followed",
+            QStringLiteral("[TFileScanner]: Link followed, reported as its target: [%1] -> [%2].")
+                .arg(target.link.path, target.real.path));
+        reportFile(batch, metas, target.size, nativeName.constData(), target.real.path, filtered);
+    }
     emitBatch(batch, metas);
     QMutexLocker locker(&state.mutex);
     return !state.queue.empty();
 }
 
-void TFileScanner::scanIncrementalParallel(const QString &root)
+void TFileScanner::drainInOrder(WalkState &state)
+{
+    while (!state.queue.empty() && !isStopRequested()) {
+        const Folder folder = std::move(state.queue.front());
+        state.queue.pop_front();
+        processDir(state, folder, false);
+    }
+    state.queue.clear();
+}
+
+void TFileScanner::scanIncrementalParallel(WalkState &state, const Root &root)
 {
     if (isStopRequested())
         return;
-    WalkState state;
-    state.driveType = queryDriveType(root);
+    const int driveType = queryDriveType(root.path);
     scannedCount.store(0);
     splog_d(QStringLiteral("[TFileScanner]: scanIncrementalParallel: %1. driveType:[%2].")
-                .arg(root)
-                .arg(state.driveType));
-    state.queue.push_back(Folder {root, FilePathCodec::encode(root)});
-    do {
-        drainWithPool(state);
-    } while (!isStopRequested() && resolveLinks(state, true));
+                .arg(root.path)
+                .arg(driveType));
+    state.queue.push_back(Folder {root.path, root.native, driveType, true});
+    drainWithPool(state);
     emit progressUpdated(scannedCount.load());
 }
 
-void TFileScanner::scanWithQtRecursive(const QString &root)
+void TFileScanner::scanWithQtRecursive(WalkState &state, const Root &root)
 {
     if (isStopRequested())
         return;
-    WalkState state;
-    state.driveType = queryDriveType(root);
+    const int driveType = queryDriveType(root.path);
     splog_d(QStringLiteral("[TFileScanner]: scanWithQtRecursive: [%1]. driveType: [%2].")
-                .arg(root)
-                .arg(state.driveType));
-    state.queue.push_back(Folder {root, FilePathCodec::encode(root)});
-    do {
-        while (!state.queue.empty() && !isStopRequested()) {
-            const Folder folder = std::move(state.queue.front());
-            state.queue.pop_front();
-            processDir(state, folder, false);
-        }
-    } while (!isStopRequested() && resolveLinks(state, false));
+                .arg(root.path)
+                .arg(driveType));
+    state.queue.push_back(Folder {root.path, root.native, driveType, true});
+    drainInOrder(state);
 }

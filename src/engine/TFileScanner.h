@@ -20,11 +20,13 @@ class QWaitCondition;
 // reports every accepted file. Runs on its own thread; the default walk fans out over a
 // private pool of idealThreadCount() workers.
 //
-// Links are followed, but each folder (device and inode) is walked at most once per
-// scan, so link loops end, and each file (device and inode) is reported at most once, so
-// a hard link or a link to a file never turns up as a copy of itself. Links are resolved
-// after the ordinary entries of a walk, so a file reachable both directly and through a
-// link is reported under its own path.
+// Roots are walked by their real paths. Links are followed only where they lead inside
+// the roots, and always stand for their target under its real path: each folder (device
+// and inode) is walked at most once per scan, so link loops end, and each file (device
+// and inode) is reported at most once, so a hard link or a link to a file never turns up
+// as a copy of itself and no group ever holds a link. Links are resolved after every
+// root's ordinary walk. Links leading outside the roots, unreadable folders and files,
+// and pseudo file systems (never entered) are counted in the scan's problems.
 class TFileScanner : public QThread
 {
     Q_OBJECT
@@ -76,18 +78,29 @@ protected:
 private:
     struct WalkState;
     struct Folder;
+    struct Root;
 
-    void scanWithQtRecursive(const QString &root);
-    void scanIncrementalParallel(const QString &root);
+    void scanWithQtRecursive(WalkState &state, const Root &root);
+    void scanIncrementalParallel(WalkState &state, const Root &root);
     void processDir(WalkState &state, const Folder &folder, bool filtered);
     void drainWithPool(WalkState &state);
+    void drainInOrder(WalkState &state);
+    // Turns the links met so far into their targets: folders are queued, files reported;
+    // true when folders were queued.
     bool resolveLinks(WalkState &state, bool filtered);
+    Root resolveRoot(const QString &root) const;
+    // The innermost root whose real path holds native, or null.
+    const Root *rootHolding(const QByteArray &native) const;
+    void noteProblem(ScanProblems::Kind kind, const QString &path);
+    void unreadableFile(const QString &path, int error);
     bool isIgnoredPath(const QString &path) const;
+    // The path or one of its folders is on the ignore list.
+    bool isUnderIgnoredPath(const QString &path) const;
     bool passesFileFilters(const QString &fileName, qint64 size) const;
     // Adds one accepted file to the folder's batch and counts it; path is only needed
     // (and only built) while the per-file signals are connected.
-    void reportFile(WalkState &state, ScanBatch &batch, QList<FileMeta> &metas, qint64 size,
-        const char *name, const QString &path, bool filtered);
+    void reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size, const char *name,
+        const QString &path, bool filtered);
     void emitBatch(ScanBatch &batch, QList<FileMeta> &metas);
 
     QStringList roots;
@@ -110,6 +123,8 @@ private:
     // Whether fileFound and filesFound have receivers, decided once per run: their
     // per-file path strings are the most costly part of a walk.
     bool m_perFileSignals = true;
+    // The roots by their real paths, for the duration of a run.
+    std::vector<Root> m_roots;
     // Identities (device, inode) of the folders walked and of the files with several
     // names reported during the current run; they persist across the roots of one scan.
     struct Seen;

@@ -41,6 +41,11 @@ public:
     // True when the entry at path is hidden or a system file: the hidden or system
     // attribute on Windows, a name beginning with "." on Linux.
     virtual bool isHiddenOrSystem(const std::string &path) const = 0;
+
+    // Device numbers of the mounted pseudo file systems (process and kernel tables,
+    // device nodes, control groups): a scan never enters them, since their "files" are
+    // endless, change while read, or block. Empty where there is no such thing.
+    virtual std::vector<unsigned long long> pseudoFileSystemDevices() const = 0;
 };
 
 // The implementation for the platform this program was built for.

@@ -79,12 +79,15 @@ class TestFileScanner : public QObject
 private slots:
     void filters_data();
     void filters();
-    void linksAndLoops();
+    void links_data();
+    void links();
+    void pseudoFileSystemsNotEntered();
     void hardLinksReportedOnce();
     void undecodableNameStillOpens();
     void plainModeAppliesNoFilter();
     void stopMidWalkFinishesOnce();
-    void unreadableFolderIsSkipped();
+    void unreadable_data();
+    void unreadable();
 };
 
 void TestFileScanner::filters_data()
@@ -159,32 +162,73 @@ void TestFileScanner::filters()
         QVERIFY(outcome.folders.isEmpty());
 }
 
-void TestFileScanner::linksAndLoops()
+void TestFileScanner::links_data()
+{
+    QTest::addColumn<QStringList>("roots");
+    QTest::addColumn<qint64>("mode");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<int>("outside");
+    const QStringList both {"A/loop/a/b/file.bin", "A/own.bin", "B/sub/deep.bin", "B/target.bin"};
+    // A links to a file and a folder of B, to "/", to a folder outside and into a loop.
+    for (qint64 mode : {0, 1}) {
+        const QByteArray suffix = mode ? " (filtered walk)" : " (plain walk)";
+        QTest::newRow("A then B" + suffix) << QStringList {"A", "B"} << mode << both << 2;
+        QTest::newRow("B then A" + suffix) << QStringList {"B", "A"} << mode << both << 2;
+        QTest::newRow("A alone" + suffix)
+            << QStringList {"A"} << mode << QStringList {"A/loop/a/b/file.bin", "A/own.bin"} << 4;
+    }
+}
+
+void TestFileScanner::links()
+{
+    QFETCH(QStringList, roots);
+    QFETCH(qint64, mode);
+    QFETCH(QStringList, expected);
+    QFETCH(int, outside);
+    QTemporaryDir dir;
+    QTemporaryDir far;
+    const QString base = QFileInfo(dir.path()).canonicalFilePath();
+    ScanTree::write(base, "A/own.bin", "o");
+    ScanTree::write(base, "A/loop/a/b/file.bin", "x");
+    ScanTree::write(base, "B/target.bin", "t");
+    ScanTree::write(base, "B/sub/deep.bin", "d");
+    ScanTree::write(far.path(), "far.bin", "f");
+    QVERIFY(QFile::link(base + "/B/target.bin", base + "/A/to_file.bin"));
+    QVERIFY(QFile::link(base + "/B/sub", base + "/A/to_folder"));
+    QVERIFY(QFile::link("/", base + "/A/to_machine_root"));
+    QVERIFY(QFile::link(far.path(), base + "/A/to_outside"));
+    QVERIFY(QFile::link(base + "/A/loop", base + "/A/loop/a/b/up"));
+    QVERIFY(QFile::link(base + "/A/missing.bin", base + "/A/dangling.bin"));
+    ::mkfifo(QFile::encodeName(base + "/A/pipe").constData(), 0600);
+
+    QStringList rootPaths;
+    for (const QString &root : roots)
+        rootPaths.append(base + "/" + root);
+    ScanProblems problems;
+    TFileScanner scanner;
+    scanner.setScanMode(mode);
+    scanner.setProblems(&problems);
+    const ScanOutcome outcome = runScan(scanner, rootPaths);
+    // Each file once, always under its real path: a link is never a member.
+    QCOMPARE(relative(outcome.files, base), expected);
+    QCOMPARE(problems.count(ScanProblems::LinkOutsideRoots), qint64(outside));
+}
+
+void TestFileScanner::pseudoFileSystemsNotEntered()
 {
     QTemporaryDir dir;
-    QTemporaryDir outside;
     const QString root = QFileInfo(dir.path()).canonicalFilePath();
-    ScanTree::write(root, "loop/a/b/file.bin", "x");
-    ScanTree::write(root, "target.bin", "t");
-    ScanTree::write(root, "realdir/inside.bin", "i");
-    ScanTree::write(outside.path(), "far.bin", "f");
-    QVERIFY(QFile::link(root + "/loop", root + "/loop/a/b/up"));
-    QVERIFY(QFile::link(root + "/target.bin", root + "/a_link_to_file.bin"));
-    QVERIFY(QFile::link(root + "/realdir", root + "/a_link_to_dir"));
-    QVERIFY(QFile::link(outside.path(), root + "/outside_link"));
-    QVERIFY(QFile::link(root + "/missing.bin", root + "/dangling.bin"));
-    ::mkfifo(QFile::encodeName(root + "/pipe").constData(), 0600);
-
-    for (qint64 mode : {0, 1}) {
-        TFileScanner scanner;
-        scanner.setScanMode(mode);
-        const ScanOutcome outcome = runScan(scanner, {root});
-        // Each file once, under its own path; the outside folder is reached only
-        // through its link and is reported there.
-        QCOMPARE(relative(outcome.files, root),
-            (QStringList {
-                "loop/a/b/file.bin", "outside_link/far.bin", "realdir/inside.bin", "target.bin"}));
-    }
+    ScanTree::write(root, "plain.bin", "p");
+    ScanProblems problems;
+    TFileScanner scanner;
+    scanner.setProblems(&problems);
+    QStringList roots {root};
+    for (const QString &pseudo : {QStringLiteral("/proc"), QStringLiteral("/sys")})
+        if (QFileInfo::exists(pseudo + "/self") || QFileInfo::exists(pseudo + "/kernel"))
+            roots.append(pseudo);
+    const ScanOutcome outcome = runScan(scanner, roots);
+    QCOMPARE(relative(outcome.files, root), QStringList {"plain.bin"});
+    QCOMPARE(problems.count(ScanProblems::PseudoFileSystem), qint64(roots.size() - 1));
 }
 
 void TestFileScanner::hardLinksReportedOnce()
@@ -259,20 +303,61 @@ void TestFileScanner::stopMidWalkFinishesOnce()
     QVERIFY(reported < 300);
 }
 
-void TestFileScanner::unreadableFolderIsSkipped()
+void TestFileScanner::unreadable_data()
 {
-    if (::geteuid() == 0)
-        QSKIP("permission bits do not stop the superuser");
+    QTest::addColumn<QStringList>("roots");
+    QTest::addColumn<bool>("lock");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<qint64>("folders");
+    QTest::addColumn<qint64>("files");
+    QTest::addColumn<bool>("allRootsUnreadable");
+    QTest::newRow("only root missing")
+        << QStringList {"gone"} << false << QStringList {} << qint64(1) << qint64(0) << true;
+    QTest::newRow("one of two roots missing")
+        << QStringList {"tree", "gone"} << false
+        << QStringList {"tree/locked.txt", "tree/open.txt", "tree/shut/in.txt"} << qint64(1)
+        << qint64(0) << false;
+    // Permission bits do not stop the superuser; those rows run for other users only.
+    if (::geteuid() != 0) {
+        QTest::newRow("locked folder and file")
+            << QStringList {"tree"} << true << QStringList {"tree/open.txt"} << qint64(1)
+            << qint64(1) << false;
+        QTest::newRow("locked root") << QStringList {"tree/shut"} << true << QStringList {}
+                                     << qint64(1) << qint64(0) << true;
+    }
+}
+
+void TestFileScanner::unreadable()
+{
+    QFETCH(QStringList, roots);
+    QFETCH(bool, lock);
+    QFETCH(QStringList, expected);
+    QFETCH(qint64, folders);
+    QFETCH(qint64, files);
+    QFETCH(bool, allRootsUnreadable);
     QTemporaryDir dir;
-    const QString root = QFileInfo(dir.path()).canonicalFilePath();
-    ScanTree::write(root, "locked/in.txt", "x");
-    ScanTree::write(root, "open.txt", "y");
-    QFile::setPermissions(root + "/locked", QFileDevice::Permissions());
+    const QString base = QFileInfo(dir.path()).canonicalFilePath();
+    ScanTree::write(base, "tree/shut/in.txt", "x");
+    ScanTree::write(base, "tree/open.txt", "y");
+    ScanTree::write(base, "tree/locked.txt", "z");
+    if (lock) {
+        QFile::setPermissions(base + "/tree/shut", QFileDevice::Permissions());
+        QFile::setPermissions(base + "/tree/locked.txt", QFileDevice::WriteOwner);
+    }
+    QStringList rootPaths;
+    for (const QString &root : roots)
+        rootPaths.append(base + "/" + root);
+    ScanProblems problems;
+    problems.clear(int(rootPaths.size()));
     TFileScanner scanner;
-    const ScanOutcome outcome = runScan(scanner, {root});
-    QFile::setPermissions(
-        root + "/locked", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    QCOMPARE(relative(outcome.files, root), QStringList {"open.txt"});
+    scanner.setProblems(&problems);
+    const ScanOutcome outcome = runScan(scanner, rootPaths);
+    QFile::setPermissions(base + "/tree/shut",
+        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QCOMPARE(relative(outcome.files, base), expected);
+    QCOMPARE(problems.count(ScanProblems::UnreadableFolder), folders);
+    QCOMPARE(problems.count(ScanProblems::UnreadableFile), files);
+    QCOMPARE(problems.allRootsUnreadable(), allRootsUnreadable);
 }
 
 QTEST_GUILESS_MAIN(TestFileScanner)

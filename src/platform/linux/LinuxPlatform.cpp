@@ -130,6 +130,27 @@ std::string LinuxPlatform::diskRootOf(const std::string &path) const
     return best;
 }
 
+std::vector<unsigned long long> LinuxPlatform::pseudoFileSystemDevices() const
+{
+    // Kernel tables and device nodes. Only these mount points are examined, so no
+    // network or removable mount is ever touched here.
+    static const char *const kinds[] = {"proc", "sysfs", "devtmpfs", "devpts", "cgroup",
+        "cgroup2", "debugfs", "tracefs", "securityfs", "pstore", "bpf", "configfs", "fusectl",
+        "efivarfs", "mqueue", "binfmt_misc", "hugetlbfs", "rpc_pipefs", "nsfs"};
+    std::vector<unsigned long long> devices;
+    for (const MountEntry &mount : readMounts()) {
+        if (std::find_if(std::begin(kinds), std::end(kinds),
+                [&mount](const char *kind) { return mount.fsType == kind; })
+            == std::end(kinds))
+            continue;
+        struct stat info {};
+        if (::stat(mount.mountPoint.c_str(), &info) == 0
+            && std::find(devices.begin(), devices.end(), info.st_dev) == devices.end())
+            devices.push_back(info.st_dev);
+    }
+    return devices;
+}
+
 std::string LinuxPlatform::driveCacheKey(const std::string &path) const
 {
     struct stat info {};

@@ -22,6 +22,7 @@ public:
     std::string driveCacheKey(const std::string &path) const override;
     int driveTypeOf(const std::string &path) const override;
     bool isHiddenOrSystem(const std::string &path) const override;
+    std::vector<unsigned long long> pseudoFileSystemDevices() const override;
 
     // Drive kind of a block device given by its sysfs folder (/sys/dev/block/M:N after
     // resolving links): removable or on a USB/MMC/memory-stick bus gives DriveExternal,

@@ -157,6 +157,9 @@ public:
         return (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
     }
 
+    // Windows mounts no kernel tables into the folder tree.
+    std::vector<unsigned long long> pseudoFileSystemDevices() const override { return {}; }
+
 private:
     // The first two characters of the absolute path, upper-cased: the drive letter and
     // its colon.
