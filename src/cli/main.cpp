@@ -8,7 +8,7 @@
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/TControlUI.h"
-#include "results/GroupItemAutoSelector.h"
+#include "engine/GroupItemAutoSelector.h"
 
 #include <algorithm>
 #include <cerrno>

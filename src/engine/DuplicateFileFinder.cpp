@@ -5,15 +5,17 @@
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "engine/TFileData.h"
-#include "results/GroupItemAutoSelector.h"
+#include "engine/GroupItemAutoSelector.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <exception>
 #include <string_view>
 #include <unordered_map>
 
 #include <QCryptographicHash>
+#include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -98,13 +100,16 @@ qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
 // asked first. Files that are mapped are always asked first, since a map must not reach
 // past the end. pathOf() builds the path for messages only.
 template<typename PathOf>
-bool sampledKeyAt(
-    int dirfd, const char *name, qint64 size, int driveType, quint64 &key, const PathOf &pathOf)
+bool sampledKeyAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &key,
+    const PathOf &pathOf, int &error)
 {
+    error = 0;
     const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
-        splog_d(QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                    .arg(pathOf(), QString::fromLocal8Bit(std::strerror(errno))));
+        error = errno;
+        splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
+            QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
+                .arg(pathOf(), QString::fromLocal8Bit(std::strerror(error))));
         return false;
     }
     qint64 n = size;
@@ -116,8 +121,10 @@ bool sampledKeyAt(
         {
         };
         if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
-            splog_d(QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                        .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
+            error = EINVAL;
+            splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
+                QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
+                    .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
             return false;
         }
         n = std::min<qint64>(info.st_size, size);
@@ -192,7 +199,7 @@ bool sampledKeyAt(
 // Whole-content key of an open regular file of the given size; false (after a message)
 // when the file cannot be read to its end.
 template<typename NameOf>
-bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf &nameOf)
+bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf &nameOf, int &error)
 {
     XXH3_state_t *state = XXH3_createState();
     if (!state) {
@@ -221,8 +228,10 @@ bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf 
             if (got < 0 && errno == EINTR)
                 continue;
             if (got <= 0) {
-                splog_d(QStringLiteral("[streamHash] Failed to read file or reached EOF: %1")
-                            .arg(nameOf()));
+                error = got < 0 ? errno : ENODATA;
+                splog_repeated("[streamHash] Failed to read file or reached EOF",
+                    QStringLiteral("[streamHash] Failed to read file or reached EOF: %1")
+                        .arg(nameOf()));
                 XXH3_freeState(state);
                 return false;
             }
@@ -237,25 +246,26 @@ bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf 
 
 // Whole-content key of the file `name` relative to `dirfd`.
 template<typename NameOf>
-bool streamKeyAt(int dirfd, const char *name, int driveType, quint64 &key, const NameOf &nameOf)
+bool streamKeyAt(
+    int dirfd, const char *name, int driveType, quint64 &key, const NameOf &nameOf, int &error)
 {
+    error = 0;
     const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct stat info
     {
     };
-    if (fd >= 0 && (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))) {
-        ::close(fd);
-        errno = EINVAL;
-        splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(nameOf()));
-        return false;
-    }
-    if (fd < 0 || info.st_size < 1) {
+    if (fd < 0)
+        error = errno;
+    else if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        error = EINVAL;
+    if (error != 0 || info.st_size < 1) {
         if (fd >= 0)
             ::close(fd);
-        splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(nameOf()));
+        splog_repeated("[streamHash] File not accessible",
+            QStringLiteral("[streamHash] File not accessible: %1").arg(nameOf()));
         return false;
     }
-    const bool ok = streamKeyOf(fd, info.st_size, driveType, key, nameOf);
+    const bool ok = streamKeyOf(fd, info.st_size, driveType, key, nameOf, error);
     ::close(fd);
     return ok;
 }
@@ -355,8 +365,10 @@ QByteArray DuplicateFileFinder::calculateFileHash(
 #ifdef Q_OS_UNIX
         const QByteArray native = FilePathCodec::encode(filePath);
         quint64 key = 0;
-        if (!sampledKeyAt(AT_FDCWD, native.constData(), size, driveType, key,
-                [&filePath] { return filePath; }))
+        int error = 0;
+        if (!sampledKeyAt(
+                AT_FDCWD, native.constData(), size, driveType, key,
+                [&filePath] { return filePath; }, error))
             return {};
         return hexKey(key);
 #else
@@ -408,8 +420,10 @@ QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveTyp
 #ifdef Q_OS_UNIX
     const QByteArray native = FilePathCodec::encode(filePath);
     quint64 key = 0;
-    if (!streamKeyAt(AT_FDCWD, native.constData(), driveType, key,
-            [&filePath] { return fileNameOf(filePath); }))
+    int error = 0;
+    if (!streamKeyAt(
+            AT_FDCWD, native.constData(), driveType, key,
+            [&filePath] { return fileNameOf(filePath); }, error))
         return {};
     return hexKey(key);
 #else
@@ -631,14 +645,17 @@ void DuplicateFileFinder::keyFolder(quint32 index)
         try {
 #ifdef Q_OS_UNIX
             const auto pathOf = [this, i] { return m_table.filePath(i); };
+            int error = 0;
             if (dirfd >= 0) {
                 keyed = sampledKeyAt(dirfd, m_table.nativeName(i), m_table.file(i).size,
-                    folder.driveType, key, pathOf);
+                    folder.driveType, key, pathOf, error);
             } else {
                 const QByteArray native = m_table.nativePath(i);
                 keyed = sampledKeyAt(AT_FDCWD, native.constData(), m_table.file(i).size,
-                    folder.driveType, key, pathOf);
+                    folder.driveType, key, pathOf, error);
             }
+            if (!keyed)
+                noteUnread(i, error);
 #else
             const QByteArray hex
                 = calculateFileHash(m_table.filePath(i), m_table.file(i).size, folder.driveType);
@@ -661,6 +678,35 @@ void DuplicateFileFinder::keyFolder(quint32 index)
         ::close(dirfd);
 #endif
     reportProgress(false);
+}
+
+void DuplicateFileFinder::noteUnread(quint32 file, int error)
+{
+    // An empty file holds nothing to compare; that is no failure.
+    if (error == 0 || !m_problems)
+        return;
+    // A file removed since the walk is simply gone: it is no member, and nothing the
+    // user could not read.
+    m_problems->add(error == ENOENT ? ScanProblems::VanishedFile : ScanProblems::UnreadableFile,
+        m_table.filePath(file));
+}
+
+bool DuplicateFileFinder::stillExists(quint32 file)
+{
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::stat(m_table.nativePath(file).constData(), &info) == 0 && S_ISREG(info.st_mode))
+        return true;
+    noteUnread(file, errno == 0 ? ENOENT : errno);
+    return false;
+#else
+    if (QFileInfo(m_table.filePath(file)).isFile())
+        return true;
+    noteUnread(file, ENOENT);
+    return false;
+#endif
 }
 
 void DuplicateFileFinder::hashGroup(const SizeRun &run)
@@ -724,6 +770,10 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
             if (isStopRequested())
                 return;
             const quint32 file = m_order[i];
+            // Names are compared without reading the files; a file must still be there
+            // to be a member.
+            if (!stillExists(file))
+                continue;
             const QByteArray key = nameKey(m_table.fileName(file));
             const auto at = byText.constFind(key);
             if (at == byText.constEnd()) {
@@ -762,9 +812,13 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
                     quint64 key = 0;
 #ifdef Q_OS_UNIX
                     const QByteArray native = m_table.nativePath(file);
-                    if (!streamKeyAt(AT_FDCWD, native.constData(), driveType, key,
-                            [this, file] { return m_table.fileName(file); }))
+                    int error = 0;
+                    if (!streamKeyAt(
+                            AT_FDCWD, native.constData(), driveType, key,
+                            [this, file] { return m_table.fileName(file); }, error)) {
+                        noteUnread(file, error);
                         continue;
+                    }
 #else
                     const QByteArray hex = streamHash(m_table.filePath(file), driveType);
                     if (hex.isEmpty())
@@ -828,6 +882,8 @@ void DuplicateFileFinder::storeGroup(
             DirMatchInfo &info = dirTable[folderOf(path)];
             info.contentKeys.append(contentKey);
             info.groupKeys.append(groupKey);
+            info.names.append(fileNameOf(path));
+            info.sizes.append(size);
             ++info.fileCount;
             info.totalSize += size;
         }
@@ -840,61 +896,296 @@ void DuplicateFileFinder::storeGroup(
     duplicateTotalSize.fetch_add(qint64(paths.size()) * size);
 }
 
+namespace {
+
+// Two independent mixes of a key for the order-free folder digest (sums of mixed keys
+// are equal for equal multisets, and a chance match of both 64-bit sums, the file count
+// and the byte count is negligible; removal checks the contents again in any case).
+quint64 mixKey(const QByteArray &key, quint64 seed)
+{
+    return XXH3_64bits_withSeed(key.constData(), size_t(key.size()), seed);
+}
+
+int depthOf(const QString &path)
+{
+    return int(path.count(QLatin1Char('/')));
+}
+
+bool isBelow(const QString &path, const QString &folder)
+{
+    return path.size() > folder.size() && path.startsWith(folder)
+        && (folder.endsWith(QLatin1Char('/')) || path.at(folder.size()) == QLatin1Char('/'));
+}
+
+// Whether a folder that holds no duplicate file holds anything but empty folders.
+bool holdsAnything(const QString &folder)
+{
+    const QFileInfoList entries = QDir(folder).entryInfoList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entry : entries)
+        if (entry.isSymLink() || !entry.isDir() || holdsAnything(entry.filePath()))
+            return true;
+    return !QFileInfo(folder).isReadable();
+}
+
+} // namespace
+
+DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QString &folder,
+    const QHash<QString, FolderDigest> &below, const QSet<QString> &candidates) const
+{
+    FolderDigest digest;
+    const DirMatchInfo info = dirTable.value(folder);
+    const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+#ifdef Q_OS_UNIX
+    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
+    if (!dir)
+        return digest;
+    const int fd = ::dirfd(dir);
+    bool complete = true;
+    while (const dirent *entry = ::readdir(dir)) {
+        const char *name = entry->d_name;
+        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+            continue;
+        struct stat status
+        {
+        };
+        if (::fstatat(fd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+            complete = false;
+            break;
+        }
+        const QString entryName = FilePathCodec::decode(name, qsizetype(std::strlen(name)));
+        if (S_ISREG(status.st_mode)) {
+            const qsizetype at = info.names.indexOf(entryName);
+            if (at < 0) {
+                complete = false;
+                break;
+            }
+            digest.sum += mixKey(info.contentKeys.at(at), 0);
+            digest.mixedSum += mixKey(info.contentKeys.at(at), 0x9E3779B97F4A7C15ULL);
+            ++digest.fileCount;
+            digest.totalSize += info.sizes.at(at);
+        } else if (S_ISDIR(status.st_mode)) {
+            const QString child = prefix + entryName;
+            if (candidates.contains(child)) {
+                const FolderDigest sub = below.value(child);
+                if (!sub.complete) {
+                    complete = false;
+                    break;
+                }
+                digest.sum += sub.sum;
+                digest.mixedSum += sub.mixedSum;
+                digest.fileCount += sub.fileCount;
+                digest.totalSize += sub.totalSize;
+            } else if (holdsAnything(child)) {
+                complete = false;
+                break;
+            }
+        } else {
+            // Links, pipes and devices would be lost with the folder and have no copy.
+            complete = false;
+            break;
+        }
+    }
+    ::closedir(dir);
+    digest.complete = complete;
+#else
+    const QFileInfoList entries = QDir(folder).entryInfoList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    digest.complete = QFileInfo(folder).isReadable();
+    for (const QFileInfo &entry : entries) {
+        if (entry.isSymLink()) {
+            digest.complete = false;
+        } else if (entry.isFile()) {
+            const qsizetype at = info.names.indexOf(entry.fileName());
+            if (at < 0) {
+                digest.complete = false;
+            } else {
+                digest.sum += mixKey(info.contentKeys.at(at), 0);
+                digest.mixedSum += mixKey(info.contentKeys.at(at), 0x9E3779B97F4A7C15ULL);
+                ++digest.fileCount;
+                digest.totalSize += info.sizes.at(at);
+            }
+        } else if (entry.isDir()) {
+            const QString child = prefix + entry.fileName();
+            const FolderDigest sub = below.value(child);
+            if (candidates.contains(child) && sub.complete) {
+                digest.sum += sub.sum;
+                digest.mixedSum += sub.mixedSum;
+                digest.fileCount += sub.fileCount;
+                digest.totalSize += sub.totalSize;
+            } else if (candidates.contains(child) || holdsAnything(child)) {
+                digest.complete = false;
+            }
+        } else {
+            digest.complete = false;
+        }
+        if (!digest.complete)
+            break;
+    }
+#endif
+    return digest;
+}
+
 void DuplicateFileFinder::processDirectories()
 {
-    QStringList folders;
+    // Candidates: every folder holding a duplicate file, and its folders up to the root
+    // it was found under (a folder is a duplicate of another only with everything in it,
+    // sub-folders included, so the whole chain is looked at).
+    QSet<QString> candidates;
     {
         QMutexLocker locker(&m_mutex);
-        folders = dirTable.keys();
+        for (auto it = dirTable.cbegin(); it != dirTable.cend(); ++it) {
+            QString folder = it.key();
+            QString root;
+            for (const QString &candidate : std::as_const(m_roots))
+                if ((folder == candidate || isBelow(folder, candidate))
+                    && candidate.size() > root.size())
+                    root = candidate;
+            while (!candidates.contains(folder)) {
+                candidates.insert(folder);
+                if (root.isEmpty() || folder == root || !isBelow(folder, root))
+                    break;
+                folder = folderOf(folder);
+            }
+        }
     }
     splog_d(QStringLiteral("[TDuplicateFinleFinder]: Start matching duplicate directories. Number "
                            "of groups to match [%1].")
-                .arg(folders.size()));
+                .arg(candidates.size()));
+    // Deepest folders first: a folder's digest takes its sub-folders' digests.
+    QMap<int, QStringList> byDepth;
+    for (const QString &folder : std::as_const(candidates))
+        byDepth[-depthOf(folder)].append(folder);
+    QHash<QString, FolderDigest> digests;
     std::atomic<int> processed {0};
-    const qsizetype total = folders.size();
-    QtConcurrent::blockingMap(folders, [&](QString &folder) {
-        if (isStopRequested())
-            return;
-        const int done = processed.fetch_add(1) + 1;
-        DirMatchInfo info;
-        {
-            QMutexLocker locker(&m_mutex);
-            info = dirTable.value(folder);
-        }
-        // A folder that also holds files without a copy is not a duplicate folder.
-        if (countPlainFiles(folder) != info.fileCount)
-            return;
-        std::sort(info.contentKeys.begin(), info.contentKeys.end());
-        QCryptographicHash md5(QCryptographicHash::Md5);
-        md5.addData(QByteArray::number(info.fileCount));
-        for (const QByteArray &key : std::as_const(info.contentKeys))
-            md5.addData(key);
-        const QByteArray signature = md5.result().toHex();
-        {
-            QMutexLocker locker(&m_mutex);
-            m_signatureTable[signature].append(folder);
-        }
-        emit progressUpdated(1, done * 100.0 / total);
-    });
-
-    TFileData *store = TFileData::instance();
-    for (auto it = m_signatureTable.begin(); it != m_signatureTable.end(); ++it) {
-        QStringList matched = it.value();
-        if (matched.size() < 2)
-            continue;
-        // The pool finishes folders in any order; a fixed order keeps the key stable.
-        matched.sort();
-        const QString dirGroupKey = TFileData::groupKey(matched.first());
-        QList<DirGroupEntry> entries;
-        for (const QString &folder : std::as_const(matched)) {
-            const DirMatchInfo &info = dirTable[folder];
-            entries.append(DirGroupEntry {folder, info.fileCount, info.totalSize});
-        }
-        store->insertDirGroup(dirGroupKey, entries);
-        QWriteLocker locker(&store->lock());
-        for (const QString &folder : std::as_const(matched))
-            store->pruneFolderMembers(folder, dirTable[folder].groupKeys);
+    const qsizetype total = candidates.size();
+    for (auto level = byDepth.begin(); level != byDepth.end() && !isStopRequested(); ++level) {
+        const QList<FolderDigest> results
+            = QtConcurrent::blockingMapped(level.value(), [&](const QString &folder) {
+                  if (isStopRequested())
+                      return FolderDigest();
+                  const FolderDigest digest = digestFolder(folder, digests, candidates);
+                  const int done = processed.fetch_add(1) + 1;
+                  emit progressUpdated(1, done * 100.0 / total);
+                  return digest;
+              });
+        for (qsizetype i = 0; i < results.size(); ++i)
+            digests.insert(level.value().at(i), results.at(i));
     }
-    if (isStopRequested())
+    if (isStopRequested()) {
         emit progressUpdated(1, 0.0);
+        return;
+    }
+    for (auto it = digests.cbegin(); it != digests.cend(); ++it) {
+        const FolderDigest &digest = it.value();
+        if (!digest.complete || digest.fileCount == 0)
+            continue;
+        QByteArray signature;
+        QDataStream stream(&signature, QIODevice::WriteOnly);
+        stream << digest.fileCount << digest.totalSize << digest.sum << digest.mixedSum;
+        m_signatureTable[signature].append(it.key());
+    }
+    // A folder inside a matched folder is covered by it: only the outermost matches are
+    // reported, and a folder is never matched with a folder that holds it.
+    QSet<QString> matchedFolders;
+    for (const QStringList &folders : std::as_const(m_signatureTable))
+        if (folders.size() > 1)
+            for (const QString &folder : folders)
+                matchedFolders.insert(folder);
+    const auto insideMatched = [&matchedFolders](const QString &folder) {
+        for (QString parent = folder; parent != QLatin1String("/");) {
+            parent = folderOf(parent);
+            if (matchedFolders.contains(parent))
+                return true;
+        }
+        return false;
+    };
+    QList<QStringList> matched;
+    for (const QStringList &folders : std::as_const(m_signatureTable)) {
+        if (folders.size() < 2)
+            continue;
+        QStringList outermost;
+        for (const QString &folder : folders)
+            if (!insideMatched(folder))
+                outermost.append(folder);
+        if (outermost.size() < 2)
+            continue;
+        // The pool finishes folders in any order; a fixed order keeps the key stable and
+        // the first folder is the one kept.
+        outermost.sort();
+        matched.append(outermost);
+    }
+    std::sort(matched.begin(), matched.end());
+    TFileData *store = TFileData::instance();
+    for (const QStringList &folders : std::as_const(matched)) {
+        QList<DirGroupEntry> entries;
+        for (const QString &folder : folders) {
+            const FolderDigest &digest = digests[folder];
+            entries.append(DirGroupEntry {folder, digest.fileCount, digest.totalSize});
+        }
+        store->insertDirGroup(TFileData::groupKey(folders.first()), entries);
+    }
+    pruneMatchedFolders(matched);
+}
+
+void DuplicateFileFinder::pruneMatchedFolders(const QList<QStringList> &matched)
+{
+    if (matched.isEmpty())
+        return;
+    // Each matched folder, and whether it is the kept one of its group.
+    QHash<QString, bool> kept;
+    QSet<QString> touchedGroups;
+    for (const QStringList &folders : matched) {
+        for (const QString &folder : folders) {
+            kept.insert(folder, folder == folders.first());
+            for (auto it = dirTable.cbegin(); it != dirTable.cend(); ++it)
+                if (it.key() == folder || isBelow(it.key(), folder))
+                    for (const QString &key : it.value().groupKeys)
+                        touchedGroups.insert(key);
+        }
+    }
+    // The matched folder holding a path, if any.
+    const auto holder = [&kept](const QString &path) -> const QString * {
+        for (QString folder = folderOf(path);; folder = folderOf(folder)) {
+            const auto found = kept.constFind(folder);
+            if (found != kept.constEnd())
+                return &found.key();
+            if (folder == QLatin1String("/"))
+                return nullptr;
+        }
+    };
+    TFileData *store = TFileData::instance();
+    for (const QString &key : std::as_const(touchedGroups)) {
+        const QStringList members = store->group(key);
+        QStringList outside;
+        QStringList inKept;
+        for (const QString &path : members) {
+            const QString *folder = holder(path);
+            if (!folder)
+                outside.append(path);
+            else if (kept.value(*folder))
+                inKept.append(path);
+        }
+        // Every copy inside matched folders: the folder groups report them all. Otherwise
+        // the copies outside stay, with the one in the kept folder beside them, so that no
+        // copy goes unreported and the group never lists only copies to be removed.
+        QStringList remaining;
+        if (!outside.isEmpty()) {
+            for (const QString &path : members)
+                if (outside.contains(path) || inKept.contains(path))
+                    remaining.append(path);
+        }
+        if (remaining == members)
+            continue;
+        if (remaining.size() < 2) {
+            store->removeGroup(key);
+            continue;
+        }
+        store->replaceGroup(key, remaining);
+        if (duplicateSelectHint != 8) {
+            GroupItemAutoSelector::applyToGroup(key, remaining, duplicateSelectHint, mapPriority);
+        } else {
+            store->removeSelected(key);
+        }
+    }
 }

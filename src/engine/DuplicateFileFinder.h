@@ -17,6 +17,7 @@
 #include <QMap>
 #include <QMutex>
 #include <QReadWriteLock>
+#include <QSet>
 #include <QStringList>
 #include <QThread>
 
@@ -32,13 +33,16 @@ public:
     using FileMeta = ::FileMeta;
     using SizeTable = QHash<qint64, QList<FileMeta>>;
 
-    // One folder holding duplicate files, for the folder matching.
+    // One folder holding duplicate files, for the folder matching: per duplicate file
+    // directly in it, its content key, its group and its name.
     struct DirMatchInfo
     {
         QList<QByteArray> contentKeys;
         QStringList groupKeys;
         int fileCount = 0;
         qint64 totalSize = 0;
+        QStringList names;
+        QList<qint64> sizes;
     };
 
     enum ScanMethod : int { scanContent = 0, scanName = 1, scanAllContent = 2 };
@@ -101,12 +105,33 @@ private:
     void keyFolder(quint32 folder);
     void hashGroup(const SizeRun &run);
     void reportProgress(bool force);
+    // Counts a file that could not be read (error: its errno; 0 for an empty file, which
+    // is no failure) as unreadable, or as vanished when it is gone.
+    void noteUnread(quint32 file, int error);
+    // For the name mode, which reads no file: whether the file is still a regular file.
+    bool stillExists(quint32 file);
     // The file-type catalogue's image test on a file of the table, answered from the
     // name's bytes where the suffix is plain ASCII (nearly always), without building a
     // string per file.
     void prepareImageTest();
     bool isImage(quint32 file) const;
+    // A folder's whole content, sub-folders and hidden files included, as an order-free
+    // digest of its files' content keys; complete only when every file below it is a
+    // member of a duplicate group and nothing but files and folders is there.
+    struct FolderDigest
+    {
+        bool complete = false;
+        int fileCount = 0;
+        qint64 totalSize = 0;
+        quint64 sum = 0;
+        quint64 mixedSum = 0;
+    };
     void processDirectories();
+    FolderDigest digestFolder(const QString &folder, const QHash<QString, FolderDigest> &below,
+        const QSet<QString> &candidates) const;
+    // Takes the files of matched folders out of the file groups, except where a copy
+    // lives outside every matched folder: then the copy in the kept folder stays too.
+    void pruneMatchedFolders(const QList<QStringList> &matched);
     void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths);
 
     ScanTable m_table;
@@ -144,4 +169,6 @@ private:
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
     QHash<QByteArray, QStringList> m_signatureTable;
+    // Group key of every file group touched by a folder with duplicates.
+    QSet<QString> m_folderGroupKeys;
 };

@@ -4,7 +4,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
 #include "engine/TReadImage.h"
-#include "results/GroupItemAutoSelector.h"
+#include "engine/GroupItemAutoSelector.h"
 
 #include <algorithm>
 #include <cmath>

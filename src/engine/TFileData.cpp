@@ -111,26 +111,6 @@ TFileData::Groups TFileData::groupsFor(const QStringList &keys) const
     return found;
 }
 
-void TFileData::pruneFolderMembers(const QString &folder, const QStringList &groupKeys)
-{
-    // Only the backslash form counts as "below": scanned paths use forward slashes, so in
-    // practice just the files directly inside the folder leave their groups.
-    const auto inFolder = [&folder](const QString &path) {
-        const QString parent = QFileInfo(path).path();
-        return parent == folder || parent.startsWith(folder + QLatin1Char('\\'));
-    };
-    for (const QString &key : groupKeys) {
-        for (Groups *table : {&m_groups, &m_selected}) {
-            auto it = table->find(key);
-            if (it == table->end())
-                continue;
-            it->erase(std::remove_if(it->begin(), it->end(), inFolder), it->end());
-            if (it->size() < 2)
-                table->erase(it);
-        }
-    }
-}
-
 TFileData::Groups TFileData::groups() const
 {
     QReadLocker locker(&m_lock);

@@ -38,12 +38,6 @@ public:
     Groups imageGroups() const;
     Groups groupsFor(const QStringList &keys) const;
 
-    // Removes the members whose parent folder is folder (or starts with folder and a
-    // backslash) from the given groups and their selections; drops a key whose list
-    // keeps fewer than two paths.
-    // The caller holds the write lock (see lock()).
-    void pruneFolderMembers(const QString &folder, const QStringList &groupKeys);
-
     // Copies for readers (read lock).
     Groups groups() const;
     DirGroups dirGroups() const;

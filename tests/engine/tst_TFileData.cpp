@@ -71,36 +71,6 @@ private slots:
         QVERIFY(images.contains("C") && !images.contains("B"));
     }
 
-    void pruneFolderMembers_data()
-    {
-        QTest::addColumn<QStringList>("members");
-        QTest::addColumn<QStringList>("kept"); // empty: the key is gone
-        QTest::newRow("direct children leave")
-            << QStringList {"/d/f/1", "/d/f/2", "/e/3", "/e/4"} << QStringList {"/e/3", "/e/4"};
-        QTest::newRow("below with forward slash stays")
-            << QStringList {"/d/f/sub/1", "/e/2"} << QStringList {"/d/f/sub/1", "/e/2"};
-        QTest::newRow("backslash form counts as below")
-            << QStringList {"/d/f\\sub/1", "/e/2", "/e/3"} << QStringList {"/e/2", "/e/3"};
-        QTest::newRow("sibling with same prefix stays")
-            << QStringList {"/d/fx/1", "/e/2"} << QStringList {"/d/fx/1", "/e/2"};
-        QTest::newRow("fewer than two left drops the key")
-            << QStringList {"/d/f/1", "/e/2"} << QStringList();
-    }
-    void pruneFolderMembers()
-    {
-        QFETCH(QStringList, members);
-        QFETCH(QStringList, kept);
-        store()->insertGroup("G", members);
-        store()->setSelected("G", members.mid(1));
-        {
-            QWriteLocker locker(&store()->lock());
-            store()->pruneFolderMembers("/d/f", {"G", "missing"});
-        }
-        QCOMPARE(store()->group("G"), kept);
-        if (kept.isEmpty())
-            QVERIFY(!store()->groups().contains("G"));
-    }
-
     void removePathDropsGroupsOfOne()
     {
         store()->insertGroup("G", {"/a", "/b", "/c"});

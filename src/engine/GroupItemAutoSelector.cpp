@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "results/GroupItemAutoSelector.h"
+#include "engine/GroupItemAutoSelector.h"
 
 #include "app/FileTypeCatalogue.h"
 #include "engine/TFileData.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/TFileData.h"
-#include "results/GroupItemAutoSelector.h"
+#include "engine/GroupItemAutoSelector.h"
 
 #include <libheif/heif.h>
 
