@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliOptions.h"
 
+#include <cmath>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -56,13 +58,16 @@ QString CliOptions::usage()
 {
     return QStringLiteral(
         "usage: veltrine-duplicate-finder-cli scan [options] FOLDER...\n"
+        "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
         "\n"
-        "Finds duplicate files in the given folders. Nothing is deleted or moved.\n"
+        "scan finds duplicate files in the given folders; report prints the groups and the\n"
+        "selection of a saved project. Nothing is deleted or moved.\n"
         "\n"
         "options:\n"
         "  --method sampled|full|name  how files are compared (default sampled: size and three\n"
         "                              4 KiB blocks; full: whole content; name: size and name)\n"
-        "  --folders                   also report folders whose files are all duplicates\n"
+        "  --folders                   also report folders whose whole content (sub-folders\n"
+        "                              and hidden files included) has copies in another\n"
         "  --select RULE               initial selection in each group: newest, oldest,\n"
         "                              filename (default), priority, high-res, low-res,\n"
         "                              high-quality, low-quality, all, none\n"
@@ -92,9 +97,72 @@ QString CliOptions::usage()
         "  --log-dir DIR               write the program's log into DIR\n"
         "  -h, --help                  show this text\n"
         "\n"
-        "exit status: 0 done, 1 bad arguments, 2 a folder does not exist,\n"
-        "             3 the project file could not be saved, 4 the picture comparison\n"
-        "             could not be started\n");
+        "Links are followed only where they lead inside the given folders, and a file\n"
+        "reached through a link is listed under its real path. Folders and files that\n"
+        "could not be read are counted in the summary (and listed in the JSON).\n"
+        "\n"
+        "Names: the text output writes a backslash as \\\\, control characters as \\n,\n"
+        "\\r, \\t or \\xHH, and bytes that are not UTF-8 as \\xHH, so every record is one\n"
+        "line. JSON strings are UTF-8; a byte of a name that is not UTF-8 is written as\n"
+        "the escape \\udcHH (HH the byte, 80 to ff): decoding such a lone surrogate back\n"
+        "to its byte (as the \"surrogateescape\" error handler does) gives the exact name.\n"
+        "\n"
+        "exit status: 0 done, 1 bad arguments, 2 a folder does not exist, is not a\n"
+        "             folder, or none of the folders could be read, 3 the project file\n"
+        "             could not be saved or read, 4 the picture comparison could not\n"
+        "             be started\n");
+}
+
+bool CliOptions::checkSizes()
+{
+    // Sizes are given in KiB and MiB and used in bytes: the values must stay finite and
+    // fit a signed 64-bit byte count.
+    const auto fits = [](double value, int shift) {
+        return std::isfinite(value) && value < std::ldexp(1.0, 63 - shift);
+    };
+    if (!fits(m_minSizeKb, 10)) {
+        m_error = QStringLiteral("--min-size is too large or not a number");
+        return false;
+    }
+    if (!fits(m_maxSizeMb, 20)) {
+        m_error = QStringLiteral("--max-size is too large or not a number");
+        return false;
+    }
+    if ((qint64(m_minSizeKb) << 10) > (qint64(m_maxSizeMb) << 20)) {
+        m_error = QStringLiteral("--min-size (%1 KiB) is above --max-size (%2 MiB)")
+                      .arg(m_minSizeKb)
+                      .arg(m_maxSizeMb);
+        return false;
+    }
+    return true;
+}
+
+CliOptions::ParseResult CliOptions::parseReport(const QStringList &arguments)
+{
+    m_command = Report;
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        if (argument == QLatin1String("-h") || argument == QLatin1String("--help"))
+            return Help;
+        if (argument == QLatin1String("--json")) {
+            m_json = true;
+        } else if (argument == QLatin1String("--log-dir") && i + 1 < arguments.size()) {
+            m_logDirectory = arguments.at(++i);
+        } else if (argument.startsWith(QLatin1Char('-')) && argument != QLatin1String("-")) {
+            m_error = QStringLiteral("unknown option \"%1\" for report").arg(argument);
+            return BadArguments;
+        } else if (m_projectPath.isEmpty()) {
+            m_projectPath = argument;
+        } else {
+            m_error = QStringLiteral("report takes one project file");
+            return BadArguments;
+        }
+    }
+    if (m_projectPath.isEmpty()) {
+        m_error = QStringLiteral("no project file given");
+        return BadArguments;
+    }
+    return Ok;
 }
 
 CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
@@ -105,6 +173,8 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
     }
     if (arguments.first() == QLatin1String("-h") || arguments.first() == QLatin1String("--help"))
         return Help;
+    if (arguments.first() == QLatin1String("report"))
+        return parseReport(arguments);
     if (arguments.first() != QLatin1String("scan")) {
         m_error = QStringLiteral("unknown command \"%1\"").arg(arguments.first());
         return BadArguments;
@@ -158,7 +228,7 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
                 return false;
             bool ok = false;
             const double number = value.toDouble(&ok);
-            if (!ok || number < 0) {
+            if (!ok || !std::isfinite(number) || number < 0) {
                 m_error = QStringLiteral("%1 needs a number of zero or more, not \"%2\"")
                               .arg(name, value);
                 return false;
@@ -270,7 +340,7 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
         m_error = QStringLiteral("no folder given");
         return BadArguments;
     }
-    return Ok;
+    return checkSizes() ? Ok : BadArguments;
 }
 
 QJsonObject CliOptions::commonConfig() const

@@ -13,6 +13,7 @@ class CliOptions
 {
 public:
     enum ParseResult { Ok, Help, BadArguments };
+    enum Command { Scan, Report };
 
     // Parses the arguments after the program name; on BadArguments error() says why.
     ParseResult parse(const QStringList &arguments);
@@ -20,6 +21,9 @@ public:
     static QString usage();
 
     QString error() const { return m_error; }
+    Command command() const { return m_command; }
+    // The project file of the report command.
+    QString projectPath() const { return m_projectPath; }
     QStringList folders() const { return m_folders; }
     bool json() const { return m_json; }
     QString savePath() const { return m_savePath; }
@@ -33,7 +37,13 @@ public:
     QJsonObject similarConfig() const;
 
 private:
+    ParseResult parseReport(const QStringList &arguments);
+    // Checks the size limits once all options are read.
+    bool checkSizes();
+
     QString m_error;
+    Command m_command = Scan;
+    QString m_projectPath;
     QStringList m_folders;
     int m_method = 0;
     int m_selectHint = 2;

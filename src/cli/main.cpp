@@ -5,10 +5,10 @@
 #include "app/TLogger.h"
 #include "cli/CliOptions.h"
 #include "engine/FilePathCodec.h"
+#include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/TControlUI.h"
-#include "engine/GroupItemAutoSelector.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -117,11 +117,45 @@ QList<OutputGroup> collectGroups()
     return groups;
 }
 
-void printJson(int scannedFiles, double seconds, const QList<OutputGroup> &groups)
+// What a scan could not read, for the report; empty for a saved project.
+struct Unread
+{
+    QStringList folders;
+    QStringList files;
+    QStringList links;
+    qint64 folderCount = 0;
+    qint64 fileCount = 0;
+    qint64 linkCount = 0;
+};
+
+Unread unreadOf(const ScanProblems &problems)
+{
+    return Unread {problems.paths(ScanProblems::UnreadableFolder),
+        problems.paths(ScanProblems::UnreadableFile),
+        problems.paths(ScanProblems::LinkOutsideRoots),
+        problems.count(ScanProblems::UnreadableFolder),
+        problems.count(ScanProblems::UnreadableFile),
+        problems.count(ScanProblems::LinkOutsideRoots)};
+}
+
+void printJson(
+    qint64 scannedFiles, double seconds, const QList<OutputGroup> &groups, const Unread &unread)
 {
     std::FILE *out = stdout;
-    std::fprintf(
-        out, "{\"scannedFiles\": %d, \"seconds\": %.3f, \"groups\": [", scannedFiles, seconds);
+    std::fprintf(out, "{\"scannedFiles\": %lld, \"seconds\": %.3f,",
+        static_cast<long long>(scannedFiles), seconds);
+    std::fprintf(out,
+        " \"unreadableFolderCount\": %lld, \"unreadableFileCount\": %lld,"
+        " \"linksNotFollowedCount\": %lld,",
+        static_cast<long long>(unread.folderCount), static_cast<long long>(unread.fileCount),
+        static_cast<long long>(unread.linkCount));
+    std::fputs("\n \"unreadableFolders\": ", out);
+    writeJsonList(out, unread.folders);
+    std::fputs(",\n \"unreadableFiles\": ", out);
+    writeJsonList(out, unread.files);
+    std::fputs(",\n \"linksNotFollowed\": ", out);
+    writeJsonList(out, unread.links);
+    std::fputs(",\n \"groups\": [", out);
     for (qsizetype i = 0; i < groups.size(); ++i) {
         const OutputGroup &group = groups.at(i);
         std::fputs(i ? ",\n  {\"key\": " : "\n  {\"key\": ", out);
@@ -137,6 +171,47 @@ void printJson(int scannedFiles, double seconds, const QList<OutputGroup> &group
     std::fputs(groups.isEmpty() ? "]}\n" : "\n]}\n", out);
 }
 
+// A name as one safe line of text: a backslash doubled, control characters (C0, DEL
+// and C1) and bytes that are not UTF-8 written as escapes, so that a name can neither
+// split a record nor send escape sequences to the terminal.
+QByteArray lineText(const QString &text)
+{
+    QByteArray out;
+    out.reserve(text.size() + 8);
+    qsizetype run = 0;
+    const auto flush = [&](qsizetype end) {
+        if (end > run)
+            out.append(QStringView(text).mid(run, end - run).toUtf8());
+    };
+    const auto hex = [&out](unsigned value) {
+        static const char digits[] = "0123456789abcdef";
+        out.append("\\x").append(digits[(value >> 4) & 0xF]).append(digits[value & 0xF]);
+    };
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text.at(i).unicode();
+        const bool lone = c >= 0xDC80 && c <= 0xDCFF
+            && (i == 0 || !QChar::isHighSurrogate(text.at(i - 1).unicode()));
+        if (c != '\\' && c >= 0x20 && c != 0x7F && !(c >= 0x80 && c <= 0x9F) && !lone)
+            continue;
+        flush(i);
+        run = i + 1;
+        if (c == '\\')
+            out.append("\\\\");
+        else if (c == '\n')
+            out.append("\\n");
+        else if (c == '\r')
+            out.append("\\r");
+        else if (c == '\t')
+            out.append("\\t");
+        else if (lone)
+            hex(c - 0xDC00);
+        else
+            hex(c);
+    }
+    flush(text.size());
+    return out;
+}
+
 void printText(const QList<OutputGroup> &groups)
 {
     for (const OutputGroup &group : groups) {
@@ -144,7 +219,7 @@ void printText(const QList<OutputGroup> &groups)
             // Similar entries carry their percent as a tag; the text shows the real path
             // and the percent beside it.
             const QString file = isSimilarEntry(path) ? stripSimilarTag(path) : path;
-            const QByteArray bytes = FilePathCodec::encode(file);
+            const QByteArray bytes = lineText(file);
             std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
             if (file.size() != path.size())
                 std::fprintf(stdout, "\t[similar %s%%]",
@@ -157,6 +232,76 @@ void printText(const QList<OutputGroup> &groups)
         }
         std::fputc('\n', stdout);
     }
+}
+
+// The summary's lines about what was not read, with the first few paths of each kind.
+void printUnread(const Unread &unread, const QString &summary)
+{
+    if (!summary.isEmpty())
+        std::fprintf(stderr, "%s:\n", qPrintable(summary));
+    static constexpr qsizetype kShown = 20;
+    const auto list = [](const char *label, const QStringList &paths, qint64 count) {
+        for (qsizetype i = 0; i < std::min(kShown, paths.size()); ++i)
+            std::fprintf(stderr, "  %s: %s\n", label, lineText(paths.at(i)).constData());
+        if (count > kShown)
+            std::fprintf(stderr, "  ... and %lld more (--json lists up to %d)\n",
+                static_cast<long long>(count - kShown), ScanProblems::kKeptPaths);
+    };
+    list("folder", unread.folders, unread.folderCount);
+    list("file", unread.files, unread.fileCount);
+    if (unread.linkCount > 0) {
+        std::fprintf(stderr, "%lld %s outside the scanned folders not followed:\n",
+            static_cast<long long>(unread.linkCount), unread.linkCount == 1 ? "link" : "links");
+        list("link", unread.links, unread.linkCount);
+    }
+}
+
+void printGroups(const CliOptions &options, qint64 scannedFiles, double seconds,
+    const QList<OutputGroup> &groups, const Unread &unread)
+{
+    if (options.json())
+        printJson(scannedFiles, seconds, groups, unread);
+    else
+        printText(groups);
+    std::fflush(stdout);
+}
+
+// The report command: a saved project's groups and selection, read through the same
+// project reader as the window's.
+int runReport(const CliOptions &options)
+{
+    const QFileInfo info(options.projectPath());
+    if (!info.exists() || info.isDir()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s: %s\n",
+            lineText(options.projectPath()).constData(),
+            info.isDir() ? "is a folder, not a project file" : "no such project file");
+        return 3;
+    }
+    TOpenSaveThread reader;
+    int flag = -1;
+    QEventLoop loop;
+    QObject::connect(
+        &reader, &TOpenSaveThread::openProjectComplated, &loop,
+        [&](int result) {
+            flag = result;
+            loop.quit();
+        },
+        Qt::QueuedConnection);
+    if (reader.openProject(info.absoluteFilePath()))
+        loop.exec();
+    if (flag != TOpenSaveThread::ProjectSucceeded) {
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: the project could not be read: %s %s\n",
+            qPrintable(TOpenSaveThread::resultText(flag)), qPrintable(reader.lastError()));
+        return 3;
+    }
+    const QList<OutputGroup> groups = collectGroups();
+    printGroups(options, reader.scanFileCount(), 0.0, groups, Unread());
+    if (!options.json())
+        std::fprintf(stderr, "%lld groups of a scan of %lld files (%s)\n",
+            static_cast<long long>(groups.size()), static_cast<long long>(reader.scanFileCount()),
+            qPrintable(reader.scanTime()));
+    return 0;
 }
 
 } // namespace
@@ -193,19 +338,25 @@ int main(int argc, char *argv[])
         return 4;
     }
 #endif
+    if (!options.logDirectory().isEmpty() && !initLogger(options.logDirectory()))
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the log into %s\n",
+            qPrintable(options.logDirectory()));
+    if (options.command() == CliOptions::Report) {
+        const int status = runReport(options);
+        shutdownLogger();
+        return status;
+    }
     QStringList roots;
     for (const QString &folder : options.folders()) {
         const QFileInfo info(folder);
         if (!info.isDir()) {
-            std::fprintf(stderr, "veltrine-duplicate-finder-cli: folder does not exist: %s\n",
-                qPrintable(folder));
+            std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s: %s\n",
+                lineText(folder).constData(),
+                info.exists() ? "is a file, not a folder" : "no such folder");
             return 2;
         }
         roots.append(QDir::cleanPath(info.absoluteFilePath()));
     }
-    if (!options.logDirectory().isEmpty() && !initLogger(options.logDirectory()))
-        std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the log into %s\n",
-            qPrintable(options.logDirectory()));
 
     TControlUI controller;
     QTimer progressTimer;
@@ -242,11 +393,8 @@ int main(int argc, char *argv[])
     }
 
     const QList<OutputGroup> groups = collectGroups();
-    if (options.json())
-        printJson(controller.scannedFileCount(), seconds, groups);
-    else
-        printText(groups);
-    std::fflush(stdout);
+    const Unread unread = unreadOf(controller.problems());
+    printGroups(options, controller.scannedFileCount(), seconds, groups, unread);
 
     int status = 0;
     if (!options.savePath().isEmpty()) {
@@ -265,9 +413,17 @@ int main(int argc, char *argv[])
             status = 3;
         }
     }
-    if (!terminal || !options.json())
+    if (!terminal || !options.json()) {
+        printUnread(unread, controller.problems().unreadableSummary());
+        if (controller.problems().allRootsUnreadable())
+            std::fprintf(stderr, "None of the folders could be read: nothing was compared.\n");
         std::fprintf(stderr, "%d files scanned, %lld groups, %.3f seconds\n",
             controller.scannedFileCount(), static_cast<long long>(groups.size()), seconds);
+    }
+    splog_flush_repeated();
     shutdownLogger();
+    // Nothing compared is no all-clear.
+    if (status == 0 && controller.problems().allRootsUnreadable())
+        status = 2;
     return status;
 }

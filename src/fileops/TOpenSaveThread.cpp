@@ -4,13 +4,19 @@
 #include "app/AppIdentity.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
+#include "engine/FilePathCodec.h"
 #include "engine/TFileData.h"
 
 #include <algorithm>
 #include <limits>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 #include <QDebug>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -24,6 +30,10 @@ const QString kGroupsElement = QStringLiteral("groups");
 const QString kGroupElement = QStringLiteral("GroupItem");
 const QString kItemElement = QStringLiteral("Item");
 const QString kDefaultScanTime = QStringLiteral("00:00:00");
+// An item whose path XML cannot carry (control characters, bytes that are not UTF-8)
+// is written as the percent-encoded bytes of the name, marked by this attribute.
+const QString kEncodingAttribute = QStringLiteral("encoding");
+const QString kPercentEncoding = QStringLiteral("percent");
 // Longest path Windows accepts; anything longer cannot name a file.
 constexpr int kMaxPathLength = 32767;
 constexpr int kMaxKeyLength = 256;
@@ -42,6 +52,56 @@ struct ReadFailure
     int flag = TOpenSaveThread::ProjectSucceeded;
     QString reason;
 };
+
+// Whether text holds a character XML 1.0 cannot carry unchanged: controls (tab, line
+// feed and carriage return too, which a reader may turn into spaces or drop), unpaired
+// surrogates (the codec's escaped bytes) and the two non-characters U+FFFE and U+FFFF.
+bool needsEncoding(const QString &text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text.at(i).unicode();
+        if (c < 0x20 || c == 0xFFFE || c == 0xFFFF)
+            return true;
+        if (QChar::isHighSurrogate(c) && i + 1 < text.size()
+            && QChar::isLowSurrogate(text.at(i + 1).unicode())) {
+            ++i;
+            continue;
+        }
+        if (QChar::isSurrogate(c))
+            return true;
+    }
+    return false;
+}
+
+// What the disk says of a path, by its exact bytes (QFileInfo cannot reach names that
+// are not UTF-8).
+struct DiskEntry
+{
+    bool exists = false;
+    bool isDir = false;
+    qint64 size = 0;
+};
+
+DiskEntry diskEntry(const QString &path)
+{
+    DiskEntry entry;
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::stat(FilePathCodec::encode(path).constData(), &info) != 0)
+        return entry;
+    entry.exists = true;
+    entry.isDir = S_ISDIR(info.st_mode);
+    entry.size = info.st_size;
+#else
+    const QFileInfo info(path);
+    entry.exists = info.exists();
+    entry.isDir = info.isDir();
+    entry.size = info.size();
+#endif
+    return entry;
+}
 
 bool readInteger(const QXmlStreamAttributes &attributes, const QString &name, qint64 &value)
 {
@@ -284,7 +344,13 @@ int TOpenSaveThread::saveDocument(
             xml.writeStartElement(kItemElement);
             xml.writeAttribute(QStringLiteral("selected"),
                 chosen.contains(path) ? QStringLiteral("1") : QStringLiteral("0"));
-            xml.writeCharacters(path);
+            if (needsEncoding(path)) {
+                xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
+                xml.writeCharacters(
+                    QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
+            } else {
+                xml.writeCharacters(path);
+            }
             xml.writeEndElement();
         }
         xml.writeEndElement();
@@ -438,9 +504,19 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
                 break;
             }
             const bool isSelected = flag == QLatin1String("1");
-            const QString entry = xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
+            const QStringView encoding = xml.attributes().value(kEncodingAttribute);
+            if (!encoding.isEmpty() && encoding != kPercentEncoding) {
+                refuse(ProjectInvalidContent,
+                    at(xml,
+                        QStringLiteral("an item of group %1 has an unknown encoding")
+                            .arg(group.key)));
+                break;
+            }
+            QString entry = xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
             if (xml.hasError())
                 break;
+            if (!encoding.isEmpty())
+                entry = FilePathCodec::decode(QByteArray::fromPercentEncoding(entry.toLatin1()));
             if (++entryCount > maxEntries) {
                 refuse(ProjectInvalidContent,
                     at(xml, QStringLiteral("more than %1 entries").arg(maxEntries)));
@@ -507,18 +583,18 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
         if (isInterruptionRequested())
             return fail(ProjectCancelled, QStringLiteral("cancelled"));
         QStringList present;
-        QList<QFileInfo> infos;
+        QList<DiskEntry> infos;
         int folders = 0;
         for (const QString &entry : group.entries) {
-            const QFileInfo info(stripSimilarTag(entry));
-            if (!info.exists()) {
+            const DiskEntry info = diskEntry(stripSimilarTag(entry));
+            if (!info.exists) {
                 ++missing;
                 splog_d(
                     QStringLiteral("[TOpenSaveThread]: %1 no longer exists, left out of group %2.")
-                        .arg(info.filePath(), group.key));
+                        .arg(stripSimilarTag(entry), group.key));
                 continue;
             }
-            if (info.isDir()) {
+            if (info.isDir) {
                 if (isSimilarEntry(entry))
                     return fail(ProjectInvalidContent,
                         QStringLiteral("group %1 tags a folder as a similar picture")
@@ -546,22 +622,26 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             selected.insert(group.key, chosen);
         if (folders > 0) {
             QList<DirGroupEntry> entries;
-            for (const QFileInfo &info : std::as_const(infos)) {
+            for (const QString &folder : std::as_const(present)) {
                 DirGroupEntry entry;
-                entry.folderPath = info.filePath();
-                // The same count the finder uses: plain files directly in the folder.
-                const QFileInfoList content = QDir(entry.folderPath).entryInfoList(QDir::Files);
-                entry.fileCount = int(content.size());
-                for (const QFileInfo &fileInfo : content)
-                    entry.totalSize += fileInfo.size();
+                entry.folderPath = folder;
+                // The same count the finder uses: every file below the folder, hidden
+                // ones included.
+                QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System,
+                    QDirIterator::Subdirectories);
+                while (files.hasNext()) {
+                    files.next();
+                    ++entry.fileCount;
+                    entry.totalSize += files.fileInfo().size();
+                }
                 memberCount += entry.fileCount;
                 totalSize += entry.totalSize;
                 entries.append(entry);
             }
             dirGroups.insert(group.key, entries);
         } else {
-            for (const QFileInfo &info : std::as_const(infos))
-                totalSize += info.size();
+            for (const DiskEntry &info : std::as_const(infos))
+                totalSize += info.size;
             memberCount += present.size();
             groups.insert(group.key, present);
         }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/ScanTree.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -61,6 +65,8 @@ private slots:
     void initTestCase();
     void badArguments_data();
     void badArguments();
+    void oddNamesRoundTrip();
+    void unreadableCounted();
     void jsonReport_data();
     void jsonReport();
     void savesProject();
@@ -88,26 +94,129 @@ void TestCli::badArguments_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
-    QTest::newRow("no command") << QStringList {} << 1;
-    QTest::newRow("unknown command") << QStringList {"find", "."} << 1;
-    QTest::newRow("no folder") << QStringList {"scan", "--json"} << 1;
-    QTest::newRow("unknown method") << QStringList {"scan", "--method", "fast", "."} << 1;
-    QTest::newRow("unknown selection") << QStringList {"scan", "--select", "best", "."} << 1;
-    QTest::newRow("negative size") << QStringList {"scan", "--min-size", "-1", "."} << 1;
-    QTest::newRow("missing value") << QStringList {"scan", ".", "--max-size"} << 1;
-    QTest::newRow("unknown option") << QStringList {"scan", "--fast", "."} << 1;
-    QTest::newRow("folder does not exist") << QStringList {"scan", "/no/such/folder"} << 2;
-    QTest::newRow("help") << QStringList {"--help"} << 0;
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("no command") << QStringList {} << 1 << QByteArray("no command");
+    QTest::newRow("unknown command") << QStringList {"find", "."} << 1 << QByteArray("unknown");
+    QTest::newRow("no folder") << QStringList {"scan", "--json"} << 1 << QByteArray("no folder");
+    QTest::newRow("unknown method")
+        << QStringList {"scan", "--method", "fast", "."} << 1 << QByteArray("unknown method");
+    QTest::newRow("unknown selection")
+        << QStringList {"scan", "--select", "best", "."} << 1 << QByteArray("selection rule");
+    QTest::newRow("negative size")
+        << QStringList {"scan", "--min-size", "-1", "."} << 1 << QByteArray("zero or more");
+    QTest::newRow("infinite size")
+        << QStringList {"scan", "--max-size", "inf", "."} << 1 << QByteArray("zero or more");
+    QTest::newRow("size not a number")
+        << QStringList {"scan", "--min-size", "nan", "."} << 1 << QByteArray("zero or more");
+    QTest::newRow("maximum overflows bytes")
+        << QStringList {"scan", "--max-size", "1e13", "."} << 1 << QByteArray("--max-size is too");
+    QTest::newRow("minimum overflows bytes")
+        << QStringList {"scan", "--min-size", "1e16", "."} << 1 << QByteArray("--min-size is too");
+    QTest::newRow("minimum above maximum") << QStringList {"scan", "--min-size", "2048",
+        "--max-size", "1", "."} << 1 << QByteArray("is above --max-size");
+    QTest::newRow("missing value")
+        << QStringList {"scan", ".", "--max-size"} << 1 << QByteArray("needs a value");
+    QTest::newRow("unknown option")
+        << QStringList {"scan", "--fast", "."} << 1 << QByteArray("unknown option");
+    QTest::newRow("folder does not exist")
+        << QStringList {"scan", "/no/such/folder"} << 2 << QByteArray("no such folder");
+    QTest::newRow("file given as a folder")
+        << QStringList {"scan", VELTRINE_CLI_PATH} << 2 << QByteArray("is a file, not a folder");
+    QTest::newRow("report without project")
+        << QStringList {"report"} << 1 << QByteArray("no project");
+    QTest::newRow("report of a missing project")
+        << QStringList {"report", "/no/such.dupproj"} << 3 << QByteArray("no such project file");
+    QTest::newRow("report of a folder")
+        << QStringList {"report", QDir::tempPath()} << 3 << QByteArray("is a folder");
+    QTest::newRow("report of a file that is no project")
+        << QStringList {"report", VELTRINE_CLI_PATH} << 3 << QByteArray("could not be read");
+    QTest::newRow("help") << QStringList {"--help"} << 0 << QByteArray();
 }
 
 void TestCli::badArguments()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
+    QFETCH(QByteArray, message);
     const CliRun run = runCli(arguments);
     QCOMPARE(run.exitCode, exitCode);
+    QVERIFY2(run.err.contains(message), run.err.constData());
     if (exitCode == 1)
         QVERIFY(run.err.contains("usage: veltrine-duplicate-finder-cli scan"));
+}
+
+void TestCli::oddNamesRoundTrip()
+{
+    // Names a scan can meet that are no plain text: a line feed, a carriage return, a tab,
+    // a terminal escape, bytes that are not UTF-8, a percent sign and a backslash.
+    const QList<QByteArray> names {"line\nfeed", "carriage\rreturn", "tab\there", "esc\x1b[31mred",
+        "bad\xff\xfe", "100%25", "back\\slash"};
+    QTemporaryDir dir;
+    const QByteArray base = QFile::encodeName(dir.path());
+    for (const char *folder : {"/one", "/two"}) {
+        QVERIFY(::mkdir((base + folder).constData(), 0755) == 0);
+        for (const QByteArray &name : names) {
+            const int fd
+                = ::open((base + folder + "/" + name).constData(), O_CREAT | O_WRONLY, 0644);
+            QVERIFY(fd >= 0);
+            QCOMPARE(::write(fd, name.constData(), size_t(name.size())), ssize_t(name.size()));
+            ::close(fd);
+        }
+    }
+    const QString project = dir.path() + "/odd.dupproj";
+    const CliRun scan = runCli({"scan", "--json", "--save", project, dir.path()});
+    QCOMPARE(scan.exitCode, 0);
+    QCOMPARE(
+        QJsonDocument::fromJson(scan.out).object().value("groups").toArray().size(), names.size());
+    // The bytes that are not UTF-8 travel as lone surrogates, the controls as escapes.
+    QVERIFY(scan.out.contains("bad\\udcff\\udcfe"));
+    QVERIFY(scan.out.contains("line\\u000afeed"));
+    QVERIFY(scan.out.contains("esc\\u001b[31mred"));
+
+    // The saved project gives back every name exactly.
+    const CliRun report = runCli({"report", "--json", project});
+    QCOMPARE(report.exitCode, 0);
+    const auto groupsPart
+        = [](const QByteArray &json) { return json.mid(json.indexOf("\"groups\"")); };
+    QCOMPARE(groupsPart(report.out), groupsPart(scan.out));
+
+    // The text report keeps one record per line and sends no control character.
+    const CliRun text = runCli({"report", project});
+    QCOMPARE(text.exitCode, 0);
+    QCOMPARE(text.out.count('\n'), qsizetype(names.size() * 3));
+    for (char c = 1; c < 0x20; ++c)
+        if (c != '\n' && c != '\t')
+            QVERIFY(!text.out.contains(c));
+    for (const char *escaped : {"line\\nfeed", "carriage\\rreturn", "tab\\there", "esc\\x1b[31mred",
+             "bad\\xff\\xfe", "back\\\\slash"})
+        QVERIFY2(text.out.contains(escaped), escaped);
+}
+
+void TestCli::unreadableCounted()
+{
+    if (::geteuid() == 0)
+        QSKIP("permission bits do not stop the superuser (the unprivileged run covers it)");
+    QTemporaryDir dir;
+    ScanTree::write(dir.path(), "open/a.txt", "same");
+    ScanTree::write(dir.path(), "open/b.txt", "same");
+    ScanTree::write(dir.path(), "open/locked.txt", "same");
+    ScanTree::write(dir.path(), "shut/c.txt", "same");
+    QFile::setPermissions(dir.path() + "/open/locked.txt", QFileDevice::WriteOwner);
+    QFile::setPermissions(dir.path() + "/shut", QFileDevice::Permissions());
+    const CliRun mixed = runCli({"scan", "--json", dir.path()});
+    const CliRun none = runCli({"scan", dir.path() + "/shut"});
+    const CliRun summary = runCli({"scan", dir.path()});
+    QFile::setPermissions(dir.path() + "/shut",
+        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QCOMPARE(mixed.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(mixed.out).object();
+    QCOMPARE(report.value("unreadableFolderCount").toInt(), 1);
+    QCOMPARE(report.value("unreadableFileCount").toInt(), 1);
+    QCOMPARE(report.value("unreadableFolders").toArray().first().toString(), dir.path() + "/shut");
+    QVERIFY(summary.err.contains("1 folder and 1 file could not be read"));
+    // Nothing read is no all-clear.
+    QCOMPARE(none.exitCode, 2);
+    QVERIFY(none.err.contains("None of the folders could be read"));
 }
 
 void TestCli::jsonReport_data()
