@@ -312,14 +312,17 @@ bool TReadImage::hasPictureSignature(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray head = file.peek(12);
-    // JPEG, PNG, GIF, BMP, TIFF (both byte orders), RIFF (WebP), JPEG 2000.
-    static const QByteArray kSignatures[] = {QByteArray("\xFF\xD8\xFF"), QByteArray("\x89PNG"),
-        QByteArray("GIF8"), QByteArray("BM"), QByteArray("II*\0", 4), QByteArray("MM\0*", 4),
-        QByteArray("RIFF"), QByteArray("\0\0\0\x0CjP", 6)};
+    // JPEG, PNG, GIF, BMP, TIFF (both byte orders), JPEG 2000.
+    static const QByteArray kSignatures[]
+        = {QByteArray("\xFF\xD8\xFF"), QByteArray("\x89PNG"), QByteArray("GIF8"), QByteArray("BM"),
+            QByteArray("II*\0", 4), QByteArray("MM\0*", 4), QByteArray("\0\0\0\x0CjP", 6)};
     for (const QByteArray &signature : kSignatures) {
         if (head.startsWith(signature))
             return true;
     }
+    // WebP inside RIFF; HEIF and AVIF by their "ftyp" box.
+    if (head.size() >= 12 && head.startsWith("RIFF") && head.mid(8, 4) == "WEBP")
+        return true;
     if (head.size() >= 12 && head.mid(4, 4) == "ftyp")
         return true;
     // Everything else Qt's readers recognise by content (PNM, ICO, ...).
