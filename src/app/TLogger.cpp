@@ -4,10 +4,12 @@
 #include <spdlog/sinks/daily_file_sink.h>
 #include <spdlog/spdlog.h>
 
+#include <QDate>
 #include <QDebug>
 #include <QDir>
 #include <QHash>
 #include <QMutex>
+#include <QRegularExpression>
 
 namespace {
 
@@ -20,6 +22,27 @@ std::shared_ptr<spdlog::logger> g_logger;
 QMutex g_repeatMutex;
 QHash<QByteArray, qint64> g_repeatCounts;
 QList<QByteArray> g_repeatOrder;
+
+// Deletes the daily files dated more than kLogKeepDays before today. The date is taken
+// from the name, not the file time: a copied or touched file keeps its day. Files of
+// other names are not ours and stay. Returns the number removed.
+int removeOldDailyLogs(const QString &logDir)
+{
+    static const QRegularExpression dailyName(QStringLiteral(R"(^log_(\d{4}-\d{2}-\d{2})\.log$)"));
+    const QDate oldestKept = QDate::currentDate().addDays(-kLogKeepDays);
+    QDir dir(logDir);
+    int removed = 0;
+    const QStringList names = dir.entryList({QStringLiteral("log_*.log")}, QDir::Files);
+    for (const QString &name : names) {
+        const QRegularExpressionMatch match = dailyName.match(name);
+        if (!match.hasMatch())
+            continue;
+        const QDate day = QDate::fromString(match.captured(1), QStringLiteral("yyyy-MM-dd"));
+        if (day.isValid() && day < oldestKept && dir.remove(name))
+            ++removed;
+    }
+    return removed;
+}
 
 } // namespace
 
@@ -36,6 +59,7 @@ bool initLogger(const QString &base)
     if (!dir.exists() && !dir.mkpath(QStringLiteral(".")))
         qDebug() << "Failed to create writable directory:" << logDir;
 
+    const int removed = removeOldDailyLogs(logDir);
     const QString logFile = QStringLiteral("%1/log.log").arg(logDir);
     try {
         spdlog::drop("m_logger");
@@ -45,8 +69,14 @@ bool initLogger(const QString &base)
         logger->set_level(spdlog::level::info);
         // Every line reaches the disk at once: a crash report attaches the log file.
         logger->flush_on(spdlog::level::info);
-        QMutexLocker lock(&g_loggerMutex);
-        g_logger = std::move(logger);
+        {
+            QMutexLocker lock(&g_loggerMutex);
+            g_logger = std::move(logger);
+        }
+        if (removed > 0)
+            splog_d(QStringLiteral("[TLogger]: Removed [%1] daily log files older than %2 days.")
+                        .arg(removed)
+                        .arg(kLogKeepDays));
         return true;
     } catch (const spdlog::spdlog_ex &error) {
         qDebug() << "Log init failed: " << error.what();

@@ -12,9 +12,13 @@ class logger;
 // The process-wide logger ("m_logger"): empty until initLogger succeeded.
 std::shared_ptr<spdlog::logger> loggerInstance();
 
-// Creates base + "/Log" if needed and installs a daily file logger writing
-// "log_YYYY-MM-DD.log" there, flushing on every line. Returns false (and leaves the
-// logger empty) when the logging library refused.
+// Daily log files dated more than this many days before today are deleted at start.
+constexpr int kLogKeepDays = 30;
+
+// Creates base + "/Log" if needed, deletes the daily files older than kLogKeepDays
+// there, and installs a daily file logger writing "log_YYYY-MM-DD.log", flushing on
+// every line. Returns false (and leaves the logger empty) when the logging library
+// refused.
 bool initLogger(const QString &base);
 
 // Drops the logger; later splog_d calls do nothing.

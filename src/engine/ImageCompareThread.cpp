@@ -34,6 +34,15 @@ QString what(const std::exception &e)
     return QString::fromLocal8Bit(e.what()).simplified();
 }
 
+// One line per picture that takes no part, through the held-back log: a folder of
+// thousands of broken files writes the first of each reason and then a count.
+void logSkipped(const QString &path, const char *reason)
+{
+    const QByteArray kind = QByteArrayLiteral("[TImageCompareThread]: Picture skipped, ") + reason;
+    splog_repeated(
+        kind.constData(), QStringLiteral("%1. File: %2").arg(QString::fromUtf8(kind), path));
+}
+
 } // namespace
 
 ImageCompareThread::ImageCompareThread(QObject *parent) : QThread(parent)
@@ -163,16 +172,21 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
                            "[%1]...")
                 .arg(images.size()));
     const Measure measure = m_measure;
-    QtConcurrent::blockingMap(images, [this, measure](ImageData &data) {
+    std::atomic_int unreadable {0};
+    QtConcurrent::blockingMap(images, [this, measure, &unreadable](ImageData &data) {
         data.fileType = QFileInfo(data.path).suffix().toLower();
         if (isCancelled() || isSimilarExcludedFormat(data.fileType))
             return;
         try {
             int w = 0;
             int h = 0;
-            const cv::Mat picture = TReadImage::readImage(data.path, &w, &h);
-            if (picture.empty())
+            TReadImage::Failure failure = TReadImage::Failure::None;
+            const cv::Mat picture = TReadImage::readImage(data.path, &w, &h, &failure);
+            if (picture.empty()) {
+                unreadable.fetch_add(1);
+                logSkipped(data.path, TReadImage::failureText(failure));
                 return;
+            }
             data.width = w;
             data.height = h;
             if (measure == MeasurePHash) {
@@ -182,22 +196,47 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
             } else {
                 data.hash = makeHistogram(picture);
             }
+            if (data.hash.empty()) {
+                unreadable.fetch_add(1);
+                logSkipped(data.path, "could not be measured");
+            }
         } catch (const cv::Exception &e) {
             data.hash.release();
+            unreadable.fetch_add(1);
             splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+            logSkipped(data.path, "could not be measured");
+        } catch (const std::bad_alloc &) {
+            data.hash.release();
+            unreadable.fetch_add(1);
+            logSkipped(data.path, TReadImage::failureText(TReadImage::Failure::OutOfMemory));
         } catch (const std::exception &e) {
             data.hash.release();
+            unreadable.fetch_add(1);
             splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+            logSkipped(data.path, "could not be measured");
         } catch (...) {
             data.hash.release();
+            unreadable.fetch_add(1);
             splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+            logSkipped(data.path, "could not be measured");
         }
     });
+    const qsizetype loaded = images.size();
+    // A picture without a measure leaves the run here: compared, two such pictures would
+    // score alike (nothing against nothing), and a pass mark of 0 would group them all.
+    images.erase(std::remove_if(images.begin(), images.end(),
+                     [](const ImageData &data) { return data.hash.empty(); }),
+        images.end());
     emit progressChanged(2, 100);
     splog_d(QStringLiteral("[TImageCompareThread]: Image data loading completed. Time taken: [%1] "
                            "seconds. Quantity: [%2]")
                 .arg(elapsedSeconds())
-                .arg(images.size()));
+                .arg(loaded));
+    if (images.size() < loaded)
+        splog_d(QStringLiteral("[TImageCompareThread]: Pictures left out of the comparison: [%1], "
+                               "unreadable: [%2].")
+                    .arg(loaded - images.size())
+                    .arg(unreadable.load()));
 }
 
 double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) const
@@ -260,17 +299,24 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
     std::vector<quint64> bits(size_t(std::max(n, 0)));
     std::vector<char> hasBits(size_t(std::max(n, 0)));
     std::vector<char> earlier(size_t(std::max(n, 0)));
+    // Entries without a measure (loadImages drops them; a caller's own list may not).
+    std::vector<char> measured(size_t(std::max(n, 0)));
     for (int k = 0; k < n; ++k) {
         const ImageData &image = images.at(k);
         hasBits[size_t(k)] = fastHash && image.hash.total() == 8;
         bits[size_t(k)] = image.hashBits;
         earlier[size_t(k)] = image.fromEarlierResult;
+        measured[size_t(k)] = !image.hash.empty();
     }
 
     QList<int> indexes(n);
     std::iota(indexes.begin(), indexes.end(), 0);
     QtConcurrent::blockingMap(indexes, [&](int i) {
         const ImageData &a = images.at(i);
+        if (!measured[size_t(i)]) {
+            finishedIndexes.fetch_add(1);
+            return;
+        }
         const bool aHash = hasBits[size_t(i)];
         const bool aEarlier = earlier[size_t(i)];
         const quint64 aBits = bits[size_t(i)];
@@ -278,7 +324,7 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
         for (int j = i + 1; j < n; ++j) {
             if (isCancelled())
                 break;
-            if (aEarlier && earlier[size_t(j)])
+            if ((aEarlier && earlier[size_t(j)]) || !measured[size_t(j)])
                 continue;
             const bool pairHash = aHash && hasBits[size_t(j)];
             double similarity = 0.0;

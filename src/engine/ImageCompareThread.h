@@ -40,7 +40,8 @@ public:
     void cancel() { m_cancel.store(1); }
     bool isCancelled() const { return m_cancel.load() != 0; }
 
-    // The stages, public so that tests can drive each one.
+    // The stages, public so that tests can drive each one. loadImages keeps only the
+    // pictures it could read and measure; each one left out is logged with its reason.
     void loadImages(QList<ImageData> &images);
     void hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups);
     void orbFeatureMatch(QList<QList<ImageData>> &groups);

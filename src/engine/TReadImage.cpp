@@ -17,8 +17,104 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QtEndian>
 
 namespace {
+
+// Records why a reader gave up, unless an earlier step already knew better.
+void note(TReadImage::Failure *failure, TReadImage::Failure value)
+{
+    if (failure && *failure == TReadImage::Failure::None)
+        *failure = value;
+}
+
+// True when needle occurs in the file at or after offset; read in pieces, so that a large
+// file never sits in memory whole.
+bool containsFrom(QFile &file, qint64 offset, const QByteArray &needle)
+{
+    if (!file.seek(offset))
+        return false;
+    QByteArray carry;
+    for (;;) {
+        QByteArray piece = file.read(qint64(1) << 20);
+        if (piece.isEmpty())
+            return false;
+        piece.prepend(carry);
+        if (piece.contains(needle))
+            return true;
+        carry = piece.right(needle.size() - 1);
+    }
+}
+
+// Walks the marker segments to the first scan, then looks for the end-of-image marker
+// after it. Entropy-coded data never holds 0xFF 0xD9, so one found there is the end; an
+// embedded thumbnail's end lies in a segment before the scan and does not count. A
+// structure this walk does not understand is left to the decoders (false).
+bool jpegIsTruncated(QFile &file)
+{
+    const qint64 size = file.size();
+    qint64 pos = 2;
+    for (;;) {
+        if (!file.seek(pos))
+            return true;
+        const QByteArray marker = file.read(4);
+        if (marker.size() < 2)
+            return true;
+        if (uchar(marker[0]) != 0xFF)
+            return false;
+        const uchar code = uchar(marker[1]);
+        if (code == 0xFF) {
+            ++pos; // fill byte
+            continue;
+        }
+        if (code == 0xD9)
+            return false;
+        if (code == 0x01 || (code >= 0xD0 && code <= 0xD7)) {
+            pos += 2;
+            continue;
+        }
+        if (marker.size() < 4)
+            return true;
+        const int length = (uchar(marker[2]) << 8) | uchar(marker[3]);
+        if (length < 2)
+            return false;
+        pos += 2 + length;
+        if (pos > size)
+            return true;
+        if (code == 0xDA)
+            break;
+    }
+    // Most files end with the marker; search the tail first and the whole scan only when
+    // the tail lacks it (data appended after the picture, such as a video).
+    const QByteArray end("\xFF\xD9", 2);
+    const qint64 tail = std::max(pos, size - 65536);
+    if (containsFrom(file, tail, end))
+        return false;
+    return tail == pos || !containsFrom(file, pos, end);
+}
+
+// Follows the chunks to IEND; a chunk running past the end of the file, or no IEND, is
+// a cut file.
+bool pngIsTruncated(QFile &file)
+{
+    const qint64 size = file.size();
+    qint64 pos = 8;
+    for (;;) {
+        if (pos + 8 > size || !file.seek(pos))
+            return true;
+        const QByteArray header = file.read(8);
+        if (header.size() < 8)
+            return true;
+        if (header.mid(4, 4) == "IEND")
+            return false;
+        const quint32 length = qFromBigEndian<quint32>(header.constData());
+        if (length > 0x7FFFFFFFu)
+            return false;
+        pos += 12 + qint64(length);
+        if (pos > size)
+            return true;
+    }
+}
 
 QString cvMessage(const cv::Exception &e)
 {
@@ -33,10 +129,10 @@ QSize headerSize(const QString &path)
     return reader.size();
 }
 
-cv::Mat imreadFlags(const QString &path, int flags)
+cv::Mat imreadFlags(const QString &path, int flags, TReadImage::Failure *failure)
 {
     if (TReadImage::needsMemoryRoute(path))
-        return TReadImage::imreadThroughMemory(path, flags);
+        return TReadImage::imreadThroughMemory(path, flags, failure);
     return cv::imread(QFile::encodeName(path).toStdString(), flags);
 }
 
@@ -50,11 +146,11 @@ bool isJpegFile(const QString &path)
         && uchar(head[2]) == 0xFF;
 }
 
-cv::Mat fullRead(const QString &path)
+cv::Mat fullRead(const QString &path, TReadImage::Failure *failure)
 {
     cv::Mat mat;
     try {
-        mat = imreadFlags(path, cv::IMREAD_COLOR);
+        mat = imreadFlags(path, cv::IMREAD_COLOR, failure);
         if (!mat.empty())
             splog_d(QStringLiteral("[TReadImage]: Full read success. File: %1, Size: %2x%3")
                         .arg(path)
@@ -62,30 +158,51 @@ cv::Mat fullRead(const QString &path)
                         .arg(mat.rows));
     } catch (const cv::Exception &e) {
         mat.release();
-        splog_d(QStringLiteral("[TReadImage]: cv::imread Exception full read. File: %1, Error: %2")
-                    .arg(path, cvMessage(e)));
+        splog_repeated("[TReadImage]: cv::imread Exception full read",
+            QStringLiteral("[TReadImage]: cv::imread Exception full read. File: %1, Error: %2")
+                .arg(path, cvMessage(e)));
     } catch (const std::bad_alloc &) {
         mat.release();
-        splog_d(
+        note(failure, TReadImage::Failure::OutOfMemory);
+        splog_repeated("[TReadImage]: cv::imread Out of memory full read",
             QStringLiteral("[TReadImage]: cv::imread Out of memory full read. File: %1").arg(path));
     } catch (...) {
         mat.release();
-        splog_d(QStringLiteral("[TReadImage]: Unknown exception full read. File: %1").arg(path));
+        splog_repeated("[TReadImage]: Unknown exception full read",
+            QStringLiteral("[TReadImage]: Unknown exception full read. File: %1").arg(path));
     }
     return mat;
 }
 
-cv::Mat reducedRead(const QString &path)
+cv::Mat reducedRead(const QString &path, TReadImage::Failure *failure)
 {
     cv::Mat mat;
+    // Only an allocation that failed is reported as memory; a file the decoder cannot
+    // make sense of gives an empty result or a library exception.
     try {
-        mat = imreadFlags(path, cv::IMREAD_REDUCED_COLOR_8);
+        mat = imreadFlags(path, cv::IMREAD_REDUCED_COLOR_8, failure);
+    } catch (const std::bad_alloc &) {
+        mat.release();
+        note(failure, TReadImage::Failure::OutOfMemory);
+        splog_repeated("[TReadImage]: Exception or out of memory on reduced read",
+            QStringLiteral("[TReadImage]: Exception or out of memory on reduced read. File: %1")
+                .arg(path));
+        return mat;
+    } catch (const cv::Exception &e) {
+        mat.release();
+        splog_repeated("[TReadImage]: cv::imread Exception reduced read",
+            QStringLiteral("[TReadImage]: cv::imread Exception reduced read. File: %1, Error: %2")
+                .arg(path, cvMessage(e)));
+        return mat;
     } catch (...) {
         mat.release();
+        splog_repeated("[TReadImage]: Unknown exception reduced read",
+            QStringLiteral("[TReadImage]: Unknown exception reduced read. File: %1").arg(path));
+        return mat;
     }
     if (mat.empty())
-        splog_d(QStringLiteral("[TReadImage]: Exception or out of memory on reduced read. File: %1")
-                    .arg(path));
+        splog_repeated("[TReadImage]: Reduced read gave no picture",
+            QStringLiteral("[TReadImage]: Reduced read gave no picture. File: %1").arg(path));
     else
         splog_d(QStringLiteral("[TReadImage]: Reduced read success (1/8). File: %1, Size: %2x%3")
                     .arg(path)
@@ -94,21 +211,24 @@ cv::Mat reducedRead(const QString &path)
     return mat;
 }
 
-cv::Mat qtReaderRead(const QString &path)
+cv::Mat qtReaderRead(const QString &path, TReadImage::Failure *failure)
 {
     try {
         QImageReader reader(path);
         reader.setDecideFormatFromContent(true);
         const QSize size = reader.size();
-        splog_d(QStringLiteral("[TReadImage]: QImageReader size. File: %1, Size: %2x%3")
+        splog_repeated("[TReadImage]: QImageReader size",
+            QStringLiteral("[TReadImage]: QImageReader size. File: %1, Size: %2x%3")
+                .arg(path)
+                .arg(size.width())
+                .arg(size.height()));
+        if (size.isValid() && qint64(size.width()) * size.height() > TReadImage::kMaxReaderPixels) {
+            note(failure, TReadImage::Failure::TooLarge);
+            splog_repeated("[TReadImage]: Image too large, skip",
+                QStringLiteral("[TReadImage]: Image too large, skip. File: %1, Size: %2x%3")
                     .arg(path)
                     .arg(size.width())
                     .arg(size.height()));
-        if (size.isValid() && qint64(size.width()) * size.height() > TReadImage::kMaxReaderPixels) {
-            splog_d(QStringLiteral("[TReadImage]: Image too large, skip. File: %1, Size: %2x%3")
-                        .arg(path)
-                        .arg(size.width())
-                        .arg(size.height()));
             return {};
         }
         if (size.isValid()
@@ -126,17 +246,88 @@ cv::Mat qtReaderRead(const QString &path)
         }
         QImage image;
         if (!reader.read(&image) || image.isNull()) {
-            splog_d(QStringLiteral("[TReadImage]: QImageReader failed. File: %1").arg(path));
+            splog_repeated("[TReadImage]: QImageReader failed",
+                QStringLiteral("[TReadImage]: QImageReader failed. File: %1").arg(path));
             return {};
         }
         return TReadImage::qimage2Mat(image);
-    } catch (...) {
-        splog_d(QStringLiteral("[TReadImage]: QImageReader failed. File: %1").arg(path));
-        return {};
-    }
+    } catch (const std::bad_alloc &) {
+        note(failure, TReadImage::Failure::OutOfMemory);
+    } catch (...) { }
+    splog_repeated("[TReadImage]: QImageReader failed",
+        QStringLiteral("[TReadImage]: QImageReader failed. File: %1").arg(path));
+    return {};
 }
 
 } // namespace
+
+const char *TReadImage::failureText(Failure failure)
+{
+    switch (failure) {
+    case Failure::None:
+        return "read";
+    case Failure::Empty:
+        return "file empty";
+    case Failure::CannotOpen:
+        return "cannot open the file";
+    case Failure::NotAPicture:
+        return "not a picture";
+    case Failure::DecoderRefused:
+        return "the decoder refused it";
+    case Failure::Truncated:
+        return "truncated";
+    case Failure::TooLarge:
+        return "too large";
+    case Failure::OutOfMemory:
+        return "out of memory";
+    case Failure::ResizeFailed:
+        return "could not be reduced to the working size";
+    }
+    return "unknown";
+}
+
+TReadImage::Failure TReadImage::inspectFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Failure::CannotOpen;
+    const qint64 size = file.size();
+    if (size == 0)
+        return Failure::Empty;
+    const QByteArray head = file.read(12);
+    if (head.startsWith("\xFF\xD8\xFF"))
+        return jpegIsTruncated(file) ? Failure::Truncated : Failure::None;
+    if (head.startsWith("\x89PNG\r\n\x1A\n"))
+        return pngIsTruncated(file) ? Failure::Truncated : Failure::None;
+    if (head.size() == 12 && head.startsWith("RIFF") && head.mid(8, 4) == "WEBP") {
+        const quint32 riffSize = qFromLittleEndian<quint32>(head.constData() + 4);
+        return size < qint64(riffSize) + 8 ? Failure::Truncated : Failure::None;
+    }
+    return Failure::None;
+}
+
+bool TReadImage::hasPictureSignature(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray head = file.peek(12);
+    // JPEG, PNG, GIF, BMP, TIFF (both byte orders), JPEG 2000.
+    static const QByteArray kSignatures[]
+        = {QByteArray("\xFF\xD8\xFF"), QByteArray("\x89PNG"), QByteArray("GIF8"), QByteArray("BM"),
+            QByteArray("II*\0", 4), QByteArray("MM\0*", 4), QByteArray("\0\0\0\x0CjP", 6)};
+    for (const QByteArray &signature : kSignatures) {
+        if (head.startsWith(signature))
+            return true;
+    }
+    // WebP inside RIFF; HEIF and AVIF by their "ftyp" box.
+    if (head.size() >= 12 && head.startsWith("RIFF") && head.mid(8, 4) == "WEBP")
+        return true;
+    if (head.size() >= 12 && head.mid(4, 4) == "ftyp")
+        return true;
+    // Everything else Qt's readers recognise by content (PNM, ICO, ...).
+    return !QImageReader::imageFormat(&file).isEmpty();
+}
 
 bool TReadImage::needsMemoryRoute(const QString &path)
 {
@@ -156,48 +347,65 @@ bool TReadImage::hasFtypBox(const QString &path)
     return head.size() == 12 && head.mid(4, 4) == "ftyp";
 }
 
-cv::Mat TReadImage::imreadThroughMemory(const QString &path, int flags)
+cv::Mat TReadImage::imreadThroughMemory(const QString &path, int flags, Failure *failure)
 {
     try {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly)) {
-            splog_d(QStringLiteral("[TImageRead]: Cannot open file: %1").arg(path));
+            note(failure, Failure::CannotOpen);
+            splog_repeated("[TImageRead]: Cannot open file",
+                QStringLiteral("[TImageRead]: Cannot open file: %1").arg(path));
             return {};
         }
         const qint64 size = file.size();
         if (size < 0) {
-            splog_d(QStringLiteral("[TImageRead]: Failed to get file size: %1").arg(path));
+            note(failure, Failure::CannotOpen);
+            splog_repeated("[TImageRead]: Failed to get file size",
+                QStringLiteral("[TImageRead]: Failed to get file size: %1").arg(path));
             return {};
         }
         if (size == 0 || size > kMaxMemoryReadBytes) {
-            splog_d(QStringLiteral("[TImageRead]: File too large or empty: %1").arg(path));
+            note(failure, size == 0 ? Failure::Empty : Failure::TooLarge);
+            splog_repeated("[TImageRead]: File too large or empty",
+                QStringLiteral("[TImageRead]: File too large or empty: %1").arg(path));
             return {};
         }
         std::vector<uchar> buffer;
         try {
             buffer.resize(size_t(size));
         } catch (const std::bad_alloc &) {
-            splog_d(QStringLiteral("[TImageRead]: Memory allocation failed: %1").arg(path));
+            note(failure, Failure::OutOfMemory);
+            splog_repeated("[TImageRead]: Memory allocation failed",
+                QStringLiteral("[TImageRead]: Memory allocation failed: %1").arg(path));
             return {};
         }
         if (file.read(reinterpret_cast<char *>(buffer.data()), size) != size) {
-            splog_d(QStringLiteral("[TImageRead]: ReadFile failed: %1").arg(path));
+            note(failure, Failure::CannotOpen);
+            splog_repeated("[TImageRead]: ReadFile failed",
+                QStringLiteral("[TImageRead]: ReadFile failed: %1").arg(path));
             return {};
         }
         cv::Mat mat = cv::imdecode(buffer, flags);
         if (mat.empty())
-            splog_d(QStringLiteral("[TImageRead]: imdecode returned empty: %1").arg(path));
+            splog_repeated("[TImageRead]: imdecode returned empty",
+                QStringLiteral("[TImageRead]: imdecode returned empty: %1").arg(path));
         return mat;
+    } catch (const std::bad_alloc &) {
+        note(failure, Failure::OutOfMemory);
+        splog_repeated("[TImageRead]: Exception",
+            QStringLiteral("[TImageRead]: Exception: out of memory | File: %1").arg(path));
     } catch (const std::exception &e) {
-        splog_d(QStringLiteral("[TImageRead]: Exception: %1 | File: %2")
-                    .arg(QString::fromLocal8Bit(e.what()), path));
+        splog_repeated("[TImageRead]: Exception",
+            QStringLiteral("[TImageRead]: Exception: %1 | File: %2")
+                .arg(QString::fromLocal8Bit(e.what()), path));
     } catch (...) {
-        splog_d(QStringLiteral("[TImageRead]: Unknown exception occurred: %1").arg(path));
+        splog_repeated("[TImageRead]: Unknown exception occurred",
+            QStringLiteral("[TImageRead]: Unknown exception occurred: %1").arg(path));
     }
     return {};
 }
 
-cv::Mat TReadImage::readOrdinary(const QString &path)
+cv::Mat TReadImage::readOrdinary(const QString &path, Failure *failure)
 {
     // A full decode of a huge picture would allocate its whole size; the header says
     // beforehand, and such files go to the decoders that reduce while decoding: JPEG
@@ -207,20 +415,20 @@ cv::Mat TReadImage::readOrdinary(const QString &path)
         = header.isValid() && qint64(header.width()) * header.height() > kMaxFullReadPixels;
     cv::Mat mat;
     if (!huge)
-        mat = fullRead(path);
+        mat = fullRead(path, failure);
     else
         splog_d(QStringLiteral("[TReadImage]: Large image, skip full read. File: %1, Size: %2x%3")
                     .arg(path)
                     .arg(header.width())
                     .arg(header.height()));
     if (mat.empty() && (!huge || isJpegFile(path)))
-        mat = reducedRead(path);
+        mat = reducedRead(path, failure);
     if (mat.empty())
-        mat = qtReaderRead(path);
+        mat = qtReaderRead(path, failure);
     return mat;
 }
 
-cv::Mat TReadImage::readRaw(const QString &path)
+cv::Mat TReadImage::readRaw(const QString &path, Failure *failure)
 {
     cv::Mat mat;
     std::unique_ptr<LibRaw> raw;
@@ -232,13 +440,22 @@ cv::Mat TReadImage::readRaw(const QString &path)
         const int openResult = raw->open_file(QFile::encodeName(path).constData());
 #endif
         if (openResult != LIBRAW_SUCCESS) {
-            splog_d(QStringLiteral("[TReadImage]: LibRaw open_file failed,error code %1. fies:%2")
-                        .arg(openResult)
-                        .arg(path));
+            if (openResult == LIBRAW_UNSUFFICIENT_MEMORY)
+                note(failure, Failure::OutOfMemory);
+            else if (openResult == LIBRAW_TOO_BIG)
+                note(failure, Failure::TooLarge);
+            splog_repeated("[TReadImage]: LibRaw open_file failed",
+                QStringLiteral("[TReadImage]: LibRaw open_file failed,error code %1. fies:%2")
+                    .arg(openResult)
+                    .arg(path));
             return {};
         }
-        if (raw->unpack_thumb() != LIBRAW_SUCCESS) {
-            splog_d(QStringLiteral("[TReadImage]: LibRaw unpack_thumb failed. fies:%1").arg(path));
+        const int unpackResult = raw->unpack_thumb();
+        if (unpackResult != LIBRAW_SUCCESS) {
+            if (unpackResult == LIBRAW_UNSUFFICIENT_MEMORY)
+                note(failure, Failure::OutOfMemory);
+            splog_repeated("[TReadImage]: LibRaw unpack_thumb failed",
+                QStringLiteral("[TReadImage]: LibRaw unpack_thumb failed. fies:%1").arg(path));
             return {};
         }
         const libraw_thumbnail_t &thumb = raw->imgdata.thumbnail;
@@ -261,25 +478,34 @@ cv::Mat TReadImage::readRaw(const QString &path)
             break;
         }
         case LIBRAW_THUMBNAIL_UNKNOWN:
-            splog_d(QStringLiteral("[TReadImage]: LIBRAW_THUMBNAIL_UNKNOWN. fies:%1").arg(path));
+            splog_repeated("[TReadImage]: LIBRAW_THUMBNAIL_UNKNOWN",
+                QStringLiteral("[TReadImage]: LIBRAW_THUMBNAIL_UNKNOWN. fies:%1").arg(path));
             break;
         default:
-            splog_d(QStringLiteral("[TReadImage]: UNKNOWN. fies:%1").arg(path));
+            splog_repeated("[TReadImage]: UNKNOWN",
+                QStringLiteral("[TReadImage]: UNKNOWN. fies:%1").arg(path));
             break;
         }
+    } catch (const std::bad_alloc &) {
+        mat.release();
+        note(failure, Failure::OutOfMemory);
+        splog_repeated("[TReadImage]: LibRaw exception",
+            QStringLiteral("[TReadImage]: LibRaw exception: out of memory. fies:%1").arg(path));
     } catch (const std::exception &e) {
         mat.release();
-        splog_d(QStringLiteral("[TReadImage]: LibRaw exception: %1. fies:%2")
-                    .arg(QString::fromLocal8Bit(e.what()), path));
+        splog_repeated("[TReadImage]: LibRaw exception",
+            QStringLiteral("[TReadImage]: LibRaw exception: %1. fies:%2")
+                .arg(QString::fromLocal8Bit(e.what()), path));
     } catch (...) {
         mat.release();
-        splog_d(QStringLiteral("[TReadImage]: LibRaw unknown exception. fies:%1").arg(path));
+        splog_repeated("[TReadImage]: LibRaw unknown exception",
+            QStringLiteral("[TReadImage]: LibRaw unknown exception. fies:%1").arg(path));
     }
     // The LibRaw object frees its buffers (recycle) in its destructor.
     return mat;
 }
 
-cv::Mat TReadImage::readHeif(const QString &path)
+cv::Mat TReadImage::readHeif(const QString &path, Failure *failure)
 {
     heif_context *context = heif_context_alloc();
     heif_image_handle *primary = nullptr;
@@ -291,35 +517,47 @@ cv::Mat TReadImage::readHeif(const QString &path)
     [&] {
         if (!context)
             return;
+        // The one libheif error that is about memory; every other one is about the file.
+        const auto failed = [failure](const heif_error &error) {
+            if (error.code == heif_error_Memory_allocation_error)
+                note(failure, Failure::OutOfMemory);
+        };
         heif_error err = heif_context_read_from_file(context, file.constData(), nullptr);
         if (err.code != heif_error_Ok) {
-            splog_d(QStringLiteral("[TReadImage]: Failed to read HEIF. message=%1. fies:%2")
-                        .arg(QString::fromUtf8(err.message), path));
+            failed(err);
+            splog_repeated("[TReadImage]: Failed to read HEIF",
+                QStringLiteral("[TReadImage]: Failed to read HEIF. message=%1. fies:%2")
+                    .arg(QString::fromUtf8(err.message), path));
             return;
         }
         err = heif_context_get_primary_image_handle(context, &primary);
         if (err.code != heif_error_Ok || !primary) {
-            splog_d(QStringLiteral("[TReadImage]: Failed to get primary image handle:=%1. fies:%2")
-                        .arg(QString::fromUtf8(err.message), path));
+            failed(err);
+            splog_repeated("[TReadImage]: Failed to get primary image handle",
+                QStringLiteral("[TReadImage]: Failed to get primary image handle:=%1. fies:%2")
+                    .arg(QString::fromUtf8(err.message), path));
             return;
         }
         if (heif_image_handle_get_number_of_thumbnails(primary) > 0) {
             heif_item_id id = 0;
             if (heif_image_handle_get_list_of_thumbnail_IDs(primary, &id, 1) != 1) {
-                splog_d(
+                splog_repeated("[TReadImage]: Failed to get thumbnail IDs",
                     QStringLiteral("[TReadImage]: Failed to get thumbnail IDs. fies:%1").arg(path));
                 return;
             }
             err = heif_image_handle_get_thumbnail(primary, id, &thumbHandle);
             if (err.code != heif_error_Ok || !thumbHandle) {
-                splog_d(QStringLiteral("[TReadImage]: Failed to get thumbnail handle. fies:%1")
-                            .arg(path));
+                failed(err);
+                splog_repeated("[TReadImage]: Failed to get thumbnail handle",
+                    QStringLiteral("[TReadImage]: Failed to get thumbnail handle. fies:%1")
+                        .arg(path));
                 return;
             }
             err = heif_decode_image(
                 thumbHandle, &image, heif_colorspace_RGB, heif_chroma_interleaved_RGB, nullptr);
             if (err.code != heif_error_Ok) {
-                splog_d(
+                failed(err);
+                splog_repeated("[TReadImage]: Failed to decode thumbnail",
                     QStringLiteral("[TReadImage]: Failed to decode thumbnail. message=%1. fies:%2")
                         .arg(QString::fromUtf8(err.message), path));
                 return;
@@ -328,14 +566,17 @@ cv::Mat TReadImage::readHeif(const QString &path)
             err = heif_decode_image(
                 primary, &image, heif_colorspace_RGB, heif_chroma_interleaved_RGB, nullptr);
             if (err.code != heif_error_Ok) {
-                splog_d(QStringLiteral("[TReadImage]: Failed to decode primary image. message=%1. "
-                                       "fies:%2")
-                            .arg(QString::fromUtf8(err.message), path));
+                failed(err);
+                splog_repeated("[TReadImage]: Failed to decode primary image",
+                    QStringLiteral("[TReadImage]: Failed to decode primary image. message=%1. "
+                                   "fies:%2")
+                        .arg(QString::fromUtf8(err.message), path));
                 return;
             }
         }
         if (!image) {
-            splog_d(QStringLiteral("[TReadImage]: Image is nullptr. fies:%1").arg(path));
+            splog_repeated("[TReadImage]: Image is nullptr",
+                QStringLiteral("[TReadImage]: Image is nullptr. fies:%1").arg(path));
             return;
         }
         int stride = 0;
@@ -344,9 +585,10 @@ cv::Mat TReadImage::readHeif(const QString &path)
         const int w = heif_image_get_width(image, heif_channel_interleaved);
         const int h = heif_image_get_height(image, heif_channel_interleaved);
         if (!plane || w <= 0 || h <= 0 || stride < w * 3) {
-            splog_d(QStringLiteral("[TReadImage]: Failed to get image plane or invalid image size. "
-                                   "fies:%1")
-                        .arg(path));
+            splog_repeated("[TReadImage]: Failed to get image plane or invalid image size",
+                QStringLiteral("[TReadImage]: Failed to get image plane or invalid image size. "
+                               "fies:%1")
+                    .arg(path));
             return;
         }
         try {
@@ -354,9 +596,10 @@ cv::Mat TReadImage::readHeif(const QString &path)
             cv::cvtColor(rgb, mat, cv::COLOR_RGB2BGR);
         } catch (...) {
             mat.release();
-            splog_d(QStringLiteral("[TReadImage]: Failed to get image plane or invalid image size. "
-                                   "fies:%1")
-                        .arg(path));
+            splog_repeated("[TReadImage]: Failed to get image plane or invalid image size",
+                QStringLiteral("[TReadImage]: Failed to get image plane or invalid image size. "
+                               "fies:%1")
+                    .arg(path));
         }
     }();
     if (image)
@@ -404,23 +647,24 @@ cv::Mat TReadImage::resizeToWorkingSize(const cv::Mat &mat)
     return {};
 }
 
-cv::Mat TReadImage::readImage(const QString &path, int *width, int *height)
+cv::Mat TReadImage::readImage(const QString &path, int *width, int *height, Failure *failure)
 {
     if (width)
         *width = 0;
     if (height)
         *height = 0;
     const QString suffix = QFileInfo(path).suffix();
+    Failure why = inspectFile(path);
     cv::Mat mat;
-    if (isRawFormat(suffix))
-        mat = readRaw(path);
-    else if (isHeifFormat(suffix) && hasFtypBox(path))
-        mat = readHeif(path);
-    else
-        mat = readOrdinary(path);
-    if (mat.empty())
-        return {};
-    if (mat.type() != CV_8UC3) {
+    if (why == Failure::None) {
+        if (isRawFormat(suffix))
+            mat = readRaw(path, &why);
+        else if (isHeifFormat(suffix) && hasFtypBox(path))
+            mat = readHeif(path, &why);
+        else
+            mat = readOrdinary(path, &why);
+    }
+    if (!mat.empty() && mat.type() != CV_8UC3) {
         try {
             cv::Mat converted;
             if (mat.channels() == 1)
@@ -428,17 +672,38 @@ cv::Mat TReadImage::readImage(const QString &path, int *width, int *height)
             else if (mat.channels() == 4)
                 cv::cvtColor(mat, converted, cv::COLOR_BGRA2BGR);
             mat = converted;
+        } catch (const std::bad_alloc &) {
+            mat.release();
+            note(&why, Failure::OutOfMemory);
         } catch (...) {
             mat.release();
         }
-        if (mat.empty() || mat.type() != CV_8UC3)
-            return {};
+        if (!mat.empty() && mat.type() != CV_8UC3)
+            mat.release();
+    }
+    cv::Mat result;
+    if (!mat.empty()) {
+        result = resizeToWorkingSize(mat);
+        if (result.empty())
+            note(&why, Failure::ResizeFailed);
+    }
+    if (result.empty()) {
+        // A dedicated reader that failed on a file of its own type was refused by its
+        // decoder; an ordinary file nobody could decode may not be a picture at all.
+        if (why == Failure::None)
+            why = isRawFormat(suffix) || hasPictureSignature(path) ? Failure::DecoderRefused
+                                                                   : Failure::NotAPicture;
+        if (failure)
+            *failure = why;
+        return {};
     }
     if (width)
         *width = mat.cols;
     if (height)
         *height = mat.rows;
-    return resizeToWorkingSize(mat);
+    if (failure)
+        *failure = Failure::None;
+    return result;
 }
 
 QImage TReadImage::mat2QImage(const cv::Mat &mat)

@@ -23,21 +23,50 @@ public:
     // Files larger than this are not read whole into memory.
     static constexpr qint64 kMaxMemoryReadBytes = qint64(1) << 31;
 
+    // Why a file gave no picture. Memory is named only when an allocation really failed:
+    // a broken file is far more common, and blaming memory sends the reader of the log
+    // the wrong way.
+    enum class Failure {
+        None,
+        Empty,
+        CannotOpen,
+        NotAPicture,
+        DecoderRefused,
+        Truncated,
+        TooLarge,
+        OutOfMemory,
+        ResizeFailed,
+    };
+    // Short text of a failure for log lines ("truncated", "file empty", ...).
+    static const char *failureText(Failure failure);
+
     // Reads any supported picture (camera raw preview, HEIF/HEIC, ordinary formats) and
     // brings it to the working size. width/height receive the size of the picture as it
-    // was decoded (before the working-size reduction); 0 on failure.
-    static cv::Mat readImage(const QString &path, int *width = nullptr, int *height = nullptr);
+    // was decoded (before the working-size reduction); 0 on failure, and failure then
+    // says why.
+    static cv::Mat readImage(const QString &path, int *width = nullptr, int *height = nullptr,
+        Failure *failure = nullptr);
 
+    // What can be told about a file before decoding it: empty, unopenable, or a JPEG, PNG
+    // or WebP whose own structure shows that its end is missing. Decoders fill the
+    // missing part of a truncated JPEG with grey, and two such files then look alike;
+    // they are refused here instead. None when nothing is known to be wrong.
+    static Failure inspectFile(const QString &path);
+    // True when the file starts with the signature of a picture format.
+    static bool hasPictureSignature(const QString &path);
+
+    // The readers below leave failure untouched unless they know better than "no
+    // picture" (too large, out of memory).
     // Ordinary formats: OpenCV full read, OpenCV 1/8 reduced read, Qt's image reader.
     // Not yet reduced to the working size.
-    static cv::Mat readOrdinary(const QString &path);
+    static cv::Mat readOrdinary(const QString &path, Failure *failure = nullptr);
     // Embedded preview of a camera raw file through LibRaw.
-    static cv::Mat readRaw(const QString &path);
+    static cv::Mat readRaw(const QString &path, Failure *failure = nullptr);
     // First thumbnail, else the primary image, of a HEIF/HEIC file through libheif.
-    static cv::Mat readHeif(const QString &path);
+    static cv::Mat readHeif(const QString &path, Failure *failure = nullptr);
     // Whole file into memory, then cv::imdecode with the given flags (paths the codec
     // library cannot open by name).
-    static cv::Mat imreadThroughMemory(const QString &path, int flags);
+    static cv::Mat imreadThroughMemory(const QString &path, int flags, Failure *failure = nullptr);
 
     // True when the file's first 12 bytes hold the "ftyp" box of the ISO media format.
     static bool hasFtypBox(const QString &path);

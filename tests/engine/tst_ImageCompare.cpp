@@ -5,12 +5,14 @@
 #include "ImageFixtures.h"
 #include "TestEnvironment.h"
 #include "app/FileTypeCatalogue.h"
+#include "app/TLogger.h"
 #include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
 
 #include <functional>
 #include <numeric>
 
+#include <QDate>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -23,7 +25,14 @@ class tst_ImageCompare : public QObject
     Q_OBJECT
 private:
     QTemporaryDir m_dir;
+    QTemporaryDir m_logDir;
 
+    QString logText() const
+    {
+        QFile log(m_logDir.filePath(
+            "Log/log_" + QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + ".log"));
+        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
+    }
     static QJsonObject config(int algorithm, bool features = false, bool sameType = true,
         bool ratio = true, int limit = 4)
     {
@@ -61,8 +70,18 @@ private:
     }
 
 private slots:
-    void initTestCase() { QVERIFY(m_dir.isValid()); }
-    void init() { TFileData::instance()->clear(); }
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        QVERIFY(initLogger(m_logDir.path()));
+    }
+    void cleanupTestCase() { shutdownLogger(); }
+    void init()
+    {
+        TFileData::instance()->clear();
+        // Every case starts with fresh counts of the held-back log lines.
+        splog_flush_repeated();
+    }
 
     void identicalPictures_data()
     {
@@ -111,12 +130,12 @@ private slots:
         QFETCH(int, measure);
         ImageCompareThread thread;
         thread.applyConfig(config(hint));
-        // Files that do not exist are cheap: they stay empty and are counted.
+        // Files that do not exist are cheap: the choice counts them, then they leave the run.
         QStringList paths;
         for (int i = 0; i < count; ++i)
             paths << m_dir.filePath(QStringLiteral("missing_%1.svg").arg(i));
         const QList<ImageData> images = load(thread, paths);
-        QCOMPARE(images.size(), count);
+        QVERIFY(images.isEmpty());
         QCOMPARE(int(thread.measure()), measure);
     }
 
@@ -272,9 +291,11 @@ private slots:
                     && !ImageCompareThread::aspectRatioCompatible(
                         a.width, a.height, b.width, b.height, 4))
                     continue;
-                const double similarity = a.hash.empty() || b.hash.empty()
-                    ? 0.0
-                    : ImageCompareThread::hashSimilarity(qPopulationCount(a.hashBits ^ b.hashBits));
+                // A picture without a measure takes part in no pair, whatever the pass mark.
+                if (a.hash.empty() || b.hash.empty())
+                    continue;
+                const double similarity
+                    = ImageCompareThread::hashSimilarity(qPopulationCount(a.hashBits ^ b.hashBits));
                 if (similarity < passMark)
                     continue;
                 expectedPercent[size_t(j)] = std::min(99, int(similarity * 100.0));
@@ -306,6 +327,87 @@ private slots:
         std::sort(actual.begin(), actual.end());
         QVERIFY(threshold == 100 ? expected.isEmpty() : expected.size() >= 1);
         QCOMPARE(actual, expected);
+    }
+
+    // Two copies of each kind of broken file beside two real similar pictures: the broken
+    // ones leave the run at loading, with their reason in the log, and never form a group
+    // (a truncated JPEG decodes to grey, and two grey pictures are alike).
+    void brokenPicturesLeaveTheRun_data()
+    {
+        QTest::addColumn<int>("algorithm");
+        QTest::addColumn<QString>("suffix");
+        // A null array writes no file (it vanished after the scan).
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        const cv::Mat scene = fixtures::makeScene(400, 300, 62);
+        const QByteArray jpeg = fixtures::encode(scene, ".jpg");
+        const QByteArray png = fixtures::encode(scene, ".png");
+        for (const int algorithm : {1, 2}) {
+            const char *measure = algorithm == 1 ? "histogram" : "phash";
+            QTest::addRow("zero bytes, %s", measure)
+                << algorithm << "jpg" << QByteArray("") << "file empty";
+            QTest::addRow("text named .jpg, %s", measure)
+                << algorithm << "jpg" << QByteArray("not a picture at all\n") << "not a picture";
+            QTest::addRow("jpeg cut into its scan, %s", measure)
+                << algorithm << "jpg" << jpeg.left(jpeg.indexOf("\xFF\xDA") + 300) << "truncated";
+            QTest::addRow("png cut after its header chunk, %s", measure)
+                << algorithm << "png" << png.left(33) << "truncated";
+            QTest::addRow("missing, %s", measure)
+                << algorithm << "jpg" << QByteArray() << "cannot open the file";
+        }
+    }
+    void brokenPicturesLeaveTheRun()
+    {
+        QFETCH(int, algorithm);
+        QFETCH(QString, suffix);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        const QString stem = QString::fromLatin1(QTest::currentDataTag())
+                                 .replace(QRegularExpression(QStringLiteral("\\W+")), "_");
+        QStringList broken;
+        for (int copy = 0; copy < 2; ++copy) {
+            broken << m_dir.filePath(QStringLiteral("%1_%2.%3").arg(stem).arg(copy).arg(suffix));
+            if (!bytes.isNull())
+                QVERIFY(fixtures::writeBytes(broken.last(), bytes));
+        }
+        const cv::Mat scene = fixtures::makeScene(400, 300, 61);
+        cv::Mat touched = scene.clone();
+        cv::rectangle(
+            touched, cv::Point(10, 10), cv::Point(40, 30), cv::Scalar(0, 0, 255), cv::FILLED);
+        const QString a = write(stem + "_a.png", scene);
+        const QString b = write(stem + "_b.png", touched);
+        const QStringList paths {broken[0], a, broken[1], b};
+
+        ImageCompareThread thread;
+        thread.applyConfig(config(algorithm, false, false, false));
+        thread.setImagePaths(paths);
+        thread.start();
+        QVERIFY(thread.wait(120000));
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        QCOMPARE(groups.size(), 1);
+        QStringList members;
+        for (const QString &entry : groups.constBegin().value())
+            members << stripSimilarTag(entry);
+        members.sort();
+        QCOMPARE(members, QStringList({a, b}));
+        // Not merely left ungrouped: the loading stage hands on only real pictures.
+        QStringList loaded;
+        for (const ImageData &image : load(thread, paths))
+            loaded << image.path;
+        QCOMPARE(loaded, QStringList({a, b}));
+
+        const QString log = logText();
+        for (const QString &path : broken) {
+            QVERIFY2(
+                log.contains(QStringLiteral("[TImageCompareThread]: Picture skipped, %1. File: %2")
+                                 .arg(reason, path)),
+                qPrintable(path));
+            for (const QString &line : log.split(QLatin1Char('\n'))) {
+                if (line.contains(path))
+                    QVERIFY2(!line.contains(QStringLiteral("memory"), Qt::CaseInsensitive),
+                        qPrintable(line));
+            }
+        }
     }
 
     void featureRecheckDropsUnrelated()
