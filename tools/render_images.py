@@ -82,6 +82,12 @@ PICTURES = {
         f'<circle cx="110" cy="110" r="72" fill="{BLUE}" fill-opacity="0.12"/>'
         f'<path d="M78 112 l22 22 l44 -46" fill="none" stroke="{BLUE}" stroke-width="12" '
         f'stroke-linecap="round" stroke-linejoin="round"/>'),
+    # The "nothing found" ring turned warning: no root of the scan could be read.
+    "unreadable_ring_bg": svg(220, 220,
+        '<circle cx="110" cy="110" r="96" fill="none" stroke="#f6d9a0" stroke-width="14"/>'
+        '<circle cx="110" cy="110" r="72" fill="#e8a317" fill-opacity="0.14"/>'
+        '<path d="M110 66 v52" stroke="#c27c00" stroke-width="14" stroke-linecap="round"/>'
+        '<circle cx="110" cy="148" r="9" fill="#c27c00"/>'),
     "logo": svg(28, 28,
         f'<rect x="1" y="1" width="26" height="26" rx="7" fill="{BLUE}"/>'
         '<rect x="6" y="7" width="10" height="12" rx="2" fill="#ffffff" fill-opacity="0.6"/>'

@@ -11,5 +11,5 @@ mkdir -p "$out"
 export XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_CONFIG_HOME=$(mktemp -d)
 export XDG_DATA_HOME=$(mktemp -d)
-xvfb-run -a -s "-screen 0 1280x800x24" "$build/tests/mainwindow/screenshot_pages" "$out"
+xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out"
 ls -l "$out"

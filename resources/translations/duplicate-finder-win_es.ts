@@ -43,187 +43,334 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="293"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
         <source>Files scanned</source>
         <translation>Archivos analizados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="294"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
         <source>Duplicates found</source>
         <translation>Duplicados encontrados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="295"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
         <source>Size of duplicates</source>
         <translation>Tamaño de los duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="296"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
         <source>Progress</source>
         <translation>Progreso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="297"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
         <source>Elapsed time</source>
         <translation>Tiempo transcurrido</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
         <source>Local Computer</source>
         <translation>Equipo local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="358"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
         <source>User Guide</source>
         <translation>Guía del usuario</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="359"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
         <source>Product FAQ</source>
         <translation>Preguntas frecuentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="360"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
         <source>Feedback and Support</source>
         <translation>Comentarios y soporte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="361"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
         <source>Check for Updates</source>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="362"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="903"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="363"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="375"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
         <source>Show Log in Explorer</source>
         <translation>Mostrar registro en el explorador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="377"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="379"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
         <source>Show Results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
         <source>Scan</source>
         <translation>Analizar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
         <source>Stop</source>
         <translation>Detener</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="439"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>New Scan</source>
         <translation>Nuevo análisis</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="450"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
         <source>Show results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="498"/>
-        <source>folders added</source>
-        <translation>carpetas añadidas</translation>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
+        <translation>«%1» es un archivo, no una carpeta. Solo se pueden analizar carpetas: añada en su lugar la carpeta que lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="527"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="544"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="598"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="970"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
+        <translation>No se encontró «%1». Puede que se haya movido o eliminado.</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <source>%n item(s) were not added because they are not folders:</source>
+        <translation>
+            <numerusform>No se añadió %n elemento porque no es una carpeta:</numerusform>
+            <numerusform>No se añadieron %n elementos porque no son carpetas:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <source>%n folder(s) added</source>
+        <translation>
+            <numerusform>%n carpeta añadida</numerusform>
+            <numerusform>%n carpetas añadidas</numerusform>
+        </translation>
+    </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="528"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="599"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Después de añadir cuentas y carpetas en la nube, ya no se pueden añadir carpetas locales.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="532"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="545"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Después de añadir carpetas locales, ya no se pueden añadir cuentas en la nube.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="794"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="858"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <source>%1 and %2 could not be read.</source>
+        <translation>No se pudieron leer %1 y %2.</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n folder(s)</source>
+        <translation>
+            <numerusform>%n carpeta</numerusform>
+            <numerusform>%n carpetas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <source>%n folder(s) could not be read.</source>
+        <translation>
+            <numerusform>No se pudo leer %n carpeta.</numerusform>
+            <numerusform>No se pudieron leer %n carpetas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>No se pudo leer %n archivo.</numerusform>
+            <numerusform>No se pudieron leer %n archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <source>Folders that could not be read</source>
+        <translation>Carpetas que no se pudieron leer</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <source>Files that could not be read</source>
+        <translation>Archivos que no se pudieron leer</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <source>Links not followed because they lead outside the chosen folders</source>
+        <translation>Enlaces no seguidos porque llevan fuera de las carpetas elegidas</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <source>System folders not entered</source>
+        <translation>Carpetas del sistema no exploradas</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <source>%n link(s) leading outside the chosen folders were not followed.</source>
+        <translation>
+            <numerusform>No se siguió %n enlace que lleva fuera de las carpetas elegidas.</numerusform>
+            <numerusform>No se siguieron %n enlaces que llevan fuera de las carpetas elegidas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <source>The chosen folder could not be read.</source>
+        <translation>No se pudo leer la carpeta elegida.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <source>The chosen folders could not be read.</source>
+        <translation>No se pudieron leer las carpetas elegidas.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <source>Check that it still exists and that you are allowed to open it.</source>
+        <translation>Compruebe que todavía existe y que tiene permiso para abrirla.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <source>Check that they still exist and that you are allowed to open them.</source>
+        <translation>Compruebe que todavía existen y que tiene permiso para abrirlas.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
         <source>Open File</source>
         <translation>Abrir archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="807"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="842"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="875"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="982"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
+        <translation>«%1» es una carpeta, no un archivo de proyecto. Para analizarla, añádala con el botón +.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <source>The project file &quot;%1&quot; does not exist.</source>
+        <translation>El archivo de proyecto «%1» no existe.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
         <source>Save File</source>
         <translation>Guardar archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Los resultados del análisis de la nube no se pueden guardar.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="971"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Los resultados del análisis actual no se han guardado. ¿Desea guardar el archivo?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="904"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versión %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="922"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>El nuevo idioma se aplicará la próxima vez que se inicie el programa.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="956"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Se detectó un cierre anómalo durante la última eliminación</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="957"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemListDialog</name>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="17"/>
+        <source>Not Scanned</source>
+        <translation>No analizado</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="20"/>
+        <source>These items were left out of the scan. Duplicates among them were not looked for.</source>
+        <translation>Estos elementos quedaron fuera del análisis. No se buscaron duplicados entre ellos.</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="35"/>
+        <source>Copy List</source>
+        <translation>Copiar lista</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="57"/>
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... y %n más</numerusform>
+            <numerusform>... y %n más</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -231,42 +378,42 @@
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
         <source>The project file could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir el archivo de proyecto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
         <source>The project file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de proyecto está dañado o incompleto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
         <source>This file is not a project file of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no es un archivo de proyecto de este programa.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
         <source>The project file contains invalid data and was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de proyecto contiene datos no válidos y no se abrió.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
         <source>None of the duplicate groups in this project exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya no existe ninguno de los grupos de duplicados de este proyecto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
         <source>The project file could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el archivo de proyecto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
         <source>The operation was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se canceló la operación.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
         <source>Unknown error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error desconocido.</translation>
     </message>
 </context>
 </TS>

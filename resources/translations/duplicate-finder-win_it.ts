@@ -43,187 +43,334 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="293"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
         <source>Files scanned</source>
         <translation>File analizzati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="294"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
         <source>Duplicates found</source>
         <translation>Duplicati trovati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="295"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
         <source>Size of duplicates</source>
         <translation>Dimensione dei duplicati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="296"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
         <source>Progress</source>
         <translation>Avanzamento</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="297"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
         <source>Elapsed time</source>
         <translation>Tempo trascorso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
         <source>Local Computer</source>
         <translation>Computer locale</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="358"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
         <source>User Guide</source>
         <translation>Guida utente</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="359"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
         <source>Product FAQ</source>
         <translation>Domande frequenti</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="360"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
         <source>Feedback and Support</source>
         <translation>Feedback e supporto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="361"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
         <source>Check for Updates</source>
         <translation>Verifica aggiornamenti</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="362"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="903"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>About</source>
         <translation>Informazioni</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="363"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
         <source>Language</source>
         <translation>Lingua</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="375"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
         <source>Show Log in Explorer</source>
         <translation>Mostra log in Esplora risorse</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="377"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
         <source>Open Project</source>
         <translation>Apri progetto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
         <source>Save Project</source>
         <translation>Salva progetto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="379"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
         <source>Show Results</source>
         <translation>Mostra risultati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
         <source>Scan</source>
         <translation>Scansiona</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
         <source>Stop</source>
         <translation>Interrompi</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="439"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
         <source>Continue</source>
         <translation>Continua</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>New Scan</source>
         <translation>Nuova scansione</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="450"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
         <source>Show results</source>
         <translation>Mostra risultati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="498"/>
-        <source>folders added</source>
-        <translation>cartelle aggiunte</translation>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
+        <translation>&quot;%1&quot; è un file, non una cartella. Si possono analizzare solo cartelle: aggiungi invece la cartella che lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="527"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="544"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="598"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="970"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
+        <translation>Impossibile trovare &quot;%1&quot;. Potrebbe essere stato spostato o rimosso.</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <source>%n item(s) were not added because they are not folders:</source>
+        <translation>
+            <numerusform>%n elemento non è stato aggiunto perché non è una cartella:</numerusform>
+            <numerusform>%n elementi non sono stati aggiunti perché non sono cartelle:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <source>%n folder(s) added</source>
+        <translation>
+            <numerusform>%n cartella aggiunta</numerusform>
+            <numerusform>%n cartelle aggiunte</numerusform>
+        </translation>
+    </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="528"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="599"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Dopo aver aggiunto account e cartelle cloud, non è più possibile aggiungere cartelle locali.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="532"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
         <source>Select Folder</source>
         <translation>Seleziona cartella</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="545"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Dopo aver aggiunto cartelle locali, non è più possibile aggiungere account cloud.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="794"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="858"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <source>%1 and %2 could not be read.</source>
+        <translation>Impossibile leggere %1 e %2.</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n folder(s)</source>
+        <translation>
+            <numerusform>%n cartella</numerusform>
+            <numerusform>%n cartelle</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n file</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <source>%n folder(s) could not be read.</source>
+        <translation>
+            <numerusform>Impossibile leggere %n cartella.</numerusform>
+            <numerusform>Impossibile leggere %n cartelle.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>Impossibile leggere %n file.</numerusform>
+            <numerusform>Impossibile leggere %n file.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <source>Folders that could not be read</source>
+        <translation>Cartelle che non è stato possibile leggere</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <source>Files that could not be read</source>
+        <translation>File che non è stato possibile leggere</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <source>Links not followed because they lead outside the chosen folders</source>
+        <translation>Collegamenti non seguiti perché portano fuori dalle cartelle scelte</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <source>System folders not entered</source>
+        <translation>Cartelle di sistema non esplorate</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <source>%n link(s) leading outside the chosen folders were not followed.</source>
+        <translation>
+            <numerusform>%n collegamento che porta fuori dalle cartelle scelte non è stato seguito.</numerusform>
+            <numerusform>%n collegamenti che portano fuori dalle cartelle scelte non sono stati seguiti.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <source>The chosen folder could not be read.</source>
+        <translation>Impossibile leggere la cartella scelta.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <source>The chosen folders could not be read.</source>
+        <translation>Impossibile leggere le cartelle scelte.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <source>Check that it still exists and that you are allowed to open it.</source>
+        <translation>Verifica che esista ancora e di avere il permesso di aprirla.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <source>Check that they still exist and that you are allowed to open them.</source>
+        <translation>Verifica che esistano ancora e di avere il permesso di aprirle.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
         <source>Open File</source>
         <translation>Apri file</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="807"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="842"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="875"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="982"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
+        <translation>&quot;%1&quot; è una cartella, non un file di progetto. Per analizzarla, aggiungila con il pulsante +.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <source>The project file &quot;%1&quot; does not exist.</source>
+        <translation>Il file di progetto &quot;%1&quot; non esiste.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
         <source>Save File</source>
         <translation>Salva file</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>I risultati della scansione cloud non possono essere salvati.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="971"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>I risultati della scansione corrente non sono stati salvati. Salvare il file?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="904"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versione %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="922"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>La nuova lingua sarà applicata al prossimo avvio del programma.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="956"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Rilevata chiusura anomala durante l&apos;ultima eliminazione</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="957"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Il programma si è chiuso in modo imprevisto durante l&apos;ultima eliminazione in blocco,&lt;br&gt;forse a causa di un software antivirus.&lt;br&gt;&lt;br&gt;Disattivare temporaneamente l&apos;antivirus o aggiungere questa applicazione&lt;br&gt;al suo elenco di esclusioni per evitare errori di eliminazione o arresti anomali.</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemListDialog</name>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="17"/>
+        <source>Not Scanned</source>
+        <translation>Non analizzato</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="20"/>
+        <source>These items were left out of the scan. Duplicates among them were not looked for.</source>
+        <translation>Questi elementi sono stati esclusi dall&apos;analisi. Tra di essi non sono stati cercati duplicati.</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="35"/>
+        <source>Copy List</source>
+        <translation>Copia elenco</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="57"/>
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... e altri %n</numerusform>
+            <numerusform>... e altri %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -231,42 +378,42 @@
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
         <source>The project file could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file di progetto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
         <source>The project file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file di progetto è danneggiato o incompleto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
         <source>This file is not a project file of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non è un file di progetto di questo programma.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
         <source>The project file contains invalid data and was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file di progetto contiene dati non validi e non è stato aperto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
         <source>None of the duplicate groups in this project exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno dei gruppi di duplicati di questo progetto esiste più.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
         <source>The project file could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare il file di progetto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
         <source>The operation was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;operazione è stata annullata.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
         <source>Unknown error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore sconosciuto.</translation>
     </message>
 </context>
 </TS>

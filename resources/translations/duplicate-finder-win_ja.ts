@@ -42,187 +42,326 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="293"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
         <source>Files scanned</source>
         <translation>スキャンしたファイル</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="294"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
         <source>Duplicates found</source>
         <translation>見つかった重複</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="295"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
         <source>Size of duplicates</source>
         <translation>重複のサイズ</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="296"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
         <source>Progress</source>
         <translation>進行状況</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="297"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
         <source>Elapsed time</source>
         <translation>経過時間</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
         <source>Local Computer</source>
         <translation>ローカルコンピューター</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="358"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
         <source>User Guide</source>
         <translation>ユーザーガイド</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="359"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
         <source>Product FAQ</source>
         <translation>よくある質問</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="360"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
         <source>Feedback and Support</source>
         <translation>フィードバックとサポート</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="361"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
         <source>Check for Updates</source>
         <translation>アップデートを確認</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="362"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="903"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>About</source>
         <translation>バージョン情報</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="363"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
         <source>Language</source>
         <translation>言語</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="375"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
         <source>Show Log in Explorer</source>
         <translation>エクスプローラーでログを表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="377"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
         <source>Open Project</source>
         <translation>プロジェクトを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
         <source>Save Project</source>
         <translation>プロジェクトを保存</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="379"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
         <source>Show Results</source>
         <translation>結果を表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
         <source>Scan</source>
         <translation>スキャン</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
         <source>Stop</source>
         <translation>停止</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="439"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
         <source>Continue</source>
         <translation>続行</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>New Scan</source>
         <translation>新規スキャン</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="450"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
         <source>Show results</source>
         <translation>結果を表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="498"/>
-        <source>folders added</source>
-        <translation>個のフォルダーを追加済み</translation>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
+        <translation>「%1」はファイルであり、フォルダーではありません。スキャンできるのはフォルダーだけです。代わりにそのファイルを含むフォルダーを追加してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="527"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="544"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="598"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="970"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
+        <translation>「%1」が見つかりません。移動または削除された可能性があります。</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <source>%n item(s) were not added because they are not folders:</source>
+        <translation>
+            <numerusform>フォルダーではないため、%n 個の項目を追加しませんでした:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
         <source>Note</source>
         <translation>注意</translation>
     </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <source>%n folder(s) added</source>
+        <translation>
+            <numerusform>%n 個のフォルダーを追加済み</numerusform>
+        </translation>
+    </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="528"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="599"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>クラウドアカウントとフォルダーを追加した後は、ローカルフォルダーを追加できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="532"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
         <source>Select Folder</source>
         <translation>フォルダーを選択</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="545"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>ローカルフォルダーを追加した後は、クラウドアカウントを追加できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="794"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="858"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <source>%1 and %2 could not be read.</source>
+        <translation>%1と%2を読み取れませんでした。</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n folder(s)</source>
+        <translation>
+            <numerusform>%n 個のフォルダー</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n 個のファイル</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <source>%n folder(s) could not be read.</source>
+        <translation>
+            <numerusform>%n 個のフォルダーを読み取れませんでした。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>%n 個のファイルを読み取れませんでした。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <source>Folders that could not be read</source>
+        <translation>読み取れなかったフォルダー</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <source>Files that could not be read</source>
+        <translation>読み取れなかったファイル</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <source>Links not followed because they lead outside the chosen folders</source>
+        <translation>選択したフォルダーの外を指すため、たどらなかったリンク</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <source>System folders not entered</source>
+        <translation>スキャンしなかったシステムフォルダー</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <source>%n link(s) leading outside the chosen folders were not followed.</source>
+        <translation>
+            <numerusform>選択したフォルダーの外を指す %n 個のリンクはたどりませんでした。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <source>The chosen folder could not be read.</source>
+        <translation>選択したフォルダーを読み取れませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <source>The chosen folders could not be read.</source>
+        <translation>選択したフォルダーを読み取れませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <source>Check that it still exists and that you are allowed to open it.</source>
+        <translation>フォルダーがまだ存在し、開く権限があることを確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <source>Check that they still exist and that you are allowed to open them.</source>
+        <translation>フォルダーがまだ存在し、開く権限があることを確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
         <source>Open File</source>
         <translation>ファイルを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="807"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="842"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="875"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="982"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
+        <translation>「%1」はフォルダーであり、プロジェクトファイルではありません。スキャンするには + ボタンで追加してください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <source>The project file &quot;%1&quot; does not exist.</source>
+        <translation>プロジェクトファイル「%1」は存在しません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
         <source>Save File</source>
         <translation>ファイルを保存</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>クラウドドライブのスキャン結果は保存できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="971"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>現在のスキャン結果は保存されていません。ファイルを保存しますか？</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="904"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;バージョン %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="922"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>新しい言語は次回プログラムを起動したときに有効になります。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="956"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>前回の削除中に異常終了を検出しました</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="957"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>前回の一括削除中にプログラムが予期せず終了しました。&lt;br&gt;ウイルス対策ソフトウェアの干渉が原因の可能性があります。&lt;br&gt;&lt;br&gt;削除の失敗やクラッシュを避けるため、ウイルス対策ソフトを一時的に無効にするか、&lt;br&gt;このアプリケーションを許可リストに追加してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemListDialog</name>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="17"/>
+        <source>Not Scanned</source>
+        <translation>スキャンされなかった項目</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="20"/>
+        <source>These items were left out of the scan. Duplicates among them were not looked for.</source>
+        <translation>以下の項目はスキャンの対象外になりました。これらの中では重複を検索していません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="35"/>
+        <source>Copy List</source>
+        <translation>リストをコピー</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="57"/>
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... ほか %n 件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -230,42 +369,42 @@
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
         <source>The project file could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクトファイルを開けませんでした。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
         <source>The project file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクトファイルが破損しているか、不完全です。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
         <source>This file is not a project file of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルはこのプログラムのプロジェクトファイルではありません。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
         <source>The project file contains invalid data and was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクトファイルに無効なデータが含まれているため、開きませんでした。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
         <source>None of the duplicate groups in this project exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプロジェクトの重複グループはもう存在しません。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
         <source>The project file could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクトファイルを保存できませんでした。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
         <source>The operation was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>操作はキャンセルされました。</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
         <source>Unknown error.</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なエラー。</translation>
     </message>
 </context>
 </TS>

@@ -43,187 +43,334 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="293"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
         <source>Files scanned</source>
         <translation>Ficheiros analisados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="294"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
         <source>Duplicates found</source>
         <translation>Duplicados encontrados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="295"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
         <source>Size of duplicates</source>
         <translation>Tamanho dos duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="296"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
         <source>Progress</source>
         <translation>Progresso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="297"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
         <source>Elapsed time</source>
         <translation>Tempo decorrido</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
         <source>Local Computer</source>
         <translation>Computador local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="358"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
         <source>User Guide</source>
         <translation>Guia do utilizador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="359"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
         <source>Product FAQ</source>
         <translation>Perguntas frequentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="360"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
         <source>Feedback and Support</source>
         <translation>Comentários e suporte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="361"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
         <source>Check for Updates</source>
         <translation>Procurar atualizações</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="362"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="903"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="363"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="375"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
         <source>Show Log in Explorer</source>
         <translation>Mostrar registo no explorador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="377"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
         <source>Open Project</source>
         <translation>Abrir projeto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
         <source>Save Project</source>
         <translation>Guardar projeto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="379"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
         <source>Show Results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
         <source>Scan</source>
         <translation>Analisar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
         <source>Stop</source>
         <translation>Parar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="439"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>New Scan</source>
         <translation>Nova análise</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="450"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
         <source>Show results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="498"/>
-        <source>folders added</source>
-        <translation>pastas adicionadas</translation>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
+        <translation>&quot;%1&quot; é um ficheiro, não uma pasta. Só é possível analisar pastas: adicione antes a pasta que o contém.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="527"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="544"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="598"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="970"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
+        <translation>Não foi possível encontrar &quot;%1&quot;. Pode ter sido movido ou removido.</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <source>%n item(s) were not added because they are not folders:</source>
+        <translation>
+            <numerusform>%n item não foi adicionado porque não é uma pasta:</numerusform>
+            <numerusform>%n itens não foram adicionados porque não são pastas:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <source>%n folder(s) added</source>
+        <translation>
+            <numerusform>%n pasta adicionada</numerusform>
+            <numerusform>%n pastas adicionadas</numerusform>
+        </translation>
+    </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="528"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="599"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Depois de adicionar contas e pastas na nuvem, já não é possível adicionar pastas locais.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="532"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
         <source>Select Folder</source>
         <translation>Selecionar pasta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="545"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Depois de adicionar pastas locais, já não é possível adicionar contas na nuvem.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="794"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="858"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <source>%1 and %2 could not be read.</source>
+        <translation>Não foi possível ler %1 e %2.</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n folder(s)</source>
+        <translation>
+            <numerusform>%n pasta</numerusform>
+            <numerusform>%n pastas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n ficheiro</numerusform>
+            <numerusform>%n ficheiros</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <source>%n folder(s) could not be read.</source>
+        <translation>
+            <numerusform>Não foi possível ler %n pasta.</numerusform>
+            <numerusform>Não foi possível ler %n pastas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>Não foi possível ler %n ficheiro.</numerusform>
+            <numerusform>Não foi possível ler %n ficheiros.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <source>Folders that could not be read</source>
+        <translation>Pastas que não foi possível ler</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <source>Files that could not be read</source>
+        <translation>Ficheiros que não foi possível ler</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <source>Links not followed because they lead outside the chosen folders</source>
+        <translation>Ligações não seguidas porque levam para fora das pastas escolhidas</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <source>System folders not entered</source>
+        <translation>Pastas do sistema não percorridas</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <source>%n link(s) leading outside the chosen folders were not followed.</source>
+        <translation>
+            <numerusform>%n ligação para fora das pastas escolhidas não foi seguida.</numerusform>
+            <numerusform>%n ligações para fora das pastas escolhidas não foram seguidas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <source>The chosen folder could not be read.</source>
+        <translation>Não foi possível ler a pasta escolhida.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <source>The chosen folders could not be read.</source>
+        <translation>Não foi possível ler as pastas escolhidas.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <source>Check that it still exists and that you are allowed to open it.</source>
+        <translation>Verifique se ainda existe e se tem permissão para a abrir.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <source>Check that they still exist and that you are allowed to open them.</source>
+        <translation>Verifique se ainda existem e se tem permissão para as abrir.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
         <source>Open File</source>
         <translation>Abrir ficheiro</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="807"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="842"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="875"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="982"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
+        <translation>&quot;%1&quot; é uma pasta, não um ficheiro de projeto. Para a analisar, adicione-a com o botão +.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <source>The project file &quot;%1&quot; does not exist.</source>
+        <translation>O ficheiro de projeto &quot;%1&quot; não existe.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
         <source>Save File</source>
         <translation>Guardar ficheiro</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Os resultados da análise da nuvem não podem ser guardados.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="971"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Os resultados da análise atual não foram guardados. Pretende guardar o ficheiro?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="904"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versão %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="922"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>O novo idioma será aplicado da próxima vez que o programa for iniciado.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="956"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Foi detetado um encerramento anómalo durante a última eliminação</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="957"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>O programa terminou inesperadamente durante a última eliminação em lote,&lt;br&gt;possivelmente devido a interferência do antivírus.&lt;br&gt;&lt;br&gt;Desative temporariamente o antivírus ou adicione esta aplicação&lt;br&gt;à sua lista de permissões para evitar falhas de eliminação ou bloqueios.</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemListDialog</name>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="17"/>
+        <source>Not Scanned</source>
+        <translation>Não analisado</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="20"/>
+        <source>These items were left out of the scan. Duplicates among them were not looked for.</source>
+        <translation>Estes itens ficaram fora da análise. Não foram procurados duplicados entre eles.</translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="35"/>
+        <source>Copy List</source>
+        <translation>Copiar lista</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="57"/>
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... e mais %n</numerusform>
+            <numerusform>... e mais %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -231,42 +378,42 @@
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
         <source>The project file could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir o ficheiro de projeto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
         <source>The project file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>O ficheiro de projeto está danificado ou incompleto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
         <source>This file is not a project file of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ficheiro não é um ficheiro de projeto deste programa.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
         <source>The project file contains invalid data and was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>O ficheiro de projeto contém dados inválidos e não foi aberto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
         <source>None of the duplicate groups in this project exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum dos grupos de duplicados deste projeto existe ainda.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
         <source>The project file could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível guardar o ficheiro de projeto.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
         <source>The operation was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>A operação foi cancelada.</translation>
     </message>
     <message>
         <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
         <source>Unknown error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro desconhecido.</translation>
     </message>
 </context>
 </TS>

@@ -43,187 +43,334 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="293"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
         <source>Files scanned</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="294"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
         <source>Duplicates found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="295"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
         <source>Size of duplicates</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="296"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
         <source>Progress</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="297"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
         <source>Elapsed time</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
         <source>Local Computer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="358"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
         <source>User Guide</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="359"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
         <source>Product FAQ</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="360"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
         <source>Feedback and Support</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="361"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
         <source>Check for Updates</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="362"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="903"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>About</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="363"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
         <source>Language</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="375"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
         <source>Show Log in Explorer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="377"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
         <source>Open Project</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
         <source>Save Project</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="379"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
         <source>Show Results</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
         <source>Scan</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
         <source>Stop</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="439"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
         <source>Continue</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>New Scan</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="450"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
         <source>Show results</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="498"/>
-        <source>folders added</source>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="527"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="544"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="598"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="970"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <source>%n item(s) were not added because they are not folders:</source>
+        <translation>
+            <numerusform>%n item was not added because it is not a folder:</numerusform>
+            <numerusform>%n items were not added because they are not folders:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
         <source>Note</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <source>%n folder(s) added</source>
+        <translation>
+            <numerusform>%n folder added</numerusform>
+            <numerusform>%n folders added</numerusform>
+        </translation>
+    </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="528"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="599"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="532"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
         <source>Select Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="545"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="794"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="858"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <source>%1 and %2 could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n folder(s)</source>
+        <translation>
+            <numerusform>%n folder</numerusform>
+            <numerusform>%n folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <source>%n folder(s) could not be read.</source>
+        <translation>
+            <numerusform>%n folder could not be read.</numerusform>
+            <numerusform>%n folders could not be read.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>%n file could not be read.</numerusform>
+            <numerusform>%n files could not be read.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <source>Folders that could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <source>Files that could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <source>Links not followed because they lead outside the chosen folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <source>System folders not entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <source>%n link(s) leading outside the chosen folders were not followed.</source>
+        <translation>
+            <numerusform>%n link leading outside the chosen folders was not followed.</numerusform>
+            <numerusform>%n links leading outside the chosen folders were not followed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <source>Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <source>The chosen folder could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <source>The chosen folders could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <source>Check that it still exists and that you are allowed to open it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <source>Check that they still exist and that you are allowed to open them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
         <source>Open File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="807"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="842"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="875"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="982"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <source>The project file &quot;%1&quot; does not exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
         <source>Save File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="836"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="971"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="904"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="922"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="956"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="957"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProblemListDialog</name>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="17"/>
+        <source>Not Scanned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="20"/>
+        <source>These items were left out of the scan. Duplicates among them were not looked for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="35"/>
+        <source>Copy List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/widgets/ProblemListDialog.cpp" line="57"/>
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... and %n more</numerusform>
+            <numerusform>... and %n more</numerusform>
+        </translation>
     </message>
 </context>
 <context>

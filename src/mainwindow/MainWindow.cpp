@@ -7,6 +7,7 @@
 #include "app/FeatureReporter.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
+#include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/DailyRunReport.h"
@@ -20,12 +21,14 @@
 #include "results/TImageModel.h"
 #include "widgets/CRotateLabel.h"
 #include "widgets/RoundProgressBar.h"
+#include "widgets/RoundTextButton.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QEventLoop>
@@ -108,10 +111,14 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
     resize(1000, 680);
 
     const QString project = arguments.size() > 1 ? arguments.at(1) : QString();
-    if (!project.isEmpty() && QFileInfo(project).isFile())
+    if (!project.isEmpty() && QFileInfo(project).isFile()) {
         openProject(QFileInfo(project).absoluteFilePath());
-    else
+    } else {
         setStatus(StateReady);
+        // Told once the window is up, so the message has a window to stand on.
+        if (!project.isEmpty())
+            QTimer::singleShot(0, this, [this, project] { explainBadProjectArgument(project); });
+    }
 
     if (DFPreferences::instance()->ignoreListPreferences()->deleteException() == 1)
         QTimer::singleShot(0, this, &MainWindow::showAbnormalExitNotice);
@@ -147,11 +154,31 @@ void MainWindow::buildUi()
     m_pages->addWidget(buildNoResultPage());
     layout->addWidget(m_pages, 1);
 
+    // What the last scan could not read; shown under the scanning and "nothing found"
+    // pages once a scan has ended with something left out.
+    m_labProblems = new QLabel(central);
+    m_labProblems->setObjectName(QStringLiteral("lab_scanProblems"));
+    m_labProblems->setTextFormat(Qt::RichText);
+    m_labProblems->setTextInteractionFlags(
+        Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    // One sentence a line: every sentence fits the narrowest window in all languages, and
+    // a wrapped label would be squeezed to a thin column between the stretches.
+    m_labProblems->setWordWrap(false);
+    m_labProblems->setAlignment(Qt::AlignCenter);
+    m_labProblems->setVisible(false);
+    connect(m_labProblems, &QLabel::linkActivated, this, &MainWindow::showProblemDetails);
+    auto *problemRow = new QHBoxLayout;
+    problemRow->setContentsMargins(40, 0, 40, 6);
+    problemRow->addStretch(1);
+    problemRow->addWidget(m_labProblems);
+    problemRow->addStretch(1);
+    layout->addLayout(problemRow);
+
     auto *bottom = new QFrame(central);
     bottom->setObjectName(QStringLiteral("frame_bottom"));
     auto *bottomLayout = new QHBoxLayout(bottom);
     bottomLayout->setContentsMargins(32, 8, 32, 24);
-    m_btnAdd = new QPushButton(bottom);
+    m_btnAdd = new RoundTextButton(bottom);
     m_btnAdd->setObjectName(QStringLiteral("btnAdd"));
     m_btnAdd->setFixedSize(120, 120);
     m_btnAdd->setIconSize(QSize(120, 120));
@@ -160,12 +187,16 @@ void MainWindow::buildUi()
     m_btnScan->setObjectName(QStringLiteral("btn_scan"));
     m_btnScan->setMinimumSize(160, 44);
     m_btnScan->setCursor(Qt::PointingHandCursor);
-    // A spacer as wide as the scan button keeps the round button in the middle.
-    bottomLayout->addSpacing(160);
-    bottomLayout->addStretch(1);
+    // Two side columns of equal stretch keep the round button in the middle however
+    // wide the translated scan button is.
+    auto *left = new QWidget(bottom);
+    left->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto *right = new QHBoxLayout;
+    right->addStretch(1);
+    right->addWidget(m_btnScan, 0, Qt::AlignVCenter);
+    bottomLayout->addWidget(left, 1);
     bottomLayout->addWidget(m_btnAdd);
-    bottomLayout->addStretch(1);
-    bottomLayout->addWidget(m_btnScan, 0, Qt::AlignVCenter);
+    bottomLayout->addLayout(right, 1);
     layout->addWidget(bottom);
     setCentralWidget(central);
 
@@ -230,6 +261,7 @@ QWidget *MainWindow::buildFolderPage()
     m_pathView->setMouseTracking(true);
     m_pathView->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_pathView->setIconSize(QSize(24, 24));
+    m_pathView->setTextElideMode(Qt::ElideLeft);
     auto *delegate = new CListViewDelegate(m_pathView);
     m_pathView->setItemDelegate(delegate);
     connect(delegate, &CListViewDelegate::deleteItem, this, &MainWindow::deleteSelectPath,
@@ -312,19 +344,27 @@ QWidget *MainWindow::buildNoResultPage()
     auto *page = new QWidget;
     page->setObjectName(QStringLiteral("page_noResults"));
     auto *layout = new QVBoxLayout(page);
-    auto *ring = new QLabel(page);
-    ring->setObjectName(QStringLiteral("lab_noDuplicatesRing"));
-    ring->setPixmap(picture(QStringLiteral("noduplicatesfound_ring_bg.png")));
-    ring->setAlignment(Qt::AlignCenter);
-    auto *text = new QLabel(page);
-    text->setObjectName(QStringLiteral("lab_noDuplicates"));
-    text->setPixmap(picture(LanguageSetup::current().noDuplicatesBackground.isEmpty()
+    m_noResultRing = new QLabel(page);
+    m_noResultRing->setObjectName(QStringLiteral("lab_noDuplicatesRing"));
+    m_noResultRing->setPixmap(picture(QStringLiteral("noduplicatesfound_ring_bg.png")));
+    m_noResultRing->setAlignment(Qt::AlignCenter);
+    m_noResultText = new QLabel(page);
+    m_noResultText->setObjectName(QStringLiteral("lab_noDuplicates"));
+    m_noResultText->setPixmap(picture(LanguageSetup::current().noDuplicatesBackground.isEmpty()
             ? QStringLiteral("noduplicatesfound_bg.png")
             : LanguageSetup::current().noDuplicatesBackground));
-    text->setAlignment(Qt::AlignCenter);
+    m_noResultText->setAlignment(Qt::AlignCenter);
+    // Takes the place of "No duplicate files found" when nothing could be read at all:
+    // an all-clear would then be false.
+    m_labUnreadable = new QLabel(page);
+    m_labUnreadable->setObjectName(QStringLiteral("lab_rootsUnreadable"));
+    m_labUnreadable->setAlignment(Qt::AlignCenter);
+    m_labUnreadable->setWordWrap(true);
+    m_labUnreadable->setVisible(false);
     layout->addStretch(1);
-    layout->addWidget(ring);
-    layout->addWidget(text);
+    layout->addWidget(m_noResultRing);
+    layout->addWidget(m_noResultText);
+    layout->addWidget(m_labUnreadable);
     layout->addStretch(1);
     return page;
 }
@@ -333,6 +373,7 @@ void MainWindow::buildMenus()
 {
     m_addMenu = new QMenu(this);
     m_addMenu->setObjectName(QStringLiteral("menu_add"));
+    m_addMenu->setProperty("iconMenu", true);
     QAction *local
         = m_addMenu->addAction(QIcon(QStringLiteral(":/resource/local.png")), tr("Local Computer"));
     local->setObjectName(QStringLiteral("action_local"));
@@ -424,7 +465,7 @@ void MainWindow::setStatus(int state)
         m_labProgress->setText(QStringLiteral("0.00%"));
         m_labFileNumber->setText(QStringLiteral("0"));
         m_labFindNumber->setText(QStringLiteral("0"));
-        m_labFindSize->setText(QStringLiteral("0M"));
+        m_labFindSize->setText(TImageModel::sizeText(0));
         enableActions({true, true, false, false});
         break;
     case StateScanning:
@@ -479,8 +520,10 @@ bool MainWindow::addFolder(const QString &path)
         return false;
     splog_d(kTag + QStringLiteral("Add a directory :%1").arg(folder));
     m_folders << folder;
-    auto *item = new QStandardItem(QIcon(QStringLiteral(":/resource/folder.png")),
-        info.fileName().isEmpty() ? folder : info.fileName());
+    // The row shows the whole path, elided on the left by the view, so two folders of
+    // one name stay apart and the folder's own name is always visible.
+    auto *item = new QStandardItem(
+        QIcon(QStringLiteral(":/resource/folder.png")), QDir::toNativeSeparators(folder));
     item->setToolTip(QDir::toNativeSeparators(folder));
     item->setData(folder, Qt::UserRole);
     m_pathModel->appendRow(item);
@@ -491,13 +534,50 @@ bool MainWindow::addFolder(const QString &path)
     return true;
 }
 
+void MainWindow::addFolders(const QStringList &paths)
+{
+    const ScanRootList::SortedPaths sorted = ScanRootList::sortPaths(paths);
+    for (const QString &folder : sorted.folders)
+        addFolder(folder);
+    const QStringList refused = sorted.files + sorted.missing;
+    if (refused.isEmpty())
+        return;
+    for (const QString &path : refused)
+        splog_d(kTag + QStringLiteral("Not a folder, not added :%1").arg(path));
+    const auto name = [](const QString &path) { return QDir::toNativeSeparators(path); };
+    QString text;
+    if (refused.size() == 1 && sorted.files.size() == 1)
+        text = tr("\"%1\" is a file, not a folder. Only folders can be scanned: add the "
+                  "folder that holds it instead.")
+                   .arg(name(refused.first()));
+    else if (refused.size() == 1)
+        text = tr("\"%1\" could not be found. It may have been moved or removed.")
+                   .arg(name(refused.first()));
+    else
+        text = tr("%n item(s) were not added because they are not folders:", nullptr,
+            int(refused.size()));
+    QMessageBox box(QMessageBox::Information, tr("Note"), text, QMessageBox::Ok, this);
+    box.setObjectName(QStringLiteral("box_notFolders"));
+    if (refused.size() > 1) {
+        // The names go in the box itself when they are few; a long drop lists them all
+        // in the details, so the box stays on the screen.
+        constexpr int kShown = 5;
+        QStringList lines;
+        for (int i = 0; i < std::min<int>(kShown, int(refused.size())); ++i)
+            lines << name(refused.at(i));
+        box.setInformativeText(lines.join(QLatin1Char('\n')));
+        if (refused.size() > kShown)
+            box.setDetailedText(QStringList(refused).join(QLatin1Char('\n')));
+    }
+    box.exec();
+}
+
 void MainWindow::refreshCountLabel()
 {
     if (m_cloudMode)
         m_labNumber->setText(m_cloudAccount);
     else
-        m_labNumber->setText(
-            QStringLiteral("%1 %2").arg(m_folders.size()).arg(tr("folders added")));
+        m_labNumber->setText(tr("%n folder(s) added", nullptr, int(m_folders.size())));
 }
 
 void MainWindow::updateFolderPageView()
@@ -535,7 +615,7 @@ void MainWindow::on_local_menu_add_clicked()
     if (folder.isEmpty())
         return;
     m_cloudMode = false;
-    addFolder(folder);
+    addFolders({folder});
 }
 
 void MainWindow::on_cloud_menu_clicked()
@@ -615,9 +695,10 @@ void MainWindow::dropEvent(QDropEvent *event)
         return;
     }
     m_cloudMode = false;
-    for (const QString &folder : ScanRootList::droppedFolders(event->mimeData()))
-        addFolder(folder);
+    const QStringList paths = ScanRootList::droppedPaths(event->mimeData());
     event->acceptProposedAction();
+    // A message box inside the drop would hold the file manager's drag open.
+    QTimer::singleShot(0, this, [this, paths] { addFolders(paths); });
 }
 
 // ----------------------------------------------------------------------------- scanning
@@ -655,6 +736,8 @@ void MainWindow::on_btnAdd_clicked()
         m_cloudMode = false;
         m_projectPath.clear();
         m_resultKind = ResultsFound;
+        m_localScan = false;
+        clearScanProblems();
         m_labFindTime->setText(QStringLiteral("00:00:00"));
         m_cloudInteger = 20;
         m_pathModel->removeRows(0, m_pathModel->rowCount());
@@ -677,6 +760,8 @@ void MainWindow::on_btn_scan_clicked()
         // The cloud source starts its own traversal once it is wired in.
         if (m_cloudFolders.isEmpty())
             return;
+        m_localScan = false;
+        clearScanProblems();
         m_pages->setCurrentIndex(1);
         setStatus(StateScanning);
         emit cloudScanRequested(m_cloudFolders, m_cloudInteger);
@@ -690,6 +775,8 @@ void MainWindow::on_btn_scan_clicked()
 void MainWindow::startLocalScan()
 {
     m_lastScanRoots = ScanRootList::pruneNested(m_folders);
+    m_localScan = true;
+    clearScanProblems();
     m_projectPath.clear();
     m_resultKind = ResultsFound;
     m_filesScanned = 0;
@@ -697,7 +784,7 @@ void MainWindow::startLocalScan()
     m_labProgress->setText(QStringLiteral("0.00%"));
     m_labFileNumber->setText(QStringLiteral("0"));
     m_labFindNumber->setText(QStringLiteral("0"));
-    m_labFindSize->setText(QStringLiteral("0M"));
+    m_labFindSize->setText(TImageModel::sizeText(0));
     m_labFindTime->setText(QStringLiteral("00:00:00"));
     m_pages->setCurrentIndex(1);
     setStatus(StateScanning);
@@ -728,6 +815,96 @@ void MainWindow::onUpdateTimer(const QString &time)
     m_labFindTime->setText(time);
 }
 
+QString MainWindow::unreadableText(qint64 folders, qint64 files)
+{
+    // Counts past two thousand million are not expected; tr's %n takes an int.
+    const int f = int(std::min<qint64>(folders, INT_MAX));
+    const int n = int(std::min<qint64>(files, INT_MAX));
+    if (f > 0 && n > 0)
+        return tr("%1 and %2 could not be read.")
+            .arg(tr("%n folder(s)", nullptr, f), tr("%n file(s)", nullptr, n));
+    if (f > 0)
+        return tr("%n folder(s) could not be read.", nullptr, f);
+    if (n > 0)
+        return tr("%n file(s) could not be read.", nullptr, n);
+    return QString();
+}
+
+void MainWindow::clearScanProblems()
+{
+    m_problemSections.clear();
+    m_labProblems->clear();
+    m_labProblems->setVisible(false);
+    m_noResultRing->setPixmap(picture(QStringLiteral("noduplicatesfound_ring_bg.png")));
+    m_noResultText->setVisible(true);
+    m_labUnreadable->setVisible(false);
+}
+
+void MainWindow::showScanProblems(const ScanProblems &problems)
+{
+    clearScanProblems();
+    const auto section = [&problems](const QString &title, ScanProblems::Kind kind) {
+        return ProblemListDialog::Section {title, problems.count(kind), problems.paths(kind)};
+    };
+    m_problemSections = {
+        section(tr("Folders that could not be read"), ScanProblems::UnreadableFolder),
+        section(tr("Files that could not be read"), ScanProblems::UnreadableFile),
+        section(tr("Links not followed because they lead outside the chosen folders"),
+            ScanProblems::LinkOutsideRoots),
+        section(tr("System folders not entered"), ScanProblems::PseudoFileSystem),
+    };
+    QStringList sentences;
+    const QString unreadable = unreadableText(problems.count(ScanProblems::UnreadableFolder),
+        problems.count(ScanProblems::UnreadableFile));
+    if (!unreadable.isEmpty())
+        sentences << unreadable;
+    if (const qint64 links = problems.count(ScanProblems::LinkOutsideRoots))
+        sentences << tr("%n link(s) leading outside the chosen folders were not followed.", nullptr,
+            int(std::min<qint64>(links, INT_MAX)));
+    if (!sentences.isEmpty()) {
+        for (QString &sentence : sentences)
+            sentence = sentence.toHtmlEscaped();
+        m_labProblems->setText(
+            QStringLiteral("%1 &nbsp;<a href=\"details\" style=\"color:#2f6fae;\">%2</a>")
+                .arg(sentences.join(QStringLiteral("<br>")), tr("Details").toHtmlEscaped()));
+        m_labProblems->setVisible(true);
+    }
+    if (problems.allRootsUnreadable()) {
+        const bool one = problems.unreadableRoots() == 1;
+        m_noResultRing->setPixmap(picture(QStringLiteral("unreadable_ring_bg.png")));
+        m_noResultText->setVisible(false);
+        m_labUnreadable->setText(
+            QStringLiteral("<b>%1</b><br>%2")
+                .arg((one ? tr("The chosen folder could not be read.")
+                          : tr("The chosen folders could not be read."))
+                         .toHtmlEscaped(),
+                    (one ? tr("Check that it still exists and that you are allowed to open it.")
+                         : tr("Check that they still exist and that you are allowed to open them."))
+                        .toHtmlEscaped()));
+        m_labUnreadable->setVisible(true);
+        splog_d(kTag + QStringLiteral("No root of the scan could be read."));
+    }
+}
+
+void MainWindow::showProblemDetails()
+{
+    auto *dialog = new ProblemListDialog(m_problemSections, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void MainWindow::explainBadProjectArgument(const QString &path)
+{
+    const QFileInfo info(path);
+    splog_d(kTag + QStringLiteral("Project argument is not a file: %1").arg(path));
+    const QString shown = QDir::toNativeSeparators(info.absoluteFilePath());
+    QMessageBox::warning(this, tr("Open File"),
+        info.isDir() ? tr("\"%1\" is a folder, not a project file. To scan it, add it "
+                          "with the + button.")
+                           .arg(shown)
+                     : tr("The project file \"%1\" does not exist.").arg(shown));
+}
+
 bool MainWindow::hasResults() const
 {
     return !TFileData::instance()->isEmpty();
@@ -747,6 +924,10 @@ void MainWindow::allThreadComplate()
         m_pages->setCurrentIndex(2);
         m_btnScan->setEnabled(false);
     }
+    if (m_localScan)
+        showScanProblems(TControlUI::instance()->problems());
+    else
+        clearScanProblems();
 }
 
 void MainWindow::allCloudThreadComplated(bool isAbort)
@@ -795,6 +976,8 @@ void MainWindow::onResultWindowClose(bool update)
 void MainWindow::openProject(const QString &path)
 {
     m_showResultsWhenDone = true;
+    m_localScan = false;
+    clearScanProblems();
     rememberProjectFolder(path);
     setStatus(StateOpening);
     splog_d(kTag + QStringLiteral("Open project: %1").arg(path));

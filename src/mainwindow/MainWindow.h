@@ -2,6 +2,7 @@
 #pragma once
 
 #include "results/GroupListPage.h"
+#include "widgets/ProblemListDialog.h"
 
 #include <QMainWindow>
 #include <QModelIndexList>
@@ -20,6 +21,7 @@ class QPushButton;
 class QStackedWidget;
 class QStandardItemModel;
 class RoundProgressBar;
+class ScanProblems;
 class TOpenSaveThread;
 
 // The program's single window: collects the folders, starts and stops the scan through
@@ -58,6 +60,15 @@ public:
 
     // Adds one folder to the list; false when it is already listed or not a folder.
     bool addFolder(const QString &path);
+    // Adds the folders among paths given where folders are expected (a drop, the folder
+    // chooser) and tells the user, in one message, which of them are files or missing.
+    void addFolders(const QStringList &paths);
+    // Shows on the finished pages what a scan could not read or did not follow; with
+    // every root unreadable the "nothing found" page turns into a warning.
+    void showScanProblems(const ScanProblems &problems);
+    // "3 folders and 1 file could not be read" in the current language; empty when both
+    // counts are 0.
+    static QString unreadableText(qint64 folders, qint64 files);
     void setStatus(int state);
     // The cloud account and folders chosen by the cloud source; local folders exclude them.
     void setCloudSelection(const QString &account, const QStringList &folders);
@@ -89,6 +100,8 @@ public slots:
     void retranslate();
     void setTitle();
     void onTimeout();
+    // Opens the list of the paths the last scan could not read or did not follow.
+    void showProblemDetails();
 
 signals:
     void stopTask();
@@ -132,6 +145,9 @@ private:
     void openProjectFromMenu();
     bool hasResults() const;
     void showAbnormalExitNotice();
+    void clearScanProblems();
+    // The one optional argument names something that is not a project file.
+    void explainBadProjectArgument(const QString &path);
 
     int m_state = StateReady;
     int m_resultKind = ResultsFound;
@@ -145,6 +161,10 @@ private:
     QString m_projectPath;
     qint64 m_filesScanned = 0;
     QString m_elapsed = QStringLiteral("00:00:00");
+    // Set while the finished pages belong to a local scan started here: only then do the
+    // controller's scan problems describe what is shown (not after a project or cloud scan).
+    bool m_localScan = false;
+    QList<ProblemListDialog::Section> m_problemSections;
 
     QFrame *m_titleFrame = nullptr;
     QLabel *m_title = nullptr;
@@ -161,6 +181,10 @@ private:
     QLabel *m_labFindSize = nullptr;
     QLabel *m_labProgress = nullptr;
     QLabel *m_labFindTime = nullptr;
+    QLabel *m_labProblems = nullptr;
+    QLabel *m_noResultRing = nullptr;
+    QLabel *m_noResultText = nullptr;
+    QLabel *m_labUnreadable = nullptr;
     QPushButton *m_btnAdd = nullptr;
     QPushButton *m_btnScan = nullptr;
     QPushButton *m_btnSet = nullptr;

@@ -8,24 +8,41 @@
 
 namespace ScanRootList {
 
+SortedPaths sortPaths(const QStringList &paths)
+{
+    SortedPaths sorted;
+    for (const QString &path : paths) {
+        const QFileInfo info(path);
+        if (info.isDir())
+            sorted.folders << QDir::cleanPath(info.absoluteFilePath());
+        else if (info.exists())
+            sorted.files << path;
+        else
+            sorted.missing << path;
+    }
+    return sorted;
+}
+
+QStringList droppedPaths(const QMimeData *data)
+{
+    QStringList paths;
+    if (!data || !data->hasUrls())
+        return paths;
+    for (const QUrl &url : data->urls())
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    return paths;
+}
+
 QStringList droppedFolders(const QMimeData *data)
 {
-    QStringList folders;
-    if (!data || !data->hasUrls())
-        return folders;
-    for (const QUrl &url : data->urls()) {
-        if (!url.isLocalFile())
-            continue;
-        const QFileInfo info(url.toLocalFile());
-        if (info.exists() && info.isDir())
-            folders << QDir::cleanPath(info.absoluteFilePath());
-    }
-    return folders;
+    return sortPaths(droppedPaths(data)).folders;
 }
 
 bool acceptsDrag(const QMimeData *data)
 {
-    return !droppedFolders(data).isEmpty();
+    const SortedPaths sorted = sortPaths(droppedPaths(data));
+    return !sorted.folders.isEmpty() || !sorted.files.isEmpty();
 }
 
 bool isAncestor(const QString &ancestor, const QString &path)

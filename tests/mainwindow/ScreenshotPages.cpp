@@ -1,24 +1,146 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Saves a picture of each page of the main window into the folder given as argument.
-// Run it through tools/screenshots.sh (under Xvfb) to look at the real rendering.
+// Saves pictures of the main window's pages into the folder given as argument, in every
+// language of the program and at two window sizes, and one strip of the round button's
+// captions in all languages. Run it through tools/screenshots.sh (under Xvfb) to look at
+// the real rendering.
+#include "app/LanguageSetup.h"
+#include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
+#include "widgets/ProblemListDialog.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
-static void save(QWidget *widget, const QString &folder, const QString &name)
+namespace {
+
+struct Language
 {
-    QTest::qWait(150);
+    int index;
+    const char *code;
+};
+const Language kLanguages[]
+    = {{1, "en"}, {5, "de"}, {6, "es"}, {2, "fr"}, {4, "it"}, {3, "pt"}, {7, "ja"}};
+const QSize kSizes[] = {QSize(1366, 768), QSize(1920, 1080)};
+
+void save(QWidget *widget, const QString &folder, const QString &name)
+{
+    QTest::qWait(120);
     widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
 }
+
+void useLanguage(int index)
+{
+    QCoreApplication::removeTranslator(&LanguageSetup::appTranslator());
+    QCoreApplication::removeTranslator(&LanguageSetup::qtTranslator());
+    LanguageSetup::setupLanguage(index);
+    QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
+    QCoreApplication::installTranslator(&LanguageSetup::qtTranslator());
+}
+
+// A scan that met every kind of problem, with more unreadable files than it keeps.
+void fillProblems(ScanProblems &problems, const QString &root)
+{
+    problems.clear(3);
+    problems.add(ScanProblems::UnreadableFolder, root + QStringLiteral("/Photos/private"));
+    problems.add(ScanProblems::UnreadableFolder, root + QStringLiteral("/Documents/.cache/locked"));
+    for (int i = 0; i < 1200; ++i)
+        problems.add(ScanProblems::UnreadableFile,
+            root + QStringLiteral("/Music archive/side %1/track %2.flac").arg(i / 12).arg(i % 12));
+    problems.add(ScanProblems::LinkOutsideRoots, root + QStringLiteral("/Documents/shared link"));
+    problems.add(ScanProblems::PseudoFileSystem, QStringLiteral("/proc"));
+}
+
+void shootLanguage(const Language &language, const QSize &size, const QString &root,
+    const QString &out, QImage *buttonStrip, int column)
+{
+    const QString prefix = QStringLiteral("%1-%2x%3-")
+                               .arg(QLatin1String(language.code))
+                               .arg(size.width())
+                               .arg(size.height());
+    MainWindow window({QStringLiteral("program")});
+    window.resize(size);
+    window.show();
+    (void)QTest::qWaitForWindowExposed(&window);
+    save(&window, out, prefix + QStringLiteral("1-folders-empty"));
+
+    for (const char *name : {"Photos", "Documents", "Music archive"})
+        window.addFolder(QDir(root).filePath(QString::fromLatin1(name)));
+    window.addFolder(QDir(root).filePath(QStringLiteral(
+        "Archive of the family pictures taken between 1998 and 2012/Holidays in the mountains")));
+    save(&window, out, prefix + QStringLiteral("2-folders-added"));
+
+    auto *pages = window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    pages->setCurrentIndex(1);
+    window.setStatus(MainWindow::StateScanning);
+    window.filesCountChange(0);
+    window.onItemFound(0, 0);
+    window.onProcessChange(0);
+    save(&window, out, prefix + QStringLiteral("3-scanning-start"));
+    window.filesCountChange(48211);
+    window.onProcessChange(62.5);
+    window.onItemFound(1375, qint64(3) * 1024 * 1024 * 1024 + 400 * 1024 * 1024);
+    window.onUpdateTimer(QStringLiteral("00:01:37"));
+    save(&window, out, prefix + QStringLiteral("4-scanning"));
+
+    // The scanning page in its finished state, with what the scan could not read.
+    ScanProblems problems;
+    fillProblems(problems, root);
+    window.onProcessChange(100);
+    window.setStatus(MainWindow::StateFinished);
+    window.showScanProblems(problems);
+    save(&window, out, prefix + QStringLiteral("5-finished-problems"));
+    auto *button = window.findChild<QPushButton *>(QStringLiteral("btnAdd"));
+    if (buttonStrip) {
+        // Taken from the window, so the round face shows on the page behind it.
+        QPainter painter(buttonStrip);
+        painter.drawPixmap(column * 140 + 10, 10,
+            window.grab(QRect(button->mapTo(&window, QPoint()), button->size())));
+        painter.drawText(
+            QRect(column * 140, 135, 140, 20), Qt::AlignCenter, QString::fromLatin1(language.code));
+    }
+
+    // Nothing found: the way a real scan ends without groups.
+    TFileData::instance()->clear();
+    window.allThreadComplate();
+    save(&window, out, prefix + QStringLiteral("6-no-duplicates"));
+    window.showScanProblems(problems);
+    save(&window, out, prefix + QStringLiteral("6-no-duplicates-problems"));
+
+    ScanProblems unreadable;
+    unreadable.clear(1);
+    unreadable.addUnreadableRoot(root + QStringLiteral("/Photos"));
+    window.showScanProblems(unreadable);
+    save(&window, out, prefix + QStringLiteral("7-roots-unreadable"));
+
+    if (size == kSizes[0]) {
+        window.showScanProblems(problems);
+        window.showProblemDetails();
+        QTest::qWait(200);
+        if (auto *dialog = window.findChild<ProblemListDialog *>()) {
+            save(dialog, out, prefix + QStringLiteral("8-problem-details"));
+            dialog->close();
+        }
+        window.systemMenu()->popup(window.mapToGlobal(QPoint(600, 48)));
+        QTest::qWait(200);
+        save(window.systemMenu(), out, prefix + QStringLiteral("9-system-menu"));
+        window.systemMenu()->hide();
+        window.addMenu()->popup(window.mapToGlobal(QPoint(400, 500)));
+        QTest::qWait(200);
+        save(window.addMenu(), out, prefix + QStringLiteral("9-add-menu"));
+        window.addMenu()->hide();
+    }
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -29,41 +151,27 @@ int main(int argc, char *argv[])
         app.setStyleSheet(QString::fromUtf8(style.readAll()));
 
     QTemporaryDir tree;
-    for (const char *name : {"Photos", "Documents", "Music archive"})
+    for (const char *name : {"Photos", "Documents", "Music archive",
+             "Archive of the family pictures taken between 1998 and 2012/Holidays in the "
+             "mountains"})
         QDir(tree.path()).mkpath(QString::fromLatin1(name));
 
-    MainWindow window({QStringLiteral("program")});
-    window.show();
-    QTest::qWaitForWindowExposed(&window);
-    save(&window, out, QStringLiteral("1-folders-empty"));
-
-    for (const char *name : {"Photos", "Documents", "Music archive"})
-        window.addFolder(QDir(tree.path()).filePath(QString::fromLatin1(name)));
-    save(&window, out, QStringLiteral("2-folders-added"));
-
-    auto *pages = window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
-    pages->setCurrentIndex(1);
-    window.setStatus(MainWindow::StateScanning);
-    window.filesCountChange(48211);
-    window.onProcessChange(62.5);
-    window.onItemFound(1375, qint64(3) * 1024 * 1024 * 1024 + 400 * 1024 * 1024);
-    window.onUpdateTimer(QStringLiteral("00:01:37"));
-    save(&window, out, QStringLiteral("3-scanning"));
-
-    pages->setCurrentIndex(2);
-    window.setStatus(MainWindow::StateFinished);
-    save(&window, out, QStringLiteral("4-no-duplicates"));
-
-    window.systemMenu()->popup(window.mapToGlobal(QPoint(600, 48)));
-    QTest::qWait(200);
-    save(window.systemMenu(), out, QStringLiteral("5-system-menu"));
-    window.systemMenu()->hide();
-    window.addMenu()->popup(window.mapToGlobal(QPoint(400, 500)));
-    QTest::qWait(200);
-    save(window.addMenu(), out, QStringLiteral("6-add-menu"));
-    window.addMenu()->hide();
+    const int count = int(std::size(kLanguages));
+    QImage strip(count * 140, 160, QImage::Format_ARGB32);
+    strip.fill(QColor(246, 247, 251));
+    for (int i = 0; i < count; ++i) {
+        useLanguage(kLanguages[i].index);
+        for (const QSize &size : kSizes)
+            shootLanguage(
+                kLanguages[i], size, tree.path(), out, size == kSizes[0] ? &strip : nullptr, i);
+    }
+    strip.save(QDir(out).filePath(QStringLiteral("round-button-all-languages.png")));
 
     // A finished scan with results opens the group list.
+    useLanguage(1);
+    MainWindow window({QStringLiteral("program")});
+    window.show();
+    (void)QTest::qWaitForWindowExposed(&window);
     const QString a = QDir(tree.path()).filePath(QStringLiteral("Photos/beach.jpg"));
     const QString b = QDir(tree.path()).filePath(QStringLiteral("Documents/beach.jpg"));
     for (const QString &path : {a, b}) {
@@ -74,7 +182,7 @@ int main(int argc, char *argv[])
     TFileData::instance()->insertGroup(TFileData::groupKey(a), {a, b});
     window.allThreadComplate();
     if (window.resultPage())
-        save(window.resultPage(), out, QStringLiteral("7-results"));
+        save(window.resultPage(), out, QStringLiteral("results"));
     TFileData::instance()->clear();
     return 0;
 }

@@ -1,15 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TestEnvironment.h"
 #include "app/DataDirectory.h"
+#include "app/LanguageSetup.h"
 #include "app/TLogger.h"
+#include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
+#include "widgets/ProblemListDialog.h"
+#include "widgets/RoundTextButton.h"
+
+#include <unistd.h>
 
 #include <QAction>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -25,6 +32,28 @@
 #include <QUrl>
 
 static TestEnvironment environment;
+
+// Answers every message box that comes up while it lives and notes its title and text.
+class MessageBoxCatcher : public QObject
+{
+public:
+    MessageBoxCatcher()
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                titles << box->windowTitle();
+                texts << box->text();
+                box->accept();
+            }
+        });
+        m_timer.start(20);
+    }
+    QStringList titles;
+    QStringList texts;
+
+private:
+    QTimer m_timer;
+};
 
 class tst_MainWindow : public QObject
 {
@@ -42,6 +71,15 @@ private slots:
     void stopDuringScan();
     void noDuplicatesPage();
     void projectFromCommandLine();
+    void projectArgumentNotAFile_data();
+    void projectArgumentNotAFile();
+    void unreadableText_data();
+    void unreadableText();
+    void problemLineAndDetails();
+    void unreadableRootIsNoAllClear_data();
+    void unreadableRootIsNoAllClear();
+    void roundButtonFitsEveryLanguage_data();
+    void roundButtonFitsEveryLanguage();
     void abnormalExitNoticeOnce();
     void cloudAndLocalExclusive();
 
@@ -87,6 +125,9 @@ QString tst_MainWindow::todaysLog() const
 void tst_MainWindow::initTestCase()
 {
     initLogger(DataDirectory::base());
+    // English texts come from the catalogue as in the program: it holds the plural forms.
+    LanguageSetup::setupLanguage(1);
+    QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
     // A small tree: three copies of one file, two of another, and unique files.
     makeFile(QStringLiteral("a/one.bin"), QByteArray(5000, 'a'));
     makeFile(QStringLiteral("a/sub/one-copy.bin"), QByteArray(5000, 'a'));
@@ -153,7 +194,7 @@ void tst_MainWindow::statesAndButtonTexts()
         QCOMPARE(stateActions.at(i)->isEnabled(), actions.at(i));
     if (state == 1) {
         QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("0.00%"));
-        QCOMPARE(child<QLabel>("lab_findSize")->text(), QStringLiteral("0M"));
+        QCOMPARE(child<QLabel>("lab_findSize")->text(), QStringLiteral("0 B"));
     }
     if (state == 4)
         QCOMPARE(scan->text(), QStringLiteral("Show results"));
@@ -167,7 +208,8 @@ void tst_MainWindow::dragEnter_data()
     QTest::addColumn<int>("state");
     QTest::addColumn<bool>("accepted");
     QTest::newRow("a folder") << QStringList {"a"} << 1 << true;
-    QTest::newRow("files only") << QStringList {"a/one.bin", "b/two.txt"} << 1 << false;
+    // Files are let in so that the drop can say why they are not added.
+    QTest::newRow("files only") << QStringList {"a/one.bin", "b/two.txt"} << 1 << true;
     QTest::newRow("a file and a folder") << QStringList {"b/two.txt", "b"} << 1 << true;
     QTest::newRow("a folder while scanning") << QStringList {"a"} << 2 << false;
     QTest::newRow("a missing folder") << QStringList {"nowhere"} << 1 << false;
@@ -193,14 +235,34 @@ void tst_MainWindow::dragEnter()
 
 void tst_MainWindow::dropAddsFoldersOnce()
 {
+    MessageBoxCatcher boxes;
+    QMimeData single;
+    single.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
+    dropOnWindow(&single);
+    QTRY_COMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("1 folder added"));
+    QVERIFY(boxes.texts.isEmpty());
+
+    // A file among the folders is not added, and the user is told why.
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a")),
         QUrl::fromLocalFile(m_tree.filePath("b/two.txt")),
         QUrl::fromLocalFile(m_tree.filePath("a/sub")), QUrl::fromLocalFile(m_tree.filePath("a"))});
     dropOnWindow(&data);
+    QTRY_COMPARE(boxes.texts.size(), 1);
+    QCOMPARE(boxes.texts.first(),
+        QStringLiteral("\"%1\" is a file, not a folder. Only folders can be scanned: add the "
+                       "folder that holds it instead.")
+            .arg(m_tree.filePath("b/two.txt")));
     QCOMPARE(m_window->folders(), QStringList({m_tree.filePath("a"), m_tree.filePath("a/sub")}));
     QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("2 folders added"));
     QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
+
+    // Several at once: one message that counts them.
+    m_window->addFolders({m_tree.filePath("a/one.bin"), m_tree.filePath("nowhere")});
+    QCOMPARE(boxes.texts.size(), 2);
+    QCOMPARE(
+        boxes.texts.last(), QStringLiteral("2 items were not added because they are not folders:"));
+    QCOMPARE(m_window->folders().size(), 2);
 }
 
 void tst_MainWindow::scanThroughButtons()
@@ -305,20 +367,187 @@ void tst_MainWindow::projectFromCommandLine()
     TFileData::instance()->clear();
 }
 
+void tst_MainWindow::projectArgumentNotAFile_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("missing file") << "missing.dupproj"
+                                  << "The project file \"%1\" does not exist.";
+    QTest::newRow("a folder") << "a"
+                              << "\"%1\" is a folder, not a project file. To scan it, add it "
+                                 "with the + button.";
+}
+
+void tst_MainWindow::projectArgumentNotAFile()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, message);
+    MessageBoxCatcher boxes;
+    MainWindow window({QStringLiteral("program"), m_tree.filePath(argument)});
+    window.show();
+    QTRY_COMPARE(boxes.texts.size(), 1);
+    QCOMPARE(boxes.texts.first(), message.arg(m_tree.filePath(argument)));
+    QCOMPARE(boxes.titles.first(), QStringLiteral("Open File"));
+    QCOMPARE(window.state(), 1);
+    QVERIFY(window.projectPath().isEmpty());
+}
+
+void tst_MainWindow::unreadableText_data()
+{
+    QTest::addColumn<int>("folders");
+    QTest::addColumn<int>("files");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("everything read") << 0 << 0 << QString();
+    QTest::newRow("one folder") << 1 << 0 << "1 folder could not be read.";
+    QTest::newRow("folders") << 4 << 0 << "4 folders could not be read.";
+    QTest::newRow("one file") << 0 << 1 << "1 file could not be read.";
+    QTest::newRow("both, singular and plural")
+        << 3 << 1 << "3 folders and 1 file could not be read.";
+    QTest::newRow("both, plural and singular")
+        << 1 << 12 << "1 folder and 12 files could not be read.";
+}
+
+void tst_MainWindow::unreadableText()
+{
+    QFETCH(int, folders);
+    QFETCH(int, files);
+    QFETCH(QString, text);
+    QCOMPARE(MainWindow::unreadableText(folders, files), text);
+}
+
+void tst_MainWindow::problemLineAndDetails()
+{
+    auto *line = child<QLabel>("lab_scanProblems");
+    QVERIFY(line && !line->isVisible());
+    ScanProblems problems;
+    problems.clear(2);
+    problems.add(ScanProblems::UnreadableFolder, m_tree.filePath("a/locked"));
+    for (int i = 0; i < ScanProblems::kKeptPaths + 5; ++i)
+        problems.add(ScanProblems::UnreadableFile, m_tree.filePath("b/f%1").arg(i));
+    problems.add(ScanProblems::LinkOutsideRoots, m_tree.filePath("b/elsewhere"));
+    m_window->setStatus(4);
+    m_window->showScanProblems(problems);
+    QVERIFY(line->isVisible());
+    QVERIFY2(line->text().contains(QStringLiteral("1 folder and 1005 files could not be read.")),
+        qPrintable(line->text()));
+    QVERIFY(line->text().contains(
+        QStringLiteral("1 link leading outside the chosen folders was not followed.")));
+    // Some roots were read: "nothing found" stays an all-clear.
+    auto *warning = child<QLabel>("lab_rootsUnreadable");
+    auto *allClear = child<QLabel>("lab_noDuplicates");
+    QVERIFY(warning->isHidden() && !allClear->isHidden());
+    ScanProblems none;
+    none.clear(1);
+    none.addUnreadableRoot(m_tree.filePath("gone"));
+    m_window->showScanProblems(none);
+    QVERIFY(!warning->isHidden() && allClear->isHidden());
+    QVERIFY(warning->text().contains(QStringLiteral("The chosen folder could not be read.")));
+    m_window->showScanProblems(problems);
+    QVERIFY(warning->isHidden() && !allClear->isHidden());
+
+    emit line->linkActivated(QStringLiteral("details"));
+    auto *dialog = m_window->findChild<ProblemListDialog *>();
+    QVERIFY(dialog);
+    const QString list = dialog->text();
+    QVERIFY(list.contains(
+        QStringLiteral("Folders that could not be read (1)\n    ") + m_tree.filePath("a/locked")));
+    QVERIFY(list.contains(QStringLiteral("Files that could not be read (1005)")));
+    QVERIFY(list.contains(QStringLiteral("... and 5 more")));
+    QVERIFY(list.contains(m_tree.filePath("b/elsewhere")));
+    dialog->copyAll();
+    QCOMPARE(QApplication::clipboard()->text(), list);
+    dialog->close();
+
+    // A new scan starts without the old problems.
+    TControlUI::instance()->setProjectPath(QStringLiteral("saved"));
+    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+    QCOMPARE(m_window->state(), 1);
+    QVERIFY(!line->isVisible());
+}
+
+void tst_MainWindow::unreadableRootIsNoAllClear_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("folder removed after it was added") << "removed";
+    QTest::newRow("folder without permissions") << "chmod";
+}
+
+void tst_MainWindow::unreadableRootIsNoAllClear()
+{
+    QFETCH(QString, how);
+    const QString root = m_tree.filePath("closed");
+    QDir().mkpath(root);
+    makeFile(QStringLiteral("closed/x.txt"), "x");
+    QVERIFY(m_window->addFolder(root));
+    if (how == QLatin1String("removed")) {
+        QDir(root).removeRecursively();
+    } else {
+        QFile::setPermissions(root, QFileDevice::Permissions());
+        if (::access(QFile::encodeName(root).constData(), R_OK | X_OK) == 0) {
+            QFile::setPermissions(
+                root, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+            QDir(root).removeRecursively();
+            QSKIP("this user reads folders without permission (root)");
+        }
+    }
+    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    QVERIFY(done.wait(30000));
+    QFile::setPermissions(
+        root, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QDir(root).removeRecursively();
+    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 2);
+    if (!TControlUI::instance()->problems().allRootsUnreadable())
+        QSKIP("the scanner of this build does not report unreadable roots");
+    auto *warning = child<QLabel>("lab_rootsUnreadable");
+    QVERIFY(warning->isVisible());
+    QVERIFY(warning->text().contains(QStringLiteral("The chosen folder could not be read.")));
+    QVERIFY(!child<QLabel>("lab_noDuplicates")->isVisible());
+    QVERIFY(child<QLabel>("lab_scanProblems")
+                ->text()
+                .contains(QStringLiteral("1 folder could not be read.")));
+}
+
+void tst_MainWindow::roundButtonFitsEveryLanguage_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::newRow("English") << 1;
+    QTest::newRow("French") << 2;
+    QTest::newRow("Portuguese") << 3;
+    QTest::newRow("Italian") << 4;
+    QTest::newRow("German") << 5;
+    QTest::newRow("Spanish") << 6;
+    QTest::newRow("Japanese") << 7;
+}
+
+void tst_MainWindow::roundButtonFitsEveryLanguage()
+{
+    QFETCH(int, language);
+    QFile style(QStringLiteral(":resource/Style.qss"));
+    QVERIFY(style.open(QIODevice::ReadOnly));
+    qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
+    LanguageSetup::setupLanguage(language);
+    auto *button = qobject_cast<RoundTextButton *>(child<QPushButton>("btnAdd"));
+    QVERIFY(button);
+    // The styled size, not the default one, is the size that has to fit.
+    QCOMPARE(button->font().pixelSize(), 18);
+    for (int state : {2, 4}) {
+        m_window->setStatus(state);
+        QVERIFY2(button->captionFits(), qPrintable(button->text()));
+        // Only a space may break a caption: no word is split.
+        const QString lines = button->captionLines();
+        QCOMPARE(QString(lines).replace(QLatin1Char('\n'), QLatin1Char(' ')), button->text());
+    }
+    LanguageSetup::setupLanguage(1);
+    qApp->setStyleSheet(QString());
+}
+
 void tst_MainWindow::abnormalExitNoticeOnce()
 {
     DFPreferences::instance()->ignoreListPreferences()->setDeleteException(1);
     DFPreferences::instance()->save();
-    QStringList titles;
-    // The notice is a modal box: note its title and close it when it appears.
-    QTimer closer;
-    connect(&closer, &QTimer::timeout, this, [&titles] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            titles << box->windowTitle();
-            box->accept();
-        }
-    });
-    closer.start(20);
+    MessageBoxCatcher boxes;
+    const QStringList &titles = boxes.titles;
     {
         MainWindow window({QStringLiteral("program")});
         window.show();
@@ -339,15 +568,8 @@ void tst_MainWindow::cloudAndLocalExclusive()
     m_window->setCloudSelection(QStringLiteral("someone@example.org"), {QStringLiteral("root-id")});
     QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("someone@example.org"));
     QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
-    QStringList texts;
-    QTimer closer;
-    connect(&closer, &QTimer::timeout, this, [&texts] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            texts << box->text();
-            box->accept();
-        }
-    });
-    closer.start(20);
+    MessageBoxCatcher boxes;
+    const QStringList &texts = boxes.texts;
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
     dropOnWindow(&data);

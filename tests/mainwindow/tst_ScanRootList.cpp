@@ -48,9 +48,19 @@ void tst_ScanRootList::droppedFolders()
     QFile(file).open(QIODevice::WriteOnly);
     const QString folder = dir.filePath(QStringLiteral("folder"));
 
+    // A drop of a file enters, so that the window can say it is not a folder; a drop of
+    // nothing that exists does not.
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(file), QUrl::fromLocalFile(dir.filePath("missing"))});
-    QVERIFY(!ScanRootList::acceptsDrag(&files));
+    QVERIFY(ScanRootList::acceptsDrag(&files));
+    QVERIFY(ScanRootList::droppedFolders(&files).isEmpty());
+    const ScanRootList::SortedPaths sorted
+        = ScanRootList::sortPaths(ScanRootList::droppedPaths(&files));
+    QCOMPARE(sorted.files, QStringList {file});
+    QCOMPARE(sorted.missing, QStringList {dir.filePath("missing")});
+    QMimeData missing;
+    missing.setUrls({QUrl::fromLocalFile(dir.filePath("missing"))});
+    QVERIFY(!ScanRootList::acceptsDrag(&missing));
 
     QMimeData remote;
     remote.setUrls({QUrl(QStringLiteral("https://example.org/folder/"))});
