@@ -294,16 +294,19 @@ QWidget *MainWindow::buildScanPage()
     page->setObjectName(QStringLiteral("page_scan"));
     auto *layout = new QHBoxLayout(page);
     layout->setContentsMargins(60, 24, 60, 8);
+    // Ring and figures stay together in the middle on wide windows.
+    layout->addStretch(1);
 
     auto *ringBox = new QWidget(page);
     ringBox->setFixedSize(240, 240);
     m_ring = new RoundProgressBar(ringBox);
     m_ring->setObjectName(QStringLiteral("progress_ring"));
     m_ring->setGeometry(0, 0, 240, 240);
-    // A thin track along the outside of a wide arc keeps the ring inside the widget.
-    m_ring->setWidths(4.0, 14.0);
-    m_ring->setPaintFlags(
-        RoundProgressBar::Ring | RoundProgressBar::GradientArc | RoundProgressBar::EndDot);
+    // The track is drawn around the outside of the arc; at two pixels its outer edge is
+    // the widget's edge, any wider and the circle is cut flat on four sides. No end dot:
+    // it marks the top of the ring and would show as a lone speck before any progress.
+    m_ring->setWidths(2.0, 14.0);
+    m_ring->setPaintFlags(RoundProgressBar::Ring | RoundProgressBar::GradientArc);
     m_ring->setColors(QColor(194, 220, 255), QColor(69, 146, 220), QColor(49, 120, 200));
     m_animation = new CRotateLabel(ringBox);
     m_animation->setObjectName(QStringLiteral("lab_animation"));
@@ -314,7 +317,9 @@ QWidget *MainWindow::buildScanPage()
     auto *grid = new QGridLayout;
     grid->setVerticalSpacing(18);
     grid->setHorizontalSpacing(32);
-    grid->setColumnStretch(2, 1);
+    // Room for the widest figure ("1023.99 GB"), so the block does not shift as the
+    // figures grow during a scan.
+    grid->setColumnMinimumWidth(1, 170);
     auto addRow = [&](int row, const QString &objectName, const QString &caption, QLabel *&value) {
         auto *label = new QLabel(caption, page);
         label->setObjectName(objectName + QStringLiteral("_caption"));
@@ -335,7 +340,8 @@ QWidget *MainWindow::buildScanPage()
     column->addStretch(1);
     column->addLayout(grid);
     column->addStretch(1);
-    layout->addLayout(column, 1);
+    layout->addLayout(column);
+    layout->addStretch(1);
     return page;
 }
 
