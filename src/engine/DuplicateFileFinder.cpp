@@ -4,8 +4,8 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
-#include "engine/TFileData.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/TFileData.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -477,8 +477,10 @@ void DuplicateFileFinder::run()
     duplicateFileCount.store(0);
     duplicateTotalSize.store(0);
     processDuplicates();
-    if (!isStopRequested() && scanDupDirectory)
+    if (!isStopRequested() && scanDupDirectory) {
         processDirectories();
+        emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
+    }
     m_table.clear();
     m_order = {};
     m_runs = {};
@@ -1122,6 +1124,8 @@ void DuplicateFileFinder::processDirectories()
         for (const QString &folder : folders) {
             const FolderDigest &digest = digests[folder];
             entries.append(DirGroupEntry {folder, digest.fileCount, digest.totalSize});
+            duplicateFileCount.fetch_add(digest.fileCount);
+            duplicateTotalSize.fetch_add(digest.totalSize);
         }
         store->insertDirGroup(TFileData::groupKey(folders.first()), entries);
     }
@@ -1177,6 +1181,13 @@ void DuplicateFileFinder::pruneMatchedFolders(const QList<QStringList> &matched)
         }
         if (remaining == members)
             continue;
+        // The running totals count what the groups list: the dropped copies leave them
+        // (the folder groups count their files instead).
+        const qsizetype dropped = members.size() - (remaining.size() < 2 ? 0 : remaining.size());
+        const DirMatchInfo &info = dirTable[folderOf(members.first())];
+        const qsizetype at = info.names.indexOf(fileNameOf(members.first()));
+        duplicateFileCount.fetch_sub(int(dropped));
+        duplicateTotalSize.fetch_sub(qint64(dropped) * (at < 0 ? 0 : info.sizes.at(at)));
         if (remaining.size() < 2) {
             store->removeGroup(key);
             continue;

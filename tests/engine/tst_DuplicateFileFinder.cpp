@@ -16,7 +16,8 @@ QByteArray withByteChanged(QByteArray data, qint64 offset)
 
 // Runs the finder over real files and returns its groups as sorted lists of names.
 QList<QStringList> findGroups(const QString &root, const QStringList &names, int method,
-    int driveType = 0, bool folders = false, int hint = 8, QStringList *uniqueImages = nullptr)
+    int driveType = 0, bool folders = false, int hint = 8, QStringList *uniqueImages = nullptr,
+    int *duplicateFiles = nullptr)
 {
     TFileData::instance()->clear();
     DuplicateFileFinder::SizeTable table;
@@ -36,6 +37,8 @@ QList<QStringList> findGroups(const QString &root, const QStringList &names, int
     finder.wait();
     if (uniqueImages)
         *uniqueImages = finder.uniqueImageFiles();
+    if (duplicateFiles)
+        *duplicateFiles = finder.duplicateFiles();
     QList<QStringList> groups;
     for (const QStringList &group : TFileData::instance()->groups()) {
         QStringList relative;
@@ -197,17 +200,27 @@ void TestDuplicateFileFinder::duplicateFolders()
         if (scanned)
             names.append(name);
     }
-    const QList<QStringList> groups = findGroups(dir.path(), names, 0, 0, true);
+    int counted = 0;
+    const QList<QStringList> groups
+        = findGroups(dir.path(), names, 0, 0, true, 8, nullptr, &counted);
+    // The running total counts what the groups list: files of file groups and of
+    // matched folders.
+    int listed = 0;
+    for (const QStringList &group : groups)
+        listed += int(group.size());
     QStringList matched;
     for (const QList<DirGroupEntry> &entries : TFileData::instance()->dirGroups()) {
         QStringList folders;
-        for (const DirGroupEntry &entry : entries)
+        for (const DirGroupEntry &entry : entries) {
             folders.append(entry.folderPath.mid(dir.path().size() + 1));
+            listed += entry.fileCount;
+        }
         matched.append(folders.join('|'));
     }
     matched.sort();
     QCOMPARE(matched, folderGroups);
     QCOMPARE(groups, fileGroups);
+    QCOMPARE(counted, listed);
 }
 
 void TestDuplicateFileFinder::vanishedFileLeavesItsGroup_data()
