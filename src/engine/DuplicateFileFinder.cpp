@@ -900,14 +900,6 @@ void DuplicateFileFinder::storeGroup(
 
 namespace {
 
-// Two independent mixes of a key for the order-free folder digest (sums of mixed keys
-// are equal for equal multisets, and a chance match of both 64-bit sums, the file count
-// and the byte count is negligible; removal checks the contents again in any case).
-quint64 mixKey(const QByteArray &key, quint64 seed)
-{
-    return XXH3_64bits_withSeed(key.constData(), size_t(key.size()), seed);
-}
-
 int depthOf(const QString &path)
 {
     return int(path.count(QLatin1Char('/')));
@@ -931,6 +923,29 @@ bool holdsAnything(const QString &folder)
 }
 
 } // namespace
+
+// Two independent mixes of the key make the order-free digest: sums of mixed keys are
+// equal for equal multisets, and a chance match of both 64-bit sums, the file count and
+// the byte count is negligible (removal checks the contents again in any case).
+DuplicateFileFinder::FolderDigest DuplicateFileFinder::FolderDigest::ofFile(
+    const QByteArray &key, qint64 size)
+{
+    FolderDigest digest;
+    digest.sum = XXH3_64bits_withSeed(key.constData(), size_t(key.size()), 0);
+    digest.mixedSum
+        = XXH3_64bits_withSeed(key.constData(), size_t(key.size()), 0x9E3779B97F4A7C15ULL);
+    digest.fileCount = 1;
+    digest.totalSize = size;
+    return digest;
+}
+
+void DuplicateFileFinder::FolderDigest::add(const FolderDigest &other)
+{
+    sum += other.sum;
+    mixedSum += other.mixedSum;
+    fileCount += other.fileCount;
+    totalSize += other.totalSize;
+}
 
 DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QString &folder,
     const QHash<QString, FolderDigest> &below, const QSet<QString> &candidates) const
@@ -962,10 +977,7 @@ DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QStrin
                 complete = false;
                 break;
             }
-            digest.sum += mixKey(info.contentKeys.at(at), 0);
-            digest.mixedSum += mixKey(info.contentKeys.at(at), 0x9E3779B97F4A7C15ULL);
-            ++digest.fileCount;
-            digest.totalSize += info.sizes.at(at);
+            digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
         } else if (S_ISDIR(status.st_mode)) {
             const QString child = prefix + entryName;
             if (candidates.contains(child)) {
@@ -974,10 +986,7 @@ DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QStrin
                     complete = false;
                     break;
                 }
-                digest.sum += sub.sum;
-                digest.mixedSum += sub.mixedSum;
-                digest.fileCount += sub.fileCount;
-                digest.totalSize += sub.totalSize;
+                digest.add(sub);
             } else if (holdsAnything(child)) {
                 complete = false;
                 break;
@@ -1002,19 +1011,13 @@ DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QStrin
             if (at < 0) {
                 digest.complete = false;
             } else {
-                digest.sum += mixKey(info.contentKeys.at(at), 0);
-                digest.mixedSum += mixKey(info.contentKeys.at(at), 0x9E3779B97F4A7C15ULL);
-                ++digest.fileCount;
-                digest.totalSize += info.sizes.at(at);
+                digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
             }
         } else if (entry.isDir()) {
             const QString child = prefix + entry.fileName();
             const FolderDigest sub = below.value(child);
             if (candidates.contains(child) && sub.complete) {
-                digest.sum += sub.sum;
-                digest.mixedSum += sub.mixedSum;
-                digest.fileCount += sub.fileCount;
-                digest.totalSize += sub.totalSize;
+                digest.add(sub);
             } else if (candidates.contains(child) || holdsAnything(child)) {
                 digest.complete = false;
             }

@@ -125,6 +125,9 @@ private:
         qint64 totalSize = 0;
         quint64 sum = 0;
         quint64 mixedSum = 0;
+
+        static FolderDigest ofFile(const QByteArray &key, qint64 size);
+        void add(const FolderDigest &other);
     };
     void processDirectories();
     FolderDigest digestFolder(const QString &folder, const QHash<QString, FolderDigest> &below,
