@@ -890,7 +890,13 @@ void DuplicateFileFinder::storeGroup(
             info.totalSize += size;
         }
     }
-    TFileData::instance()->insertGroup(groupKey, paths);
+    TFileData *store = TFileData::instance();
+    store->insertGroup(groupKey, paths);
+    // What each member looked like now, for the checks before any removal.
+    for (const QString &path : paths)
+        store->insertStamp(path, FileStamp::of(path));
+    if (scanMethod == scanName)
+        store->setGroupMatch(groupKey, TFileData::MatchName);
     // The "no selection" hint leaves the group without a selection entry.
     if (duplicateSelectHint != 8)
         GroupItemAutoSelector::applyToGroup(groupKey, paths, duplicateSelectHint, mapPriority);

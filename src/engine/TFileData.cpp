@@ -198,6 +198,8 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     m_groups = groups;
     m_dirGroups = dirGroups;
     m_selected = selected;
+    m_stamps.clear();
+    m_nameGroups.clear();
 }
 
 void TFileData::clear()
@@ -206,4 +208,45 @@ void TFileData::clear()
     m_groups.clear();
     m_dirGroups.clear();
     m_selected.clear();
+    m_stamps.clear();
+    m_nameGroups.clear();
+}
+
+void TFileData::insertStamp(const QString &path, const FileStamp &stamp)
+{
+    QWriteLocker locker(&m_lock);
+    m_stamps.insert(path, stamp);
+}
+
+FileStamp TFileData::stamp(const QString &path) const
+{
+    QReadLocker locker(&m_lock);
+    return m_stamps.value(path);
+}
+
+TFileData::Stamps TFileData::stamps() const
+{
+    QReadLocker locker(&m_lock);
+    return m_stamps;
+}
+
+void TFileData::setStamps(const Stamps &stamps)
+{
+    QWriteLocker locker(&m_lock);
+    m_stamps = stamps;
+}
+
+void TFileData::setGroupMatch(const QString &key, GroupMatch match)
+{
+    QWriteLocker locker(&m_lock);
+    if (match == MatchName)
+        m_nameGroups.insert(key);
+    else
+        m_nameGroups.remove(key);
+}
+
+TFileData::GroupMatch TFileData::groupMatch(const QString &key) const
+{
+    QReadLocker locker(&m_lock);
+    return m_nameGroups.contains(key) ? MatchName : MatchContent;
 }

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "engine/DirGroupEntry.h"
+#include "engine/FileStamp.h"
 
 #include <QHash>
 #include <QObject>
 #include <QReadWriteLock>
+#include <QSet>
 #include <QStringList>
 
 // The process-wide store of a scan's results: groups of identical (or similar) files
@@ -18,6 +20,10 @@ class TFileData : public QObject
 public:
     using Groups = QHash<QString, QStringList>;
     using DirGroups = QHash<QString, QList<DirGroupEntry>>;
+    using Stamps = QHash<QString, FileStamp>;
+    // What the members of a file group share: their content (the default), or only
+    // their name (the name mode), where a removal need not compare contents.
+    enum GroupMatch : int { MatchContent = 0, MatchName = 1 };
 
     static TFileData *instance();
 
@@ -56,6 +62,14 @@ public:
     bool removeDirGroup(const QString &key);
     // Replaces all three tables at once (opening a project).
     void replaceAll(const Groups &groups, const DirGroups &dirGroups, const Groups &selected);
+
+    // The file stamps the scan saw, per member path (absent for members it never stamped).
+    void insertStamp(const QString &path, const FileStamp &stamp);
+    FileStamp stamp(const QString &path) const;
+    Stamps stamps() const;
+    void setStamps(const Stamps &stamps);
+    void setGroupMatch(const QString &key, GroupMatch match);
+    GroupMatch groupMatch(const QString &key) const;
     void clear();
 
     QReadWriteLock &lock() { return m_lock; }
@@ -67,4 +81,6 @@ private:
     Groups m_groups;
     DirGroups m_dirGroups;
     Groups m_selected;
+    Stamps m_stamps;
+    QSet<QString> m_nameGroups;
 };

@@ -34,6 +34,15 @@ const QString kDefaultScanTime = QStringLiteral("00:00:00");
 // is written as the percent-encoded bytes of the name, marked by this attribute.
 const QString kEncodingAttribute = QStringLiteral("encoding");
 const QString kPercentEncoding = QStringLiteral("percent");
+// A group whose members share only their name (the name mode).
+const QString kMatchAttribute = QStringLiteral("match");
+const QString kMatchName = QStringLiteral("name");
+// An item's stamp as the scan saw it: size, modification time in nanoseconds, device and
+// inode.
+const QString kSizeAttribute = QStringLiteral("size");
+const QString kModifiedAttribute = QStringLiteral("mtime");
+const QString kDeviceAttribute = QStringLiteral("device");
+const QString kInodeAttribute = QStringLiteral("inode");
 // Longest path Windows accepts; anything longer cannot name a file.
 constexpr int kMaxPathLength = 32767;
 constexpr int kMaxKeyLength = 256;
@@ -44,6 +53,8 @@ struct ReadGroup
     QString key;
     QStringList entries;
     QSet<QString> selected;
+    bool nameMatch = false;
+    QHash<QString, FileStamp> stamps;
 };
 
 // A failure while reading: the flag and a reason that names the place in the file.
@@ -277,6 +288,7 @@ int TOpenSaveThread::saveDocument(
     const TFileData::Groups groups = store->groups();
     const TFileData::DirGroups dirGroups = store->dirGroups();
     const TFileData::Groups selected = store->selected();
+    const TFileData::Stamps stamps = store->stamps();
 
     // Groups in the page's order first, then the rest by their first path so that the
     // file does not depend on hash order.
@@ -340,10 +352,21 @@ int TOpenSaveThread::saveDocument(
         xml.writeAttribute(QStringLiteral("GroupType"), QStringLiteral("0"));
         xml.writeAttribute(QStringLiteral("GroupFlag"), QStringLiteral("0"));
         xml.writeAttribute(QStringLiteral("key"), key);
+        if (store->groupMatch(key) == TFileData::MatchName)
+            xml.writeAttribute(kMatchAttribute, kMatchName);
         for (const QString &path : std::as_const(members)) {
             xml.writeStartElement(kItemElement);
             xml.writeAttribute(QStringLiteral("selected"),
                 chosen.contains(path) ? QStringLiteral("1") : QStringLiteral("0"));
+            // What the scan saw of the file, so that a removal from the reopened project
+            // still notices a file changed since.
+            const FileStamp stamp = stamps.value(stripSimilarTag(path));
+            if (stamp.isValid()) {
+                xml.writeAttribute(kSizeAttribute, QString::number(stamp.size));
+                xml.writeAttribute(kModifiedAttribute, QString::number(stamp.modifiedNs));
+                xml.writeAttribute(kDeviceAttribute, QString::number(stamp.device));
+                xml.writeAttribute(kInodeAttribute, QString::number(stamp.inode));
+            }
             if (needsEncoding(path)) {
                 xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
                 xml.writeCharacters(
@@ -470,6 +493,7 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
         const QXmlStreamAttributes attributes = xml.attributes();
         ReadGroup group;
         group.key = attributes.value(QStringLiteral("key")).toString();
+        group.nameMatch = attributes.value(kMatchAttribute) == kMatchName;
         qint64 reserved = 0;
         if (group.key.isEmpty() || group.key.size() > kMaxKeyLength) {
             refuse(ProjectInvalidContent, at(xml, QStringLiteral("a group has no valid \"key\"")));
@@ -504,6 +528,21 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
                 break;
             }
             const bool isSelected = flag == QLatin1String("1");
+            FileStamp stamp;
+            {
+                const QXmlStreamAttributes item = xml.attributes();
+                qint64 device = 0;
+                qint64 inode = 0;
+                if (readInteger(item, kSizeAttribute, stamp.size)
+                    && readInteger(item, kModifiedAttribute, stamp.modifiedNs)
+                    && readInteger(item, kDeviceAttribute, device)
+                    && readInteger(item, kInodeAttribute, inode)) {
+                    stamp.device = quint64(device);
+                    stamp.inode = quint64(inode);
+                } else {
+                    stamp = FileStamp();
+                }
+            }
             const QStringView encoding = xml.attributes().value(kEncodingAttribute);
             if (!encoding.isEmpty() && encoding != kPercentEncoding) {
                 refuse(ProjectInvalidContent,
@@ -536,6 +575,8 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             }
             seen.insert(path);
             group.entries.append(entry);
+            if (stamp.isValid())
+                group.stamps.insert(path, stamp);
             if (isSelected)
                 group.selected.insert(entry);
         }
@@ -651,7 +692,16 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             QStringLiteral("none of the %1 groups has two members left on disk")
                 .arg(readGroups.size()));
 
-    TFileData::instance()->replaceAll(groups, dirGroups, selected);
+    TFileData *store = TFileData::instance();
+    store->replaceAll(groups, dirGroups, selected);
+    TFileData::Stamps stamps;
+    for (const ReadGroup &group : std::as_const(readGroups)) {
+        for (auto it = group.stamps.cbegin(); it != group.stamps.cend(); ++it)
+            stamps.insert(it.key(), it.value());
+        if (group.nameMatch && groups.contains(group.key))
+            store->setGroupMatch(group.key, TFileData::MatchName);
+    }
+    store->setStamps(stamps);
     emit openProjectProcess(fileSize, fileSize);
     files = int(std::min<qint64>(memberCount, std::numeric_limits<int>::max()));
     size = totalSize;

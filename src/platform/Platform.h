@@ -46,6 +46,25 @@ public:
     // device nodes, control groups): a scan never enters them, since their "files" are
     // endless, change while read, or block. Empty where there is no such thing.
     virtual std::vector<unsigned long long> pseudoFileSystemDevices() const = 0;
+
+    // Removal. Each call returns 0 on success or the system's error code (errno on
+    // Linux, a Win32 error on Windows), which errorText() turns into the system's words.
+
+    // Moves a file or folder to the user's trash, from where the desktop can restore it;
+    // trashedPath receives its place in the trash where the system tells it (empty
+    // otherwise).
+    virtual int moveToTrash(const std::string &path, std::string &trashedPath) const = 0;
+    // Puts an item moved to the trash by moveToTrash back at original, never over an
+    // existing entry.
+    virtual int restoreFromTrash(
+        const std::string &trashedPath, const std::string &original) const = 0;
+    // Removes a file, or a folder with everything in it.
+    virtual int removePermanently(const std::string &path) const = 0;
+    // Renames, never replacing an existing entry; crossDevice is set when from and to lie
+    // on different drives (nothing is done then).
+    virtual int renameNoReplace(
+        const std::string &from, const std::string &to, bool &crossDevice) const = 0;
+    virtual std::string errorText(int code) const = 0;
 };
 
 // The implementation for the platform this program was built for.

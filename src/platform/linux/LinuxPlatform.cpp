@@ -3,9 +3,16 @@
 
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/linux/LinuxTrash.h"
+
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <climits>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <ftw.h>
 #include <fstream>
 #include <sstream>
 #include <sys/stat.h>
@@ -149,6 +156,74 @@ std::vector<unsigned long long> LinuxPlatform::pseudoFileSystemDevices() const
             devices.push_back(info.st_dev);
     }
     return devices;
+}
+
+int renameNoReplace(const std::string &from, const std::string &to)
+{
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // File systems without the flag: a hard link fails on an existing name, and only
+    // then is the old name dropped. Folders cannot be linked; they take the checked
+    // rename.
+    if (::link(from.c_str(), to.c_str()) == 0)
+        return ::unlink(from.c_str()) == 0 ? 0 : errno;
+    if (errno == EEXIST)
+        return EEXIST;
+    struct stat existing {};
+    if (::lstat(to.c_str(), &existing) == 0)
+        return EEXIST;
+    return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+int LinuxPlatform::moveToTrash(const std::string &path, std::string &trashedPath) const
+{
+    return LinuxTrash::forCurrentUser().moveToTrash(path, trashedPath);
+}
+
+int LinuxPlatform::restoreFromTrash(const std::string &trashedPath, const std::string &original) const
+{
+    return LinuxTrash::forCurrentUser().restore(trashedPath, original);
+}
+
+int LinuxPlatform::removePermanently(const std::string &path) const
+{
+    struct stat info {};
+    if (::lstat(path.c_str(), &info) != 0)
+        return errno;
+    if (!S_ISDIR(info.st_mode))
+        return ::unlink(path.c_str()) == 0 ? 0 : errno;
+    // Depth first, links never followed: what a link points to stays.
+    static thread_local int failure;
+    failure = 0;
+    const int walked = ::nftw(
+        path.c_str(),
+        [](const char *entry, const struct stat *, int type, struct FTW *) {
+            const int done = type == FTW_DP ? ::rmdir(entry) : ::unlink(entry);
+            if (done != 0) {
+                failure = errno;
+                return 1;
+            }
+            return 0;
+        },
+        32, FTW_DEPTH | FTW_PHYS);
+    if (walked != 0)
+        return failure ? failure : errno;
+    return 0;
+}
+
+int LinuxPlatform::renameNoReplace(
+    const std::string &from, const std::string &to, bool &crossDevice) const
+{
+    const int error = platform::renameNoReplace(from, to);
+    crossDevice = error == EXDEV;
+    return error;
+}
+
+std::string LinuxPlatform::errorText(int code) const
+{
+    return std::strerror(code);
 }
 
 std::string LinuxPlatform::driveCacheKey(const std::string &path) const

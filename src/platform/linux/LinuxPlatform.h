@@ -13,6 +13,10 @@ struct MountEntry
     std::string fsType;
 };
 
+// rename() that never replaces an existing entry; 0 or an errno value (EEXIST when to
+// exists).
+int renameNoReplace(const std::string &from, const std::string &to);
+
 class LinuxPlatform final : public Platform
 {
 public:
@@ -23,6 +27,13 @@ public:
     int driveTypeOf(const std::string &path) const override;
     bool isHiddenOrSystem(const std::string &path) const override;
     std::vector<unsigned long long> pseudoFileSystemDevices() const override;
+    int moveToTrash(const std::string &path, std::string &trashedPath) const override;
+    int restoreFromTrash(
+        const std::string &trashedPath, const std::string &original) const override;
+    int removePermanently(const std::string &path) const override;
+    int renameNoReplace(
+        const std::string &from, const std::string &to, bool &crossDevice) const override;
+    std::string errorText(int code) const override;
 
     // Drive kind of a block device given by its sysfs folder (/sys/dev/block/M:N after
     // resolving links): removable or on a USB/MMC/memory-stick bus gives DriveExternal,

@@ -8,6 +8,10 @@
 #endif
 #include <windows.h>
 #include <winioctl.h>
+// The shell's file operations (removal to the Recycle Bin and permanent removal).
+#include <objbase.h>
+#include <shellapi.h>
+#include <shobjidl.h>
 
 #include <cwctype>
 
@@ -39,6 +43,110 @@ std::string toUtf8(const std::wstring &wide)
     WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), utf8.data(),
                         length, nullptr, nullptr);
     return utf8;
+}
+
+std::wstring nativePath(const std::string &path)
+{
+    std::wstring wide = toWide(path);
+    for (wchar_t &c : wide) {
+        if (c == L'/')
+            c = L'\\';
+    }
+    return wide;
+}
+
+// COM for the calling thread, for as long as one shell operation takes.
+class ComScope
+{
+public:
+    ComScope()
+        : m_result(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))
+    {
+    }
+    ~ComScope()
+    {
+        if (SUCCEEDED(m_result))
+            CoUninitialize();
+    }
+    ComScope(const ComScope &) = delete;
+    ComScope &operator=(const ComScope &) = delete;
+
+private:
+    HRESULT m_result;
+};
+
+// Deletes through the shell's IFileOperation: to the Recycle Bin with undo allowed, or
+// for good. 0 or the failing HRESULT (or ERROR_CANCELLED when the shell aborted).
+int shellDelete(const std::wstring &path, bool toRecycleBin)
+{
+    ComScope com;
+    IShellItem *item = nullptr;
+    HRESULT result = SHCreateItemFromParsingName(path.c_str(), nullptr, IID_PPV_ARGS(&item));
+    if (FAILED(result))
+        return int(result);
+    IFileOperation *operation = nullptr;
+    result = CoCreateInstance(CLSID_FileOperation, nullptr, CLSCTX_ALL, IID_PPV_ARGS(&operation));
+    if (SUCCEEDED(result))
+        result = operation->SetOperationFlags(toRecycleBin ? 0x454 : 0x614);
+    if (SUCCEEDED(result))
+        result = operation->DeleteItem(item, nullptr);
+    if (SUCCEEDED(result))
+        result = operation->PerformOperations();
+    BOOL aborted = FALSE;
+    if (SUCCEEDED(result) && SUCCEEDED(operation->GetAnyOperationsAborted(&aborted)) && aborted)
+        result = HRESULT_FROM_WIN32(ERROR_CANCELLED);
+    if (operation)
+        operation->Release();
+    item->Release();
+    return SUCCEEDED(result) ? 0 : int(result);
+}
+
+// The shell's own "send to trash" export, where the system has it.
+int sendToTrash(const std::wstring &path)
+{
+    HMODULE shell = LoadLibraryW(L"shell32.dll");
+    if (!shell)
+        return int(GetLastError());
+    using SendToTrash = HRESULT(WINAPI *)(HWND, IShellItem *);
+    const auto function
+        = reinterpret_cast<SendToTrash>(reinterpret_cast<void *>(GetProcAddress(shell, "SHSendToTrash")));
+    int error = function ? 0 : int(GetLastError());
+    if (function) {
+        ComScope com;
+        IShellItem *item = nullptr;
+        HRESULT result = SHCreateItemFromParsingName(path.c_str(), nullptr, IID_PPV_ARGS(&item));
+        if (SUCCEEDED(result)) {
+            result = function(nullptr, item);
+            item->Release();
+        }
+        error = SUCCEEDED(result) ? 0 : int(result);
+    }
+    FreeLibrary(shell);
+    return error;
+}
+
+// The oldest shell route: SHFileOperationW with FO_DELETE and a double-zero-terminated
+// source.
+int fileOperationDelete(const std::wstring &path, bool toRecycleBin)
+{
+    std::wstring source = path;
+    source.push_back(L'\0');
+    source.push_back(L'\0');
+    SHFILEOPSTRUCTW operation {};
+    operation.wFunc = FO_DELETE;
+    operation.pFrom = source.c_str();
+    operation.fFlags = FILEOP_FLAGS(toRecycleBin ? 0x454 : 0x614);
+    const int result = SHFileOperationW(&operation);
+    if (result != 0)
+        return result;
+    return operation.fAnyOperationsAborted ? int(ERROR_CANCELLED) : 0;
+}
+
+void clearReadOnly(const std::wstring &path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY))
+        SetFileAttributesW(path.c_str(), attributes & ~DWORD(FILE_ATTRIBUTE_READONLY));
 }
 
 std::string withForwardSlashes(std::string path)
@@ -159,6 +267,73 @@ public:
 
     // Windows mounts no kernel tables into the folder tree.
     std::vector<unsigned long long> pseudoFileSystemDevices() const override { return {}; }
+
+    // Each route is tried only when the one before failed; the last failure is given.
+    int moveToTrash(const std::string &path, std::string &trashedPath) const override
+    {
+        // The Recycle Bin does not say where an item went.
+        trashedPath.clear();
+        const std::wstring native = nativePath(path);
+        clearReadOnly(native);
+        int error = shellDelete(native, true);
+        if (error != 0)
+            error = sendToTrash(native);
+        if (error != 0)
+            error = fileOperationDelete(native, true);
+        return error;
+    }
+
+    int restoreFromTrash(const std::string &, const std::string &) const override
+    {
+        return int(ERROR_NOT_SUPPORTED);
+    }
+
+    int removePermanently(const std::string &path) const override
+    {
+        const std::wstring native = nativePath(path);
+        const DWORD attributes = GetFileAttributesW(native.c_str());
+        if (attributes == INVALID_FILE_ATTRIBUTES)
+            return int(GetLastError());
+        if (!(attributes & FILE_ATTRIBUTE_DIRECTORY)) {
+            clearReadOnly(native);
+            if (DeleteFileW(native.c_str()))
+                return 0;
+        }
+        int error = shellDelete(native, false);
+        if (error != 0)
+            error = fileOperationDelete(native, false);
+        return error;
+    }
+
+    int renameNoReplace(
+        const std::string &from, const std::string &to, bool &crossDevice) const override
+    {
+        crossDevice = false;
+        // Without MOVEFILE_REPLACE_EXISTING an existing target makes the call fail, and
+        // without MOVEFILE_COPY_ALLOWED nothing is copied between drives.
+        if (MoveFileExW(nativePath(from).c_str(), nativePath(to).c_str(), 0))
+            return 0;
+        const DWORD error = GetLastError();
+        crossDevice = error == ERROR_NOT_SAME_DEVICE;
+        return int(error);
+    }
+
+    std::string errorText(int code) const override
+    {
+        // An HRESULT carries the Win32 code in its low 16 bits.
+        const DWORD value = code < 0 ? DWORD(code) & 0xFFFF : DWORD(code);
+        wchar_t *buffer = nullptr;
+        const DWORD length = FormatMessageW(0x1300, nullptr, value, 1024,
+            reinterpret_cast<wchar_t *>(&buffer), 0, nullptr);
+        std::wstring text = length && buffer ? std::wstring(buffer, length) : std::wstring();
+        if (buffer)
+            LocalFree(buffer);
+        while (!text.empty() && std::iswspace(text.back()))
+            text.pop_back();
+        if (text.empty())
+            return "Unknown error code: " + std::to_string(code);
+        return toUtf8(text);
+    }
 
 private:
     // The first two characters of the absolute path, upper-cased: the drive letter and
