@@ -79,9 +79,9 @@ private:
 private slots:
     void initTestCase() { QVERIFY(m_dir.isValid()); }
 
-    void keywordTable()
+    // Names are folded to lower case before matching: an upper-case keyword never matches.
+    void keywordsAreLowerCase()
     {
-        QCOMPARE(Selector::keywords().size(), 32);
         for (const QString &word : Selector::keywords())
             QCOMPARE(word, word.toLower());
     }
