@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Starts the real program on the offscreen platform with a private configuration
 // folder and checks what a start and an orderly close leave on disk.
-#include <QDate>
+#include "LogText.h"
+
 #include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
@@ -18,12 +19,7 @@ private:
     {
         return m_home.filePath("config/Veltrine/Veltrine Duplicate Finder");
     }
-    QString logText() const
-    {
-        QFile log(
-            dataFolder() + "/Log/log_" + QDate::currentDate().toString("yyyy-MM-dd") + ".log");
-        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
-    }
+    QString logText() const { return ::logText(dataFolder()); }
 
     void runOnce()
     {

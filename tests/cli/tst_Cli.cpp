@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CliRunner.h"
+#include "ReportGroups.h"
 #include "engine/ScanTree.h"
 
 #include <fcntl.h>
@@ -8,55 +10,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-struct CliRun
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-CliRun runCli(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(VELTRINE_CLI_PATH), arguments);
-    CliRun run;
-    if (!process.waitForFinished(120000))
-        return run;
-    run.exitCode = process.exitCode();
-    run.out = process.readAllStandardOutput();
-    run.err = process.readAllStandardError();
-    return run;
-}
-
-// Groups of a JSON report as sorted lists of names relative to root, with their kind.
-QStringList groupsOf(const QByteArray &json, const QString &root)
-{
-    QStringList out;
-    const QJsonArray groups = QJsonDocument::fromJson(json).object().value("groups").toArray();
-    for (const QJsonValue &value : groups) {
-        const QJsonObject group = value.toObject();
-        QStringList names;
-        for (const QJsonValue &file : group.value("files").toArray())
-            names.append(file.toString().mid(root.size() + 1));
-        names.sort();
-        QStringList selected;
-        for (const QJsonValue &file : group.value("selected").toArray())
-            selected.append(file.toString().mid(root.size() + 1));
-        selected.sort();
-        out.append(
-            group.value("kind").toString() + ":" + names.join(",") + " sel:" + selected.join(","));
-    }
-    out.sort();
-    return out;
-}
-
-} // namespace
 
 class TestCli : public QObject
 {
@@ -250,7 +205,7 @@ void TestCli::jsonReport()
     const QJsonObject report = QJsonDocument::fromJson(run.out).object();
     QVERIFY(report.value("scannedFiles").toInt() >= 2);
     QVERIFY(report.contains("seconds"));
-    QCOMPARE(groupsOf(run.out, m_root), expected);
+    QCOMPARE(reportGroups(run.out, m_root, true), expected);
 }
 
 void TestCli::savesProject()
@@ -259,9 +214,7 @@ void TestCli::savesProject()
     const QString project = out.path() + "/result.dupproj";
     const CliRun run = runCli({"scan", "--method", "full", "--save", project, m_root});
     QCOMPARE(run.exitCode, 0);
-    QFile file(project);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray text = file.readAll();
+    const QByteArray text = ScanTree::read(project);
     QVERIFY(text.contains("A/x.bin"));
     QVERIFY(text.contains("B/y.txt"));
 }

@@ -5,6 +5,10 @@
 // holds them whole either), the program runs as a child process, and its peak resident
 // memory is taken from wait4. A small copy of the same drawing must land in one group
 // with the large one, which shows the large one was really decoded and hashed.
+#include "LogText.h"
+#include "ReportGroups.h"
+#include "engine/ScanTree.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
@@ -18,10 +22,6 @@
 #include <sys/wait.h>
 #include <vector>
 
-#include <QDirIterator>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -172,37 +172,8 @@ ChildRun runMeasured(const QStringList &arguments, const QString &folder)
         return result;
     result.exitCode = WEXITSTATUS(status);
     result.peakKiB = usage.ru_maxrss;
-    QFile out(QString::fromLocal8Bit(outPath));
-    if (out.open(QIODevice::ReadOnly))
-        result.out = out.readAll();
+    result.out = ScanTree::read(QString::fromLocal8Bit(outPath));
     return result;
-}
-
-QString logText(const QString &folder)
-{
-    QString text;
-    QDirIterator it(folder, {"*.log"}, QDir::Files, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        QFile file(it.next());
-        if (file.open(QIODevice::ReadOnly))
-            text += QString::fromUtf8(file.readAll());
-    }
-    return text;
-}
-
-QStringList similarGroups(const QByteArray &json, const QString &root)
-{
-    QStringList out;
-    for (const QJsonValue &value :
-        QJsonDocument::fromJson(json).object().value("groups").toArray()) {
-        const QJsonObject group = value.toObject();
-        QStringList names;
-        for (const QJsonValue &file : group.value("files").toArray())
-            names.append(file.toString().mid(root.size() + 1).section("_simlar_", 0, 0));
-        names.sort();
-        out.append(group.value("kind").toString() + ":" + names.join(","));
-    }
-    return out;
 }
 
 } // namespace
@@ -259,7 +230,7 @@ void TestCliLargePicture::withoutFullSizeBuffer()
     const QString log = dir.path() + "/log";
     const ChildRun run = runMeasured(options + QStringList {log, root}, dir.path());
     QCOMPARE(run.exitCode, 0);
-    QCOMPARE(similarGroups(run.out, root),
+    QCOMPARE(reportGroups(run.out, root, false),
         QStringList {QStringLiteral("similar:large.%1,small.%1").arg(suffix)});
     const QString text = logText(log);
     for (const QString &line : logLines)

@@ -2,47 +2,19 @@
 // The similar-picture options of the command line, run as a real process on pictures
 // encoded here: one scene saved as JPEG, as a smaller JPEG, as PNG and stretched to a very
 // different aspect ratio, plus an unrelated scene.
+#include "CliRunner.h"
+#include "ReportGroups.h"
 #include "engine/ImageFixtures.h"
+#include "engine/ScanTree.h"
 
 #include <opencv2/imgproc.hpp>
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-struct CliRun
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-CliRun runCli(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(VELTRINE_CLI_PATH), arguments);
-    CliRun run;
-    if (!process.waitForFinished(120000))
-        return run;
-    run.exitCode = process.exitCode();
-    run.out = process.readAllStandardOutput();
-    run.err = process.readAllStandardError();
-    return run;
-}
-
-const QRegularExpression &taggedEntry()
-{
-    static const QRegularExpression pattern(QStringLiteral("^(.+)_simlar_(\\d+)$"));
-    return pattern;
-}
-
-} // namespace
 
 class TestCliSimilar : public QObject
 {
@@ -57,9 +29,6 @@ private slots:
     void textReport();
 
 private:
-    // "kind:name,name" per group, names sorted, similar tags checked and removed.
-    QStringList groupsOf(const QByteArray &json) const;
-
     QTemporaryDir m_dir;
     QString m_root;
 };
@@ -83,37 +52,6 @@ void TestCliSimilar::initTestCase()
     QVERIFY(fixtures::writeBytes(m_root + "/a.png", fixtures::encode(scene, ".png")));
     QVERIFY(fixtures::writeBytes(m_root + "/a_wide.jpg", fixtures::encode(stretched, ".jpg", q92)));
     QVERIFY(fixtures::writeBytes(m_root + "/b.jpg", fixtures::encode(other, ".jpg", q92)));
-}
-
-QStringList TestCliSimilar::groupsOf(const QByteArray &json) const
-{
-    QStringList out;
-    const QJsonDocument document = QJsonDocument::fromJson(json);
-    if (!document.isObject())
-        return {QStringLiteral("not JSON: ") + QString::fromUtf8(json.left(200))};
-    for (const QJsonValue &value : document.object().value("groups").toArray()) {
-        const QJsonObject group = value.toObject();
-        const QString kind = group.value("kind").toString();
-        QStringList names;
-        for (const QJsonValue &file : group.value("files").toArray()) {
-            QString entry = file.toString();
-            const QRegularExpressionMatch match = taggedEntry().match(entry);
-            // A similar group lists tagged entries and nothing else; a file group none.
-            if (match.hasMatch() != (kind == QLatin1String("similar")))
-                return {QStringLiteral("wrongly tagged: ") + entry};
-            if (match.hasMatch()) {
-                const int percent = match.captured(2).toInt();
-                if (percent > 99)
-                    return {QStringLiteral("percent above 99: ") + entry};
-                entry = match.captured(1);
-            }
-            names.append(entry.mid(m_root.size() + 1));
-        }
-        names.sort();
-        out.append(kind + ":" + names.join(","));
-    }
-    out.sort();
-    return out;
 }
 
 void TestCliSimilar::badValues_data()
@@ -178,7 +116,7 @@ void TestCliSimilar::similarGroups()
         QStringList {"scan", "--json", "--select", "none"} + options + QStringList {m_root});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(QJsonDocument::fromJson(run.out).object().value("scannedFiles").toInt(), 5);
-    QCOMPARE(groupsOf(run.out), expected);
+    QCOMPARE(reportGroups(run.out, m_root, false), expected);
 }
 
 void TestCliSimilar::savesSimilarGroups()
@@ -188,9 +126,7 @@ void TestCliSimilar::savesSimilarGroups()
     const CliRun run
         = runCli({"scan", "--algorithm", "phash", "--any-type", "--save", project, m_root});
     QCOMPARE(run.exitCode, 0);
-    QFile file(project);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(file.readAll());
+    const QString text = QString::fromUtf8(ScanTree::read(project));
     for (const QString &name : {"a.jpg", "a.png", "a_small.jpg"})
         QVERIFY2(text.contains(QRegularExpression(
                      QRegularExpression::escape(m_root + "/" + name) + "_simlar_\\d+<")),

@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QString>
 
-// Writes real files into a test's temporary folder.
+// Writes real files into a test's temporary folder and reads them back.
 namespace ScanTree {
 
 inline QByteArray pattern(qint64 size, char seed)
@@ -30,6 +30,13 @@ inline QString write(const QString &root, const QString &relative, const QByteAr
         return {};
     file.write(data);
     return QFileInfo(path).absoluteFilePath();
+}
+
+// The whole file, or nothing when it cannot be opened.
+inline QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace ScanTree

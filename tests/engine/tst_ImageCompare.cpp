@@ -3,6 +3,7 @@
 // ORB re-check, the entries written into the result store, and cancelling a run.
 
 #include "ImageFixtures.h"
+#include "LogText.h"
 #include "TestEnvironment.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
@@ -12,7 +13,6 @@
 #include <functional>
 #include <numeric>
 
-#include <QDate>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -27,12 +27,6 @@ private:
     QTemporaryDir m_dir;
     QTemporaryDir m_logDir;
 
-    QString logText() const
-    {
-        QFile log(m_logDir.filePath(
-            "Log/log_" + QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + ".log"));
-        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
-    }
     static QJsonObject config(int algorithm, bool features = false, bool sameType = true,
         bool ratio = true, int limit = 4)
     {
@@ -161,9 +155,7 @@ private slots:
         QFETCH(bool, compared);
         ImageCompareThread thread;
         thread.applyConfig(config(2, false, true, true, configuredLimit));
-        thread.setImagePaths({});
-        QList<ImageData> none;
-        thread.loadImages(none);
+        load(thread, {});
         // Two pictures with equal hashes: only the ratio filter can keep them apart.
         ImageData a = hashed(QStringLiteral("a.jpg"), 0x0123456789abcdefULL);
         ImageData b = hashed(QStringLiteral("b.jpg"), 0x0123456789abcdefULL);
@@ -181,9 +173,7 @@ private slots:
     {
         ImageCompareThread thread;
         thread.applyConfig(config(2));
-        thread.setImagePaths({});
-        QList<ImageData> none;
-        thread.loadImages(none);
+        load(thread, {});
         // P-Q and Q-R differ in 10 bits (similarity 0.64), P-R in 20 bits (0.35).
         const quint64 p = 0;
         const quint64 q = (1ULL << 10) - 1;
@@ -212,7 +202,7 @@ private slots:
 
         // Without the type filter the PNG and the JPEG copy form a group of their own.
         thread.applyConfig(config(2, false, false));
-        thread.loadImages(none);
+        load(thread, {});
         groups.clear();
         thread.hashCompare(images, groups);
         QCOMPARE(groups.size(), 2);
@@ -243,9 +233,7 @@ private slots:
         settings.insert(QStringLiteral("SimilarityValue"), threshold);
         ImageCompareThread thread;
         thread.applyConfig(settings);
-        thread.setImagePaths({});
-        QList<ImageData> none;
-        thread.loadImages(none);
+        load(thread, {});
 
         cv::RNG rng {uint64(seed)};
         const auto random64 = [&rng] { return (quint64(unsigned(rng)) << 32) | unsigned(rng); };
@@ -396,7 +384,7 @@ private slots:
             loaded << image.path;
         QCOMPARE(loaded, QStringList({a, b}));
 
-        const QString log = logText();
+        const QString log = logText(m_logDir.path());
         for (const QString &path : broken) {
             QVERIFY2(
                 log.contains(QStringLiteral("[TImageCompareThread]: Picture skipped, %1. File: %2")

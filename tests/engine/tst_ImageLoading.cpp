@@ -3,6 +3,7 @@
 // with broken, truncated and oversized files.
 
 #include "ImageFixtures.h"
+#include "LogText.h"
 #include "TestEnvironment.h"
 #include "app/TLogger.h"
 #include "engine/ImageLoadTask.h"
@@ -38,17 +39,7 @@ private:
     QTemporaryDir m_logDir;
 
     QString file(const QString &name) const { return m_dir.filePath(name); }
-    QString logText() const
-    {
-        QString text;
-        const QDir logs(m_logDir.filePath(QStringLiteral("Log")));
-        for (const QString &name : logs.entryList(QDir::Files)) {
-            QFile f(logs.filePath(name));
-            if (f.open(QIODevice::ReadOnly))
-                text += QString::fromUtf8(f.readAll());
-        }
-        return text;
-    }
+    QString logText() const { return ::logText(m_logDir.path()); }
     // The bytes of a picture file of the given format.
     QByteArray encoded(const QString &format, const cv::Mat &scene) const
     {
@@ -86,11 +77,8 @@ private slots:
         QTest::addColumn<int>("expectedHeight");
         QTest::addColumn<QString>("logLine");
         // HEIC is read from its embedded 64-pixel thumbnail, DNG from its JPEG preview.
-        QTest::newRow("jpeg") << "jpg" << 320 << 240 << "[TReadImage]: Full read success.";
-        QTest::newRow("png") << "png" << 320 << 240 << "[TReadImage]: Full read success.";
-        QTest::newRow("webp") << "webp" << 320 << 240 << "[TReadImage]: Full read success.";
-        QTest::newRow("tiff") << "tif" << 320 << 240 << "[TReadImage]: Full read success.";
-        QTest::newRow("bmp") << "bmp" << 320 << 240 << "[TReadImage]: Full read success.";
+        for (const char *format : {"jpg", "png", "webp", "tif", "bmp"})
+            QTest::newRow(format) << format << 320 << 240 << "[TReadImage]: Full read success.";
         QTest::newRow("heic thumbnail") << "heic" << 64 << 48 << "";
         QTest::newRow("dng preview") << "dng" << 320 << 240 << "";
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
 
@@ -22,12 +23,6 @@ const char *const kValidProject = R"(<?xml version="1.0" encoding="UTF-8"?>
 </VeltrineDuplicateFinder>
 )";
 
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
 } // namespace
 
 class TestTOpenSaveThread : public QObject
@@ -42,11 +37,15 @@ private:
 
     QString makeFile(const QString &relative, const QByteArray &bytes)
     {
-        const QString path = m_dir.filePath(relative);
-        QDir().mkpath(QFileInfo(path).path());
-        if (!writeFile(path, bytes))
-            qFatal("cannot write %s", qPrintable(path));
+        const QString path = ScanTree::write(m_dir.path(), relative, bytes);
+        if (path.isEmpty())
+            qFatal("cannot write %s", qPrintable(relative));
         return path;
+    }
+    // A project file written by hand, its placeholders replaced by the test's paths.
+    QString writeProject(const QString &name, const QString &text)
+    {
+        return makeFile(name, projectText(text).toUtf8());
     }
 
     QString projectText(QString text) const
@@ -137,9 +136,7 @@ private slots:
         QCOMPARE(progress.last().at(1).toDouble(), 3.0);
 
         // The file has the documented shape, in the requested order.
-        QFile file(project);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
+        const QString text = QString::fromUtf8(ScanTree::read(project));
         QVERIFY(text.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
         QVERIFY(text.contains("<VeltrineDuplicateFinder fileCount=\"1234\" scanTime=\"00:02:05\" "
                               "version=\"4.5.0\">"));
@@ -172,8 +169,7 @@ private slots:
 
     void handWrittenProjectOpens()
     {
-        const QString path = m_dir.filePath("hand.dupproj");
-        QVERIFY(writeFile(path, projectText(kValidProject).toUtf8()));
+        const QString path = writeProject("hand.dupproj", kValidProject);
         fillSentinel();
         TOpenSaveThread thread;
         QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
@@ -191,8 +187,7 @@ private slots:
 <GroupItem GroupType="7" GroupFlag="-2" key="THREE"><Item selected="1">%M%</Item><Item selected="0">%A%</Item><Item selected="1">%B%</Item></GroupItem>
 <GroupItem GroupType="0" GroupFlag="0" key="GONE"><Item selected="1">%M%x</Item><Item selected="0">%B%</Item></GroupItem>
 </groups></VeltrineDuplicateFinder>)");
-        const QString path = m_dir.filePath("partly-gone.dupproj");
-        QVERIFY(writeFile(path, projectText(text).toUtf8()));
+        const QString path = writeProject("partly-gone.dupproj", text);
         fillSentinel();
         TOpenSaveThread thread;
         QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
@@ -294,8 +289,7 @@ private slots:
     {
         QFETCH(QByteArray, content);
         QFETCH(int, flag);
-        const QString path = m_dir.filePath("bad.dupproj");
-        QVERIFY(writeFile(path, projectText(QString::fromUtf8(content)).toUtf8()));
+        const QString path = writeProject("bad.dupproj", QString::fromUtf8(content));
         fillSentinel();
         const TFileData::Groups groups = TFileData::instance()->groups();
         const TFileData::DirGroups dirGroups = TFileData::instance()->dirGroups();
@@ -343,8 +337,7 @@ private slots:
                         .arg(g);
         }
         text += QStringLiteral("</groups></VeltrineDuplicateFinder>");
-        const QString path = m_dir.filePath("many.dupproj");
-        QVERIFY(writeFile(path, projectText(text).toUtf8()));
+        const QString path = writeProject("many.dupproj", text);
         fillSentinel();
         const TFileData::Groups groups = TFileData::instance()->groups();
         TOpenSaveThread thread;

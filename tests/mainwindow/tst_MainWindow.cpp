@@ -4,6 +4,7 @@
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
 #include "engine/ScanProblems.h"
+#include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/MainWindow.h"
@@ -89,24 +90,15 @@ private:
     {
         return m_window->findChild<T *>(QString::fromLatin1(name));
     }
-    QString makeFile(const QString &relative, const QByteArray &content);
-    QString todaysLog() const;
+    void makeFile(const QString &relative, const QByteArray &content)
+    {
+        QVERIFY(!ScanTree::write(m_tree.path(), relative, content).isEmpty());
+    }
     // A drop arrives after its drag entered, as from a file manager.
     void dropOnWindow(QMimeData *data);
     QTemporaryDir m_tree;
     MainWindow *m_window = nullptr;
 };
-
-QString tst_MainWindow::makeFile(const QString &relative, const QByteArray &content)
-{
-    const QString path = m_tree.filePath(relative);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write %s", qPrintable(path));
-    file.write(content);
-    return path;
-}
 
 void tst_MainWindow::dropOnWindow(QMimeData *data)
 {
@@ -114,12 +106,6 @@ void tst_MainWindow::dropOnWindow(QMimeData *data)
     QApplication::sendEvent(m_window, &enter);
     QDropEvent drop(QPointF(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(m_window, &drop);
-}
-
-QString tst_MainWindow::todaysLog() const
-{
-    QFile log(DataDirectory::todaysLogFile());
-    return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
 }
 
 void tst_MainWindow::initTestCase()
@@ -316,7 +302,7 @@ void tst_MainWindow::stopDuringScan()
     QCOMPARE(m_window->state(), 4);
     QVERIFY(done.count() == 1 || done.wait(30000));
     QCOMPARE(m_window->state(), 4);
-    const QString log = todaysLog();
+    const QString log = QString::fromUtf8(ScanTree::read(DataDirectory::todaysLogFile()));
     QVERIFY(log.contains(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning "
                                         "process.")));
     QVERIFY(log.lastIndexOf(QStringLiteral("All tasks are completed"))
@@ -511,13 +497,10 @@ void tst_MainWindow::unreadableRootIsNoAllClear()
 void tst_MainWindow::roundButtonFitsEveryLanguage_data()
 {
     QTest::addColumn<int>("language");
-    QTest::newRow("English") << 1;
-    QTest::newRow("French") << 2;
-    QTest::newRow("Portuguese") << 3;
-    QTest::newRow("Italian") << 4;
-    QTest::newRow("German") << 5;
-    QTest::newRow("Spanish") << 6;
-    QTest::newRow("Japanese") << 7;
+    int language = 0;
+    for (const char *name :
+        {"English", "French", "Portuguese", "Italian", "German", "Spanish", "Japanese"})
+        QTest::newRow(name) << ++language;
 }
 
 void tst_MainWindow::roundButtonFitsEveryLanguage()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TestEnvironment.h"
 #include "app/AppIdentity.h"
+#include "engine/ScanTree.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
@@ -22,19 +23,9 @@ using PriorityMap = QMap<QString, qint32>;
 
 namespace {
 
-QByteArray readText(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.readAll();
-}
-
 void writeText(const QString &path, const QByteArray &text)
 {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(text);
+    QVERIFY(!ScanTree::write(QFileInfo(path).path(), QFileInfo(path).fileName(), text).isEmpty());
 }
 
 QObject *groupOf(const DFPreferences &store, const QString &which)
@@ -112,11 +103,11 @@ void TestDFPreferences::freshSaveWritesExactText()
           "scanPriority=1\n"
           "selectedSimilar=false\n"
           "selectionHint=2\n";
-    QCOMPARE(QString::fromUtf8(readText(path)), QString::fromUtf8(expected));
+    QCOMPARE(QString::fromUtf8(ScanTree::read(path)), QString::fromUtf8(expected));
 
     // Loading that file and saving again changes nothing.
     DFPreferences(path).save();
-    QCOMPARE(QString::fromUtf8(readText(path)), QString::fromUtf8(expected));
+    QCOMPARE(QString::fromUtf8(ScanTree::read(path)), QString::fromUtf8(expected));
 }
 
 void TestDFPreferences::priorityMapRoundTrip()
@@ -128,7 +119,7 @@ void TestDFPreferences::priorityMapRoundTrip()
             {{QStringLiteral("D:/a"), 2}, {QStringLiteral("D:/b"), 1}});
         store.save();
     }
-    const QString text = QString::fromUtf8(readText(path));
+    const QString text = QString::fromUtf8(ScanTree::read(path));
     QVERIFY2(text.contains(QStringLiteral("\n[map]\n1=D:/b\n2=D:/a\n")), qPrintable(text));
     QVERIFY(!text.contains(QStringLiteral("mapPriority")));
     {
@@ -138,7 +129,7 @@ void TestDFPreferences::priorityMapRoundTrip()
         store.selectionPreferences()->setMapPriority({});
         store.save();
     }
-    QVERIFY(!readText(path).contains("[map]"));
+    QVERIFY(!ScanTree::read(path).contains("[map]"));
     QVERIFY(DFPreferences(path).selectionPreferences()->mapPriority().isEmpty());
 }
 
@@ -229,7 +220,7 @@ void TestDFPreferences::similarityValueRoundTrip()
         QVERIFY(store.generalPreferences()->setProperty("SimilarityValue", 72));
         store.save();
     }
-    QVERIFY(readText(path).contains("\nSimilarityValue=72\n"));
+    QVERIFY(ScanTree::read(path).contains("\nSimilarityValue=72\n"));
     QCOMPARE(DFPreferences(path).generalPreferences()->property("SimilarityValue").toInt(), 72);
 }
 
@@ -383,7 +374,7 @@ void TestDFPreferences::instanceIsOneStoreInTheConfigFolder()
         s_environment.path() + "/config/Veltrine/Veltrine Duplicate Finder/preferences.cfg");
     store->ignoreListPreferences()->setDeleteException(1);
     store->save();
-    QVERIFY(readText(store->settingsPath()).contains("\ndeleteException=1\n"));
+    QVERIFY(ScanTree::read(store->settingsPath()).contains("\ndeleteException=1\n"));
 }
 
 QTEST_GUILESS_MAIN(TestDFPreferences)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TestEnvironment.h"
 #include "app/FileTypeCatalogue.h"
+#include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "results/TImageModel.h"
 
@@ -43,12 +44,9 @@ private:
 
 QString tst_TImageModel::writeFile(const QString &name, const QByteArray &content)
 {
-    const QString path = m_dir.filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write %s", qPrintable(path));
-    file.write(content);
+    const QString path = ScanTree::write(m_dir.path(), name, content);
+    if (path.isEmpty())
+        qFatal("cannot write %s", qPrintable(name));
     return path;
 }
 
