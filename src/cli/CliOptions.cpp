@@ -59,9 +59,23 @@ QString CliOptions::usage()
     return QStringLiteral(
         "usage: veltrine-duplicate-finder-cli scan [options] FOLDER...\n"
         "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
+        "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
+        "trash|permanent|move\n"
+        "                                     [--to DIR] [--dry-run] [--allow-all-copies] "
+        "[--json]\n"
+        "       veltrine-duplicate-finder-cli restore [--json]\n"
         "\n"
-        "scan finds duplicate files in the given folders; report prints the groups and the\n"
-        "selection of a saved project. Nothing is deleted or moved.\n"
+        "scan finds duplicate files in the given folders and report prints the groups and\n"
+        "the selection of a saved project; neither deletes or moves anything. remove acts\n"
+        "on a saved project's selection: to the trash, for good, or into the folder --to\n"
+        "(never over an existing name). Just before each item goes it is checked: it must\n"
+        "be as the scan saw it, a member of its group that stays must still exist as a\n"
+        "separate file, and for identical files its whole content must still equal that\n"
+        "copy's. Items that fail a check are skipped with the reason; when a group's every\n"
+        "copy is selected the first stays unless --allow-all-copies is given. --dry-run\n"
+        "lists what would be removed and skipped. Every removal is written to a journal\n"
+        "in the data folder; restore puts the last batch that went to the trash or into\n"
+        "a folder back where it was (never over an existing file).\n"
         "\n"
         "options:\n"
         "  --method sampled|full|name  how files are compared (default sampled: size and three\n"
@@ -110,7 +124,8 @@ QString CliOptions::usage()
         "exit status: 0 done, 1 bad arguments, 2 a folder does not exist, is not a\n"
         "             folder, or none of the folders could be read, 3 the project file\n"
         "             could not be saved or read, 4 the picture comparison could not\n"
-        "             be started\n");
+        "             be started, 5 remove or restore skipped or failed some items\n"
+        "             (each listed with its reason on standard error)\n");
 }
 
 bool CliOptions::checkSizes()
@@ -137,29 +152,60 @@ bool CliOptions::checkSizes()
     return true;
 }
 
-CliOptions::ParseResult CliOptions::parseReport(const QStringList &arguments)
+CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &arguments)
 {
-    m_command = Report;
+    const QString &command = arguments.first();
+    m_command = command == QLatin1String("report") ? Report
+        : command == QLatin1String("remove")       ? Remove
+                                                   : Restore;
+    const bool removing = m_command == Remove;
     for (int i = 1; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
+        const bool hasValue = i + 1 < arguments.size();
         if (argument == QLatin1String("-h") || argument == QLatin1String("--help"))
             return Help;
         if (argument == QLatin1String("--json")) {
             m_json = true;
-        } else if (argument == QLatin1String("--log-dir") && i + 1 < arguments.size()) {
+        } else if (argument == QLatin1String("--log-dir") && hasValue) {
             m_logDirectory = arguments.at(++i);
+        } else if (removing && argument == QLatin1String("--method") && hasValue) {
+            const QString value = arguments.at(++i);
+            static const QStringList names {"trash", "permanent", "move"};
+            m_removalMethod = int(names.indexOf(value));
+            if (m_removalMethod < 0) {
+                m_error = QStringLiteral("unknown removal method \"%1\" (trash, permanent or move)")
+                              .arg(value);
+                return BadArguments;
+            }
+        } else if (removing && argument == QLatin1String("--to") && hasValue) {
+            m_targetFolder = QDir::cleanPath(QFileInfo(arguments.at(++i)).absoluteFilePath());
+        } else if (removing && argument == QLatin1String("--dry-run")) {
+            m_dryRun = true;
+        } else if (removing && argument == QLatin1String("--allow-all-copies")) {
+            m_allowAllCopies = true;
         } else if (argument.startsWith(QLatin1Char('-')) && argument != QLatin1String("-")) {
-            m_error = QStringLiteral("unknown option \"%1\" for report").arg(argument);
+            m_error = QStringLiteral("unknown option \"%1\" for %2").arg(argument, command);
             return BadArguments;
-        } else if (m_projectPath.isEmpty()) {
+        } else if (m_command != Restore && m_projectPath.isEmpty()) {
             m_projectPath = argument;
         } else {
-            m_error = QStringLiteral("report takes one project file");
+            m_error = m_command == Restore
+                ? QStringLiteral("restore takes no file")
+                : QStringLiteral("%1 takes one project file").arg(command);
             return BadArguments;
         }
     }
-    if (m_projectPath.isEmpty()) {
+    if (m_command != Restore && m_projectPath.isEmpty()) {
         m_error = QStringLiteral("no project file given");
+        return BadArguments;
+    }
+    if (removing && m_removalMethod < 0) {
+        m_error = QStringLiteral("remove needs --method trash, permanent or move");
+        return BadArguments;
+    }
+    if (removing && (m_removalMethod == 2) != !m_targetFolder.isEmpty()) {
+        m_error = m_removalMethod == 2 ? QStringLiteral("--method move needs --to FOLDER")
+                                       : QStringLiteral("--to goes with --method move only");
         return BadArguments;
     }
     return Ok;
@@ -173,8 +219,9 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
     }
     if (arguments.first() == QLatin1String("-h") || arguments.first() == QLatin1String("--help"))
         return Help;
-    if (arguments.first() == QLatin1String("report"))
-        return parseReport(arguments);
+    static const QStringList projectCommands {"report", "remove", "restore"};
+    if (projectCommands.contains(arguments.first()))
+        return parseProjectCommand(arguments);
     if (arguments.first() != QLatin1String("scan")) {
         m_error = QStringLiteral("unknown command \"%1\"").arg(arguments.first());
         return BadArguments;

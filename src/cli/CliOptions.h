@@ -13,7 +13,7 @@ class CliOptions
 {
 public:
     enum ParseResult { Ok, Help, BadArguments };
-    enum Command { Scan, Report };
+    enum Command { Scan, Report, Remove, Restore };
 
     // Parses the arguments after the program name; on BadArguments error() says why.
     ParseResult parse(const QStringList &arguments);
@@ -24,6 +24,12 @@ public:
     Command command() const { return m_command; }
     // The project file of the report command.
     QString projectPath() const { return m_projectPath; }
+    // remove: the removal method (TFileDeleter's values), its target folder, and the two
+    // switches.
+    int removalMethod() const { return m_removalMethod; }
+    QString targetFolder() const { return m_targetFolder; }
+    bool dryRun() const { return m_dryRun; }
+    bool allowAllCopies() const { return m_allowAllCopies; }
     QStringList folders() const { return m_folders; }
     bool json() const { return m_json; }
     QString savePath() const { return m_savePath; }
@@ -37,13 +43,18 @@ public:
     QJsonObject similarConfig() const;
 
 private:
-    ParseResult parseReport(const QStringList &arguments);
+    // report, remove and restore: a project file (not for restore) and their options.
+    ParseResult parseProjectCommand(const QStringList &arguments);
     // Checks the size limits once all options are read.
     bool checkSizes();
 
     QString m_error;
     Command m_command = Scan;
     QString m_projectPath;
+    int m_removalMethod = -1;
+    QString m_targetFolder;
+    bool m_dryRun = false;
+    bool m_allowAllCopies = false;
     QStringList m_folders;
     int m_method = 0;
     int m_selectHint = 2;

@@ -4,6 +4,9 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
 #include "cli/CliOptions.h"
+#include "cli/CliText.h"
+#include "cli/ProjectLoader.h"
+#include "cli/RemovalCommands.h"
 #include "engine/FilePathCodec.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
@@ -26,6 +29,10 @@
 
 namespace {
 
+using CliText::lineText;
+using CliText::writeJsonList;
+using CliText::writeJsonString;
+
 struct OutputGroup
 {
     QString key;
@@ -33,59 +40,6 @@ struct OutputGroup
     QStringList files;
     QStringList selected;
 };
-
-// JSON string with the bytes of names that are not valid UTF-8 kept as the escapes
-// \udc80-\udcff, so a reader that decodes them the same way gets the exact file name.
-void writeJsonString(std::FILE *out, const QString &text)
-{
-    QByteArray buffer;
-    buffer.reserve(text.size() + 8);
-    buffer.append('"');
-    // Characters that need no escape are converted a run at a time: one conversion per
-    // path instead of one per character.
-    qsizetype run = 0;
-    const auto flush = [&](qsizetype end) {
-        if (end > run)
-            buffer.append(QStringView(text).mid(run, end - run).toUtf8());
-    };
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text.at(i).unicode();
-        if (c == '"' || c == '\\') {
-            flush(i);
-            buffer.append('\\').append(char(c));
-            run = i + 1;
-        } else if (c < 0x20) {
-            flush(i);
-            buffer.append(QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0')).toLatin1());
-            run = i + 1;
-        } else if (QChar::isSurrogate(c)) {
-            const bool paired = QChar::isHighSurrogate(c) && i + 1 < text.size()
-                && QChar::isLowSurrogate(text.at(i + 1).unicode());
-            if (paired) {
-                ++i;
-            } else {
-                flush(i);
-                buffer.append(
-                    QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0')).toLatin1());
-                run = i + 1;
-            }
-        }
-    }
-    flush(text.size());
-    buffer.append('"');
-    std::fwrite(buffer.constData(), 1, size_t(buffer.size()), out);
-}
-
-void writeJsonList(std::FILE *out, const QStringList &items)
-{
-    std::fputc('[', out);
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (i)
-            std::fputs(", ", out);
-        writeJsonString(out, items.at(i));
-    }
-    std::fputc(']', out);
-}
 
 QList<OutputGroup> collectGroups()
 {
@@ -171,47 +125,6 @@ void printJson(
     std::fputs(groups.isEmpty() ? "]}\n" : "\n]}\n", out);
 }
 
-// A name as one safe line of text: a backslash doubled, control characters (C0, DEL
-// and C1) and bytes that are not UTF-8 written as escapes, so that a name can neither
-// split a record nor send escape sequences to the terminal.
-QByteArray lineText(const QString &text)
-{
-    QByteArray out;
-    out.reserve(text.size() + 8);
-    qsizetype run = 0;
-    const auto flush = [&](qsizetype end) {
-        if (end > run)
-            out.append(QStringView(text).mid(run, end - run).toUtf8());
-    };
-    const auto hex = [&out](unsigned value) {
-        static const char digits[] = "0123456789abcdef";
-        out.append("\\x").append(digits[(value >> 4) & 0xF]).append(digits[value & 0xF]);
-    };
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text.at(i).unicode();
-        const bool lone = c >= 0xDC80 && c <= 0xDCFF
-            && (i == 0 || !QChar::isHighSurrogate(text.at(i - 1).unicode()));
-        if (c != '\\' && c >= 0x20 && c != 0x7F && !(c >= 0x80 && c <= 0x9F) && !lone)
-            continue;
-        flush(i);
-        run = i + 1;
-        if (c == '\\')
-            out.append("\\\\");
-        else if (c == '\n')
-            out.append("\\n");
-        else if (c == '\r')
-            out.append("\\r");
-        else if (c == '\t')
-            out.append("\\t");
-        else if (lone)
-            hex(c - 0xDC00);
-        else
-            hex(c);
-    }
-    flush(text.size());
-    return out;
-}
-
 void printText(const QList<OutputGroup> &groups)
 {
     for (const OutputGroup &group : groups) {
@@ -270,37 +183,16 @@ void printGroups(const CliOptions &options, qint64 scannedFiles, double seconds,
 // project reader as the window's.
 int runReport(const CliOptions &options)
 {
-    const QFileInfo info(options.projectPath());
-    if (!info.exists() || info.isDir()) {
-        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s: %s\n",
-            lineText(options.projectPath()).constData(),
-            info.isDir() ? "is a folder, not a project file" : "no such project file");
-        return 3;
-    }
-    TOpenSaveThread reader;
-    int flag = -1;
-    QEventLoop loop;
-    QObject::connect(
-        &reader, &TOpenSaveThread::openProjectComplated, &loop,
-        [&](int result) {
-            flag = result;
-            loop.quit();
-        },
-        Qt::QueuedConnection);
-    if (reader.openProject(info.absoluteFilePath()))
-        loop.exec();
-    if (flag != TOpenSaveThread::ProjectSucceeded) {
-        std::fprintf(stderr,
-            "veltrine-duplicate-finder-cli: the project could not be read: %s %s\n",
-            qPrintable(TOpenSaveThread::resultText(flag)), qPrintable(reader.lastError()));
-        return 3;
-    }
+    qint64 scanned = 0;
+    QString scanTime;
+    if (const int status = ProjectLoader::load(options.projectPath(), &scanned, &scanTime))
+        return status;
     const QList<OutputGroup> groups = collectGroups();
-    printGroups(options, reader.scanFileCount(), 0.0, groups, Unread());
+    printGroups(options, scanned, 0.0, groups, Unread());
     if (!options.json())
         std::fprintf(stderr, "%lld groups of a scan of %lld files (%s)\n",
-            static_cast<long long>(groups.size()), static_cast<long long>(reader.scanFileCount()),
-            qPrintable(reader.scanTime()));
+            static_cast<long long>(groups.size()), static_cast<long long>(scanned),
+            qPrintable(scanTime));
     return 0;
 }
 
@@ -341,8 +233,15 @@ int main(int argc, char *argv[])
     if (!options.logDirectory().isEmpty() && !initLogger(options.logDirectory()))
         std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the log into %s\n",
             qPrintable(options.logDirectory()));
-    if (options.command() == CliOptions::Report) {
-        const int status = runReport(options);
+    if (options.command() != CliOptions::Scan) {
+        int status = 0;
+        if (options.command() == CliOptions::Report)
+            status = runReport(options);
+        else if (options.command() == CliOptions::Remove)
+            status = RemovalCommands::remove(options);
+        else
+            status = RemovalCommands::restore(options);
+        splog_flush_repeated();
         shutdownLogger();
         return status;
     }

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+// Opens a saved project into the result store through the window's own project reader.
+namespace ProjectLoader {
+
+// 0, or 3 after a message on standard error (no such file, a folder, not a project).
+int load(const QString &path, qint64 *scannedFiles = nullptr, QString *scanTime = nullptr);
+
+} // namespace ProjectLoader

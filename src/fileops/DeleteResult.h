@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QMetaType>
+#include <QString>
+
+// The outcome of one item of a removal.
+struct DeleteResult
+{
+    enum Code : int {
+        NoError = 0,
+        NotAFile = 2,
+        NotAFolder = 3,
+        MoveFailed = 6,
+        RemovalFailed = 9,
+        // A check just before the removal kept the item; reason says which.
+        Skipped = 10,
+    };
+
+    QString path;
+    // True when the item is gone from its place (an item already missing counts).
+    bool success = true;
+    int errorCode = NoError;
+    // "Target is not a file.", "Target is not a folder.", "Deletion failed.", "Folder
+    // deletion failed." or "Skipped."; empty on success.
+    QString message;
+    // The system's words for a failure, or the check that kept a skipped item.
+    QString reason;
+    // Where the item went: its place in the trash, or its new path after a move.
+    QString destination;
+};
+Q_DECLARE_METATYPE(DeleteResult)

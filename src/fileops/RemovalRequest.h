@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/TFileData.h"
+
+#include <QSet>
+#include <QString>
+
+// Everything one batch removal works from: the method, the groups and their selection as
+// the store holds them when the batch starts, and what the scan saw of each file.
+struct RemovalRequest
+{
+    int method = 0;
+    QString targetFolder;
+    // Lets a group lose every copy when its whole membership is selected; otherwise the
+    // first member in group order stays.
+    bool allowAllCopies = false;
+    // Checks every item and reports what would happen, removing nothing.
+    bool dryRun = false;
+
+    TFileData::Groups groups;
+    TFileData::DirGroups dirGroups;
+    TFileData::Groups selected;
+    TFileData::Stamps stamps;
+    QSet<QString> nameGroups;
+
+    // The store's current groups, selection and stamps.
+    static RemovalRequest fromStore(int method, const QString &targetFolder);
+};

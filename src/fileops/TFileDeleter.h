@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "fileops/DeleteResult.h"
+
+#include <QString>
+
+// Removes one file or folder by one of the three removal methods: to the trash, for
+// good, or into a chosen folder. Stateless; every failure is logged with the system's
+// words. A move never replaces anything: an existing name gets a free one, and a move to
+// another drive copies, checks the copy and only then removes the original.
+class TFileDeleter
+{
+public:
+    enum Method : int { moveToTrash = 0, removePermanently = 1, moveToFolder = 2 };
+
+    static DeleteResult deleteOne(const QString &path, int method, const QString &targetFolder);
+    static DeleteResult deleteFile(const QString &path, int method, const QString &targetFolder);
+    static DeleteResult deleteFolder(const QString &path, int method, const QString &targetFolder);
+
+    // Each returns whether the item is gone; destination receives where it went, error
+    // the system's code of the last failure.
+    static bool moveFileToTrash(const QString &path, QString &destination, int &error);
+    static bool removeFile(const QString &path, int &error);
+    static bool moveIntoFolder(
+        const QString &path, const QString &folder, QString &destination, int &error);
+
+    // The first free name for name in folder: "name.ext", then "name (2).ext", and so on
+    // (folders: "name (2)").
+    static QString freeName(const QString &folder, const QString &name, bool isFolder);
+    static QString errorText(int code);
+};

@@ -1,0 +1,379 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/FilePathCodec.h"
+#include "engine/ScanTree.h"
+#include "fileops/RemovalCheck.h"
+#include "fileops/RemovalJournal.h"
+#include "fileops/RemovalRestorer.h"
+#include "fileops/TFileDeleter.h"
+#include "fileops/TImageDeleteWorker.h"
+
+#include <fcntl.h>
+#include <fstream>
+#include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// What happens to the tree between the scan and the removal, one fault a row.
+enum Fault {
+    NoFault,
+    SizeChanged,
+    TimeChanged,
+    ContentChanged,
+    KeptCopyDeleted,
+    KeptCopyIsLinkToItem,
+    HardLinkedToKeptCopy,
+    ItemVanished,
+    BothSelected,
+    BothSelectedAllowed,
+    ReadOnlyItem,
+    ReadOnlyFolder,
+    SimilarPictures,
+    MoveNameTaken,
+};
+
+void setModified(const QString &path, qint64 seconds)
+{
+    const struct timespec times[2] = {{seconds, 0}, {seconds, 0}};
+    ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
+}
+
+// A two-member group of identical files a/x.bin (kept) and b/x.bin (selected), stamped as
+// a scan would.
+struct Pair
+{
+    QTemporaryDir dir;
+    QString kept;
+    QString item;
+    RemovalRequest request;
+
+    explicit Pair(int method)
+    {
+        const QByteArray data = ScanTree::pattern(20000, 3);
+        kept = ScanTree::write(dir.path(), "a/x.bin", data);
+        item = ScanTree::write(dir.path(), "b/x.bin", data);
+        setModified(kept, 1000000000);
+        setModified(item, 1000000000);
+        request.method = method;
+        request.targetFolder = dir.path() + "/moved";
+        request.groups.insert("G", {kept, item});
+        request.selected.insert("G", {item});
+        for (const QString &path : {kept, item})
+            request.stamps.insert(path, FileStamp::of(path));
+    }
+
+    QList<DeleteResult> run(TFileData::Groups *remaining = nullptr)
+    {
+        TImageDeleteWorker worker(request);
+        QObject::connect(&worker, &TImageDeleteWorker::finished,
+            [remaining](const TFileData::Groups &, const TFileData::Groups &,
+                const TFileData::Groups &selected) {
+                if (remaining)
+                    *remaining = selected;
+            });
+        worker.doDelete();
+        return worker.results();
+    }
+};
+
+} // namespace
+
+class TestTImageDeleteWorker : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void faults_data();
+    void faults();
+    void folders_data();
+    void folders();
+    void cancelKeepsTheRestSelected();
+    void trashEntryRestorable();
+    void restorePutsBatchBack();
+
+private:
+    QTemporaryDir m_home;
+};
+
+void TestTImageDeleteWorker::initTestCase()
+{
+    // The trash of this test, not the user's.
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.path()));
+}
+
+void TestTImageDeleteWorker::faults_data()
+{
+    QTest::addColumn<int>("fault");
+    QTest::addColumn<int>("method");
+    QTest::addColumn<QString>("outcome"); // of the selected item: removed, skipped, failed
+    QTest::addColumn<QString>("reason");
+    const int trash = TFileDeleter::moveToTrash;
+    const int permanent = TFileDeleter::removePermanently;
+    const int move = TFileDeleter::moveToFolder;
+    for (int method : {trash, permanent, move}) {
+        const QByteArray name = RemovalJournal::methodName(method).toLatin1();
+        QTest::newRow("nothing changed, " + name) << int(NoFault) << method << "removed"
+                                                  << "";
+        QTest::newRow("read-only file, " + name) << int(ReadOnlyItem) << method << "removed"
+                                                 << "";
+    }
+    QTest::newRow("size changed") << int(SizeChanged) << permanent << "skipped"
+                                  << RemovalCheck::changedSinceScan;
+    QTest::newRow("modification time changed")
+        << int(TimeChanged) << permanent << "skipped" << RemovalCheck::changedSinceScan;
+    QTest::newRow("same size and time, content changed")
+        << int(ContentChanged) << permanent << "skipped" << RemovalCheck::contentDiffers;
+    QTest::newRow("kept copy deleted")
+        << int(KeptCopyDeleted) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
+    QTest::newRow("kept copy replaced by a link to the item")
+        << int(KeptCopyIsLinkToItem) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
+    QTest::newRow("item hard-linked to the kept copy")
+        << int(HardLinkedToKeptCopy) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
+    QTest::newRow("item vanished") << int(ItemVanished) << permanent << "removed"
+                                   << "";
+    QTest::newRow("both members selected: the first stays")
+        << int(BothSelected) << permanent << "removed"
+        << "";
+    QTest::newRow("whole group selected, allowed")
+        << int(BothSelectedAllowed) << permanent << "removed"
+        << "";
+    QTest::newRow("similar pictures: tagged entries")
+        << int(SimilarPictures) << permanent << "removed"
+        << "";
+    QTest::newRow("move: name taken") << int(MoveNameTaken) << move << "removed"
+                                      << "";
+    // Permission bits do not stop the superuser; the unprivileged run covers this row.
+    if (::geteuid() != 0)
+        QTest::newRow("file in a read-only folder") << int(ReadOnlyFolder) << permanent << "failed"
+                                                    << "Permission denied";
+}
+
+void TestTImageDeleteWorker::faults()
+{
+    QFETCH(int, fault);
+    QFETCH(int, method);
+    QFETCH(QString, outcome);
+    QFETCH(QString, reason);
+    Pair pair(method);
+    const QByteArray keptBytes = ScanTree::read(pair.kept);
+    QString taken;
+    switch (fault) {
+    case SizeChanged:
+        ScanTree::write(pair.dir.path(), "b/x.bin", keptBytes + "more");
+        break;
+    case TimeChanged:
+        setModified(pair.item, 1000000100);
+        break;
+    case ContentChanged: {
+        QByteArray edited = keptBytes;
+        edited[100] = char(edited[100] ^ 1);
+        ScanTree::write(pair.dir.path(), "b/x.bin", edited);
+        setModified(pair.item, 1000000000);
+        break;
+    }
+    case KeptCopyDeleted:
+        QFile::remove(pair.kept);
+        break;
+    case KeptCopyIsLinkToItem:
+        QFile::remove(pair.kept);
+        QVERIFY(QFile::link(pair.item, pair.kept));
+        break;
+    case HardLinkedToKeptCopy:
+        QFile::remove(pair.kept);
+        QCOMPARE(::link(QFile::encodeName(pair.item).constData(),
+                     QFile::encodeName(pair.kept).constData()),
+            0);
+        break;
+    case ItemVanished:
+        QFile::remove(pair.item);
+        break;
+    case BothSelected:
+    case BothSelectedAllowed:
+        pair.request.selected["G"] = {pair.kept, pair.item};
+        pair.request.allowAllCopies = fault == BothSelectedAllowed;
+        break;
+    case ReadOnlyItem:
+        QFile::setPermissions(pair.item, QFileDevice::ReadOwner);
+        break;
+    case ReadOnlyFolder:
+        QFile::setPermissions(
+            pair.dir.path() + "/b", QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        break;
+    case SimilarPictures:
+        // Similar pictures differ by design; the selection names the file untagged.
+        ScanTree::write(pair.dir.path(), "b/x.bin", keptBytes + "other");
+        pair.request.stamps.insert(pair.item, FileStamp::of(pair.item));
+        pair.request.groups["G"] = {pair.kept + "_simlar_100", pair.item + "_simlar_91"};
+        break;
+    case MoveNameTaken:
+        taken = ScanTree::write(pair.request.targetFolder, "x.bin", "already here");
+        break;
+    }
+    TFileData::Groups remaining;
+    const QList<DeleteResult> results = pair.run(&remaining);
+    QFile::setPermissions(pair.dir.path() + "/b",
+        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+
+    const DeleteResult *item = nullptr;
+    for (const DeleteResult &result : results)
+        if (result.path == pair.item)
+            item = &result;
+    QVERIFY(item);
+    const QString got = item->errorCode == DeleteResult::Skipped ? "skipped"
+        : item->success                                          ? "removed"
+                                                                 : "failed";
+    QCOMPARE(got, outcome);
+    QVERIFY2(item->reason.contains(reason), qPrintable(item->reason));
+    QCOMPARE(QFileInfo::exists(pair.item), outcome != "removed");
+    // A skipped or failed item keeps its selection.
+    QCOMPARE(remaining.value("G").contains(pair.item), outcome != "removed");
+    // The kept copy is never touched, unless every copy was allowed to go.
+    if (fault == BothSelectedAllowed) {
+        QVERIFY(!QFileInfo::exists(pair.kept));
+    } else if (fault != KeptCopyDeleted) {
+        QVERIFY(QFileInfo::exists(pair.kept));
+        if (fault != KeptCopyIsLinkToItem && fault != HardLinkedToKeptCopy)
+            QCOMPARE(ScanTree::read(pair.kept), keptBytes);
+    }
+    if (fault == BothSelected)
+        QCOMPARE(results.first().reason, TImageDeleteWorker::keptLastCopy);
+    if (method == TFileDeleter::moveToFolder && outcome == "removed") {
+        // A move never replaces: the taken name keeps its file, the item gets a free one.
+        const QString expected = pair.request.targetFolder
+            + (taken.isEmpty() ? QStringLiteral("/x.bin") : QStringLiteral("/x (2).bin"));
+        QCOMPARE(item->destination, expected);
+        QCOMPARE(ScanTree::read(expected), keptBytes);
+        if (!taken.isEmpty())
+            QCOMPARE(ScanTree::read(taken), QByteArray("already here"));
+    }
+}
+
+void TestTImageDeleteWorker::folders_data()
+{
+    QTest::addColumn<bool>("extraFile");
+    QTest::addColumn<bool>("nameTaken");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("alike, moved beside a folder of the same name") << false << true << "";
+    QTest::newRow("a file without a copy in the kept folder")
+        << true << false << RemovalCheck::folderNotCovered;
+}
+
+void TestTImageDeleteWorker::folders()
+{
+    QFETCH(bool, extraFile);
+    QFETCH(bool, nameTaken);
+    QFETCH(QString, reason);
+    QTemporaryDir dir;
+    for (const char *folder : {"F", "G/F"}) {
+        ScanTree::write(dir.path(), QString("%1/one.bin").arg(folder), ScanTree::pattern(9000, 1));
+        ScanTree::write(dir.path(), QString("%1/sub/.two").arg(folder), ScanTree::pattern(7000, 2));
+    }
+    if (extraFile)
+        ScanTree::write(dir.path(), "G/F/sub/extra.bin", "no copy of this anywhere");
+    const QString target = dir.path() + "/moved";
+    if (nameTaken)
+        ScanTree::write(target, "F/occupant.txt", "stays");
+    RemovalRequest request;
+    request.method = TFileDeleter::moveToFolder;
+    request.targetFolder = target;
+    request.dirGroups.insert("D", {{dir.path() + "/F", 2, 16000}, {dir.path() + "/G/F", 2, 16000}});
+    request.selected.insert("D", {dir.path() + "/G/F"});
+    TImageDeleteWorker worker(request);
+    worker.doDelete();
+    const DeleteResult result = worker.results().value(0);
+    QCOMPARE(result.reason, reason);
+    QCOMPARE(QFileInfo::exists(dir.path() + "/G/F"), !reason.isEmpty());
+    if (reason.isEmpty()) {
+        QCOMPARE(result.destination, target + "/F (2)");
+        QVERIFY(QFileInfo::exists(target + "/F (2)/sub/.two"));
+        QCOMPARE(ScanTree::read(target + "/F/occupant.txt"), QByteArray("stays"));
+    }
+}
+
+void TestTImageDeleteWorker::cancelKeepsTheRestSelected()
+{
+    QTemporaryDir dir;
+    RemovalRequest request;
+    request.method = TFileDeleter::removePermanently;
+    QStringList members;
+    for (int i = 0; i < 5; ++i)
+        members.append(ScanTree::write(dir.path(), QString("c%1.bin").arg(i), "same"));
+    request.groups.insert("G", members);
+    request.selected.insert("G", members.mid(1));
+    TImageDeleteWorker worker(request);
+    TFileData::Groups remaining;
+    connect(&worker, &TImageDeleteWorker::progressChanged, &worker, [&worker](int done) {
+        if (done == 1)
+            worker.setCancelled();
+    });
+    connect(&worker, &TImageDeleteWorker::finished,
+        [&remaining](const TFileData::Groups &, const TFileData::Groups &,
+            const TFileData::Groups &selected) { remaining = selected; });
+    worker.doDelete();
+    QCOMPARE(worker.results().size(), 1);
+    QCOMPARE(remaining.value("G"), members.mid(2));
+    for (const QString &path : members.mid(2))
+        QVERIFY(QFileInfo::exists(path));
+}
+
+void TestTImageDeleteWorker::trashEntryRestorable()
+{
+    Pair pair(TFileDeleter::moveToTrash);
+    // A name that is not UTF-8 goes to the trash and is recorded byte for byte.
+    const QByteArray odd = QFile::encodeName(pair.dir.path()) + "/b/caf\xe9 \x01.bin";
+    QCOMPARE(::rename(QFile::encodeName(pair.item).constData(), odd.constData()), 0);
+    const QString item = FilePathCodec::decode(odd);
+    pair.request.groups["G"] = {pair.kept, item};
+    pair.request.selected["G"] = {item};
+    pair.request.stamps.insert(item, FileStamp::of(item));
+    const DeleteResult result = pair.run().value(0);
+    QVERIFY2(result.success, qPrintable(result.reason));
+    const QByteArray trashed = FilePathCodec::encode(result.destination);
+    QVERIFY(trashed.startsWith(QFile::encodeName(m_home.path()) + "/Trash/files/"));
+    QVERIFY(::access(trashed.constData(), F_OK) == 0);
+    // What a file manager reads to restore it.
+    const QByteArray infoPath = QFile::encodeName(m_home.path()) + "/Trash/info/"
+        + trashed.mid(trashed.lastIndexOf('/') + 1) + ".trashinfo";
+    std::ifstream in(infoPath.toStdString());
+    std::stringstream text;
+    text << in.rdbuf();
+    const QByteArray info = QByteArray::fromStdString(text.str());
+    QVERIFY(info.startsWith("[Trash Info]\n"));
+    const QByteArray path = info.mid(info.indexOf("Path=") + 5).split('\n').first();
+    QCOMPARE(QByteArray::fromPercentEncoding(path), odd);
+    QVERIFY(QRegularExpression("\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n")
+                .match(QString::fromLatin1(info))
+                .hasMatch());
+}
+
+void TestTImageDeleteWorker::restorePutsBatchBack()
+{
+    QTemporaryDir journalDir;
+    for (int method : {int(TFileDeleter::moveToTrash), int(TFileDeleter::moveToFolder)}) {
+        Pair pair(method);
+        const QByteArray bytes = ScanTree::read(pair.item);
+        RemovalJournal journal(journalDir.path() + "/journal.jsonl");
+        QVERIFY(journal.begin(RemovalJournal::methodName(method), 1));
+        TImageDeleteWorker worker(pair.request);
+        worker.setJournal(&journal);
+        worker.doDelete();
+        journal.end();
+        QVERIFY(!QFileInfo::exists(pair.item));
+
+        QList<DeleteResult> restored;
+        RemovalRestorer restorer(journal);
+        QVERIFY(restorer.restoreLastBatch(restored));
+        QCOMPARE(restored.size(), 1);
+        QVERIFY2(restored.first().success, qPrintable(restored.first().reason));
+        QCOMPARE(ScanTree::read(pair.item), bytes);
+        // Undone batches are not restored twice.
+        QVERIFY(!RemovalRestorer(journal).restoreLastBatch(restored));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestTImageDeleteWorker)
+#include "tst_TImageDeleteWorker.moc"
