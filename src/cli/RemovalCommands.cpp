@@ -23,8 +23,8 @@ QString outcomeOf(const DeleteResult &result, bool dryRun)
     return dryRun ? QStringLiteral("would remove") : QStringLiteral("removed");
 }
 
-// Handled items on standard output, the others with their reasons on standard error (or
-// everything as one JSON object); the exit status.
+// Handled items on standard output (or everything as one JSON object there); items not
+// handled are always listed on standard error with their reason. Gives the exit status.
 int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QString &done)
 {
     int notHandled = 0;
@@ -34,32 +34,32 @@ int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QSt
         const DeleteResult &result = results.at(i);
         const bool handled = result.success;
         notHandled += handled ? 0 : 1;
-        const QString outcome
-            = handled ? (dryRun ? outcomeOf(result, true) : done) : outcomeOf(result, dryRun);
-        if (json) {
-            std::fputs(i ? ",\n  {\"path\": " : "\n  {\"path\": ", stdout);
-            CliText::writeJsonString(stdout, result.path);
-            std::fputs(", \"result\": ", stdout);
-            CliText::writeJsonString(stdout, outcome);
-            if (!result.destination.isEmpty()) {
-                std::fputs(", \"to\": ", stdout);
-                CliText::writeJsonString(stdout, result.destination);
-            }
-            if (!result.reason.isEmpty()) {
-                std::fputs(", \"reason\": ", stdout);
-                CliText::writeJsonString(stdout, result.reason);
-            }
-            std::fputc('}', stdout);
-            continue;
+        const QString outcome = handled && !dryRun ? done : outcomeOf(result, dryRun);
+        if (!handled || !json) {
+            std::FILE *out = handled ? stdout : stderr;
+            std::fprintf(
+                out, "%s\t%s", qPrintable(outcome), CliText::lineText(result.path).constData());
+            if (!result.destination.isEmpty())
+                std::fprintf(out, "\t-> %s", CliText::lineText(result.destination).constData());
+            if (!result.reason.isEmpty())
+                std::fprintf(out, "\t(%s)", CliText::lineText(result.reason).constData());
+            std::fputc('\n', out);
         }
-        std::FILE *out = handled ? stdout : stderr;
-        std::fprintf(
-            out, "%s\t%s", qPrintable(outcome), CliText::lineText(result.path).constData());
-        if (!result.destination.isEmpty())
-            std::fprintf(out, "\t-> %s", CliText::lineText(result.destination).constData());
-        if (!result.reason.isEmpty())
-            std::fprintf(out, "\t(%s)", CliText::lineText(result.reason).constData());
-        std::fputc('\n', out);
+        if (!json)
+            continue;
+        std::fputs(i ? ",\n  {\"path\": " : "\n  {\"path\": ", stdout);
+        CliText::writeJsonString(stdout, result.path);
+        std::fputs(", \"result\": ", stdout);
+        CliText::writeJsonString(stdout, outcome);
+        if (!result.destination.isEmpty()) {
+            std::fputs(", \"to\": ", stdout);
+            CliText::writeJsonString(stdout, result.destination);
+        }
+        if (!result.reason.isEmpty()) {
+            std::fputs(", \"reason\": ", stdout);
+            CliText::writeJsonString(stdout, result.reason);
+        }
+        std::fputc('}', stdout);
     }
     if (json)
         std::fprintf(stdout, "%s], \"handled\": %lld, \"notHandled\": %d}\n",

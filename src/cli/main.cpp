@@ -25,6 +25,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QTimer>
 
 namespace {
@@ -201,6 +202,9 @@ int runReport(const CliOptions &options)
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
+    // Standard error is the command line's own report; the library's debug lines would
+    // only mix into it.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     QCoreApplication::setOrganizationName(QStringLiteral("Veltrine"));
     QCoreApplication::setApplicationName(QStringLiteral("Veltrine Duplicate Finder"));
 
