@@ -342,6 +342,11 @@
         <translation>Unerwartetes Beenden während des letzten Löschvorgangs erkannt</translation>
     </message>
     <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
+        <translation>Vor dem Abbruch bearbeitete Elemente: %1 von %2.&lt;br&gt;Das Löschprotokoll führt jedes einzelne auf und wohin es ging:&lt;br&gt;%3</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Das Programm wurde während des letzten Stapel-Löschvorgangs unerwartet beendet,&lt;br&gt;möglicherweise durch Störungen einer Antivirensoftware.&lt;br&gt;&lt;br&gt;Deaktivieren Sie Ihr Antivirenprogramm vorübergehend oder fügen Sie diese Anwendung&lt;br&gt;zu seiner Ausnahmeliste hinzu, um Löschfehler oder Abstürze zu vermeiden.</translation>

@@ -342,6 +342,11 @@
         <translation>Se detectó un cierre anómalo durante la última eliminación</translation>
     </message>
     <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
+        <translation>Elementos procesados antes de la interrupción: %1 de %2.&lt;br&gt;El registro de eliminaciones indica cada uno y adónde fue:&lt;br&gt;%3</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>

@@ -342,6 +342,11 @@
         <translation>Fermeture anormale détectée lors de la dernière suppression</translation>
     </message>
     <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
+        <translation>Éléments traités avant l’interruption : %1 sur %2.&lt;br&gt;Le journal des suppressions indique chacun d’eux et où il est allé :&lt;br&gt;%3</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Le programme s&apos;est fermé de façon inattendue lors de la dernière suppression par lot,&lt;br&gt;peut-être à cause d&apos;un logiciel antivirus.&lt;br&gt;&lt;br&gt;Désactivez temporairement votre antivirus ou ajoutez cette application&lt;br&gt;à sa liste blanche pour éviter les échecs de suppression ou les plantages.</translation>

@@ -342,6 +342,11 @@
         <translation>Rilevata chiusura anomala durante l&apos;ultima eliminazione</translation>
     </message>
     <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
+        <translation>Elementi elaborati prima dell’interruzione: %1 di %2.&lt;br&gt;Il registro delle eliminazioni elenca ciascuno e dove è finito:&lt;br&gt;%3</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Il programma si è chiuso in modo imprevisto durante l&apos;ultima eliminazione in blocco,&lt;br&gt;forse a causa di un software antivirus.&lt;br&gt;&lt;br&gt;Disattivare temporaneamente l&apos;antivirus o aggiungere questa applicazione&lt;br&gt;al suo elenco di esclusioni per evitare errori di eliminazione o arresti anomali.</translation>

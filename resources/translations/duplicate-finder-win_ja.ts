@@ -334,6 +334,11 @@
         <translation>前回の削除中に異常終了を検出しました</translation>
     </message>
     <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
+        <translation>中断前に処理された項目: %2 件中 %1 件。&lt;br&gt;削除ジャーナルに各項目と移動先が記録されています:&lt;br&gt;%3</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>前回の一括削除中にプログラムが予期せず終了しました。&lt;br&gt;ウイルス対策ソフトウェアの干渉が原因の可能性があります。&lt;br&gt;&lt;br&gt;削除の失敗やクラッシュを避けるため、ウイルス対策ソフトを一時的に無効にするか、&lt;br&gt;このアプリケーションを許可リストに追加してください。</translation>

@@ -342,6 +342,11 @@
         <translation>Foi detetado um encerramento anómalo durante a última eliminação</translation>
     </message>
     <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
+        <translation>Itens processados antes da interrupção: %1 de %2.&lt;br&gt;O registro de remoções lista cada um e para onde foi:&lt;br&gt;%3</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>O programa terminou inesperadamente durante a última eliminação em lote,&lt;br&gt;possivelmente devido a interferência do antivírus.&lt;br&gt;&lt;br&gt;Desative temporariamente o antivírus ou adicione esta aplicação&lt;br&gt;à sua lista de permissões para evitar falhas de eliminação ou bloqueios.</translation>

@@ -9,6 +9,7 @@
 #include "app/TLogger.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
+#include "fileops/RemovalJournal.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/DailyRunReport.h"
 #include "mainwindow/EnvironmentLog.h"
@@ -1186,11 +1187,21 @@ void MainWindow::on_btn_set_clicked()
 void MainWindow::showAbnormalExitNotice()
 {
     reportFeature(AppIdentity::featureDeletedExcept, QString());
-    QMessageBox::information(this, tr("Abnormal Exit Detected During Last Deletion"),
-        tr("The program exited unexpectedly during the last batch deletion,<br>possibly "
-           "due to interference from antivirus software.<br><br>Please disable your "
-           "antivirus temporarily or add this application<br>to its whitelist to avoid "
-           "deletion failures or crashes."));
+    QString text = tr("The program exited unexpectedly during the last batch deletion,<br>possibly "
+                      "due to interference from antivirus software.<br><br>Please disable your "
+                      "antivirus temporarily or add this application<br>to its whitelist to avoid "
+                      "deletion failures or crashes.");
+    // The journal tells how far the interrupted batch got, item by item.
+    const RemovalJournal journal;
+    const RemovalJournal::Batch batch = journal.lastBatch();
+    if (!batch.id.isEmpty() && !batch.ended)
+        text += QStringLiteral("<br><br>")
+            + tr("Items handled before it stopped: %1 of %2.<br>The removal journal lists each "
+                 "one and where it went:<br>%3")
+                  .arg(batch.items.size())
+                  .arg(batch.planned)
+                  .arg(QDir::toNativeSeparators(journal.path()).toHtmlEscaped());
+    QMessageBox::information(this, tr("Abnormal Exit Detected During Last Deletion"), text);
     DFPreferences::instance()->ignoreListPreferences()->setDeleteException(0);
     DFPreferences::instance()->save();
 }

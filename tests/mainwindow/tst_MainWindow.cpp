@@ -6,6 +6,7 @@
 #include "engine/ScanProblems.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
+#include "fileops/RemovalJournal.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
@@ -529,6 +530,11 @@ void tst_MainWindow::abnormalExitNoticeOnce()
 {
     DFPreferences::instance()->ignoreListPreferences()->setDeleteException(1);
     DFPreferences::instance()->save();
+    // A batch of three cut off after its first item.
+    RemovalJournal journal;
+    QVERIFY(journal.begin(QStringLiteral("trash"), 3));
+    journal.record(QStringLiteral("trash"), DeleteResult {QStringLiteral("/gone/one.jpg")},
+        RemovalJournal::removed);
     MessageBoxCatcher boxes;
     const QStringList &titles = boxes.titles;
     {
@@ -537,6 +543,8 @@ void tst_MainWindow::abnormalExitNoticeOnce()
         QTRY_COMPARE(titles.size(), 1);
     }
     QCOMPARE(titles.first(), QStringLiteral("Abnormal Exit Detected During Last Deletion"));
+    QVERIFY(boxes.texts.first().contains(QStringLiteral("1 of 3")));
+    QVERIFY(boxes.texts.first().contains(QFileInfo(journal.path()).fileName()));
     QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
     {
         MainWindow again({QStringLiteral("program")});
