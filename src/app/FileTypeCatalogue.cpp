@@ -114,6 +114,9 @@ int getPathCategory(const QString &path)
 
 QString stripSimilarTag(const QString &key)
 {
+    // Nearly every entry carries no tag; the pattern runs only on the few that might.
+    if (!key.contains(kSimilarTag))
+        return key;
     static const QRegularExpression pattern(QStringLiteral("^(.*)%1_\\d+$").arg(kSimilarTag));
     const QRegularExpressionMatch match = pattern.match(key);
     return match.hasMatch() ? match.captured(1) : key;

@@ -892,9 +892,14 @@ void DuplicateFileFinder::storeGroup(
     }
     TFileData *store = TFileData::instance();
     store->insertGroup(groupKey, paths);
-    // What each member looked like now, for the checks before any removal.
+    // What each member looked like now, for the checks before any removal; the key
+    // stands for the whole content in the full mode and for files read whole.
+    const bool wholeContent
+        = scanMethod == scanAllContent || (scanMethod == scanContent && size <= kWholeFileLimit);
+    const quint64 key = contentKey.toULongLong(nullptr, 16);
     for (const QString &path : paths)
-        store->insertStamp(path, FileStamp::of(path));
+        store->insertStamp(
+            path, wholeContent ? FileStamp::withContentKey(path, key) : FileStamp::of(path));
     if (scanMethod == scanName)
         store->setGroupMatch(groupKey, TFileData::MatchName);
     // The "no selection" hint leaves the group without a selection entry.

@@ -3,6 +3,7 @@
 
 #include "engine/FilePathCodec.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 
 #ifdef Q_OS_UNIX
@@ -20,6 +21,7 @@ FileStamp FileStamp::of(const QString &path)
         return stamp;
     stamp.size = info.st_size;
     stamp.modifiedNs = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
+    stamp.changedNs = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
     stamp.device = quint64(info.st_dev);
     stamp.inode = quint64(info.st_ino);
 #else
@@ -29,5 +31,19 @@ FileStamp FileStamp::of(const QString &path)
     stamp.size = info.size();
     stamp.modifiedNs = info.lastModified().toMSecsSinceEpoch() * 1000000LL;
 #endif
+    return stamp;
+}
+
+FileStamp FileStamp::withContentKey(const QString &path, quint64 key)
+{
+    // A write within the file system's time stamp step of the read could leave size and
+    // time as they were; two seconds covers every common file system.
+    constexpr qint64 kRacyNs = 2'000'000'000LL;
+    FileStamp stamp = of(path);
+    const qint64 now = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    if (stamp.isValid() && now - stamp.modifiedNs > kRacyNs) {
+        stamp.contentKey = key;
+        stamp.hasContentKey = true;
+    }
     return stamp;
 }

@@ -27,7 +27,6 @@ QByteArray ContentHash::ofFile(const QString &path, int *error)
             *error = errno;
         return {};
     }
-    ::posix_fadvise(fd, 0, 0, POSIX_FADV_SEQUENTIAL);
     for (;;) {
         const ssize_t got = ::read(fd, buffer.data(), size_t(buffer.size()));
         if (got < 0 && errno == EINTR)

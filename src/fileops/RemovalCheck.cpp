@@ -52,6 +52,15 @@ Entry entryOf(const QString &path)
     entry.kind = S_ISDIR(info.st_mode) ? Kind::Folder
         : S_ISREG(info.st_mode)        ? Kind::File
                                        : Kind::Other;
+    // The stamp from the same look, not a second one.
+    if (entry.kind == Kind::File) {
+        entry.stamp.size = info.st_size;
+        entry.stamp.modifiedNs = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
+        entry.stamp.changedNs = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
+        entry.stamp.device = entry.device;
+        entry.stamp.inode = entry.inode;
+    }
+    return entry;
 #else
     const QFileInfo info(path);
     entry.kind = info.isSymLink() ? Kind::Other
@@ -161,7 +170,6 @@ QString RemovalCheck::checkFile(GroupKind kind, const QStringList &members, cons
     if (everyCopy)
         return {};
 
-    const QString itemReal = realPathOf(path);
     QByteArray itemHash;
     bool anyKept = false;
     for (const QString &member : members) {
@@ -169,8 +177,9 @@ QString RemovalCheck::checkFile(GroupKind kind, const QStringList &members, cons
             continue;
         const QString keptPath = stripSimilarTag(member);
         const Entry kept = entryOf(keptPath);
-        if (kept.kind != Kind::File || kept.stamp.sameFile(item.stamp)
-            || realPathOf(keptPath) == itemReal)
+        // A regular file (a link is no copy) that is not the item itself: one file under
+        // two names, or reached through linked folders, has one device and inode.
+        if (kept.kind != Kind::File || kept.stamp.sameFile(item.stamp))
             continue;
         anyKept = true;
         // Similar pictures and files sharing a name differ by design: the copy only has
@@ -179,6 +188,14 @@ QString RemovalCheck::checkFile(GroupKind kind, const QStringList &members, cons
             return {};
         if (kept.stamp.size != item.stamp.size)
             continue;
+        // Both untouched since the scan read them whole: their keys decide without
+        // reading them again.
+        const FileStamp keptSeen = m_stamps.value(keptPath);
+        if (seen.keyStillHolds(item.stamp) && keptSeen.keyStillHolds(kept.stamp)) {
+            if (seen.contentKey == keptSeen.contentKey)
+                return {};
+            continue;
+        }
         if (itemHash.isEmpty())
             itemHash = ContentHash::ofFile(path);
         if (itemHash.isEmpty())

@@ -198,6 +198,12 @@ QString TFileDeleter::freeName(const QString &folder, const QString &name, bool 
 
 DeleteResult TFileDeleter::deleteOne(const QString &path, int method, const QString &targetFolder)
 {
+    // A file is the common case: removed outright, the kind asked only when that fails.
+    if (method == removePermanently) {
+        const int error = platform::current().removePermanently(nativeOf(path));
+        if (error == 0 || error == ENOENT)
+            return DeleteResult {path};
+    }
     switch (kindOf(path)) {
     case Kind::Missing:
         return DeleteResult {path};

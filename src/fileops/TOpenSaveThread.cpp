@@ -43,6 +43,8 @@ const QString kSizeAttribute = QStringLiteral("size");
 const QString kModifiedAttribute = QStringLiteral("mtime");
 const QString kDeviceAttribute = QStringLiteral("device");
 const QString kInodeAttribute = QStringLiteral("inode");
+const QString kContentKeyAttribute = QStringLiteral("contentKey");
+const QString kChangedAttribute = QStringLiteral("ctime");
 // Longest path Windows accepts; anything longer cannot name a file.
 constexpr int kMaxPathLength = 32767;
 constexpr int kMaxKeyLength = 256;
@@ -366,6 +368,10 @@ int TOpenSaveThread::saveDocument(
                 xml.writeAttribute(kModifiedAttribute, QString::number(stamp.modifiedNs));
                 xml.writeAttribute(kDeviceAttribute, QString::number(stamp.device));
                 xml.writeAttribute(kInodeAttribute, QString::number(stamp.inode));
+                if (stamp.hasContentKey) {
+                    xml.writeAttribute(kContentKeyAttribute, QString::number(stamp.contentKey, 16));
+                    xml.writeAttribute(kChangedAttribute, QString::number(stamp.changedNs));
+                }
             }
             if (needsEncoding(path)) {
                 xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
@@ -539,6 +545,10 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
                     && readInteger(item, kInodeAttribute, inode)) {
                     stamp.device = quint64(device);
                     stamp.inode = quint64(inode);
+                    const QStringView key = item.value(kContentKeyAttribute);
+                    stamp.contentKey = key.toULongLong(&stamp.hasContentKey, 16);
+                    stamp.hasContentKey = stamp.hasContentKey
+                        && readInteger(item, kChangedAttribute, stamp.changedNs);
                 } else {
                     stamp = FileStamp();
                 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/DuplicateFileFinder.h"
 #include "engine/FilePathCodec.h"
 #include "engine/ScanTree.h"
 #include "fileops/RemovalCheck.h"
@@ -62,8 +63,11 @@ struct Pair
         request.targetFolder = dir.path() + "/moved";
         request.groups.insert("G", {kept, item});
         request.selected.insert("G", {item});
+        // As a full scan stamps them: with the whole-content key, reused while untouched.
         for (const QString &path : {kept, item})
-            request.stamps.insert(path, FileStamp::of(path));
+            request.stamps.insert(path,
+                FileStamp::withContentKey(
+                    path, DuplicateFileFinder::streamHash(path, 0).toULongLong(nullptr, 16)));
     }
 
     QList<DeleteResult> run(TFileData::Groups *remaining = nullptr)
@@ -159,6 +163,7 @@ void TestTImageDeleteWorker::faults()
     QFETCH(QString, outcome);
     QFETCH(QString, reason);
     Pair pair(method);
+    QVERIFY(pair.request.stamps.value(pair.item).hasContentKey);
     const QByteArray keptBytes = ScanTree::read(pair.kept);
     QString taken;
     switch (fault) {

@@ -189,11 +189,16 @@ int LinuxPlatform::restoreFromTrash(const std::string &trashedPath, const std::s
 
 int LinuxPlatform::removePermanently(const std::string &path) const
 {
+    // Nearly every item is a file: unlink first, look only when it was a folder.
+    if (::unlink(path.c_str()) == 0)
+        return 0;
+    if (errno != EISDIR && errno != EPERM)
+        return errno;
     struct stat info {};
     if (::lstat(path.c_str(), &info) != 0)
         return errno;
     if (!S_ISDIR(info.st_mode))
-        return ::unlink(path.c_str()) == 0 ? 0 : errno;
+        return EPERM;
     // Depth first, links never followed: what a link points to stays.
     static thread_local int failure;
     failure = 0;
