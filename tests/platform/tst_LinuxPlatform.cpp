@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/LinuxTrash.h"
+
+#include <sys/stat.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using platform::LinuxPlatform;
@@ -43,6 +48,39 @@ private slots:
         QVERIFY(!LinuxPlatform::isFixedBlockDevice("/nonexistent"));
         for (const std::string &root : platform::current().fixedDiskRoots())
             QVERIFY(QFileInfo(QString::fromStdString(root)).isDir());
+    }
+
+    // An item on another file system than the home trash goes to that file system's own
+    // trash folder, recorded relative to its top folder, and comes back from there.
+    void trashOnAnotherMount()
+    {
+        QTemporaryDir home;
+        QTemporaryDir other(QStringLiteral("/dev/shm/veltrine-trash-XXXXXX"));
+        struct stat a
+        {
+        }, b {};
+        if (!other.isValid() || ::stat(QFile::encodeName(home.path()), &a) != 0
+            || ::stat("/dev/shm", &b) != 0 || a.st_dev == b.st_dev)
+            QSKIP("no second file system to trash on");
+        const std::string item = QFile::encodeName(other.path()).toStdString() + "/photo.jpg";
+        QFile file(QString::fromStdString(item));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("jpeg");
+        file.close();
+        const platform::LinuxTrash trash(QFile::encodeName(home.path()).toStdString() + "/Trash");
+        std::string trashed;
+        QCOMPARE(trash.moveToTrash(item, trashed), 0);
+        const std::string topTrash = "/dev/shm/.Trash-" + std::to_string(::getuid());
+        QVERIFY(trashed.rfind(topTrash + "/files/", 0) == 0);
+        QFile info(QString::fromStdString(
+            topTrash + "/info/" + trashed.substr(trashed.rfind('/') + 1) + ".trashinfo"));
+        QVERIFY(info.open(QIODevice::ReadOnly));
+        const QByteArray relative = QFile::encodeName(other.path()).mid(9) + "/photo.jpg";
+        QVERIFY2(info.readAll().contains("Path=" + relative + "\n"), relative.constData());
+        info.close();
+        QCOMPARE(trash.restore(trashed, item), 0);
+        QVERIFY(QFileInfo::exists(QString::fromStdString(item)));
+        QVERIFY(!info.exists());
     }
 };
 
