@@ -3,6 +3,7 @@
 #include "platform/linux/LinuxTrash.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QFile>
