@@ -9,7 +9,8 @@
 #include <QEventLoop>
 #include <QFileInfo>
 
-int ProjectLoader::load(const QString &path, qint64 *scannedFiles, QString *scanTime)
+int ProjectLoader::load(
+    const QString &path, qint64 *scannedFiles, QString *scanTime, bool checkMembers)
 {
     const QFileInfo info(path);
     if (!info.exists() || info.isDir()) {
@@ -19,6 +20,7 @@ int ProjectLoader::load(const QString &path, qint64 *scannedFiles, QString *scan
         return 3;
     }
     TOpenSaveThread reader;
+    reader.setCheckMembersOnDisk(checkMembers);
     int flag = -1;
     QEventLoop loop;
     QObject::connect(

@@ -75,7 +75,7 @@ int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QSt
 
 int RemovalCommands::remove(const CliOptions &options)
 {
-    if (const int status = ProjectLoader::load(options.projectPath()))
+    if (const int status = ProjectLoader::load(options.projectPath(), nullptr, nullptr, false))
         return status;
     RemovalRequest request
         = RemovalRequest::fromStore(options.removalMethod(), options.targetFolder());

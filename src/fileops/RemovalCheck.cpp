@@ -5,6 +5,7 @@
 #include "engine/FilePathCodec.h"
 #include "fileops/ContentHash.h"
 
+#include <algorithm>
 #include <functional>
 
 #include <QDirIterator>
@@ -173,9 +174,9 @@ QString RemovalCheck::checkFile(GroupKind kind, const QStringList &members, cons
     QByteArray itemHash;
     bool anyKept = false;
     for (const QString &member : members) {
-        if (member == entry || leaving.contains(member))
-            continue;
         const QString keptPath = stripSimilarTag(member);
+        if (member == entry || leaving.contains(keptPath))
+            continue;
         const Entry kept = entryOf(keptPath);
         // A regular file (a link is no copy) that is not the item itself: one file under
         // two names, or reached through linked folders, has one device and inode.
@@ -240,6 +241,11 @@ QString RemovalCheck::checkFolder(
     bool anyKept = false;
     for (const QString &member : members) {
         if (member == entry || leaving.contains(member))
+            continue;
+        // A kept folder must keep everything: not one thing in it may go in this batch.
+        const QString prefix = member + QLatin1Char('/');
+        if (std::any_of(leaving.begin(), leaving.end(),
+                [&prefix](const QString &path) { return path.startsWith(prefix); }))
             continue;
         const Entry kept = entryOf(member);
         const QString keptReal = realPathOf(member);

@@ -34,9 +34,9 @@ public:
     explicit RemovalCheck(const QHash<QString, FileStamp> &stamps) : m_stamps(stamps) { }
 
     // Empty when entry may go now, else the reason it stays. members: the group's entries
-    // (paths, tagged paths for similar pictures, folders); leaving: those removed in this
-    // batch; everyCopy: the caller allows this group to lose every copy, so only the
-    // item's own stamp is checked.
+    // (paths, tagged paths for similar pictures, folders); leaving: every path (untagged)
+    // and folder the whole batch removes, in any group; everyCopy: the caller allows this
+    // group to lose every copy, so only the item's own stamp is checked.
     QString check(GroupKind kind, const QStringList &members, const QString &entry,
         const QSet<QString> &leaving, bool everyCopy = false);
 

@@ -52,62 +52,81 @@ void TImageDeleteWorker::record(const DeleteResult &result, const QString &outco
 void TImageDeleteWorker::doDelete()
 {
     m_results.clear();
+    // First the plan: per group its members and the entries that go. The whole batch's
+    // leaving paths are known before anything is removed, so that no item counts as kept
+    // a copy that another group of the same batch removes.
+    struct Plan
+    {
+        QString key;
+        bool folders = false;
+        RemovalCheck::GroupKind kind = RemovalCheck::IdenticalFiles;
+        QStringList members;
+        QStringList selection;
+        QStringList leaving;
+        bool everyCopy = false;
+    };
+    QList<Plan> plans;
+    QSet<QString> batchLeaving;
+    // A fixed order, so that the same selection is always handled the same way.
+    QStringList keys = m_request.selected.keys();
+    keys.sort();
+    for (const QString &key : std::as_const(keys)) {
+        Plan plan;
+        plan.key = key;
+        plan.folders = m_request.dirGroups.contains(key);
+        if (plan.folders) {
+            for (const DirGroupEntry &entry : m_request.dirGroups.value(key))
+                plan.members.append(entry.folderPath);
+            plan.kind = RemovalCheck::Folders;
+        } else if (m_request.groups.contains(key)) {
+            plan.members = m_request.groups.value(key);
+            if (std::any_of(plan.members.begin(), plan.members.end(), isSimilarEntry))
+                plan.kind = RemovalCheck::SimilarPictures;
+            else if (m_request.nameGroups.contains(key))
+                plan.kind = RemovalCheck::NamedFiles;
+        } else {
+            continue;
+        }
+        plan.selection = m_request.selected.value(key);
+        for (const QString &path : std::as_const(plan.selection))
+            for (const QString &member : membersFor(path, plan.members))
+                if (!plan.leaving.contains(member))
+                    plan.leaving.append(member);
+        plan.everyCopy = !plan.members.isEmpty()
+            && std::all_of(plan.members.begin(), plan.members.end(),
+                [&plan](const QString &member) { return plan.leaving.contains(member); });
+        // A selection of every copy keeps the first one, unless the caller said otherwise.
+        if (plan.everyCopy && !m_request.allowAllCopies) {
+            const QString first = plan.members.first();
+            plan.leaving.removeAll(first);
+            plan.everyCopy = false;
+            record(DeleteResult {stripSimilarTag(first), false, DeleteResult::Skipped,
+                       QStringLiteral("Skipped."), keptLastCopy},
+                RemovalJournal::skipped);
+            splog_d(
+                QStringLiteral("[TImageDeleteWorker]: Every copy selected, the first is kept: %1")
+                    .arg(first));
+        }
+        for (const QString &entry : std::as_const(plan.leaving))
+            batchLeaving.insert(stripSimilarTag(entry));
+        plans.append(plan);
+    }
+
     RemovalCheck check(m_request.stamps);
     TFileData::Groups removedFiles;
     TFileData::Groups removedDirs;
     TFileData::Groups remaining = m_request.selected;
     int count = 0;
-    // A fixed order, so that the same selection is always handled the same way.
-    QStringList keys = m_request.selected.keys();
-    keys.sort();
-    for (const QString &key : std::as_const(keys)) {
+    for (const Plan &plan : std::as_const(plans)) {
         if (m_cancelled.load())
             break;
-        const bool folders = m_request.dirGroups.contains(key);
-        QStringList members;
-        if (folders) {
-            for (const DirGroupEntry &entry : m_request.dirGroups.value(key))
-                members.append(entry.folderPath);
-        } else if (m_request.groups.contains(key)) {
-            members = m_request.groups.value(key);
-        } else {
-            continue;
-        }
-        const QStringList selection = m_request.selected.value(key);
-        QStringList leaving;
-        for (const QString &path : selection)
-            for (const QString &member : membersFor(path, members))
-                if (!leaving.contains(member))
-                    leaving.append(member);
-        RemovalCheck::GroupKind kind = RemovalCheck::IdenticalFiles;
-        if (folders)
-            kind = RemovalCheck::Folders;
-        else if (std::any_of(members.begin(), members.end(), isSimilarEntry))
-            kind = RemovalCheck::SimilarPictures;
-        else if (m_request.nameGroups.contains(key))
-            kind = RemovalCheck::NamedFiles;
-        // A selection of every copy keeps the first one, unless the caller said otherwise.
-        const bool everyCopy = !members.isEmpty()
-            && std::all_of(members.begin(), members.end(),
-                [&leaving](const QString &member) { return leaving.contains(member); });
-        if (everyCopy && !m_request.allowAllCopies) {
-            const QString first = members.first();
-            leaving.removeAll(first);
-            DeleteResult kept {stripSimilarTag(first), false, DeleteResult::Skipped,
-                QStringLiteral("Skipped."), keptLastCopy};
-            record(kept, RemovalJournal::skipped);
-            splog_d(
-                QStringLiteral("[TImageDeleteWorker]: Every copy selected, the first is kept: %1")
-                    .arg(first));
-        }
-        const QSet<QString> leavingSet(leaving.begin(), leaving.end());
         QStringList gone;
-        for (const QString &entry : std::as_const(leaving)) {
+        for (const QString &entry : plan.leaving) {
             if (m_cancelled.load())
                 break;
-            const QString path = folders ? entry : stripSimilarTag(entry);
-            const QString reason = check.check(
-                kind, members, entry, leavingSet, everyCopy && m_request.allowAllCopies);
+            const QString path = plan.folders ? entry : stripSimilarTag(entry);
+            const QString reason
+                = check.check(plan.kind, plan.members, entry, batchLeaving, plan.everyCopy);
             DeleteResult result {path};
             if (!reason.isEmpty()) {
                 result.success = false;
@@ -123,7 +142,7 @@ void TImageDeleteWorker::doDelete()
                 record(result, result.success ? RemovalJournal::removed : RemovalJournal::failed);
                 if (result.success) {
                     gone.append(entry);
-                    (folders ? removedDirs : removedFiles)[key].append(entry);
+                    (plan.folders ? removedDirs : removedFiles)[plan.key].append(entry);
                 }
             }
             ++count;
@@ -133,16 +152,16 @@ void TImageDeleteWorker::doDelete()
         }
         // What was not removed stays selected; a group reduced below two members goes.
         QStringList stays;
-        for (const QString &path : selection) {
-            const QStringList entries = membersFor(path, members);
+        for (const QString &path : plan.selection) {
+            const QStringList entries = membersFor(path, plan.members);
             if (std::any_of(entries.begin(), entries.end(),
                     [&gone](const QString &entry) { return !gone.contains(entry); }))
                 stays.append(path);
         }
-        if (members.size() - gone.size() < 2 || stays.isEmpty())
-            remaining.remove(key);
+        if (plan.members.size() - gone.size() < 2 || stays.isEmpty())
+            remaining.remove(plan.key);
         else
-            remaining.insert(key, stays);
+            remaining.insert(plan.key, stays);
     }
     emit finished(removedFiles, removedDirs, remaining);
 }

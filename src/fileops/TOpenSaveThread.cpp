@@ -182,6 +182,12 @@ void TOpenSaveThread::setMaxEntries(qint64 maxEntries)
     m_maxEntries = maxEntries;
 }
 
+void TOpenSaveThread::setCheckMembersOnDisk(bool check)
+{
+    QMutexLocker locker(&m_mutex);
+    m_checkMembersOnDisk = check;
+}
+
 qint64 TOpenSaveThread::scanFileCount() const
 {
     QMutexLocker locker(&m_mutex);
@@ -405,9 +411,11 @@ int TOpenSaveThread::saveDocument(
 int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &size)
 {
     qint64 maxEntries;
+    bool checkDisk = true;
     {
         QMutexLocker locker(&m_mutex);
         maxEntries = m_maxEntries;
+        checkDisk = m_checkMembersOnDisk;
     }
     splog_d(QStringLiteral("Begin open project"));
     const auto fail = [&](int flag, const QString &reason) {
@@ -637,7 +645,11 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
         QList<DiskEntry> infos;
         int folders = 0;
         for (const QString &entry : group.entries) {
-            const DiskEntry info = diskEntry(stripSimilarTag(entry));
+            const QString path = stripSimilarTag(entry);
+            const auto stamp = group.stamps.constFind(path);
+            const DiskEntry info = checkDisk || stamp == group.stamps.constEnd()
+                ? diskEntry(path)
+                : DiskEntry {true, false, stamp->size};
             if (!info.exists) {
                 ++missing;
                 splog_d(

@@ -62,6 +62,10 @@ public:
     // not listed follow, file groups before folder groups, each by their first path.
     void setGroupOrder(const QStringList &keys);
     void setMaxEntries(qint64 maxEntries);
+    // Whether opening looks up every member on disk to leave out the ones gone since the
+    // save (on by default). A caller that checks each member itself before acting on it
+    // (the removal) turns it off: members stamped as files are then taken as listed.
+    void setCheckMembersOnDisk(bool check);
 
     // After openProjectComplated: the scanned-file count and the scan duration the
     // project carries (also sent by openProjectInfo), and a one-line reason of the last
@@ -99,6 +103,7 @@ private:
     QString m_time;
     QStringList m_groupOrder;
     qint64 m_maxEntries = defaultMaxEntries;
+    bool m_checkMembersOnDisk = true;
     qint64 m_openedFileCount = 0;
     QString m_openedScanTime;
     QString m_lastError;

@@ -95,6 +95,7 @@ private slots:
     void faults();
     void folders_data();
     void folders();
+    void keptCopyRemovedByAnotherGroup();
     void cancelKeepsTheRestSelected();
     void trashEntryRestorable();
     void restorePutsBatchBack();
@@ -297,6 +298,23 @@ void TestTImageDeleteWorker::folders()
         QVERIFY(QFileInfo::exists(target + "/F (2)/sub/.two"));
         QCOMPARE(ScanTree::read(target + "/F/occupant.txt"), QByteArray("stays"));
     }
+}
+
+void TestTImageDeleteWorker::keptCopyRemovedByAnotherGroup()
+{
+    // x2's kept copy x1 is selected in a group of similar pictures of the same batch:
+    // removing both would leave only a picture that merely looks alike.
+    Pair pair(TFileDeleter::removePermanently);
+    const QString look = ScanTree::write(pair.dir.path(), "c/look.bin", "a similar picture");
+    pair.request.groups.insert("S", {pair.kept + "_simlar_100", look + "_simlar_90"});
+    pair.request.selected.insert("S", {pair.kept});
+    const QList<DeleteResult> results = pair.run();
+    QVERIFY(!QFileInfo::exists(pair.kept));
+    QVERIFY(QFileInfo::exists(pair.item));
+    QVERIFY(QFileInfo::exists(look));
+    for (const DeleteResult &result : results)
+        if (result.path == pair.item)
+            QCOMPARE(result.reason, RemovalCheck::noKeptCopyLeft);
 }
 
 void TestTImageDeleteWorker::cancelKeepsTheRestSelected()
