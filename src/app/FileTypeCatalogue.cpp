@@ -99,6 +99,28 @@ int getFileType(const QString &suffix)
     return CategoryOthers;
 }
 
+int categoryOfMimeType(const QString &mimeType)
+{
+    if (mimeType == QLatin1String("inode/directory"))
+        return CategoryFolders;
+    const QString major = mimeType.section(QLatin1Char('/'), 0, 0);
+    QString minor = mimeType.section(QLatin1Char('/'), 1).section(QLatin1Char('+'), 0, 0);
+    if (minor.startsWith(QLatin1String("x-")))
+        minor = minor.mid(2);
+    const int byMinor = getFileType(minor);
+    if (byMinor != CategoryOthers)
+        return byMinor;
+    if (major == QLatin1String("image"))
+        return CategoryImages;
+    if (major == QLatin1String("audio"))
+        return CategoryAudio;
+    if (major == QLatin1String("video"))
+        return CategoryVideos;
+    if (major == QLatin1String("text") || minor == QLatin1String("pdf"))
+        return CategoryDocuments;
+    return CategoryOthers;
+}
+
 bool isImageFile(const QString &path)
 {
     return FileTypeCatalogue::categoryExtensions()

@@ -37,6 +37,8 @@ const QStringList &heifFormats();
 
 // Category of an extension given without its dot, case-insensitive; 7 when unknown.
 int getFileType(const QString &suffix);
+// Category of a cloud item, which has a MIME type rather than a trustworthy extension.
+int categoryOfMimeType(const QString &mimeType);
 // True when the file name's extension is in the Images list.
 bool isImageFile(const QString &path);
 // Category of a path on disk: 6 for a directory, else getFileType of its extension.
