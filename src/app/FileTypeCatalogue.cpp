@@ -103,20 +103,22 @@ int categoryOfMimeType(const QString &mimeType)
 {
     if (mimeType == QLatin1String("inode/directory"))
         return CategoryFolders;
+    // A media major type is the surest fact: its subtype may name a container shared by
+    // sound and video ("audio/mpeg", "audio/mp4", "video/ogg").
     const QString major = mimeType.section(QLatin1Char('/'), 0, 0);
-    QString minor = mimeType.section(QLatin1Char('/'), 1).section(QLatin1Char('+'), 0, 0);
-    if (minor.startsWith(QLatin1String("x-")))
-        minor = minor.mid(2);
-    const int byMinor = getFileType(minor);
-    if (byMinor != CategoryOthers)
-        return byMinor;
     if (major == QLatin1String("image"))
         return CategoryImages;
     if (major == QLatin1String("audio"))
         return CategoryAudio;
     if (major == QLatin1String("video"))
         return CategoryVideos;
-    if (major == QLatin1String("text") || minor == QLatin1String("pdf"))
+    QString minor = mimeType.section(QLatin1Char('/'), 1).section(QLatin1Char('+'), 0, 0);
+    if (minor.startsWith(QLatin1String("x-")))
+        minor = minor.mid(2);
+    const int byMinor = getFileType(minor);
+    if (byMinor != CategoryOthers)
+        return byMinor;
+    if (major == QLatin1String("text"))
         return CategoryDocuments;
     return CategoryOthers;
 }

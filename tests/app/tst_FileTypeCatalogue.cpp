@@ -32,6 +32,27 @@ private slots:
         QCOMPARE(::getFileType(suffix), category);
     }
 
+    void categoryOfMimeType_data()
+    {
+        QTest::addColumn<QString>("mimeType");
+        QTest::addColumn<int>("category");
+        QTest::newRow("folder") << "inode/directory" << 6;
+        QTest::newRow("picture") << "image/jpeg" << 1;
+        QTest::newRow("sound in a video container") << "audio/mpeg" << 3;
+        QTest::newRow("video in a sound container") << "video/ogg" << 5;
+        QTest::newRow("subtype names the extension") << "application/pdf" << 2;
+        QTest::newRow("x- prefix and + suffix") << "application/x-epub+zip" << 2;
+        QTest::newRow("text") << "text/plain" << 2;
+        QTest::newRow("unknown") << "application/octet-stream" << 7;
+        QTest::newRow("empty") << "" << 7;
+    }
+    void categoryOfMimeType()
+    {
+        QFETCH(QString, mimeType);
+        QFETCH(int, category);
+        QCOMPARE(::categoryOfMimeType(mimeType), category);
+    }
+
     void imageFilesAndFormatSets()
     {
         QVERIFY(isImageFile("/a/b/photo.HEIC"));
