@@ -79,6 +79,11 @@ void TImageModel::setCloudPropertyGetter(CloudPropertyGetter getter)
     cloudGetter() = std::move(getter);
 }
 
+const TImageModel::CloudPropertyGetter &TImageModel::cloudPropertyGetter()
+{
+    return cloudGetter();
+}
+
 TImageModel::TImageModel(DataModel mode, int thumbnailCacheSize)
     : QAbstractListModel(nullptr), m_mode(mode)
 {

@@ -63,6 +63,9 @@ public:
     using CloudPropertyGetter
         = std::function<QVariant(KvCloudObject *, const QString &, const QString &)>;
     static void setCloudPropertyGetter(CloudPropertyGetter getter);
+    // The installed getter, empty until the cloud source installs one; every reader of
+    // cloud items goes through it so one installation serves them all.
+    static const CloudPropertyGetter &cloudPropertyGetter();
 
     TImageModel(DataModel mode, int thumbnailCacheSize);
     ~TImageModel() override;
