@@ -3,6 +3,7 @@
 
 #include "app/AppIdentity.h"
 #include "app/CrashReporter.h"
+#include "app/SettingsKeys.h"
 
 #include <QDebug>
 #include <QJsonObject>
@@ -11,7 +12,7 @@
 bool reportFeature(const QString &feature, const QString &message)
 {
     QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
-    const QString key = QStringLiteral("sentry/%1").arg(feature);
+    const QString key = SettingsKeys::featureCount.arg(feature);
     const int count = settings.value(key, 0).toInt();
     if (count >= 3) {
         qDebug() << "Sentry log skipped due to max send count:" << feature;

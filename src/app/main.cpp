@@ -4,6 +4,7 @@
 #include "app/CrashReporter.h"
 #include "app/DataDirectory.h"
 #include "app/LanguageSetup.h"
+#include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "app/TerminationSignalWatcher.h"
 #include "mainwindow/MainWindow.h"
@@ -100,7 +101,7 @@ int main(int argc, char *argv[])
         applyStyleSheet(app);
 
         QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
-        LanguageSetup::setupLanguage(settings.value(QStringLiteral("Language"), 1).toInt());
+        LanguageSetup::setupLanguage(settings.value(SettingsKeys::language, 1).toInt());
         QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
         QCoreApplication::installTranslator(&LanguageSetup::qtTranslator());
 

@@ -6,6 +6,7 @@
 #include "app/DataDirectory.h"
 #include "app/FeatureReporter.h"
 #include "app/LanguageSetup.h"
+#include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
@@ -18,7 +19,6 @@
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "results/CListViewDelegate.h"
-#include "results/GroupListPage.h"
 #include "results/TImageModel.h"
 #include "widgets/CRotateLabel.h"
 #include "widgets/RoundProgressBar.h"
@@ -167,7 +167,7 @@ void MainWindow::buildUi()
     m_labProblems->setWordWrap(false);
     m_labProblems->setAlignment(Qt::AlignCenter);
     m_labProblems->setVisible(false);
-    connect(m_labProblems, &QLabel::linkActivated, this, &MainWindow::showProblemDetails);
+    connect(m_labProblems, &QLabel::linkActivated, this, [this] { showProblemDetails(); });
     auto *problemRow = new QHBoxLayout;
     problemRow->setContentsMargins(40, 0, 40, 6);
     problemRow->addStretch(1);
@@ -413,7 +413,7 @@ void MainWindow::buildMenus()
     m_languageMenu = m_systemMenu->addMenu(tr("Language"));
     m_languageMenu->setObjectName(QStringLiteral("menu_language"));
     m_languageGroup = new QActionGroup(this);
-    const int current = QSettings().value(QStringLiteral("Language"), 1).toInt();
+    const int current = QSettings().value(SettingsKeys::language, 1).toInt();
     for (const LanguageEntry &entry : kLanguages) {
         QAction *action = m_languageMenu->addAction(QString::fromUtf8(entry.label));
         action->setCheckable(true);
@@ -893,9 +893,9 @@ void MainWindow::showScanProblems(const ScanProblems &problems)
     }
 }
 
-void MainWindow::showProblemDetails()
+void MainWindow::showProblemDetails(QWidget *over)
 {
-    auto *dialog = new ProblemListDialog(m_problemSections, this);
+    auto *dialog = new ProblemListDialog(m_problemSections, over ? over : this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
@@ -952,28 +952,23 @@ void MainWindow::openResultPage()
     if (!m_resultPage) {
         // The main window hides while the results show; the program must not quit then.
         QApplication::setQuitOnLastWindowClosed(false);
-        m_resultPage = new GroupListPage;
-        m_resultPage->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+        m_resultPage = new ResultForm(nullptr, m_cloudMode);
         m_resultPage->setAttribute(Qt::WA_DeleteOnClose);
-        connect(m_resultPage, &GroupListPage::closed, this, &MainWindow::onResultWindowClose);
-        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-        const QSize stored = QSettings().value(QStringLiteral("ResultForm.size")).toSize();
-        if (stored.width() >= available.width() * 0.9
-            && stored.height() >= available.height() * 0.9)
-            m_resultPage->setGeometry(available);
-        else if (stored.isValid())
-            m_resultPage->resize(stored.boundedTo(available.size()));
+        connect(m_resultPage, &ResultForm::updateWindows, this, &MainWindow::onResultWindowClose);
+        connect(m_resultPage, &ResultForm::problemDetailsRequested, this,
+            [this] { showProblemDetails(m_resultPage); });
+        m_resultPage->setProblemText(
+            m_labProblems->isVisibleTo(this) ? m_labProblems->text() : QString());
     }
     hide();
     m_resultPage->show();
     m_resultPage->raise();
+    m_resultPage->activateWindow();
 }
 
 void MainWindow::onResultWindowClose(bool update)
 {
     Q_UNUSED(update)
-    if (m_resultPage)
-        QSettings().setValue(QStringLiteral("ResultForm.size"), m_resultPage->size());
     show();
     QApplication::setQuitOnLastWindowClosed(true);
 }
@@ -1150,7 +1145,7 @@ void MainWindow::onSystemMenuEvent(QAction *action)
 void MainWindow::languageSwitch(QAction *action)
 {
     const int index = action->data().toInt();
-    QSettings().setValue(QStringLiteral("Language"), index);
+    QSettings().setValue(SettingsKeys::language, index);
     splog_d(kTag + QStringLiteral("Language switched to %1 for the next start.").arg(index));
     QMessageBox::information(this, tr("Language"),
         tr("The new language takes effect the next time the program "

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "results/GroupListPage.h"
+#include "results/ResultForm.h"
 #include "widgets/ProblemListDialog.h"
 
 #include <QMainWindow>
@@ -54,7 +54,7 @@ public:
     // The folders the last start handed to the controller (nested ones removed).
     QStringList lastScanRoots() const { return m_lastScanRoots; }
     void setShowResultsWhenDone(bool show) { m_showResultsWhenDone = show; }
-    GroupListPage *resultPage() const { return m_resultPage; }
+    ResultForm *resultPage() const { return m_resultPage; }
     QMenu *systemMenu() const { return m_systemMenu; }
     QMenu *addMenu() const { return m_addMenu; }
 
@@ -101,7 +101,8 @@ public slots:
     void setTitle();
     void onTimeout();
     // Opens the list of the paths the last scan could not read or did not follow.
-    void showProblemDetails();
+    // Over the given window (the result page) or this one.
+    void showProblemDetails(QWidget *over = nullptr);
 
 signals:
     void stopTask();
@@ -203,7 +204,7 @@ private:
     QAction *m_actSaveProject = nullptr;
     TOpenSaveThread *m_projectThread = nullptr;
     DailyRunReport *m_runReport = nullptr;
-    QPointer<GroupListPage> m_resultPage;
+    QPointer<ResultForm> m_resultPage;
     QPoint m_dragOffset;
     bool m_dragging = false;
 };

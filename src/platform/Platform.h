@@ -65,6 +65,10 @@ public:
     virtual int renameNoReplace(
         const std::string &from, const std::string &to, bool &crossDevice) const = 0;
     virtual std::string errorText(int code) const = 0;
+    // The command (program first) that shows a file selected in the desktop's file
+    // manager; empty when the platform has none. uri is the file's encoded file:// URL.
+    virtual std::vector<std::string> showItemCommand(
+        const std::string &path, const std::string &uri) const = 0;
 };
 
 // The implementation for the platform this program was built for.

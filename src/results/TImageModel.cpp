@@ -56,7 +56,8 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
         }
         return item;
     }
-    const QFileInfo info(item.firstFile);
+    // Members of a similar-picture group carry their similarity after the path.
+    const QFileInfo info(stripSimilarTag(item.firstFile));
     item.name = info.fileName();
     if (!info.exists()) {
         item.type = CategoryOthers;
@@ -82,6 +83,12 @@ void TImageModel::setCloudPropertyGetter(CloudPropertyGetter getter)
 const TImageModel::CloudPropertyGetter &TImageModel::cloudPropertyGetter()
 {
     return cloudGetter();
+}
+
+QVariant TImageModel::cloudProperty(KvCloudObject *cloud, const QString &id, const QString &name)
+{
+    const auto &getter = cloudGetter();
+    return getter ? getter(cloud, id, name) : QVariant();
 }
 
 TImageModel::TImageModel(DataModel mode, int thumbnailCacheSize)
@@ -145,6 +152,22 @@ QVariant TImageModel::data(const QModelIndex &index, int role) const
     if (index.row() >= m_items.size())
         return {};
     return itemData(m_items.at(index.row()), index, role);
+}
+
+QVariant TImageModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || m_mode != IconView)
+        return QAbstractListModel::headerData(section, orientation, role);
+    switch (section) {
+    case 1:
+        return m_nameMode == kPathNameMode ? tr("File") : tr("Name");
+    case 2:
+        return tr("Size");
+    case 3:
+        return tr("Modified");
+    default:
+        return QString();
+    }
 }
 
 QVariant TImageModel::groupData(const GroupItem &group, int role, int row) const
@@ -336,7 +359,7 @@ void TImageModel::rebuildItemIndex()
         m_itemRows.insert(m_allItems.at(i).path, i);
 }
 
-void TImageModel::loadAllGroups(SortRole role, bool isCloud, KvCloudObject *cloud)
+TImageModel::BuiltGroups TImageModel::buildAllGroups(bool isCloud, KvCloudObject *cloud)
 {
     GroupSource source;
     TFileData *store = TFileData::instance();
@@ -356,19 +379,49 @@ void TImageModel::loadAllGroups(SortRole role, bool isCloud, KvCloudObject *clou
         return item;
     };
     auto reduce = [](QList<GroupItem> &result, const GroupItem &item) { result.append(item); };
-    const QList<GroupItem> built = QtConcurrent::blockingMappedReduced<QList<GroupItem>>(keys,
+    BuiltGroups built;
+    built.groups = QtConcurrent::blockingMappedReduced<QList<GroupItem>>(keys,
         std::function<GroupItem(const QString &)>(map),
         std::function<void(QList<GroupItem> &, const GroupItem &)>(reduce),
         QtConcurrent::OrderedReduce);
+    built.totalSize = totalSize.load();
+    built.selectedCount = selectedTotal.load();
+    return built;
+}
 
+void TImageModel::sortGroups(QList<GroupItem> &groups, SortRole role, bool descending)
+{
+    if (descending)
+        std::sort(groups.begin(), groups.end(),
+            [role](const GroupItem &a, const GroupItem &b) { return lessThan(b, a, role); });
+    else
+        std::sort(groups.begin(), groups.end(),
+            [role](const GroupItem &a, const GroupItem &b) { return lessThan(a, b, role); });
+}
+
+void TImageModel::loadAllGroups(SortRole role, bool isCloud, KvCloudObject *cloud)
+{
+    const BuiltGroups built = buildAllGroups(isCloud, cloud);
     beginResetModel();
-    m_allGroups = built;
-    m_groups = built;
+    m_allGroups = built.groups;
+    m_groups = built.groups;
     rebuildGroupIndex();
-    std::sort(m_groups.begin(), m_groups.end(),
-        [role](const GroupItem &a, const GroupItem &b) { return lessThan(b, a, role); });
+    sortGroups(m_groups, role, true);
     endResetModel();
-    emit onLoadComplated(selectedTotal.load(), totalSize.load());
+    emit onLoadComplated(built.selectedCount, built.totalSize);
+}
+
+void TImageModel::appendGroups(const QList<GroupItem> &groups)
+{
+    if (groups.isEmpty())
+        return;
+    const int first = int(m_groups.size());
+    beginInsertRows(QModelIndex(), first, first + int(groups.size()) - 1);
+    m_groups.append(groups);
+    m_allGroups.append(groups);
+    for (qsizetype i = m_allGroups.size() - groups.size(); i < m_allGroups.size(); ++i)
+        m_groupRows.insert(m_allGroups.at(i).key, int(i));
+    endInsertRows();
 }
 
 void TImageModel::setItems(const QList<ImageItem> &items)
@@ -416,12 +469,7 @@ bool TImageModel::lessThan(const GroupItem &a, const GroupItem &b, SortRole role
 
 void TImageModel::sort(SortRole role, bool descending)
 {
-    if (descending)
-        std::sort(m_groups.begin(), m_groups.end(),
-            [role](const GroupItem &a, const GroupItem &b) { return lessThan(b, a, role); });
-    else
-        std::sort(m_groups.begin(), m_groups.end(),
-            [role](const GroupItem &a, const GroupItem &b) { return lessThan(a, b, role); });
+    sortGroups(m_groups, role, descending);
     if (!m_groups.isEmpty())
         emit dataChanged(index(0, 0), index(int(m_groups.size()) - 1, columnCount() - 1));
 }
@@ -471,6 +519,14 @@ void TImageModel::filterByType(int type)
 {
     setDisplayedGroups(fastParallelFilter<GroupItem>(
         m_allGroups, [type](const GroupItem &g) { return g.type == type; }));
+}
+
+void TImageModel::filterByTypeAndName(int type, const QString &text)
+{
+    setDisplayedGroups(
+        fastParallelFilter<GroupItem>(m_allGroups, [type, &text](const GroupItem &g) {
+            return (type < 0 || g.type == type) && g.name.contains(text, Qt::CaseInsensitive);
+        }));
 }
 
 void TImageModel::resetGroupFilter()
@@ -579,6 +635,66 @@ void TImageModel::removeDeletedFile(const QString &key, const QString &path)
         m_allGroups.removeAt(*master);
     rebuildGroupIndex();
     endRemoveRows();
+}
+
+void TImageModel::removeDeletedFiles(const QHash<QString, QStringList> &removedByKey)
+{
+    if (removedByKey.isEmpty())
+        return;
+    // One pass over both lists and one reset: a batch can touch every group, and a
+    // search per removed file would cost the square of the group count.
+    auto update = [&removedByKey](GroupItem &group) {
+        const auto removed = removedByKey.constFind(group.key);
+        if (removed == removedByKey.constEnd())
+            return true;
+        for (const QString &path : *removed) {
+            group.files.removeAll(path);
+            if (!isSimilarEntry(path)) {
+                const QRegularExpression derived(
+                    QStringLiteral("^%1%2_\\d+$")
+                        .arg(QRegularExpression::escape(path), kSimilarTag));
+                group.files.removeIf(
+                    [&derived](const QString &entry) { return derived.match(entry).hasMatch(); });
+            }
+        }
+        if (group.files.size() < 2)
+            return false;
+        group.count = int(group.files.size());
+        group.firstFile = group.files.first();
+        const QFileInfo first(stripSimilarTag(group.firstFile));
+        if (first.isFile())
+            group.totalSize = first.size() * group.count;
+        return true;
+    };
+    auto keepUpdated = [&update](QList<GroupItem> &groups) {
+        QList<GroupItem> kept;
+        kept.reserve(groups.size());
+        for (GroupItem &group : groups)
+            if (update(group))
+                kept.append(std::move(group));
+        groups = std::move(kept);
+    };
+    beginResetModel();
+    keepUpdated(m_groups);
+    keepUpdated(m_allGroups);
+    rebuildGroupIndex();
+    endResetModel();
+}
+
+void TImageModel::removeItem(const QString &path)
+{
+    const auto shown = std::find_if(m_items.cbegin(), m_items.cend(),
+        [&path](const ImageItem &item) { return item.path == path; });
+    if (shown != m_items.cend()) {
+        const int row = int(shown - m_items.cbegin());
+        removeRows(row, 1);
+        return;
+    }
+    const auto master = m_itemRows.constFind(path);
+    if (master != m_itemRows.constEnd()) {
+        m_allItems.removeAt(*master);
+        rebuildItemIndex();
+    }
 }
 
 QList<QPair<QString, QStringList>> TImageModel::displayedItemsByGroup() const

@@ -66,6 +66,8 @@ public:
     // The installed getter, empty until the cloud source installs one; every reader of
     // cloud items goes through it so one installation serves them all.
     static const CloudPropertyGetter &cloudPropertyGetter();
+    // One property through the installed getter; empty when no cloud source is set up.
+    static QVariant cloudProperty(KvCloudObject *cloud, const QString &id, const QString &name);
 
     TImageModel(DataModel mode, int thumbnailCacheSize);
     ~TImageModel() override;
@@ -76,18 +78,35 @@ public:
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(
+        int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     // notify makes the model report the selection even when the value did not change.
     bool setData(const QModelIndex &index, const QVariant &value, int role, bool notify);
     bool removeRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
 
+    // Every group of the store as the group list shows it, with the sums of all groups.
+    // Safe on any thread: it reads copies of the store's tables.
+    struct BuiltGroups
+    {
+        QList<GroupItem> groups;
+        qint64 totalSize = 0;
+        int selectedCount = 0;
+    };
+    static BuiltGroups buildAllGroups(bool isCloud = false, KvCloudObject *cloud = nullptr);
+    static void sortGroups(QList<GroupItem> &groups, SortRole role, bool descending);
+
     void loadAllGroups(SortRole role, bool isCloud = false, KvCloudObject *cloud = nullptr);
+    // Adds groups at the end of both lists (loading in batches).
+    void appendGroups(const QList<GroupItem> &groups);
     void setItems(const QList<ImageItem> &items);
     void clear();
 
     void sort(SortRole role, bool descending);
     void filterByName(const QString &text);
     void filterByType(int type);
+    // Both at once: a category (-1 for any) and a part of the name.
+    void filterByTypeAndName(int type, const QString &text);
     void filterByShow(int mode, int minSimilarity);
     // Back to the whole master group list.
     void resetGroupFilter();
@@ -95,6 +114,10 @@ public:
     void refreshGroupSelection(const QModelIndexList &indexes);
     void refreshItemSelection();
     void removeDeletedFile(const QString &key, const QString &path);
+    // The same for a whole batch: group key -> removed entries.
+    void removeDeletedFiles(const QHash<QString, QStringList> &removedByKey);
+    // Takes one file out of the item lists (hidden or removed on its own).
+    void removeItem(const QString &path);
     void cancelPendingLoads(int firstRow, int lastRow);
     QList<QPair<QString, QStringList>> displayedItemsByGroup() const;
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "DialogAnswerer.h"
 #include "TestEnvironment.h"
 #include "app/DataDirectory.h"
 #include "app/LanguageSetup.h"
@@ -34,28 +35,6 @@
 #include <QUrl>
 
 static TestEnvironment environment;
-
-// Answers every message box that comes up while it lives and notes its title and text.
-class MessageBoxCatcher : public QObject
-{
-public:
-    MessageBoxCatcher()
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                titles << box->windowTitle();
-                texts << box->text();
-                box->accept();
-            }
-        });
-        m_timer.start(20);
-    }
-    QStringList titles;
-    QStringList texts;
-
-private:
-    QTimer m_timer;
-};
 
 class tst_MainWindow : public QObject
 {
@@ -222,7 +201,7 @@ void tst_MainWindow::dragEnter()
 
 void tst_MainWindow::dropAddsFoldersOnce()
 {
-    MessageBoxCatcher boxes;
+    DialogAnswerer boxes;
     QMimeData single;
     single.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
     dropOnWindow(&single);
@@ -277,7 +256,8 @@ void tst_MainWindow::scanThroughButtons()
     // "Show results" opens the group list with both groups.
     QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
     QVERIFY(m_window->resultPage());
-    QCOMPARE(m_window->resultPage()->groupCount(), 2);
+    QTRY_VERIFY(m_window->resultPage()->isDataLoaded());
+    QCOMPARE(m_window->resultPage()->groupModel()->rowCount(), 2);
     m_window->resultPage()->close();
     QVERIFY(m_window->isVisible());
 
@@ -341,7 +321,6 @@ void tst_MainWindow::projectFromCommandLine()
     TFileData::instance()->clear();
 
     MainWindow window({QStringLiteral("program"), project});
-    window.setShowResultsWhenDone(false);
     QCOMPARE(window.state(), 5);
     QTRY_COMPARE_WITH_TIMEOUT(window.state(), 4, 10000);
     QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
@@ -351,6 +330,13 @@ void tst_MainWindow::projectFromCommandLine()
         window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), QStringLiteral("7"));
     QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(),
         QStringLiteral("00:00:05"));
+    // The project opens onto the result page, with its selection.
+    QTRY_VERIFY(window.resultPage() && window.resultPage()->isDataLoaded());
+    ResultForm *page = window.resultPage();
+    QCOMPARE(page->groupModel()->rowCount(), 1);
+    QTRY_COMPARE(page->totals().count, 1);
+    QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+    page->close();
     TFileData::instance()->clear();
 }
 
@@ -369,7 +355,7 @@ void tst_MainWindow::projectArgumentNotAFile()
 {
     QFETCH(QString, argument);
     QFETCH(QString, message);
-    MessageBoxCatcher boxes;
+    DialogAnswerer boxes;
     MainWindow window({QStringLiteral("program"), m_tree.filePath(argument)});
     window.show();
     QTRY_COMPARE(boxes.texts.size(), 1);
@@ -535,7 +521,7 @@ void tst_MainWindow::abnormalExitNoticeOnce()
     QVERIFY(journal.begin(QStringLiteral("trash"), 3));
     journal.record(QStringLiteral("trash"), DeleteResult {QStringLiteral("/gone/one.jpg")},
         RemovalJournal::removed);
-    MessageBoxCatcher boxes;
+    DialogAnswerer boxes;
     const QStringList &titles = boxes.titles;
     {
         MainWindow window({QStringLiteral("program")});
@@ -559,7 +545,7 @@ void tst_MainWindow::cloudAndLocalExclusive()
     m_window->setCloudSelection(QStringLiteral("someone@example.org"), {QStringLiteral("root-id")});
     QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("someone@example.org"));
     QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
-    MessageBoxCatcher boxes;
+    DialogAnswerer boxes;
     const QStringList &texts = boxes.texts;
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});

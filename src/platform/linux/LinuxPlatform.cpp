@@ -285,6 +285,17 @@ bool LinuxPlatform::isHiddenOrSystem(const std::string &path) const
     return start < end && path[start] == '.';
 }
 
+std::vector<std::string> LinuxPlatform::showItemCommand(
+    const std::string &path, const std::string &uri) const
+{
+    (void)path;
+    // The freedesktop.org file manager interface; gdbus fails when no file manager on
+    // the session bus offers it, and the caller then opens the folder instead.
+    return {"gdbus", "call", "--session", "--dest", "org.freedesktop.FileManager1",
+        "--object-path", "/org/freedesktop/FileManager1", "--method",
+        "org.freedesktop.FileManager1.ShowItems", "['" + uri + "']", ""};
+}
+
 const Platform &current()
 {
     static const LinuxPlatform instance;

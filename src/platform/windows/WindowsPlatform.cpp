@@ -268,6 +268,17 @@ public:
     // Windows mounts no kernel tables into the folder tree.
     std::vector<unsigned long long> pseudoFileSystemDevices() const override { return {}; }
 
+    std::vector<std::string> showItemCommand(
+        const std::string &path, const std::string &uri) const override
+    {
+        (void)uri;
+        std::string native = path;
+        for (char &c : native)
+            if (c == '/')
+                c = '\\';
+        return {"explorer.exe", "/select," + native};
+    }
+
     // Each route is tried only when the one before failed; the last failure is given.
     int moveToTrash(const std::string &path, std::string &trashedPath) const override
     {

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/RemovalSummaryDialog.h"
+
+#include "app/FileTypeCatalogue.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "results/ResultForm.h"
+#include "results/TImageModel.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+RemovalSummaryDialog::RemovalSummaryDialog(
+    const QList<DeleteResult> &results, int method, qint64 bytes, QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("RemovalSummaryDialog"));
+    setWindowTitle(tr("Removal finished"));
+    setMinimumSize(640, 360);
+
+    m_items = new QTreeWidget(this);
+    m_items->setObjectName(QStringLiteral("tree_items"));
+    m_items->setRootIsDecorated(false);
+    m_items->setUniformRowHeights(true);
+    m_items->setTextElideMode(Qt::ElideMiddle);
+    m_items->setHeaderLabels({tr("Item"), tr("Result")});
+    m_items->header()->setStretchLastSection(false);
+    m_items->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_items->header()->setSectionResizeMode(1, QHeaderView::Interactive);
+    m_items->setColumnWidth(1, 260);
+
+    QList<QTreeWidgetItem *> kept;
+    QList<QTreeWidgetItem *> removed;
+    for (const DeleteResult &result : results) {
+        const QString path = QDir::toNativeSeparators(stripSimilarTag(result.path));
+        const bool gone = result.success && result.errorCode == DeleteResult::NoError;
+        QString outcome;
+        if (gone) {
+            ++m_removed;
+            outcome = result.destination.isEmpty()
+                ? tr("Removed")
+                : (method == DFIgnoreListPreferences::moveToFolder ? tr("Moved to %1")
+                                                                   : tr("In the trash: %1"))
+                      .arg(QDir::toNativeSeparators(result.destination));
+        } else {
+            ++m_kept;
+            outcome = result.errorCode == DeleteResult::Skipped
+                ? tr("Kept: %1").arg(result.reason)
+                : tr("Failed: %1").arg(ResultForm::failureText(result, method));
+        }
+        auto *item = new QTreeWidgetItem({path, outcome});
+        item->setToolTip(0, path);
+        item->setToolTip(1, outcome);
+        if (!gone)
+            item->setForeground(1, QColor(0xb2, 0x3b, 0x1e));
+        (gone ? removed : kept).append(item);
+    }
+    // What stayed comes first: that is what the user has to look at.
+    m_items->addTopLevelItems(kept);
+    m_items->addTopLevelItems(removed);
+
+    m_headline = new QLabel(headline() + QStringLiteral("<br>")
+            + tr("Space freed: %1").arg(TImageModel::sizeText(bytes)),
+        this);
+    m_headline->setObjectName(QStringLiteral("lab_summary"));
+    m_headline->setTextFormat(Qt::RichText);
+    m_headline->setWordWrap(true);
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(18, 16, 18, 14);
+    layout->setSpacing(12);
+    layout->addWidget(m_headline);
+    layout->addWidget(m_items, 1);
+    layout->addWidget(buttons);
+}
+
+QString RemovalSummaryDialog::headline() const
+{
+    QString text = tr("%n item(s) removed.", nullptr, m_removed);
+    if (m_kept > 0)
+        text += QLatin1Char(' ')
+            + tr("%n item(s) stayed in place; the reasons are listed below.", nullptr, m_kept);
+    return text;
+}

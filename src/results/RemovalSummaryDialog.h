@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "fileops/DeleteResult.h"
+
+#include <QDialog>
+
+class QLabel;
+class QTreeWidget;
+
+// What a removal did, shown when it ends: the space freed, the items removed (and where
+// they went) and every item that stayed, with the reason it stayed.
+class RemovalSummaryDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    // bytes: the size of what was removed, as the scan saw it.
+    RemovalSummaryDialog(
+        const QList<DeleteResult> &results, int method, qint64 bytes, QWidget *parent = nullptr);
+
+    int removedCount() const { return m_removed; }
+    int keptCount() const { return m_kept; }
+    QString headline() const;
+
+private:
+    int m_removed = 0;
+    int m_kept = 0;
+    QLabel *m_headline = nullptr;
+    QTreeWidget *m_items = nullptr;
+};

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "fileops/DeleteResult.h"
+#include "results/SelectionTotals.h"
+#include "results/TImageModel.h"
+#include "results/TPieChart.h"
+
+#include <memory>
+
+#include <QElapsedTimer>
+#include <QFutureWatcher>
+#include <QHash>
+#include <QItemSelection>
+#include <QPointer>
+#include <QWidget>
+
+namespace Ui {
+class ResultForm;
+}
+
+class CustomProgressDialog;
+class KvCloudObject;
+class QAction;
+class QActionGroup;
+class QChart;
+class QChartView;
+class QMenu;
+class QSlider;
+class QThread;
+class RemovalJournal;
+class TImageDeleteWorker;
+class TImageListView;
+
+// One member of the group being opened, filled in parallel before the member view gets it.
+struct IndexFileGroup
+{
+    QString key;
+    QString entry;
+    QString path;
+    QString name;
+    qint64 size = 0;
+    QString createdTime;
+    QString mimeType;
+    int similarity = 0;
+    QString cloudPath;
+};
+
+// The page of a scan's outcome: the groups on the left, the files of the current group in
+// the middle (a table, a thumbnail grid or a flow of large thumbnails), the duplicates by
+// type on the right, and below the selection totals and the removal button. It reads and
+// changes the groups only through the result store and its two models.
+class ResultForm : public QWidget
+{
+    Q_OBJECT
+public:
+    enum ViewMode { ListMode = 0, GridMode = 1, FlowMode = 2 };
+    // Category value that shows every group.
+    static constexpr int kAllCategories = 9;
+
+    explicit ResultForm(
+        QWidget *parent = nullptr, bool isCloud = false, KvCloudObject *cloud = nullptr);
+    ~ResultForm() override;
+
+    bool isDataLoaded() const { return m_dataLoaded; }
+    TImageModel *groupModel() const { return m_groupModel; }
+    TImageModel *itemModel() const { return m_itemModel; }
+    int currentCategory() const { return m_category; }
+    int viewMode() const { return m_viewMode; }
+    int showFilter() const { return m_showFilter; }
+    SelectionTotals totals() const { return m_totals; }
+    bool isRemoving() const { return m_worker != nullptr; }
+    QMenu *selectionMenu() const { return m_selectMenu; }
+    QMenu *filterMenu() const { return m_filterMenu; }
+    QMenu *deleteMenu() const { return m_deleteMenu; }
+    QSlider *similaritySlider() const { return m_similaritySlider; }
+    QChart *chart() const { return m_chart; }
+    // Category code -> (count, bytes) as the chart shows it.
+    FileCategoryStatsMap chartStats() const { return m_chartStats; }
+    // Every item of the last batch, the one-file and one-group removals included.
+    QList<DeleteResult> lastRemoval() const { return m_lastRemoval; }
+    // A line about what the scan could not read, with its own "Details" link.
+    void setProblemText(const QString &html);
+    // The picture comparison stopped before it was done: the notice shows once loaded.
+    void setIncompleteScan(bool incomplete) { m_incompleteScan = incomplete; }
+
+    // Kept for the overview button that the page does not show; logs only.
+    void on_btn_over_clicked();
+
+    // Reason words shown for a removal that did not happen.
+    static QString failureText(const DeleteResult &result, int method);
+    // Bytes the removed items of a removal held, as the scan saw them.
+    static qint64 removedBytes(const QList<DeleteResult> &results);
+    // The selection covers every copy of some content: removing it keeps nothing.
+    static bool removesEveryCopy(
+        const QHash<QString, QStringList> &groups, const QHash<QString, QStringList> &selected);
+
+signals:
+    void updateWindows(bool update);
+    void onDeleteFileProcess(int value);
+    void onLoadProgress(int progress);
+    void problemDetailsRequested();
+
+public slots:
+    void initUI();
+    void initMenu();
+    void initDelButtonMenu();
+    void setTitle();
+
+    void on_btn_all_clicked();
+    void on_btn_image_clicked();
+    void on_btn_document_clicked();
+    void on_btn_music_clicked();
+    void on_btn_videos_clicked();
+    void on_btn_archives_clicked();
+    void on_btn_packages_clicked();
+    void on_btn_others_clicked();
+    void on_btn_right_list_clicked();
+    void on_btn_right_grid_clicked();
+    void on_btn_right_flow_clicked();
+    void on_horizontalSlider_valueChanged(int value);
+    void on_splitter_2_splitterMoved(int pos, int index);
+    void onTableViewSelectChanged();
+    void groupSelectionChanged(const QItemSelection &selected, const QItemSelection &deSelection);
+    void itemCheckedChanged(const QString &key, const QString &file, bool newValue, int groupIndex,
+        bool updateComplated);
+    void onBtnHideFileClick(const QModelIndex &index);
+    void onBtnOpenFinderClick(const QModelIndex &index);
+    void onBtnDeletedClick(const QModelIndex &index);
+    void onMenuIgnoreGroup(const QString &key, int row, int count);
+    void onMenuDeleteGroup(const QString &key, int row, int count);
+    void on_lineEdit_textChanged(const QString &arg1);
+    void onTaskContextMenuEvent();
+    void onTaskFilterMenuEvent();
+    void on_comboBox_activated(int index);
+    void on_btn_delete_clicked();
+    void setActiveDeleteAction(QAction *newAction);
+    void onItemFileDeleted(int complate, int total);
+    void onDeletedComplated(const QHash<QString, QStringList> &files,
+        const QHash<QString, QStringList> &dirs, const QHash<QString, QStringList> &selected);
+    void loadAllGroupsAsync();
+    void onLoadComplated(int selectCount, qlonglong selectSize, int progress);
+    void startAnalytics();
+    void bulidPieChart(const FileCategoryStatsMap &result, int count, qlonglong totalSize);
+    void showInfoDialog();
+    void on_btnBack_clicked();
+
+    // Applies one selection rule to every group (the selection menu's work).
+    void applySelectionRule(int rule);
+    // The show filter (0 duplicates, 1 selected, 2 all) with the slider's floor.
+    void applyShowFilter(int mode);
+    void setViewMode(int mode);
+    void updateSelectedAndSize();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    bool guardLoading();
+    void feedBatches();
+    void loadAllData(int category);
+    void loadGroupMembers(const GroupItem &group);
+    void showMembers(const QList<IndexFileGroup> &members);
+    void updateCategoryButtons();
+    void updateGroupTitle();
+    void refreshAfterSelection();
+    void removeGroupFromViews(const QString &key);
+    QModelIndex currentGroupIndex() const;
+    QPair<int, QString> removalMethod() const;
+    bool confirmRemoval(bool batch);
+    // Runs a removal of the given selection on the GUI thread (one file, one group).
+    QList<DeleteResult> removeNow(const QHash<QString, QStringList> &selection);
+    void startBatch(const QHash<QString, QStringList> &selection, bool allowAllCopies);
+    void finishRemoval(const QHash<QString, QStringList> &files,
+        const QHash<QString, QStringList> &dirs, const QList<DeleteResult> &results,
+        bool showSummary);
+    void setDeletionMarker(int value);
+    void showRemovalSummary(const QList<DeleteResult> &results, int method);
+    void onGroupContextMenu(const QPoint &pos);
+    void onMemberContextMenu(const QPoint &pos);
+    void retranslate();
+
+    Ui::ResultForm *ui = nullptr;
+    TImageModel *m_groupModel = nullptr;
+    TImageModel *m_itemModel = nullptr;
+    TImageListView *m_imageView = nullptr;
+    QChartView *m_chartView = nullptr;
+    QChart *m_chart = nullptr;
+    TPieChart *m_pieChart = nullptr;
+    QElapsedTimer m_analyticsTimer;
+    FileCategoryStatsMap m_chartStats;
+
+    QMenu *m_selectMenu = nullptr;
+    QMenu *m_filterMenu = nullptr;
+    QMenu *m_deleteMenu = nullptr;
+    QActionGroup *m_filterActions = nullptr;
+    QSlider *m_similaritySlider = nullptr;
+    QAction *m_activeDeleteAction = nullptr;
+    QAction *m_actTrash = nullptr;
+    QAction *m_actPermanent = nullptr;
+    QAction *m_actFolder = nullptr;
+
+    bool m_isCloud = false;
+    KvCloudObject *m_cloud = nullptr;
+    bool m_dataLoaded = false;
+    bool m_incompleteScan = false;
+    bool m_left = false;
+    bool m_sizeRestored = false;
+    // Something was removed or taken out of the result since the page opened.
+    bool m_changed = false;
+    int m_category = kAllCategories;
+    int m_viewMode = GridMode;
+    int m_selectRule = -1;
+    int m_showFilter = 2;
+    bool m_descending = true;
+
+    // Loading in batches: the built groups wait here until the views have taken them.
+    QFutureWatcher<TImageModel::BuiltGroups> m_buildWatcher;
+    QList<GroupItem> m_pendingGroups;
+    qsizetype m_nextBatch = 0;
+    TImageModel::BuiltGroups m_loadSums;
+
+    QFutureWatcher<SelectionTotals> m_totalsWatcher;
+    SelectionTotals m_totals;
+    bool m_totalsAgain = false;
+
+    QFutureWatcher<void> m_memberWatcher;
+    QList<IndexFileGroup> m_members;
+    QString m_memberKey;
+
+    QPointer<CustomProgressDialog> m_progress;
+    QThread *m_deleteThread = nullptr;
+    TImageDeleteWorker *m_worker = nullptr;
+    RemovalJournal *m_journal = nullptr;
+    int m_batchMethod = 0;
+    std::shared_ptr<QList<DeleteResult>> m_batchResults;
+    QList<DeleteResult> m_lastRemoval;
+};

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/SelectionTotals.h"
+
+#include "app/FileTypeCatalogue.h"
+#include "results/TImageModel.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QtConcurrent>
+
+qint64 SelectionTotals::bytesOf(const QString &entry)
+{
+    const QFileInfo info(stripSimilarTag(entry));
+    if (info.isFile())
+        return info.size();
+    if (!info.isDir())
+        return 0;
+    qint64 bytes = 0;
+    const QFileInfoList files
+        = QDir(info.filePath()).entryInfoList(QDir::Files | QDir::Hidden | QDir::System);
+    for (const QFileInfo &file : files)
+        bytes += file.size();
+    return bytes;
+}
+
+QFuture<SelectionTotals> SelectionTotals::start(
+    const QHash<QString, QStringList> &selected, bool isCloud, KvCloudObject *cloud)
+{
+    // Whole groups per task keep the scheduling cost well below the stat calls.
+    const QList<QStringList> lists = selected.values();
+    auto map = [isCloud, cloud](const QStringList &paths) {
+        SelectionTotals part;
+        part.count = int(paths.size());
+        for (const QString &path : paths) {
+            if (isCloud)
+                part.bytes += TImageModel::cloudProperty(
+                    cloud, QFileInfo(path).completeBaseName(), QStringLiteral("size"))
+                                  .toLongLong();
+            else
+                part.bytes += bytesOf(path);
+        }
+        return part;
+    };
+    auto reduce = [](SelectionTotals &total, const SelectionTotals &part) {
+        total.count += part.count;
+        total.bytes += part.bytes;
+    };
+    return QtConcurrent::mappedReduced<SelectionTotals>(lists,
+        std::function<SelectionTotals(const QStringList &)>(map),
+        std::function<void(SelectionTotals &, const SelectionTotals &)>(reduce),
+        QtConcurrent::UnorderedReduce);
+}
