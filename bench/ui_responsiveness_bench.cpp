@@ -9,24 +9,38 @@
 //   ui_responsiveness_bench model <tree> [n]   stores n groups (default 100000) whose first
 //                                              members are real files of the tree and times
 //                                              the group model's loadAllGroups, sort and
-//                                              filters.
+//                                              filters;
+//   ui_responsiveness_bench page <tree> [n]    the same n groups opened in the result page:
+//                                              time until the first groups show and until
+//                                              all are in, the worst event-loop stall while
+//                                              loading, and the selection totals after
+//                                              "Select All" over every group;
+//   ui_responsiveness_bench thumbnails <dir>   one group of the pictures in dir opened in the
+//                                              page's thumbnail grid: time until every cell
+//                                              of the first screen has its thumbnail.
 //
 // Run on the offscreen platform: QT_QPA_PLATFORM=offscreen.
 #include "app/DataDirectory.h"
+#include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
+#include "engine/GroupItemAutoSelector.h"
+#include "results/ResultForm.h"
 #include "results/TImageModel.h"
+#include "results/TImageListView.h"
 
 #include <QApplication>
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 #include <cstdio>
 
 namespace {
@@ -81,24 +95,156 @@ int scanBench(const QString &tree)
     return worst / 1e6 <= 100.0 ? 0 : 1;
 }
 
-int modelBench(const QString &tree, int groups)
+// Gaps between ticks of a 5 ms timer: the longest time the event loop was busy.
+class StallProbe
+{
+public:
+    StallProbe()
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            const qint64 now = m_clock.nsecsElapsed();
+            m_worst = std::max(m_worst, now - m_last);
+            m_last = now;
+        });
+        m_clock.start();
+        m_timer.start();
+    }
+    double worstMs() const { return m_worst / 1e6; }
+
+private:
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+    qint64 m_last = 0;
+    qint64 m_worst = 0;
+};
+
+bool waitFor(const std::function<bool()> &done, int timeoutMs)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!done()) {
+        if (clock.elapsed() > timeoutMs)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+    return true;
+}
+
+void storeGroups(const QString &tree, int groups);
+
+int pageBench(const QString &tree, int groups)
+{
+    storeGroups(tree, groups);
+    QElapsedTimer clock;
+    double firstShown = 0;
+    double loaded = 0;
+    double worst = 0;
+    {
+        StallProbe probe;
+        clock.start();
+        ResultForm page;
+        page.resize(1366, 768);
+        page.show();
+        auto *stack = page.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+        waitFor([&] { return stack->currentWidget()->objectName() == QLatin1String("page_result"); },
+            60000);
+        firstShown = clock.nsecsElapsed() / 1e9;
+        waitFor([&] { return page.isDataLoaded(); }, 60000);
+        loaded = clock.nsecsElapsed() / 1e9;
+        worst = probe.worstMs();
+
+        // Totals of the selection after a rule that selects in every group.
+        page.applySelectionRule(GroupItemAutoSelector::selectAllFiles);
+        waitFor([&] { return page.totals().count >= 2 * groups; }, 1000);
+        clock.restart();
+        const QFuture<SelectionTotals> totals
+            = SelectionTotals::start(TFileData::instance()->selected());
+        const SelectionTotals sums = totals.result();
+        const double totalsMs = clock.nsecsElapsed() / 1e6;
+        std::printf("page: %d groups; first groups shown after %.3f s, all in after %.3f s; "
+                    "worst event-loop stall %.1f ms; selection totals of %d items (%.1f MB) "
+                    "in %.1f ms\n",
+            groups, firstShown, loaded, worst, sums.count, sums.bytes / 1048576.0, totalsMs);
+        TFileData::instance()->clear();
+        return firstShown < 2.0 && worst <= 100.0 && totalsMs <= 100.0 ? 0 : 1;
+    }
+}
+
+int thumbnailBench(const QString &folder)
+{
+    QStringList pictures;
+    QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext() && pictures.size() < 1000) {
+        const QString path = it.next();
+        if (isImageFile(path))
+            pictures << path;
+    }
+    if (pictures.size() < 2) {
+        std::fprintf(stderr, "no pictures under %s\n", qPrintable(folder));
+        return 2;
+    }
+    TFileData::instance()->insertGroup(TFileData::groupKey(pictures.first()), pictures);
+    ResultForm page;
+    page.resize(1366, 768);
+    page.show();
+    waitFor([&] { return page.isDataLoaded(); }, 60000);
+    auto *grid = page.findChild<TImageListView *>(QStringLiteral("listView_images"));
+    // Time from the group's members reaching the grid to a full first screen.
+    QElapsedTimer clock;
+    clock.start();
+    page.groupModel()->sort(ByName, false);
+    page.onTableViewSelectChanged();
+    waitFor([&] { return page.itemModel()->rowCount() == pictures.size(); }, 10000);
+    const double membersMs = clock.nsecsElapsed() / 1e6;
+    int visible = 0;
+    const bool complete = waitFor(
+        [&] {
+            visible = 0;
+            for (int row = 0; row < page.itemModel()->rowCount(); ++row) {
+                const QRect cell = grid->visualRect(page.itemModel()->index(row, 0));
+                if (!cell.isValid() || !grid->viewport()->rect().intersects(cell))
+                    continue;
+                ++visible;
+                if (!page.itemModel()->hasThumbnail(pictures.value(row)))
+                    return false;
+            }
+            return visible > 0;
+        },
+        10000);
+    const double screenMs = clock.nsecsElapsed() / 1e6;
+    std::printf("thumbnails: group of %lld pictures; members in the grid after %.1f ms, "
+                "first screen (%d cells) complete after %.1f ms%s\n",
+        static_cast<long long>(pictures.size()), membersMs, visible, screenMs,
+        complete ? "" : " (not complete)");
+    TFileData::instance()->clear();
+    return complete && screenMs <= 200.0 ? 0 : 1;
+}
+
+void storeGroups(const QString &tree, int groups)
 {
     QStringList files;
     QDirIterator it(tree, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
     while (it.hasNext() && files.size() < 200000)
         files << it.next();
-    if (files.size() < 2) {
-        std::fprintf(stderr, "no files under %s\n", qPrintable(tree));
-        return 2;
-    }
     TFileData *store = TFileData::instance();
-    for (int i = 0; i < groups; ++i) {
+    for (int i = 0; i < groups && files.size() >= 2; ++i) {
         const QString first = files.at((2 * i) % files.size());
         const QString second = files.at((2 * i + 1) % files.size());
         const QString key = QStringLiteral("%1").arg(i, 32, 16, QLatin1Char('0'));
         store->insertGroup(key, {first, second});
         if (i % 3 == 0)
             store->setSelected(key, {second});
+    }
+}
+
+int modelBench(const QString &tree, int groups)
+{
+    storeGroups(tree, groups);
+    TFileData *store = TFileData::instance();
+    if (store->isEmpty()) {
+        std::fprintf(stderr, "no files under %s\n", qPrintable(tree));
+        return 2;
     }
     TImageModel model(TImageModel::ListView, 50);
     QElapsedTimer clock;
@@ -129,7 +275,7 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     if (argc < 3) {
-        std::fprintf(stderr, "usage: %s scan|model <tree> [groups]\n", argv[0]);
+        std::fprintf(stderr, "usage: %s scan|model|page|thumbnails <tree> [groups]\n", argv[0]);
         return 2;
     }
     initLogger(DataDirectory::base());
@@ -137,5 +283,9 @@ int main(int argc, char *argv[])
     const QString tree = QString::fromLocal8Bit(argv[2]);
     if (mode == QLatin1String("scan"))
         return scanBench(tree);
+    if (mode == QLatin1String("page"))
+        return pageBench(tree, argc > 3 ? QString::fromLocal8Bit(argv[3]).toInt() : 100000);
+    if (mode == QLatin1String("thumbnails"))
+        return thumbnailBench(tree);
     return modelBench(tree, argc > 3 ? QString::fromLocal8Bit(argv[3]).toInt() : 100000);
 }

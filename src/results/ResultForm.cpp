@@ -653,8 +653,8 @@ void ResultForm::setViewMode(int mode)
     ui->btn_right_flow->setChecked(mode == FlowMode);
     ui->horizontalSlider->setEnabled(mode != ListMode);
     if (mode != ListMode)
-        m_imageView->setLayoutMode(
-            mode == FlowMode ? TImageListView::Layout::Flow : TImageListView::Layout::Grid);
+        m_imageView->setArrangement(
+            mode == FlowMode ? TImageListView::Arrangement::Flow : TImageListView::Arrangement::Grid);
     if (ui->stackedWidget_members->currentWidget() != ui->page_empty)
         ui->stackedWidget_members->setCurrentWidget(
             mode == ListMode ? ui->page_list : ui->page_grid);
