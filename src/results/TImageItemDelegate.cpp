@@ -133,9 +133,10 @@ void TImageItemDelegate::paint(
         painter->drawRoundedRect(cell, kCellRadius, kCellRadius);
     } else if ((option.state & QStyle::State_HasFocus)
         && !(option.state & QStyle::State_Selected)) {
-        // The keyboard's place must show even on an unselected cell.
+        // The keyboard's place must show even on an unselected cell, in a colour that
+        // cannot be taken for the frame of a checked one.
         painter->setBrush(Qt::NoBrush);
-        painter->setPen(QPen(kAccent.lighter(140), 1.5));
+        painter->setPen(QPen(kBoxBorder, 1));
         painter->drawRoundedRect(cell, kCellRadius, kCellRadius);
     }
     painter->restore();
