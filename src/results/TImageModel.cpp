@@ -101,6 +101,9 @@ TImageModel::~TImageModel()
 {
     for (const auto &task : std::as_const(m_pending))
         task->cancel();
+    // Loads not yet started are dropped; the ones under way end before the model does.
+    m_loader.clear();
+    m_loader.waitForDone();
 }
 
 int TImageModel::rowCount(const QModelIndex &parent) const
@@ -731,7 +734,7 @@ void TImageModel::requestThumbnail(int row, int type, const QString &path) const
     connect(task.get(), &ImageLoadTask::finished, this, &TImageModel::onImageLoadTaskFinash,
         Qt::QueuedConnection);
     m_pending.insert(row, task);
-    QThreadPool::globalInstance()->start([task] { task->run(); });
+    m_loader.start([task] { task->run(); });
 }
 
 void TImageModel::onImageLoadTaskFinash(

@@ -12,6 +12,7 @@
 #include <QHash>
 #include <QImage>
 #include <QPixmap>
+#include <QThreadPool>
 
 class ImageLoadTask;
 class KvCloudObject;
@@ -167,4 +168,8 @@ private:
     mutable QCache<QString, QPixmap> m_thumbnails;
     mutable QHash<int, std::shared_ptr<ImageLoadTask>> m_pending;
     int m_nameMode = kPathNameMode;
+    // Thumbnails load on a pool of their own: the raster paint engine splits large fills
+    // across the global pool and waits for them, so loads queued there would hold up
+    // every repaint of the views until they were all done.
+    mutable QThreadPool m_loader;
 };
