@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "results/PicturePreviewDialog.h"
+
 #include <QListView>
 #include <QPair>
 #include <QPointer>
 #include <QTimer>
 
-class PicturePreviewDialog;
 class TImageItemDelegate;
 class TImageModel;
 
