@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Saves a screenshot of each page of the main window under Xvfb:
+# Saves a screenshot of each page of the main window and of the result page under Xvfb:
 #   tools/screenshots.sh <build dir> <output dir>
 # The pages are filled with sample values by the driver program;
 # see tests/mainwindow/ScreenshotPages.cpp.
@@ -12,4 +12,5 @@ export XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_CONFIG_HOME=$(mktemp -d)
 export XDG_DATA_HOME=$(mktemp -d)
 xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out"
+xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/results/screenshot_result_page" "$out"
 ls -l "$out"

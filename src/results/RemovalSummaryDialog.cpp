@@ -20,18 +20,20 @@ RemovalSummaryDialog::RemovalSummaryDialog(
 {
     setObjectName(QStringLiteral("RemovalSummaryDialog"));
     setWindowTitle(tr("Removal finished"));
-    setMinimumSize(640, 360);
+    setMinimumSize(760, 420);
+    resize(900, 520);
 
     m_items = new QTreeWidget(this);
     m_items->setObjectName(QStringLiteral("tree_items"));
     m_items->setRootIsDecorated(false);
     m_items->setUniformRowHeights(true);
+    m_items->setAlternatingRowColors(true);
     m_items->setTextElideMode(Qt::ElideMiddle);
-    m_items->setHeaderLabels({tr("Item"), tr("Result")});
-    m_items->header()->setStretchLastSection(false);
-    m_items->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_items->header()->setSectionResizeMode(1, QHeaderView::Interactive);
-    m_items->setColumnWidth(1, 260);
+    m_items->setHeaderLabels({tr("Item"), tr("Result"), tr("Details")});
+    m_items->header()->setStretchLastSection(true);
+    m_items->header()->setSectionResizeMode(0, QHeaderView::Interactive);
+    m_items->setColumnWidth(0, 380);
+    m_items->setColumnWidth(1, 110);
 
     QList<QTreeWidgetItem *> kept;
     QList<QTreeWidgetItem *> removed;
@@ -39,32 +41,37 @@ RemovalSummaryDialog::RemovalSummaryDialog(
         const QString path = QDir::toNativeSeparators(stripSimilarTag(result.path));
         const bool gone = result.success && result.errorCode == DeleteResult::NoError;
         QString outcome;
+        QString details;
         if (gone) {
             ++m_removed;
-            outcome = result.destination.isEmpty()
-                ? tr("Removed")
-                : (method == DFIgnoreListPreferences::moveToFolder ? tr("Moved to %1")
-                                                                   : tr("In the trash: %1"))
-                      .arg(QDir::toNativeSeparators(result.destination));
+            if (result.destination.isEmpty()) {
+                outcome = tr("Removed");
+            } else {
+                outcome = method == DFIgnoreListPreferences::moveToFolder ? tr("Moved")
+                                                                          : tr("In the trash");
+                details = QDir::toNativeSeparators(result.destination);
+            }
         } else {
             ++m_kept;
-            outcome = result.errorCode == DeleteResult::Skipped
-                ? tr("Kept: %1").arg(result.reason)
-                : tr("Failed: %1").arg(ResultForm::failureText(result, method));
+            outcome = result.errorCode == DeleteResult::Skipped ? tr("Kept") : tr("Failed");
+            details = ResultForm::failureText(result, method);
         }
-        auto *item = new QTreeWidgetItem({path, outcome});
-        item->setToolTip(0, path);
-        item->setToolTip(1, outcome);
-        if (!gone)
+        auto *item = new QTreeWidgetItem({path, outcome, details});
+        for (int column = 0; column < 3; ++column)
+            item->setToolTip(column, item->text(column));
+        if (!gone) {
             item->setForeground(1, QColor(0xb2, 0x3b, 0x1e));
+            item->setForeground(2, QColor(0xb2, 0x3b, 0x1e));
+        }
         (gone ? removed : kept).append(item);
     }
     // What stayed comes first: that is what the user has to look at.
     m_items->addTopLevelItems(kept);
     m_items->addTopLevelItems(removed);
 
-    m_headline = new QLabel(headline() + QStringLiteral("<br>")
-            + tr("Space freed: %1").arg(TImageModel::sizeText(bytes)),
+    m_headline = new QLabel(QStringLiteral("<b>%1</b><br>%2")
+                                .arg(headline().toHtmlEscaped(),
+                                    tr("Space freed: %1").arg(TImageModel::sizeText(bytes))),
         this);
     m_headline->setObjectName(QStringLiteral("lab_summary"));
     m_headline->setTextFormat(Qt::RichText);

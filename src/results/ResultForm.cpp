@@ -11,6 +11,7 @@
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
+#include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRequest.h"
 #include "fileops/TImageDeleteWorker.h"
@@ -62,6 +63,49 @@ const QString kTag = QStringLiteral("[TResultForm]: ");
 // spend on them, so that the window keeps answering while a large result loads.
 constexpr int kBatchSize = 100;
 constexpr int kBatchBudgetMs = 12;
+
+// Caption of a category button.
+QString categoryTitle(int code)
+{
+    switch (code) {
+    case CategoryImages:
+        return ResultForm::tr("Images");
+    case CategoryDocuments:
+        return ResultForm::tr("Documents");
+    case CategoryAudio:
+        return ResultForm::tr("Music");
+    case CategoryVideos:
+        return ResultForm::tr("Videos");
+    case CategoryFolders:
+        return ResultForm::tr("Folders");
+    case 8:
+        return ResultForm::tr("Packages");
+    default:
+        return ResultForm::tr("Others");
+    }
+}
+
+// Middle part of the names of a category's count and size labels beside the chart
+// ("lab_images_num"): fixed, whatever the language.
+QString chartLabelKey(int code)
+{
+    switch (code) {
+    case CategoryImages:
+        return QStringLiteral("images");
+    case CategoryDocuments:
+        return QStringLiteral("documents");
+    case CategoryAudio:
+        return QStringLiteral("musics");
+    case CategoryVideos:
+        return QStringLiteral("videos");
+    case CategoryFolders:
+        return QStringLiteral("folder");
+    case CategoryOthers:
+        return QStringLiteral("others");
+    default:
+        return QString();
+    }
+}
 
 int similarityOf(const QString &entry)
 {
@@ -240,8 +284,14 @@ void ResultForm::initUI()
     ui->btn_delete->setEnabled(false);
     ui->btn_select->setPopupMode(QToolButton::InstantPopup);
     ui->btn_filter->setPopupMode(QToolButton::InstantPopup);
-    ui->btn_select->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    ui->btn_filter->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (QToolButton *button : {ui->btn_select, ui->btn_filter}) {
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        // Room for the menu arrow beside the text rather than over it.
+        button->setStyleSheet(
+            QStringLiteral("QToolButton { padding: 3px 18px 3px 10px; }"
+                           "QToolButton::menu-indicator { subcontrol-origin: padding;"
+                           " subcontrol-position: center right; right: 5px; }"));
+    }
     ui->lab_preview->setMinimumSize(200, 200);
     setViewMode(GridMode);
 }
@@ -544,7 +594,7 @@ void ResultForm::updateCategoryButtons()
         {ui->btn_packages, 8}, {ui->btn_others, CategoryOthers}};
     for (const auto &[button, code] : buttons) {
         const auto entry = byType.value(code);
-        button->setText(label(FileTypeCatalogue::categoryLabel(code), entry.first, entry.second));
+        button->setText(label(categoryTitle(code), entry.first, entry.second));
         // Empty categories stay out of the way, unless the user is looking at one.
         button->setVisible(entry.first > 0 || m_category == code);
     }
@@ -653,8 +703,8 @@ void ResultForm::setViewMode(int mode)
     ui->btn_right_flow->setChecked(mode == FlowMode);
     ui->horizontalSlider->setEnabled(mode != ListMode);
     if (mode != ListMode)
-        m_imageView->setArrangement(
-            mode == FlowMode ? TImageListView::Arrangement::Flow : TImageListView::Arrangement::Grid);
+        m_imageView->setArrangement(mode == FlowMode ? TImageListView::Arrangement::Flow
+                                                     : TImageListView::Arrangement::Grid);
     if (ui->stackedWidget_members->currentWidget() != ui->page_empty)
         ui->stackedWidget_members->setCurrentWidget(
             mode == ListMode ? ui->page_list : ui->page_grid);
@@ -758,8 +808,8 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
                               : getPathCategory(member.path);
         item.similarity = member.similarity;
         item.displayName = member.name;
-        item.extra = isSimilarEntry(member.entry) ? tr("%1% similar").arg(member.similarity)
-                                                  : QString();
+        item.extra
+            = isSimilarEntry(member.entry) ? tr("%1% similar").arg(member.similarity) : QString();
         items.append(item);
     }
     m_itemModel->setItems(items);
@@ -1244,8 +1294,9 @@ void ResultForm::startBatch(const QHash<QString, QStringList> &selection, bool a
     connect(m_deleteThread, &QThread::finished, m_deleteThread, &QObject::deleteLater);
     ui->btn_delete->setEnabled(false);
     m_deleteThread->start(QThread::InheritPriority);
-    QTimer::singleShot(200, m_progress.data(), [progress = m_progress] {
-        if (progress)
+    // Short batches end before the dialog would show; it must not appear after the end.
+    QTimer::singleShot(200, m_progress.data(), [this, progress = m_progress] {
+        if (progress && progress == m_progress)
             progress->show();
     });
 }
@@ -1274,6 +1325,7 @@ void ResultForm::onDeletedComplated(const QHash<QString, QStringList> &files,
     if (m_progress) {
         m_progress->finish();
         m_progress->deleteLater();
+        m_progress.clear();
     }
     finishRemoval(files, dirs, results, true);
 }
@@ -1343,8 +1395,20 @@ void ResultForm::finishRemoval(const QHash<QString, QStringList> &files,
 
 QString ResultForm::failureText(const DeleteResult &result, int method)
 {
-    if (result.errorCode == DeleteResult::Skipped)
+    if (result.errorCode == DeleteResult::Skipped) {
+        // The checks give their reasons in the journal's words; the user reads them here.
+        if (result.reason == RemovalCheck::changedSinceScan)
+            return tr("The file changed after the scan.");
+        if (result.reason == RemovalCheck::noKeptCopyLeft)
+            return tr("No other copy of it would be left.");
+        if (result.reason == RemovalCheck::contentDiffers)
+            return tr("Its content no longer matches the copy that stays.");
+        if (result.reason == RemovalCheck::folderNotCovered)
+            return tr("Not everything in it has a copy in the folder that stays.");
+        if (result.reason == TImageDeleteWorker::keptLastCopy)
+            return tr("Every copy of its group was selected; this one stays.");
         return result.reason;
+    }
     if (!QFileInfo::exists(stripSimilarTag(result.path)) && !result.success)
         return tr("The file was not found.");
     switch (result.errorCode) {
@@ -1388,6 +1452,8 @@ qint64 ResultForm::removedBytes(const QList<DeleteResult> &results)
             bytes += *folder;
         else if (const FileStamp stamp = store->stamp(path); stamp.isValid())
             bytes += stamp.size;
+        else if (!result.destination.isEmpty())
+            bytes += SelectionTotals::bytesOf(result.destination);
     }
     return bytes;
 }
@@ -1435,7 +1501,7 @@ void ResultForm::bulidPieChart(const FileCategoryStatsMap &result, int count, ql
     ui->lab_total_size_2->setText(TImageModel::sizeText(reclaimable));
     for (auto it = result.cbegin(); it != result.cend(); ++it) {
         const QString name = TPieChart::categoryName(it.key());
-        const QString lower = name.toLower();
+        const QString lower = chartLabelKey(it.key());
         splog_d(kTag + QStringLiteral("bulidPieChart %1 %2").arg(name, lower));
         if (it->count == 0)
             continue;
