@@ -781,7 +781,15 @@ void MainWindow::on_btn_scan_clicked()
 
 void MainWindow::startLocalScan()
 {
-    m_lastScanRoots = ScanRootList::pruneNested(m_folders);
+    const QStringList roots = ScanRootList::pruneNested(m_folders);
+    // The controller refuses settings that would spoil the scan; the window then stays
+    // ready with the folders as they are.
+    const QString refused = TControlUI::instance()->startScan(roots);
+    if (!refused.isEmpty()) {
+        QMessageBox::warning(this, tr("Error"), refused);
+        return;
+    }
+    m_lastScanRoots = roots;
     m_localScan = true;
     clearScanProblems();
     m_projectPath.clear();
@@ -795,7 +803,6 @@ void MainWindow::startLocalScan()
     m_labFindTime->setText(QStringLiteral("00:00:00"));
     m_pages->setCurrentIndex(1);
     setStatus(StateScanning);
-    TControlUI::instance()->startScan(m_lastScanRoots);
 }
 
 void MainWindow::filesCountChange(int fileCount)
