@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "preferences/DFIgnoreListWidget.h"
+
+#include "preferences/PreferenceRanges.h"
+#include "ui_IgnoreList.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QRegularExpressionValidator>
+
+namespace {
+
+QStringList extensionsOf(const QString &text)
+{
+    return text.split(QLatin1Char(','), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::IgnoreList>())
+{
+    ui->setupUi(this);
+    ui->sbMinimumFileSize->setRange(
+        int(PreferenceRanges::MinFileSize.minimum), int(PreferenceRanges::MinFileSize.maximum));
+    ui->sbMaximumFileSize->setRange(
+        int(PreferenceRanges::MaxFileSize.minimum), int(PreferenceRanges::MaxFileSize.maximum));
+    // Letters, digits and commas only: a dot or a blank in an extension would never match.
+    const QRegularExpression extensions(QStringLiteral("[a-zA-Z0-9,]+$"));
+    ui->linEditOnly->setValidator(new QRegularExpressionValidator(extensions, this));
+    ui->linEditIgnore->setValidator(new QRegularExpressionValidator(extensions, this));
+
+    const auto method
+        = [this](QRadioButton *button, DFIgnoreListPreferences::DFRemovalMethod value) {
+              connect(button, &QRadioButton::toggled, this, [this, value](bool on) {
+                  if (!on || m_filling)
+                      return;
+                  m_preferences.setRemovealMethod(value);
+                  showMoveFolder();
+              });
+          };
+    method(ui->rbMoveToTrash, DFIgnoreListPreferences::moveToTrash);
+    method(ui->rbRemovePermanently, DFIgnoreListPreferences::removePermanently);
+    method(ui->rbMoveToFolder, DFIgnoreListPreferences::moveToFolder);
+    connect(ui->lineEdit, &QLineEdit::textEdited, this,
+        [this](const QString &text) { m_preferences.setTrashFolder(text); });
+    connect(ui->sbMinimumFileSize, &QSpinBox::valueChanged, this, [this](int value) {
+        if (!m_filling)
+            m_preferences.setMinFileSize(quint64(value));
+    });
+    connect(ui->sbMaximumFileSize, &QSpinBox::valueChanged, this, [this](int value) {
+        if (!m_filling)
+            m_preferences.setMaxFileSize(quint64(value));
+    });
+    connect(ui->lwIgnoreList, &QListWidget::itemSelectionChanged, this,
+        &DFIgnoreListWidget::updateListButtons);
+    connect(ui->radBtnOnly, &QRadioButton::toggled, this, [this](bool on) {
+        if (m_filling)
+            return;
+        m_preferences.setScanFileType(on ? 0 : 1);
+        showFormatMode(!on);
+        (on ? ui->linEditOnly : ui->linEditIgnore)->setFocus();
+    });
+    connect(ui->linEditOnly, &QLineEdit::textChanged, this, [this](const QString &text) {
+        if (!m_filling)
+            m_preferences.setOnlyFileType(extensionsOf(text));
+    });
+    connect(ui->linEditIgnore, &QLineEdit::textChanged, this, [this](const QString &text) {
+        if (!m_filling)
+            m_preferences.setIgnoreFileType(extensionsOf(text));
+    });
+    connect(ui->chkIgnoreSystemHidden, &QCheckBox::toggled, this,
+        [this](bool on) { m_preferences.setHideSystemFile(on); });
+    refresh();
+}
+
+DFIgnoreListWidget::~DFIgnoreListWidget() = default;
+
+void DFIgnoreListWidget::setPreferences(const DFIgnoreListPreferences &preferences)
+{
+    m_preferences = preferences;
+    refresh();
+}
+
+void DFIgnoreListWidget::refresh()
+{
+    m_filling = true;
+    switch (m_preferences.RemovealMethod()) {
+    case DFIgnoreListPreferences::removePermanently:
+        ui->rbRemovePermanently->setChecked(true);
+        break;
+    case DFIgnoreListPreferences::moveToFolder:
+        ui->rbMoveToFolder->setChecked(true);
+        break;
+    default:
+        ui->rbMoveToTrash->setChecked(true);
+        break;
+    }
+    showMoveFolder();
+    ui->lineEdit->setText(m_preferences.TrashFolder());
+    ui->sbMinimumFileSize->setValue(int(PreferenceRanges::MinFileSize.clamp(
+        qint64(qMin<quint64>(m_preferences.MinFileSize(), quint64(INT_MAX))))));
+    ui->sbMaximumFileSize->setValue(int(PreferenceRanges::MaxFileSize.clamp(
+        qint64(qMin<quint64>(m_preferences.MaxFileSize(), quint64(INT_MAX))))));
+
+    ui->lwIgnoreList->clear();
+    for (const QString &path : m_preferences.IgnorePathFile()) {
+        auto *item = new QListWidgetItem(QDir::toNativeSeparators(path), ui->lwIgnoreList);
+        item->setData(Qt::UserRole, path);
+        item->setToolTip(QDir::toNativeSeparators(path));
+    }
+    updateListButtons();
+
+    ui->linEditIgnore->setText(m_preferences.IgnoreFileType().join(QLatin1Char(',')));
+    ui->linEditOnly->setText(m_preferences.OnlyFileType().join(QLatin1Char(',')));
+    const bool ignoreMode = m_preferences.ScanFileType() != 0;
+    (ignoreMode ? ui->radBtnUgnore : ui->radBtnOnly)->setChecked(true);
+    showFormatMode(ignoreMode);
+    ui->chkIgnoreSystemHidden->setChecked(m_preferences.HideSystemFile());
+    m_filling = false;
+}
+
+void DFIgnoreListWidget::showFormatMode(bool ignoreMode)
+{
+    ui->linEditIgnore->setEnabled(ignoreMode);
+    ui->linEditOnly->setEnabled(!ignoreMode);
+}
+
+void DFIgnoreListWidget::showMoveFolder()
+{
+    // The folder only matters to the move; greyed out otherwise, it still shows the
+    // folder a later move would use.
+    const bool moving = ui->rbMoveToFolder->isChecked();
+    ui->lineEdit->setEnabled(moving);
+    ui->btn_selectPath->setEnabled(moving);
+}
+
+void DFIgnoreListWidget::updateListButtons()
+{
+    ui->btnRemoveIgnore->setEnabled(!ui->lwIgnoreList->selectedItems().isEmpty());
+    ui->btnClear->setEnabled(ui->lwIgnoreList->count() > 0);
+}
+
+bool DFIgnoreListWidget::validate()
+{
+    // Kilobytes against megabytes: equal bounds are refused too, as they leave no room.
+    const int minimum = ui->sbMinimumFileSize->value();
+    const int maximum = ui->sbMaximumFileSize->value();
+    if (!PreferenceRanges::sizeBoundsValid(minimum, maximum)) {
+        QMessageBox::critical(this, tr("Error"),
+            tr("The maximum file size cannot be less than the minimum file size."));
+        return false;
+    }
+    m_preferences.setMaxFileSize(quint64(PreferenceRanges::MaxFileSize.clamp(maximum)));
+    m_preferences.setMinFileSize(quint64(minimum));
+    if (ui->rbMoveToFolder->isChecked() && ui->lineEdit->text().trimmed().isEmpty()) {
+        QMessageBox::critical(this, tr("Error"),
+            tr("Please select the folder where the deleted files will be moved to."));
+        return false;
+    }
+    return true;
+}
+
+void DFIgnoreListWidget::addIgnorePaths(const QStringList &paths)
+{
+    QStringList list = m_preferences.IgnorePathFile();
+    for (const QString &path : paths) {
+        const QString clean = QDir::cleanPath(path);
+        if (!clean.isEmpty() && !list.contains(clean))
+            list.append(clean);
+    }
+    m_preferences.setIgnorePathFile(list);
+    refresh();
+}
+
+void DFIgnoreListWidget::retranslate()
+{
+    ui->retranslateUi(this);
+    refresh();
+}
+
+void DFIgnoreListWidget::on_btn_selectPath_clicked()
+{
+    const QString current = ui->lineEdit->text();
+    const QString start = QFileInfo(current).isDir() ? current : QStringLiteral("/");
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Select folder"), start);
+    if (folder.isEmpty())
+        return;
+    m_preferences.setTrashFolder(QDir::cleanPath(folder));
+    refresh();
+}
+
+void DFIgnoreListWidget::on_btnAddIgnore_clicked()
+{
+    const QString folder
+        = QFileDialog::getExistingDirectory(this, tr("Select Folder"), QStringLiteral("/"));
+    if (!folder.isEmpty())
+        addIgnorePaths({folder});
+}
+
+void DFIgnoreListWidget::on_btn_addFiles_clicked()
+{
+#ifdef Q_OS_WIN
+    const QString filter = tr("All Files (*.*)");
+#else
+    // "*.*" would hide the many files without an extension here.
+    const QString filter = tr("All Files (*)");
+#endif
+    const QStringList files
+        = QFileDialog::getOpenFileNames(this, tr("Select Files"), QString(), filter);
+    if (!files.isEmpty())
+        addIgnorePaths(files);
+}
+
+void DFIgnoreListWidget::on_btnRemoveIgnore_clicked()
+{
+    QStringList list = m_preferences.IgnorePathFile();
+    for (const QListWidgetItem *item : ui->lwIgnoreList->selectedItems())
+        list.removeAll(item->data(Qt::UserRole).toString());
+    m_preferences.setIgnorePathFile(list);
+    refresh();
+}
+
+void DFIgnoreListWidget::on_btnClear_clicked()
+{
+    m_preferences.setIgnorePathFile({});
+    refresh();
+}
