@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFIgnoreListWidget.h"
 
+#include "preferences/DroppedPaths.h"
 #include "preferences/PreferenceRanges.h"
 #include "ui_IgnoreList.h"
 
@@ -54,6 +55,8 @@ DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
         if (!m_filling)
             m_preferences.setMaxFileSize(quint64(value));
     });
+    ui->lwIgnoreList->setAcceptDrops(true);
+    ui->lwIgnoreList->viewport()->installEventFilter(this);
     connect(ui->lwIgnoreList, &QListWidget::itemSelectionChanged, this,
         &DFIgnoreListWidget::updateListButtons);
     connect(ui->radBtnOnly, &QRadioButton::toggled, this, [this](bool on) {
@@ -173,6 +176,32 @@ void DFIgnoreListWidget::addIgnorePaths(const QStringList &paths)
     }
     m_preferences.setIgnorePathFile(list);
     refresh();
+}
+
+bool DFIgnoreListWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != ui->lwIgnoreList->viewport())
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove: {
+        auto *drag = static_cast<QDragMoveEvent *>(event);
+        if (droppedPaths(drag->mimeData(), false).isEmpty())
+            drag->ignore();
+        else
+            acceptWithoutMove(drag);
+        return true;
+    }
+    case QEvent::Drop: {
+        auto *drop = static_cast<QDropEvent *>(event);
+        const QStringList paths = droppedPaths(drop->mimeData(), false);
+        acceptWithoutMove(drop);
+        addIgnorePaths(paths);
+        return true;
+    }
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
 }
 
 void DFIgnoreListWidget::retranslate()

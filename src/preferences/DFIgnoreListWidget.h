@@ -43,6 +43,10 @@ private slots:
     void on_btnRemoveIgnore_clicked();
     void on_btnClear_clicked();
 
+protected:
+    // Folders and files dragged onto the ignore list join it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void updateListButtons();
     void showFormatMode(bool ignoreMode);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFSelectionWidget.h"
 
+#include "preferences/DroppedPaths.h"
 #include "ui_Selection.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QTimer>
 
 namespace {
 
@@ -42,6 +44,8 @@ DFSelectionWidget::DFSelectionWidget(QWidget *parent)
     rule(ui->rbSelectionOldest, DFSelectionPreferences::selectOldest);
     rule(ui->rbAutoSelection, DFSelectionPreferences::autoSelect);
     rule(ui->rbSelectionPriority, DFSelectionPreferences::selectPriority);
+    ui->tableWidget->setAcceptDrops(true);
+    ui->tableWidget->viewport()->installEventFilter(this);
     connect(ui->tableWidget, &QTableWidget::itemSelectionChanged, this,
         [this] { ui->btnRemovePrior->setEnabled(!ui->tableWidget->selectedItems().isEmpty()); });
     connect(ui->chkScanDupDir, &QCheckBox::toggled, this,
@@ -103,22 +107,54 @@ void DFSelectionWidget::refresh()
     m_filling = false;
 }
 
-bool DFSelectionWidget::addPriorityFolder(const QString &folder)
+bool DFSelectionWidget::addPriorityFolders(const QStringList &folders)
 {
-    const QString clean = QDir::cleanPath(folder);
     QMap<QString, qint32> priorities = m_preferences.mapPriority();
-    if (priorities.contains(clean)) {
-        QMessageBox::critical(this, tr("Error"), tr("The folder has been added."));
-        return false;
-    }
     // Priorities of 0 or below never raise the next one: the first folder gets 1.
     qint32 largest = 0;
     for (const qint32 value : std::as_const(priorities))
         largest = std::max(largest, value);
-    priorities.insert(clean, largest + 1);
+    bool refused = false;
+    for (const QString &folder : folders) {
+        const QString clean = QDir::cleanPath(folder);
+        if (priorities.contains(clean)) {
+            refused = true;
+            continue;
+        }
+        priorities.insert(clean, ++largest);
+    }
     m_preferences.setMapPriority(priorities);
     refresh();
-    return true;
+    if (refused)
+        QMessageBox::critical(this, tr("Error"), tr("The folder has been added."));
+    return !refused;
+}
+
+bool DFSelectionWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != ui->tableWidget->viewport())
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove: {
+        auto *drag = static_cast<QDragMoveEvent *>(event);
+        if (droppedPaths(drag->mimeData(), true).isEmpty())
+            drag->ignore();
+        else
+            acceptWithoutMove(drag);
+        return true;
+    }
+    case QEvent::Drop: {
+        auto *drop = static_cast<QDropEvent *>(event);
+        const QStringList folders = droppedPaths(drop->mimeData(), true);
+        acceptWithoutMove(drop);
+        // A message box inside the drop would hold the file manager's drag open.
+        QTimer::singleShot(0, this, [this, folders] { addPriorityFolders(folders); });
+        return true;
+    }
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
 }
 
 void DFSelectionWidget::retranslate()
@@ -131,7 +167,7 @@ void DFSelectionWidget::on_btnAddPrior_clicked()
 {
     const QString folder = QFileDialog::getExistingDirectory(this, tr("Select Folder"));
     if (!folder.isEmpty())
-        addPriorityFolder(folder);
+        addPriorityFolders({folder});
 }
 
 void DFSelectionWidget::on_btnRemovePrior_clicked()

@@ -27,9 +27,10 @@ public:
     DFSelectionPreferences &preferences() { return m_preferences; }
     void setPreferences(const DFSelectionPreferences &preferences);
     void refresh();
-    // Enters a folder with the next free priority (one above the largest). A folder that
-    // is already in the table is refused with an error box; returns whether it entered.
-    bool addPriorityFolder(const QString &folder);
+    // Enters folders with the next free priorities (one above the largest), in the given
+    // order. Folders already in the table are refused with one error box; returns whether
+    // all of them entered.
+    bool addPriorityFolders(const QStringList &folders);
 
 public slots:
     void retranslate();
@@ -38,6 +39,10 @@ private slots:
     void on_btnAddPrior_clicked();
     void on_btnRemovePrior_clicked();
     void on_tableWidget_itemChanged(QTableWidgetItem *item);
+
+protected:
+    // Folders dragged onto the table enter it as by "Add".
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     std::unique_ptr<Ui::Selection> ui;

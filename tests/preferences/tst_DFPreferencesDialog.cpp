@@ -14,8 +14,10 @@
 #include <memory>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QSettings>
 #include <QSlider>
 #include <QSpinBox>
@@ -47,6 +49,8 @@ private slots:
     void priorityOfAddedFolder_data();
     void priorityOfAddedFolder();
     void reopeningShowsTheStore();
+    void dropAddsPaths_data();
+    void dropAddsPaths();
 
 private:
     void run(const QString &steps);
@@ -89,7 +93,7 @@ void TestDFPreferencesDialog::run(const QString &steps)
         const QString name = step.section(QLatin1Char('='), 0, 0);
         const QString value = step.section(QLatin1Char('='), 1);
         if (name.startsWith(QLatin1String("folder:"))) {
-            m_dialog->selectionWidget()->addPriorityFolder(name.mid(7));
+            m_dialog->selectionWidget()->addPriorityFolders({name.mid(7)});
         } else if (name.startsWith(QLatin1String("cell:"))) {
             auto *table = m_dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"));
             table->item(name.mid(5).toInt(), 0)->setText(value);
@@ -403,6 +407,78 @@ void TestDFPreferencesDialog::reopeningShowsTheStore()
     // A new language puts the design-time texts back; the page fills them again.
     m_dialog->retranslate();
     QCOMPARE(m_dialog->findChild<QLabel *>("lblSimilarityValue")->text(), QStringLiteral("55%"));
+}
+
+void TestDFPreferencesDialog::dropAddsPaths_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QStringList>("dropped");
+    QTest::addColumn<bool>("accepted");
+    // Ignore list entries, or "folder=priority" for the table, in the tree's names.
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("folder and file onto the ignore list")
+        << "lwIgnoreList"
+        << "" << QStringList {"photos", "notes.txt", "missing"} << true
+        << QStringList {"photos", "notes.txt"} << QStringList {};
+    QTest::newRow("nothing that exists")
+        << "lwIgnoreList"
+        << "" << QStringList {"missing"} << false << QStringList {} << QStringList {};
+    QTest::newRow("folders onto the table in drop order")
+        << "tableWidget"
+        << "" << QStringList {"photos", "notes.txt", "music"} << true
+        << QStringList {"music=2", "photos=1"} << QStringList {};
+    QTest::newRow("only a file onto the table")
+        << "tableWidget"
+        << "" << QStringList {"notes.txt"} << false << QStringList {} << QStringList {};
+    QTest::newRow("folder already in the table")
+        << "tableWidget"
+        << "folder:@/photos" << QStringList {"photos", "music"} << true
+        << QStringList {"music=2", "photos=1"} << QStringList {"The folder has been added."};
+}
+
+void TestDFPreferencesDialog::dropAddsPaths()
+{
+    QFETCH(QString, target);
+    QFETCH(QString, steps);
+    QFETCH(QStringList, dropped);
+    QFETCH(bool, accepted);
+    QFETCH(QStringList, entries);
+    QFETCH(QStringList, texts);
+    QTemporaryDir tree;
+    QVERIFY(QDir(tree.path()).mkpath("photos") && QDir(tree.path()).mkpath("music"));
+    ScanTree::write(tree.path(), "notes.txt", "x");
+    run(steps.replace('@', tree.path()));
+    QList<QUrl> urls;
+    for (const QString &name : dropped)
+        urls << QUrl::fromLocalFile(tree.filePath(name));
+    QMimeData data;
+    data.setUrls(urls);
+
+    MessageBoxCatcher boxes;
+    QWidget *viewport = m_dialog->findChild<QAbstractItemView *>(target)->viewport();
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    QDragEnterEvent enter(QPoint(5, 5), actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    QCOMPARE(enter.isAccepted(), accepted);
+    if (accepted) {
+        QDropEvent drop(QPointF(5, 5), actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &drop);
+        // Told "moved", a file manager may delete what was dragged.
+        QCOMPARE(drop.dropAction(), Qt::LinkAction);
+    }
+    QTest::qWait(100);
+
+    QStringList actual;
+    const QString root = tree.path() + '/';
+    for (const QString &path : m_dialog->ignoreListWidget()->preferences().IgnorePathFile())
+        actual << QString(path).remove(root);
+    const PriorityMap priorities = m_dialog->selectionWidget()->preferences().mapPriority();
+    for (auto it = priorities.cbegin(); it != priorities.cend(); ++it)
+        actual << QString(it.key()).remove(root) + '=' + QString::number(it.value());
+    QCOMPARE(actual, entries);
+    QCOMPARE(boxes.texts, texts);
 }
 
 QTEST_MAIN(TestDFPreferencesDialog)
