@@ -1,7 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Saves a screenshot of each page of the main window under Xvfb:
-#   tools/screenshots.sh <build dir> <output dir>
+# Saves a screenshot of each page of the main window and each tab of the settings dialog
+# under Xvfb:
+#   tools/screenshots.sh <build dir> <output dir> [settings]
 # The pages are filled with sample values by the driver program;
 # see tests/mainwindow/ScreenshotPages.cpp.
 set -eu
@@ -11,5 +12,5 @@ mkdir -p "$out"
 export XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_CONFIG_HOME=$(mktemp -d)
 export XDG_DATA_HOME=$(mktemp -d)
-xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out"
+xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out" ${3:-}
 ls -l "$out"

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QRegularExpressionValidator>
+#include <QStyle>
 
 namespace {
 
@@ -55,6 +56,7 @@ DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
         if (!m_filling)
             m_preferences.setMaxFileSize(quint64(value));
     });
+    ui->lwIgnoreList->setIconSize(QSize(16, 16));
     ui->lwIgnoreList->setAcceptDrops(true);
     ui->lwIgnoreList->viewport()->installEventFilter(this);
     connect(ui->lwIgnoreList, &QListWidget::itemSelectionChanged, this,
@@ -110,7 +112,9 @@ void DFIgnoreListWidget::refresh()
 
     ui->lwIgnoreList->clear();
     for (const QString &path : m_preferences.IgnorePathFile()) {
-        auto *item = new QListWidgetItem(QDir::toNativeSeparators(path), ui->lwIgnoreList);
+        const QIcon icon = style()->standardIcon(
+            QFileInfo(path).isFile() ? QStyle::SP_FileIcon : QStyle::SP_DirIcon);
+        auto *item = new QListWidgetItem(icon, QDir::toNativeSeparators(path), ui->lwIgnoreList);
         item->setData(Qt::UserRole, path);
         item->setToolTip(QDir::toNativeSeparators(path));
     }

@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QStyle>
 #include <QTimer>
 
 namespace {
@@ -24,6 +25,8 @@ DFSelectionWidget::DFSelectionWidget(QWidget *parent)
     ui->setupUi(this);
     ui->tableWidget->horizontalHeader()->setSectionResizeMode(
         PriorityColumn, QHeaderView::ResizeToContents);
+    ui->tableWidget->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    ui->tableWidget->setIconSize(QSize(16, 16));
 
     const auto method = [this](QRadioButton *button, DFSelectionPreferences::DFScanMethod value) {
         connect(button, &QRadioButton::toggled, this, [this, value](bool on) {
@@ -88,17 +91,25 @@ void DFSelectionWidget::refresh()
     for (QRadioButton *button : rules)
         button->setAutoExclusive(true);
 
+    // By number, so that the table reads as the order of the rule.
     const QMap<QString, qint32> priorities = m_preferences.mapPriority();
+    QList<QPair<qint32, QString>> rows;
+    for (auto it = priorities.cbegin(); it != priorities.cend(); ++it)
+        rows.append({it.value(), it.key()});
+    std::sort(rows.begin(), rows.end(), [](const auto &a, const auto &b) {
+        return a.first != b.first ? a.first < b.first : a.second < b.second;
+    });
     ui->tableWidget->clearContents();
-    ui->tableWidget->setRowCount(int(priorities.size()));
-    int row = 0;
-    for (auto it = priorities.cbegin(); it != priorities.cend(); ++it, ++row) {
-        auto *priority = new QTableWidgetItem(QString::number(it.value()));
-        priority->setData(Qt::UserRole, it.key());
+    ui->tableWidget->setRowCount(int(rows.size()));
+    for (int row = 0; row < rows.size(); ++row) {
+        const QString &folder = rows.at(row).second;
+        auto *priority = new QTableWidgetItem(QString::number(rows.at(row).first));
+        priority->setData(Qt::UserRole, folder);
         priority->setTextAlignment(Qt::AlignCenter);
-        auto *path = new QTableWidgetItem(QDir::toNativeSeparators(it.key()));
+        auto *path = new QTableWidgetItem(
+            style()->standardIcon(QStyle::SP_DirIcon), QDir::toNativeSeparators(folder));
         path->setFlags(path->flags() & ~Qt::ItemIsEditable);
-        path->setToolTip(QDir::toNativeSeparators(it.key()));
+        path->setToolTip(QDir::toNativeSeparators(folder));
         ui->tableWidget->setItem(row, PriorityColumn, priority);
         ui->tableWidget->setItem(row, PathColumn, path);
     }
