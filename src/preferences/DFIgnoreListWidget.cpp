@@ -105,10 +105,9 @@ void DFIgnoreListWidget::refresh()
     }
     showMoveFolder();
     ui->lineEdit->setText(m_preferences.TrashFolder());
-    ui->sbMinimumFileSize->setValue(int(PreferenceRanges::MinFileSize.clamp(
-        qint64(qMin<quint64>(m_preferences.MinFileSize(), quint64(INT_MAX))))));
-    ui->sbMaximumFileSize->setValue(int(PreferenceRanges::MaxFileSize.clamp(
-        qint64(qMin<quint64>(m_preferences.MaxFileSize(), quint64(INT_MAX))))));
+    // The spin boxes keep a value within their ranges themselves.
+    ui->sbMinimumFileSize->setValue(int(qMin<quint64>(m_preferences.MinFileSize(), INT_MAX)));
+    ui->sbMaximumFileSize->setValue(int(qMin<quint64>(m_preferences.MaxFileSize(), INT_MAX)));
 
     ui->lwIgnoreList->clear();
     for (const QString &path : m_preferences.IgnorePathFile()) {
@@ -160,7 +159,8 @@ bool DFIgnoreListWidget::validate()
             tr("The maximum file size cannot be less than the minimum file size."));
         return false;
     }
-    m_preferences.setMaxFileSize(quint64(PreferenceRanges::MaxFileSize.clamp(maximum)));
+    // The spin box's range is the cap of the maximum.
+    m_preferences.setMaxFileSize(quint64(maximum));
     m_preferences.setMinFileSize(quint64(minimum));
     if (ui->rbMoveToFolder->isChecked() && ui->lineEdit->text().trimmed().isEmpty()) {
         QMessageBox::critical(this, tr("Error"),
@@ -222,7 +222,7 @@ void DFIgnoreListWidget::on_btn_selectPath_clicked()
     if (folder.isEmpty())
         return;
     m_preferences.setTrashFolder(QDir::cleanPath(folder));
-    refresh();
+    ui->lineEdit->setText(m_preferences.TrashFolder());
 }
 
 void DFIgnoreListWidget::on_btnAddIgnore_clicked()

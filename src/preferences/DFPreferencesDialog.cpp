@@ -77,7 +77,14 @@ void DFPreferencesDialog::copyFromStore()
 
 void DFPreferencesDialog::copyToStore()
 {
-    *m_store->ignoreListPreferences() = ui->tabGeneral->preferences();
+    // The removal's crash marker and the remembered folders are kept by other parts and
+    // may change while the dialog is open; the dialog shows none of them.
+    DFIgnoreListPreferences common = ui->tabGeneral->preferences();
+    const DFIgnoreListPreferences *stored = m_store->ignoreListPreferences();
+    common.setDeleteException(stored->deleteException());
+    common.setOpenFolder(stored->OpenFolder());
+    common.setSaveFolder(stored->SaveFolder());
+    *m_store->ignoreListPreferences() = common;
     *m_store->selectionPreferences() = ui->tabDuplicateFiles->preferences();
     *m_store->generalPreferences() = ui->tabSimilarImages->preferences();
     m_store->save();

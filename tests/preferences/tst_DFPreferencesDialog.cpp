@@ -49,6 +49,7 @@ private slots:
     void priorityOfAddedFolder_data();
     void priorityOfAddedFolder();
     void reopeningShowsTheStore();
+    void okKeepsWhatOthersWrote();
     void dropAddsPaths_data();
     void dropAddsPaths();
 
@@ -407,6 +408,18 @@ void TestDFPreferencesDialog::reopeningShowsTheStore()
     // A new language puts the design-time texts back; the page fills them again.
     m_dialog->retranslate();
     QCOMPARE(m_dialog->findChild<QLabel *>("lblSimilarityValue")->text(), QStringLiteral("55%"));
+}
+
+void TestDFPreferencesDialog::okKeepsWhatOthersWrote()
+{
+    // A removal that starts while the dialog is open sets its crash marker; OK must not
+    // clear it, or a crash would go unreported at the next start.
+    m_store->ignoreListPreferences()->setDeleteException(1);
+    m_store->ignoreListPreferences()->setSaveFolder(QStringLiteral("/srv/projects"));
+    run(QStringLiteral("hsSimilarity=90;btnOK"));
+    QCOMPARE(stored("Common/deleteException"), QStringLiteral("1"));
+    QCOMPARE(stored("Common/SaveFolder"), QStringLiteral("/srv/projects"));
+    QCOMPARE(stored("Similar_images/SimilarityValue"), QStringLiteral("90"));
 }
 
 void TestDFPreferencesDialog::dropAddsPaths_data()
