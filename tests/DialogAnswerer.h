@@ -10,8 +10,8 @@
 
 // Answers every modal dialog that comes up while it lives and notes what it showed:
 // the n-th message box gets the n-th answer (the last one given once they run out; its
-// default button when the answer is NoButton or none was given); file dialogs and any
-// other dialog are rejected.
+// default button when the answer is NoButton or none was given); file dialogs are
+// rejected, and so is any other dialog when closeOtherDialogs is set.
 class DialogAnswerer : public QObject
 {
 public:
@@ -34,7 +34,8 @@ public:
                     box->defaultButton()->click();
                 else
                     box->accept();
-            } else if (auto *dialog = qobject_cast<QDialog *>(modal)) {
+            } else if (auto *dialog = qobject_cast<QDialog *>(modal);
+                       dialog && (closeOtherDialogs || qobject_cast<QFileDialog *>(dialog))) {
                 titles << dialog->windowTitle();
                 texts << QString();
                 defaults << QMessageBox::NoButton;
@@ -44,6 +45,7 @@ public:
         });
         m_timer.start(20);
     }
+    bool closeOtherDialogs = false;
     QStringList titles;
     QStringList texts;
     QList<QMessageBox::StandardButton> defaults;

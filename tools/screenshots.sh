@@ -1,9 +1,10 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Saves a screenshot of each page of the main window and of the result page under Xvfb:
-#   tools/screenshots.sh <build dir> <output dir>
+# Saves a screenshot of each page of the main window, each tab of the settings dialog and
+# every state of the result page under Xvfb (with "settings", the settings dialog only):
+#   tools/screenshots.sh <build dir> <output dir> [settings]
 # The pages are filled with sample values by the driver program;
-# see tests/mainwindow/ScreenshotPages.cpp.
+# see tests/mainwindow/ScreenshotPages.cpp and tests/results/ScreenshotResultPage.cpp.
 set -eu
 build=${1:?build directory}
 out=${2:?output directory}
@@ -11,6 +12,6 @@ mkdir -p "$out"
 export XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_CONFIG_HOME=$(mktemp -d)
 export XDG_DATA_HOME=$(mktemp -d)
-xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out"
-xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/results/screenshot_result_page" "$out"
+xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out" ${3:-}
+[ -n "${3:-}" ] || xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/results/screenshot_result_page" "$out"
 ls -l "$out"

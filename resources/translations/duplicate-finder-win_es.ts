@@ -15,6 +15,216 @@
     </message>
 </context>
 <context>
+    <name>DFIgnoreListWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <source>The maximum file size cannot be less than the minimum file size.</source>
+        <translation>El tamaño máximo de archivo no puede ser menor que el tamaño mínimo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="167"/>
+        <source>Please select the folder where the deleted files will be moved to.</source>
+        <translation>Seleccione la carpeta a la que se moverán los archivos eliminados.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="221"/>
+        <source>Select folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="231"/>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="239"/>
+        <source>All Files (*.*)</source>
+        <translation>Todos los archivos (*.*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="242"/>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="245"/>
+        <source>Select Files</source>
+        <translation>Seleccionar archivos</translation>
+    </message>
+</context>
+<context>
+    <name>DFPreferencesDialog</name>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="14"/>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="39"/>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="44"/>
+        <source>Duplicate files</source>
+        <translation>Archivos duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="49"/>
+        <source>Similar images</source>
+        <translation>Imágenes similares</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="62"/>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="85"/>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="95"/>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <source>You cannot change settings of preferences while the scan is in progress.</source>
+        <translation>No se puede cambiar la configuración mientras el análisis está en curso.</translation>
+    </message>
+</context>
+<context>
+    <name>DFSelectionWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <source>The folder has been added.</source>
+        <translation>La carpeta ya se ha añadido.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="179"/>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <source>%1 is not a number.</source>
+        <translation>%1 no es un número.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>%1 is added.</source>
+        <translation>%1 ya está asignado.</translation>
+    </message>
+</context>
+<context>
+    <name>Genernal</name>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="20"/>
+        <source>Enable similar images function</source>
+        <translation>Activar la búsqueda de imágenes similares</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="27"/>
+        <source>Similarity Comparison Algorithms</source>
+        <translation>Algoritmos de comparación de similitud</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="36"/>
+        <source>Smart Selection</source>
+        <translation>Selección inteligente</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="43"/>
+        <source>Histogram Data Comparison (Quality First)</source>
+        <translation>Comparación de histogramas (prioridad a la calidad)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="50"/>
+        <source>pHash Data Comparison (Speed First)</source>
+        <translation>Comparación pHash (prioridad a la velocidad)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="69"/>
+        <source>Histogram similarity</source>
+        <translation>Similitud del histograma</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="102"/>
+        <source>The basic algorithm detects similar images quickly but vaguely, the larger the value, the higher the similarty.</source>
+        <translation>El algoritmo básico detecta imágenes similares rápidamente pero de forma aproximada. Cuanto mayor sea el valor, mayor será la similitud exigida.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="112"/>
+        <source>Features similarity</source>
+        <translation>Similitud de características</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="139"/>
+        <source>The advanced algorithm detects similar images through feature points in the image. Using this algorithm, detecting simialr images takes more time, but the result will be more accurate. The larger the value, the higher the similarity.</source>
+        <translation>El algoritmo avanzado detecta imágenes similares mediante puntos característicos de la imagen. Con él la búsqueda tarda más, pero el resultado es más preciso. Cuanto mayor sea el valor, mayor será la similitud exigida.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="152"/>
+        <source>No comparision between different types of images</source>
+        <translation>No comparar imágenes de tipos diferentes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="161"/>
+        <source>Compare images with similar size and aspect ratio (within ratio)</source>
+        <translation>Comparar solo imágenes de tamaño y proporciones parecidos (hasta el factor)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="196"/>
+        <source>Select similar images for removal following preset rules below </source>
+        <translation>Seleccionar imágenes similares para eliminar según las reglas siguientes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="211"/>
+        <source>Follow the duplicates removal rule</source>
+        <translation>Seguir la regla de los duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="218"/>
+        <source>Select high-resolution similar images for removal</source>
+        <translation>Seleccionar las imágenes de alta resolución</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="225"/>
+        <source>Select low-resolution similar images for removal</source>
+        <translation>Seleccionar las imágenes de baja resolución</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="232"/>
+        <source>Select high-quality similar images for removal</source>
+        <translation>Seleccionar las imágenes de alta calidad</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="239"/>
+        <source>Select low-quality similar images for removal</source>
+        <translation>Seleccionar las imágenes de baja calidad</translation>
+    </message>
+</context>
+<context>
     <name>GroupListPage</name>
     <message>
         <location filename="../../src/results/GroupListPage.cpp" line="35"/>
@@ -38,6 +248,109 @@
         <location filename="../../src/results/GroupListPage.cpp" line="75"/>
         <source>Back</source>
         <translation>Volver</translation>
+    </message>
+</context>
+<context>
+    <name>IgnoreList</name>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
+        <source>Remove method</source>
+        <translation>Método de eliminación</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="31"/>
+        <source>Move to Recycle Bin</source>
+        <translation>Mover a la papelera</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="38"/>
+        <source>Remove permanently</source>
+        <translation>Eliminar permanentemente</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="45"/>
+        <source>Move to Folder</source>
+        <translation>Mover a una carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="67"/>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="79"/>
+        <source>Select minimum and maximum file size</source>
+        <translation>Tamaño mínimo y máximo de archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="88"/>
+        <source>Minimum file size </source>
+        <translation>Tamaño mínimo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="111"/>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="118"/>
+        <source>Maximum file size</source>
+        <translation>Tamaño máximo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="141"/>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="166"/>
+        <source>Ignore folders and files in the list</source>
+        <translation>Ignorar las carpetas y archivos de la lista</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="187"/>
+        <source>Add folder</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="194"/>
+        <source>Add files</source>
+        <translation>Añadir archivos</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="201"/>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="208"/>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="233"/>
+        <source>Support or Ignore</source>
+        <translation>Incluir o ignorar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="239"/>
+        <source>Separate extensions with comma, such as txt, avi, dll</source>
+        <translation>Separe las extensiones con comas, por ejemplo txt, avi, dll</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="249"/>
+        <source>Scan only file formats:</source>
+        <translation>Analizar solo estos formatos:</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="259"/>
+        <source>Ignore scanning file formats:</source>
+        <translation>Ignorar estos formatos:</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="272"/>
+        <source>Ignore system hidden folders and files</source>
+        <translation>Ignorar carpetas y archivos ocultos o del sistema</translation>
     </message>
 </context>
 <context>
@@ -351,6 +664,16 @@
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>
     </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <source>Open Data Folder</source>
+        <translation>Abrir carpeta de datos</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
 </context>
 <context>
     <name>ProblemListDialog</name>
@@ -376,6 +699,112 @@
             <numerusform>... y %n más</numerusform>
             <numerusform>... y %n más</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ScanConfigCheck</name>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="48"/>
+        <source>The minimum file size %1 KB is outside %2 to %3 KB.</source>
+        <translation>El tamaño mínimo de archivo %1 KB está fuera del intervalo de %2 a %3 KB.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="51"/>
+        <source>The maximum file size %1 MB is outside %2 to %3 MB.</source>
+        <translation>El tamaño máximo de archivo %1 MB está fuera del intervalo de %2 a %3 MB.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="60"/>
+        <source>The minimum file size %1 KB is not below the maximum file size %2 MB, so no file would be scanned.</source>
+        <translation>El tamaño mínimo de archivo %1 KB no es menor que el máximo %2 MB, por lo que no se analizaría ningún archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="69"/>
+        <source>The similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>El umbral de similitud %1% está fuera del intervalo de %2% a %3%.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="74"/>
+        <source>The feature similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>El umbral de similitud de características %1% está fuera del intervalo de %2% a %3%.</translation>
+    </message>
+</context>
+<context>
+    <name>Selection</name>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="20"/>
+        <source>Scan method</source>
+        <translation>Método de análisis</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="26"/>
+        <source>Randomly read parts of the file for comparison to improve scanning efficiency</source>
+        <translation>Comparar partes de cada archivo elegidas al azar para analizar más rápido</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="33"/>
+        <source>Read the entire file contents to improve accuracy</source>
+        <translation>Leer el contenido completo del archivo para mayor precisión</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="40"/>
+        <source>Files with the same name and size</source>
+        <translation>Archivos con el mismo nombre y tamaño</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="50"/>
+        <source>Select duplicates for removal following preset rules below</source>
+        <translation>Seleccionar duplicados para eliminar según las reglas siguientes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="56"/>
+        <source>Select newest duplicates for removal</source>
+        <translation>Seleccionar los duplicados más recientes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="63"/>
+        <source>Select oldest duplicates for removal</source>
+        <translation>Seleccionar los duplicados más antiguos</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="70"/>
+        <source>Select duplicates for removal by filename</source>
+        <translation>Seleccionar los duplicados según el nombre de archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="77"/>
+        <source>Select duplicates for removal from prioritized location</source>
+        <translation>Seleccionar los duplicados de las ubicaciones prioritarias</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="117"/>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="122"/>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="132"/>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="139"/>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="163"/>
+        <source>The larger the value, the higher priority to delete. Double click to change the value and it&apos;s priority.</source>
+        <translation>Cuanto mayor sea el valor, mayor prioridad para eliminar. Haga doble clic en el valor para cambiar la prioridad.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="179"/>
+        <source>Scanning duplicate directories</source>
+        <translation>Buscar también carpetas duplicadas</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,216 @@
     </message>
 </context>
 <context>
+    <name>DFIgnoreListWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <source>The maximum file size cannot be less than the minimum file size.</source>
+        <translation>La taille maximale de fichier ne peut pas être inférieure à la taille minimale.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="167"/>
+        <source>Please select the folder where the deleted files will be moved to.</source>
+        <translation>Veuillez sélectionner le dossier où les fichiers supprimés seront déplacés.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="221"/>
+        <source>Select folder</source>
+        <translation>Sélectionner un dossier</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="231"/>
+        <source>Select Folder</source>
+        <translation>Sélectionner un dossier</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="239"/>
+        <source>All Files (*.*)</source>
+        <translation>Tous les fichiers (*.*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="242"/>
+        <source>All Files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="245"/>
+        <source>Select Files</source>
+        <translation>Sélectionner des fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>DFPreferencesDialog</name>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="14"/>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="39"/>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="44"/>
+        <source>Duplicate files</source>
+        <translation>Fichiers en double</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="49"/>
+        <source>Similar images</source>
+        <translation>Images similaires</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="62"/>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="85"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="95"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <source>You cannot change settings of preferences while the scan is in progress.</source>
+        <translation>Impossible de modifier les paramètres pendant une analyse.</translation>
+    </message>
+</context>
+<context>
+    <name>DFSelectionWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <source>The folder has been added.</source>
+        <translation>Ce dossier a déjà été ajouté.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="179"/>
+        <source>Select Folder</source>
+        <translation>Sélectionner un dossier</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <source>%1 is not a number.</source>
+        <translation>%1 n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>%1 is added.</source>
+        <translation>%1 est déjà attribué.</translation>
+    </message>
+</context>
+<context>
+    <name>Genernal</name>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="20"/>
+        <source>Enable similar images function</source>
+        <translation>Activer la recherche d&apos;images similaires</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="27"/>
+        <source>Similarity Comparison Algorithms</source>
+        <translation>Algorithmes de comparaison de similarité</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="36"/>
+        <source>Smart Selection</source>
+        <translation>Sélection intelligente</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="43"/>
+        <source>Histogram Data Comparison (Quality First)</source>
+        <translation>Comparaison d&apos;histogrammes (qualité d&apos;abord)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="50"/>
+        <source>pHash Data Comparison (Speed First)</source>
+        <translation>Comparaison pHash (vitesse d&apos;abord)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="69"/>
+        <source>Histogram similarity</source>
+        <translation>Similarité d&apos;histogramme</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="102"/>
+        <source>The basic algorithm detects similar images quickly but vaguely, the larger the value, the higher the similarty.</source>
+        <translation>L&apos;algorithme de base détecte les images similaires rapidement mais de façon approximative. Plus la valeur est élevée, plus la similarité exigée est grande.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="112"/>
+        <source>Features similarity</source>
+        <translation>Similarité des caractéristiques</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="139"/>
+        <source>The advanced algorithm detects similar images through feature points in the image. Using this algorithm, detecting simialr images takes more time, but the result will be more accurate. The larger the value, the higher the similarity.</source>
+        <translation>L&apos;algorithme avancé détecte les images similaires à l&apos;aide de points caractéristiques de l&apos;image. La recherche prend alors plus de temps, mais le résultat est plus précis. Plus la valeur est élevée, plus la similarité exigée est grande.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="152"/>
+        <source>No comparision between different types of images</source>
+        <translation>Ne pas comparer des images de types différents</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="161"/>
+        <source>Compare images with similar size and aspect ratio (within ratio)</source>
+        <translation>Ne comparer que des images de taille et de proportions proches (jusqu&apos;au facteur)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="196"/>
+        <source>Select similar images for removal following preset rules below </source>
+        <translation>Sélectionner les images similaires à supprimer selon les règles ci-dessous</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="211"/>
+        <source>Follow the duplicates removal rule</source>
+        <translation>Suivre la règle des doublons</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="218"/>
+        <source>Select high-resolution similar images for removal</source>
+        <translation>Sélectionner les images de haute résolution</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="225"/>
+        <source>Select low-resolution similar images for removal</source>
+        <translation>Sélectionner les images de basse résolution</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="232"/>
+        <source>Select high-quality similar images for removal</source>
+        <translation>Sélectionner les images de haute qualité</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="239"/>
+        <source>Select low-quality similar images for removal</source>
+        <translation>Sélectionner les images de basse qualité</translation>
+    </message>
+</context>
+<context>
     <name>GroupListPage</name>
     <message>
         <location filename="../../src/results/GroupListPage.cpp" line="35"/>
@@ -38,6 +248,109 @@
         <location filename="../../src/results/GroupListPage.cpp" line="75"/>
         <source>Back</source>
         <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>IgnoreList</name>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
+        <source>Remove method</source>
+        <translation>Méthode de suppression</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="31"/>
+        <source>Move to Recycle Bin</source>
+        <translation>Déplacer vers la corbeille</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="38"/>
+        <source>Remove permanently</source>
+        <translation>Supprimer définitivement</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="45"/>
+        <source>Move to Folder</source>
+        <translation>Déplacer vers un dossier</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="67"/>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="79"/>
+        <source>Select minimum and maximum file size</source>
+        <translation>Taille minimale et maximale des fichiers</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="88"/>
+        <source>Minimum file size </source>
+        <translation>Taille minimale</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="111"/>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="118"/>
+        <source>Maximum file size</source>
+        <translation>Taille maximale</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="141"/>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="166"/>
+        <source>Ignore folders and files in the list</source>
+        <translation>Ignorer les dossiers et fichiers de la liste</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="187"/>
+        <source>Add folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="194"/>
+        <source>Add files</source>
+        <translation>Ajouter des fichiers</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="201"/>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="208"/>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="233"/>
+        <source>Support or Ignore</source>
+        <translation>Inclure ou ignorer</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="239"/>
+        <source>Separate extensions with comma, such as txt, avi, dll</source>
+        <translation>Séparez les extensions par des virgules, par exemple txt, avi, dll</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="249"/>
+        <source>Scan only file formats:</source>
+        <translation>Analyser uniquement ces formats :</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="259"/>
+        <source>Ignore scanning file formats:</source>
+        <translation>Ignorer ces formats :</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="272"/>
+        <source>Ignore system hidden folders and files</source>
+        <translation>Ignorer les dossiers et fichiers cachés ou système</translation>
     </message>
 </context>
 <context>
@@ -351,6 +664,16 @@
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Le programme s&apos;est fermé de façon inattendue lors de la dernière suppression par lot,&lt;br&gt;peut-être à cause d&apos;un logiciel antivirus.&lt;br&gt;&lt;br&gt;Désactivez temporairement votre antivirus ou ajoutez cette application&lt;br&gt;à sa liste blanche pour éviter les échecs de suppression ou les plantages.</translation>
     </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <source>Open Data Folder</source>
+        <translation>Ouvrir le dossier de données</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
 </context>
 <context>
     <name>ProblemListDialog</name>
@@ -376,6 +699,112 @@
             <numerusform>... et %n de plus</numerusform>
             <numerusform>... et %n de plus</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ScanConfigCheck</name>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="48"/>
+        <source>The minimum file size %1 KB is outside %2 to %3 KB.</source>
+        <translation>La taille minimale de fichier %1 Ko est hors de l&apos;intervalle de %2 à %3 Ko.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="51"/>
+        <source>The maximum file size %1 MB is outside %2 to %3 MB.</source>
+        <translation>La taille maximale de fichier %1 Mo est hors de l&apos;intervalle de %2 à %3 Mo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="60"/>
+        <source>The minimum file size %1 KB is not below the maximum file size %2 MB, so no file would be scanned.</source>
+        <translation>La taille minimale %1 Ko n&apos;est pas inférieure à la taille maximale %2 Mo : aucun fichier ne serait analysé.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="69"/>
+        <source>The similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>Le seuil de similarité %1 % est hors de l&apos;intervalle de %2 % à %3 %.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="74"/>
+        <source>The feature similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>Le seuil de similarité des caractéristiques %1 % est hors de l&apos;intervalle de %2 % à %3 %.</translation>
+    </message>
+</context>
+<context>
+    <name>Selection</name>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="20"/>
+        <source>Scan method</source>
+        <translation>Méthode d&apos;analyse</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="26"/>
+        <source>Randomly read parts of the file for comparison to improve scanning efficiency</source>
+        <translation>Comparer des parties de chaque fichier prises au hasard pour analyser plus vite</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="33"/>
+        <source>Read the entire file contents to improve accuracy</source>
+        <translation>Lire tout le contenu du fichier pour plus de précision</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="40"/>
+        <source>Files with the same name and size</source>
+        <translation>Fichiers de même nom et de même taille</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="50"/>
+        <source>Select duplicates for removal following preset rules below</source>
+        <translation>Sélectionner les doublons à supprimer selon les règles ci-dessous</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="56"/>
+        <source>Select newest duplicates for removal</source>
+        <translation>Sélectionner les doublons les plus récents</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="63"/>
+        <source>Select oldest duplicates for removal</source>
+        <translation>Sélectionner les doublons les plus anciens</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="70"/>
+        <source>Select duplicates for removal by filename</source>
+        <translation>Sélectionner les doublons d&apos;après le nom de fichier</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="77"/>
+        <source>Select duplicates for removal from prioritized location</source>
+        <translation>Sélectionner les doublons des emplacements prioritaires</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="117"/>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="122"/>
+        <source>Path</source>
+        <translation>Chemin</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="132"/>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="139"/>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="163"/>
+        <source>The larger the value, the higher priority to delete. Double click to change the value and it&apos;s priority.</source>
+        <translation>Plus la valeur est élevée, plus la priorité de suppression est haute. Double-cliquez sur la valeur pour changer la priorité.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="179"/>
+        <source>Scanning duplicate directories</source>
+        <translation>Rechercher aussi les dossiers en double</translation>
     </message>
 </context>
 <context>

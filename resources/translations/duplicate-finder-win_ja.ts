@@ -15,6 +15,216 @@
     </message>
 </context>
 <context>
+    <name>DFIgnoreListWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <source>The maximum file size cannot be less than the minimum file size.</source>
+        <translation>最大ファイルサイズを最小ファイルサイズより小さくすることはできません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="167"/>
+        <source>Please select the folder where the deleted files will be moved to.</source>
+        <translation>削除したファイルの移動先フォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="221"/>
+        <source>Select folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="231"/>
+        <source>Select Folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="239"/>
+        <source>All Files (*.*)</source>
+        <translation>すべてのファイル (*.*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="242"/>
+        <source>All Files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="245"/>
+        <source>Select Files</source>
+        <translation>ファイルを選択</translation>
+    </message>
+</context>
+<context>
+    <name>DFPreferencesDialog</name>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="14"/>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="39"/>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="44"/>
+        <source>Duplicate files</source>
+        <translation>重複ファイル</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="49"/>
+        <source>Similar images</source>
+        <translation>類似画像</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="62"/>
+        <source>Default</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="85"/>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="95"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <source>Note</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <source>You cannot change settings of preferences while the scan is in progress.</source>
+        <translation>スキャン中は設定を変更できません。</translation>
+    </message>
+</context>
+<context>
+    <name>DFSelectionWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <source>The folder has been added.</source>
+        <translation>このフォルダーは既に追加されています。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="179"/>
+        <source>Select Folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <source>%1 is not a number.</source>
+        <translation>%1 は数値ではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>%1 is added.</source>
+        <translation>%1 は既に使用されています。</translation>
+    </message>
+</context>
+<context>
+    <name>Genernal</name>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="20"/>
+        <source>Enable similar images function</source>
+        <translation>類似画像の検索を有効にする</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="27"/>
+        <source>Similarity Comparison Algorithms</source>
+        <translation>類似度の比較アルゴリズム</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="36"/>
+        <source>Smart Selection</source>
+        <translation>自動選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="43"/>
+        <source>Histogram Data Comparison (Quality First)</source>
+        <translation>ヒストグラム比較 (品質優先)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="50"/>
+        <source>pHash Data Comparison (Speed First)</source>
+        <translation>pHash 比較 (速度優先)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="69"/>
+        <source>Histogram similarity</source>
+        <translation>ヒストグラムの類似度</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="102"/>
+        <source>The basic algorithm detects similar images quickly but vaguely, the larger the value, the higher the similarty.</source>
+        <translation>基本アルゴリズムは類似画像を高速に検出しますが、精度は大まかです。値が大きいほど、より高い類似度が必要になります。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="112"/>
+        <source>Features similarity</source>
+        <translation>特徴点の類似度</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="139"/>
+        <source>The advanced algorithm detects similar images through feature points in the image. Using this algorithm, detecting simialr images takes more time, but the result will be more accurate. The larger the value, the higher the similarity.</source>
+        <translation>高度なアルゴリズムは、画像内の特徴点を使って類似画像を検出します。検出に時間はかかりますが、結果はより正確になります。値が大きいほど、より高い類似度が必要になります。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="152"/>
+        <source>No comparision between different types of images</source>
+        <translation>種類の異なる画像どうしは比較しない</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="161"/>
+        <source>Compare images with similar size and aspect ratio (within ratio)</source>
+        <translation>サイズと縦横比が近い画像だけを比較する (比率の上限)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="196"/>
+        <source>Select similar images for removal following preset rules below </source>
+        <translation>次のルールに従って削除する類似画像を選択する</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="211"/>
+        <source>Follow the duplicates removal rule</source>
+        <translation>重複ファイルのルールに従う</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="218"/>
+        <source>Select high-resolution similar images for removal</source>
+        <translation>高解像度の画像を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="225"/>
+        <source>Select low-resolution similar images for removal</source>
+        <translation>低解像度の画像を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="232"/>
+        <source>Select high-quality similar images for removal</source>
+        <translation>高画質の画像を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="239"/>
+        <source>Select low-quality similar images for removal</source>
+        <translation>低画質の画像を選択</translation>
+    </message>
+</context>
+<context>
     <name>GroupListPage</name>
     <message>
         <location filename="../../src/results/GroupListPage.cpp" line="35"/>
@@ -37,6 +247,109 @@
         <location filename="../../src/results/GroupListPage.cpp" line="75"/>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>IgnoreList</name>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
+        <source>Remove method</source>
+        <translation>削除方法</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="31"/>
+        <source>Move to Recycle Bin</source>
+        <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="38"/>
+        <source>Remove permanently</source>
+        <translation>完全に削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="45"/>
+        <source>Move to Folder</source>
+        <translation>フォルダーに移動</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="67"/>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="79"/>
+        <source>Select minimum and maximum file size</source>
+        <translation>最小および最大ファイルサイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="88"/>
+        <source>Minimum file size </source>
+        <translation>最小サイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="111"/>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="118"/>
+        <source>Maximum file size</source>
+        <translation>最大サイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="141"/>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="166"/>
+        <source>Ignore folders and files in the list</source>
+        <translation>リスト内のフォルダーとファイルを無視</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="187"/>
+        <source>Add folder</source>
+        <translation>フォルダーを追加</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="194"/>
+        <source>Add files</source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="201"/>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="208"/>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="233"/>
+        <source>Support or Ignore</source>
+        <translation>対象または除外</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="239"/>
+        <source>Separate extensions with comma, such as txt, avi, dll</source>
+        <translation>拡張子はカンマで区切ります (例: txt, avi, dll)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="249"/>
+        <source>Scan only file formats:</source>
+        <translation>次の形式のみスキャン:</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="259"/>
+        <source>Ignore scanning file formats:</source>
+        <translation>次の形式を除外:</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="272"/>
+        <source>Ignore system hidden folders and files</source>
+        <translation>隠しフォルダーとシステムファイルを無視</translation>
     </message>
 </context>
 <context>
@@ -343,6 +656,16 @@
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>前回の一括削除中にプログラムが予期せず終了しました。&lt;br&gt;ウイルス対策ソフトウェアの干渉が原因の可能性があります。&lt;br&gt;&lt;br&gt;削除の失敗やクラッシュを避けるため、ウイルス対策ソフトを一時的に無効にするか、&lt;br&gt;このアプリケーションを許可リストに追加してください。</translation>
     </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <source>Open Data Folder</source>
+        <translation>データフォルダーを開く</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
 </context>
 <context>
     <name>ProblemListDialog</name>
@@ -367,6 +690,112 @@
         <translation>
             <numerusform>... ほか %n 件</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ScanConfigCheck</name>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="48"/>
+        <source>The minimum file size %1 KB is outside %2 to %3 KB.</source>
+        <translation>最小ファイルサイズ %1 KB が範囲 (%2～%3 KB) 外です。</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="51"/>
+        <source>The maximum file size %1 MB is outside %2 to %3 MB.</source>
+        <translation>最大ファイルサイズ %1 MB が範囲 (%2～%3 MB) 外です。</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="60"/>
+        <source>The minimum file size %1 KB is not below the maximum file size %2 MB, so no file would be scanned.</source>
+        <translation>最小ファイルサイズ %1 KB が最大ファイルサイズ %2 MB 未満ではないため、スキャンされるファイルがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="69"/>
+        <source>The similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>類似度のしきい値 %1% が範囲 (%2%～%3%) 外です。</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="74"/>
+        <source>The feature similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>特徴点の類似度のしきい値 %1% が範囲 (%2%～%3%) 外です。</translation>
+    </message>
+</context>
+<context>
+    <name>Selection</name>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="20"/>
+        <source>Scan method</source>
+        <translation>スキャン方法</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="26"/>
+        <source>Randomly read parts of the file for comparison to improve scanning efficiency</source>
+        <translation>ファイルの一部をランダムに読み取って比較し、スキャンを高速化する</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="33"/>
+        <source>Read the entire file contents to improve accuracy</source>
+        <translation>ファイル全体を読み取って精度を高める</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="40"/>
+        <source>Files with the same name and size</source>
+        <translation>名前とサイズが同じファイル</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="50"/>
+        <source>Select duplicates for removal following preset rules below</source>
+        <translation>次のルールに従って削除する重複ファイルを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="56"/>
+        <source>Select newest duplicates for removal</source>
+        <translation>最も新しい重複ファイルを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="63"/>
+        <source>Select oldest duplicates for removal</source>
+        <translation>最も古い重複ファイルを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="70"/>
+        <source>Select duplicates for removal by filename</source>
+        <translation>ファイル名で重複ファイルを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="77"/>
+        <source>Select duplicates for removal from prioritized location</source>
+        <translation>優先する場所から重複ファイルを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="117"/>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="122"/>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="132"/>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="139"/>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="163"/>
+        <source>The larger the value, the higher priority to delete. Double click to change the value and it&apos;s priority.</source>
+        <translation>値が大きいほど削除の優先度が高くなります。値をダブルクリックすると優先度を変更できます。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="179"/>
+        <source>Scanning duplicate directories</source>
+        <translation>重複フォルダーも検索する</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,216 @@
     </message>
 </context>
 <context>
+    <name>DFIgnoreListWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <source>The maximum file size cannot be less than the minimum file size.</source>
+        <translation>O tamanho máximo de ficheiro não pode ser inferior ao tamanho mínimo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="167"/>
+        <source>Please select the folder where the deleted files will be moved to.</source>
+        <translation>Selecione a pasta para onde os ficheiros eliminados serão movidos.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="221"/>
+        <source>Select folder</source>
+        <translation>Selecionar pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="231"/>
+        <source>Select Folder</source>
+        <translation>Selecionar pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="239"/>
+        <source>All Files (*.*)</source>
+        <translation>Todos os ficheiros (*.*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="242"/>
+        <source>All Files (*)</source>
+        <translation>Todos os ficheiros (*)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="245"/>
+        <source>Select Files</source>
+        <translation>Selecionar ficheiros</translation>
+    </message>
+</context>
+<context>
+    <name>DFPreferencesDialog</name>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="14"/>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="39"/>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="44"/>
+        <source>Duplicate files</source>
+        <translation>Ficheiros duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="49"/>
+        <source>Similar images</source>
+        <translation>Imagens semelhantes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="62"/>
+        <source>Default</source>
+        <translation>Predefinições</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="85"/>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.ui" line="95"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <source>You cannot change settings of preferences while the scan is in progress.</source>
+        <translation>Não é possível alterar as definições enquanto a análise está em curso.</translation>
+    </message>
+</context>
+<context>
+    <name>DFSelectionWidget</name>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="140"/>
+        <source>The folder has been added.</source>
+        <translation>A pasta já foi adicionada.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="179"/>
+        <source>Select Folder</source>
+        <translation>Selecionar pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="216"/>
+        <source>%1 is not a number.</source>
+        <translation>%1 não é um número.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFSelectionWidget.cpp" line="224"/>
+        <source>%1 is added.</source>
+        <translation>%1 já está atribuído.</translation>
+    </message>
+</context>
+<context>
+    <name>Genernal</name>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="20"/>
+        <source>Enable similar images function</source>
+        <translation>Ativar a procura de imagens semelhantes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="27"/>
+        <source>Similarity Comparison Algorithms</source>
+        <translation>Algoritmos de comparação de semelhança</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="36"/>
+        <source>Smart Selection</source>
+        <translation>Seleção inteligente</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="43"/>
+        <source>Histogram Data Comparison (Quality First)</source>
+        <translation>Comparação de histogramas (qualidade primeiro)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="50"/>
+        <source>pHash Data Comparison (Speed First)</source>
+        <translation>Comparação pHash (velocidade primeiro)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="69"/>
+        <source>Histogram similarity</source>
+        <translation>Semelhança do histograma</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="102"/>
+        <source>The basic algorithm detects similar images quickly but vaguely, the larger the value, the higher the similarty.</source>
+        <translation>O algoritmo básico deteta imagens semelhantes rapidamente, mas de forma aproximada. Quanto maior o valor, maior a semelhança exigida.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="112"/>
+        <source>Features similarity</source>
+        <translation>Semelhança de características</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="139"/>
+        <source>The advanced algorithm detects similar images through feature points in the image. Using this algorithm, detecting simialr images takes more time, but the result will be more accurate. The larger the value, the higher the similarity.</source>
+        <translation>O algoritmo avançado deteta imagens semelhantes através de pontos característicos da imagem. A procura demora mais, mas o resultado é mais preciso. Quanto maior o valor, maior a semelhança exigida.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="152"/>
+        <source>No comparision between different types of images</source>
+        <translation>Não comparar imagens de tipos diferentes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="161"/>
+        <source>Compare images with similar size and aspect ratio (within ratio)</source>
+        <translation>Comparar só imagens de tamanho e proporções semelhantes (até ao fator)</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="196"/>
+        <source>Select similar images for removal following preset rules below </source>
+        <translation>Selecionar imagens semelhantes a remover segundo as regras abaixo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="211"/>
+        <source>Follow the duplicates removal rule</source>
+        <translation>Seguir a regra dos duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="218"/>
+        <source>Select high-resolution similar images for removal</source>
+        <translation>Selecionar as imagens de alta resolução</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="225"/>
+        <source>Select low-resolution similar images for removal</source>
+        <translation>Selecionar as imagens de baixa resolução</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="232"/>
+        <source>Select high-quality similar images for removal</source>
+        <translation>Selecionar as imagens de alta qualidade</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Genernal.ui" line="239"/>
+        <source>Select low-quality similar images for removal</source>
+        <translation>Selecionar as imagens de baixa qualidade</translation>
+    </message>
+</context>
+<context>
     <name>GroupListPage</name>
     <message>
         <location filename="../../src/results/GroupListPage.cpp" line="35"/>
@@ -38,6 +248,109 @@
         <location filename="../../src/results/GroupListPage.cpp" line="75"/>
         <source>Back</source>
         <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>IgnoreList</name>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
+        <source>Remove method</source>
+        <translation>Método de remoção</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="31"/>
+        <source>Move to Recycle Bin</source>
+        <translation>Mover para a reciclagem</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="38"/>
+        <source>Remove permanently</source>
+        <translation>Eliminar permanentemente</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="45"/>
+        <source>Move to Folder</source>
+        <translation>Mover para uma pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="67"/>
+        <source>Browse...</source>
+        <translation>Procurar...</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="79"/>
+        <source>Select minimum and maximum file size</source>
+        <translation>Tamanho mínimo e máximo de ficheiro</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="88"/>
+        <source>Minimum file size </source>
+        <translation>Tamanho mínimo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="111"/>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="118"/>
+        <source>Maximum file size</source>
+        <translation>Tamanho máximo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="141"/>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="166"/>
+        <source>Ignore folders and files in the list</source>
+        <translation>Ignorar as pastas e ficheiros da lista</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="187"/>
+        <source>Add folder</source>
+        <translation>Adicionar pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="194"/>
+        <source>Add files</source>
+        <translation>Adicionar ficheiros</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="201"/>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="208"/>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="233"/>
+        <source>Support or Ignore</source>
+        <translation>Incluir ou ignorar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="239"/>
+        <source>Separate extensions with comma, such as txt, avi, dll</source>
+        <translation>Separe as extensões com vírgulas, por exemplo txt, avi, dll</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="249"/>
+        <source>Scan only file formats:</source>
+        <translation>Analisar apenas estes formatos:</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="259"/>
+        <source>Ignore scanning file formats:</source>
+        <translation>Ignorar estes formatos:</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/IgnoreList.ui" line="272"/>
+        <source>Ignore system hidden folders and files</source>
+        <translation>Ignorar pastas e ficheiros ocultos ou do sistema</translation>
     </message>
 </context>
 <context>
@@ -351,6 +664,16 @@
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>O programa terminou inesperadamente durante a última eliminação em lote,&lt;br&gt;possivelmente devido a interferência do antivírus.&lt;br&gt;&lt;br&gt;Desative temporariamente o antivírus ou adicione esta aplicação&lt;br&gt;à sua lista de permissões para evitar falhas de eliminação ou bloqueios.</translation>
     </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <source>Open Data Folder</source>
+        <translation>Abrir pasta de dados</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
 </context>
 <context>
     <name>ProblemListDialog</name>
@@ -376,6 +699,112 @@
             <numerusform>... e mais %n</numerusform>
             <numerusform>... e mais %n</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ScanConfigCheck</name>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="48"/>
+        <source>The minimum file size %1 KB is outside %2 to %3 KB.</source>
+        <translation>O tamanho mínimo de ficheiro %1 KB está fora do intervalo de %2 a %3 KB.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="51"/>
+        <source>The maximum file size %1 MB is outside %2 to %3 MB.</source>
+        <translation>O tamanho máximo de ficheiro %1 MB está fora do intervalo de %2 a %3 MB.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="60"/>
+        <source>The minimum file size %1 KB is not below the maximum file size %2 MB, so no file would be scanned.</source>
+        <translation>O tamanho mínimo %1 KB não é inferior ao máximo %2 MB, pelo que nenhum ficheiro seria analisado.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="69"/>
+        <source>The similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>O limiar de semelhança %1% está fora do intervalo de %2% a %3%.</translation>
+    </message>
+    <message>
+        <location filename="../../src/engine/ScanConfigCheck.cpp" line="74"/>
+        <source>The feature similarity threshold %1% is outside %2% to %3%.</source>
+        <translation>O limiar de semelhança de características %1% está fora do intervalo de %2% a %3%.</translation>
+    </message>
+</context>
+<context>
+    <name>Selection</name>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="20"/>
+        <source>Scan method</source>
+        <translation>Método de análise</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="26"/>
+        <source>Randomly read parts of the file for comparison to improve scanning efficiency</source>
+        <translation>Comparar partes de cada ficheiro escolhidas ao acaso para analisar mais depressa</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="33"/>
+        <source>Read the entire file contents to improve accuracy</source>
+        <translation>Ler todo o conteúdo do ficheiro para maior precisão</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="40"/>
+        <source>Files with the same name and size</source>
+        <translation>Ficheiros com o mesmo nome e tamanho</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="50"/>
+        <source>Select duplicates for removal following preset rules below</source>
+        <translation>Selecionar duplicados a remover segundo as regras abaixo</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="56"/>
+        <source>Select newest duplicates for removal</source>
+        <translation>Selecionar os duplicados mais recentes</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="63"/>
+        <source>Select oldest duplicates for removal</source>
+        <translation>Selecionar os duplicados mais antigos</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="70"/>
+        <source>Select duplicates for removal by filename</source>
+        <translation>Selecionar os duplicados pelo nome do ficheiro</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="77"/>
+        <source>Select duplicates for removal from prioritized location</source>
+        <translation>Selecionar os duplicados das localizações prioritárias</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="117"/>
+        <source>Priority</source>
+        <translation>Prioridade</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="122"/>
+        <source>Path</source>
+        <translation>Caminho</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="132"/>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="139"/>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="163"/>
+        <source>The larger the value, the higher priority to delete. Double click to change the value and it&apos;s priority.</source>
+        <translation>Quanto maior o valor, maior a prioridade de eliminação. Faça duplo clique no valor para alterar a prioridade.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/Selection.ui" line="179"/>
+        <source>Scanning duplicate directories</source>
+        <translation>Procurar também pastas duplicadas</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliOptions.h"
 
+#include "preferences/PreferenceRanges.h"
+
 #include <cmath>
 
 #include <QDir>
@@ -86,21 +88,22 @@ QString CliOptions::usage()
         "                              filename (default), priority, high-res, low-res,\n"
         "                              high-quality, low-quality, all, none\n"
         "  --priority FOLDER=N         folder priority for --select priority (repeatable)\n"
-        "  --min-size KB               skip files smaller than KB kibibytes\n"
-        "  --max-size MB               skip files larger than MB mebibytes (default 100000)\n"
+        "  --min-size KB               skip files smaller than KB kibibytes, %1 to %2\n"
+        "  --max-size MB               skip files larger than MB mebibytes, %3 to %4\n"
+        "                              (default %4)\n"
         "  --only EXT,...              scan only these extensions\n"
         "  --ignore EXT,...            skip these extensions\n"
         "  --ignore-path PATH          skip this folder or file (repeatable)\n"
         "  --include-hidden            include hidden files and folders\n"
         "  --similar                   also group similar pictures; each option below\n"
         "                              turns this on as well:\n"
-        "  --threshold PERCENT         pass mark of the fast comparison, 0 to 100\n"
+        "  --threshold PERCENT         pass mark of the fast comparison, %5 to %6\n"
         "                              (default 55)\n"
         "  --algorithm smart|histogram|phash\n"
         "                              fast comparison: colour histogram, 64-bit\n"
         "                              perceptual hash, or smart (default): the hash\n"
         "                              above 10000 pictures, else the histogram\n"
-        "  --features PERCENT          pass mark of the feature-point re-check, 0 to 100\n"
+        "  --features PERCENT          pass mark of the feature-point re-check, %7 to %8\n"
         "                              (default 50)\n"
         "  --no-features               leave out the feature-point re-check\n"
         "  --any-type                  also compare pictures of different file types\n"
@@ -125,26 +128,38 @@ QString CliOptions::usage()
         "             folder, or none of the folders could be read, 3 the project file\n"
         "             could not be saved or read, 4 the picture comparison could not\n"
         "             be started, 5 remove or restore skipped or failed some items\n"
-        "             (each listed with its reason on standard error)\n");
+        "             (each listed with its reason on standard error)\n")
+        .arg(PreferenceRanges::MinFileSize.minimum)
+        .arg(PreferenceRanges::MinFileSize.maximum)
+        .arg(PreferenceRanges::MaxFileSize.minimum)
+        .arg(PreferenceRanges::MaxFileSize.maximum)
+        .arg(PreferenceRanges::SimilarityValue.minimum)
+        .arg(PreferenceRanges::SimilarityValue.maximum)
+        .arg(PreferenceRanges::FeaturesValue.minimum)
+        .arg(PreferenceRanges::FeaturesValue.maximum);
 }
 
 bool CliOptions::checkSizes()
 {
-    // Sizes are given in KiB and MiB and used in bytes: the values must stay finite and
-    // fit a signed 64-bit byte count.
-    const auto fits = [](double value, int shift) {
-        return std::isfinite(value) && value < std::ldexp(1.0, 63 - shift);
-    };
-    if (!fits(m_minSizeKb, 10)) {
-        m_error = QStringLiteral("--min-size is too large or not a number");
+    // The sizes are used in bytes; the ranges keep them within a signed 64-bit count, and
+    // a minimum not below the maximum would let no file through.
+    using namespace PreferenceRanges;
+    if (!MinFileSize.contains(m_minSizeKb)) {
+        m_error = QStringLiteral("--min-size needs a number from %1 to %2 (KiB), not %3")
+                      .arg(MinFileSize.minimum)
+                      .arg(MinFileSize.maximum)
+                      .arg(m_minSizeKb);
         return false;
     }
-    if (!fits(m_maxSizeMb, 20)) {
-        m_error = QStringLiteral("--max-size is too large or not a number");
+    if (!MaxFileSize.contains(m_maxSizeMb)) {
+        m_error = QStringLiteral("--max-size needs a number from %1 to %2 (MiB), not %3")
+                      .arg(MaxFileSize.minimum)
+                      .arg(MaxFileSize.maximum)
+                      .arg(m_maxSizeMb);
         return false;
     }
-    if ((qint64(m_minSizeKb) << 10) > (qint64(m_maxSizeMb) << 20)) {
-        m_error = QStringLiteral("--min-size (%1 KiB) is above --max-size (%2 MiB)")
+    if (!sizeBoundsValid(m_minSizeKb, m_maxSizeMb)) {
+        m_error = QStringLiteral("--min-size (%1 KiB) is not below --max-size (%2 MiB)")
                       .arg(m_minSizeKb)
                       .arg(m_maxSizeMb);
         return false;
@@ -256,14 +271,17 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             value = arguments.at(++i);
             return true;
         };
-        const auto takePercent = [&](double &target) -> bool {
+        const auto takePercent = [&](double &target, const PreferenceRanges::Range &range) {
             if (!takeValue())
                 return false;
             bool ok = false;
             const double number = value.toDouble(&ok);
-            if (!ok || !(number >= 0 && number <= 100)) {
-                m_error = QStringLiteral("%1 needs a percent from 0 to 100, not \"%2\"")
-                              .arg(name, value);
+            if (!ok || !range.contains(number)) {
+                m_error = QStringLiteral("%1 needs a percent from %2 to %3, not \"%4\"")
+                              .arg(name)
+                              .arg(range.minimum)
+                              .arg(range.maximum)
+                              .arg(value);
                 return false;
             }
             target = number;
@@ -340,10 +358,10 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
         } else if (name == QLatin1String("--similar") && !inlineValue) {
             m_similar = true;
         } else if (name == QLatin1String("--threshold")) {
-            if (!takePercent(m_threshold))
+            if (!takePercent(m_threshold, PreferenceRanges::SimilarityValue))
                 return BadArguments;
         } else if (name == QLatin1String("--features")) {
-            if (!takePercent(m_features))
+            if (!takePercent(m_features, PreferenceRanges::FeaturesValue))
                 return BadArguments;
         } else if (name == QLatin1String("--algorithm")) {
             if (!takeValue())

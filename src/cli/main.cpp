@@ -278,8 +278,12 @@ int main(int argc, char *argv[])
     }
     QEventLoop loop;
     QObject::connect(&controller, &TControlUI::onAllComplate, &loop, &QEventLoop::quit);
-    controller.startScan(
+    const QString refused = controller.startScan(
         roots, options.commonConfig(), options.duplicationConfig(), options.similarConfig());
+    if (!refused.isEmpty()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n", qPrintable(refused));
+        return 1;
+    }
     loop.exec();
     progressTimer.stop();
     const double seconds = controller.elapsedSeconds();

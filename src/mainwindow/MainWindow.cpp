@@ -18,6 +18,7 @@
 #include "mainwindow/TControlUI.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
+#include "preferences/DFPreferencesDialog.h"
 #include "results/CListViewDelegate.h"
 #include "results/TImageModel.h"
 #include "widgets/CRotateLabel.h"
@@ -423,6 +424,7 @@ void MainWindow::buildMenus()
     }
     connect(m_languageGroup, &QActionGroup::triggered, this, &MainWindow::languageSwitch);
     add(tr("Show Log in Explorer"), QStringLiteral("action_showLog"));
+    add(tr("Open Data Folder"), QStringLiteral("action_dataFolder"));
     m_systemMenu->addSeparator();
     m_actOpenProject = add(tr("Open Project"), QStringLiteral("action_openProject"));
     m_actSaveProject = add(tr("Save Project"), QStringLiteral("action_saveProject"));
@@ -781,7 +783,15 @@ void MainWindow::on_btn_scan_clicked()
 
 void MainWindow::startLocalScan()
 {
-    m_lastScanRoots = ScanRootList::pruneNested(m_folders);
+    const QStringList roots = ScanRootList::pruneNested(m_folders);
+    // The controller refuses settings that would spoil the scan; the window then stays
+    // ready with the folders as they are.
+    const QString refused = TControlUI::instance()->startScan(roots);
+    if (!refused.isEmpty()) {
+        QMessageBox::warning(this, tr("Error"), refused);
+        return;
+    }
+    m_lastScanRoots = roots;
     m_localScan = true;
     clearScanProblems();
     m_projectPath.clear();
@@ -795,7 +805,6 @@ void MainWindow::startLocalScan()
     m_labFindTime->setText(QStringLiteral("00:00:00"));
     m_pages->setCurrentIndex(1);
     setStatus(StateScanning);
-    TControlUI::instance()->startScan(m_lastScanRoots);
 }
 
 void MainWindow::filesCountChange(int fileCount)
@@ -1134,6 +1143,8 @@ void MainWindow::onSystemMenuEvent(QAction *action)
                 .arg(AppIdentity::applicationName, AppIdentity::version, AppIdentity::buildDate));
     else if (name == QLatin1String("action_showLog"))
         QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::logDirectory()));
+    else if (name == QLatin1String("action_dataFolder"))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::base()));
     else if (name == QLatin1String("action_openProject"))
         openProjectFromMenu();
     else if (name == QLatin1String("action_saveProject"))
@@ -1174,9 +1185,16 @@ void MainWindow::onTimeout()
 
 void MainWindow::on_btn_set_clicked()
 {
-    // The preferences dialog is opened by its own page; until it is present the
-    // settings file can be edited in the data folder.
-    QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::base()));
+    // A cloud scan runs outside the controller, so the window's own state counts too.
+    DFPreferencesDialog dialog(
+        DFPreferences::instance(),
+        [this] {
+            return m_state == StateScanning || m_state == StateContinue
+                || TControlUI::instance()->isRunning();
+        },
+        this);
+    connect(this, &MainWindow::retranslateSignal, &dialog, &DFPreferencesDialog::retranslate);
+    dialog.exec();
 }
 
 void MainWindow::showAbnormalExitNotice()

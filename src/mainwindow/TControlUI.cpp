@@ -3,6 +3,7 @@
 
 #include "app/TLogger.h"
 #include "engine/PictureStage.h"
+#include "engine/ScanConfigCheck.h"
 #include "engine/TFileData.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
@@ -89,16 +90,22 @@ QString TControlUI::elapsedText() const
     return formatSeconds(m_seconds);
 }
 
-void TControlUI::startScan(const QStringList &roots)
+QString TControlUI::startScan(const QStringList &roots)
 {
     DFPreferences *preferences = DFPreferences::instance();
-    startScan(roots, preferences->ignoreListPreferences()->toJson(),
+    return startScan(roots, preferences->ignoreListPreferences()->toJson(),
         preferences->selectionPreferences()->toJson(), preferences->generalPreferences()->toJson());
 }
 
-void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
+QString TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
     const QJsonObject &duplication, const QJsonObject &similar)
 {
+    const QStringList refused = ScanConfigCheck::problems(common, similar);
+    if (!refused.isEmpty()) {
+        splog_d(
+            QStringLiteral("[TControlUI]: Scan refused: %1").arg(refused.join(QLatin1Char(' '))));
+        return refused.join(QLatin1Char('\n'));
+    }
     // A scan still running (the caller did not stop it) is stopped first, so that no
     // engine is reconfigured while it works.
     if (m_scanner.isRunning() || m_finder.isRunning() || (m_compare && m_compare->isRunning()))
@@ -137,6 +144,7 @@ void TControlUI::startScan(const QStringList &roots, const QJsonObject &common,
     splog_d(QStringLiteral("[TControlUI]: Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
     m_scanner.setRoots(roots);
     m_scanner.start(QThread::InheritPriority);
+    return QString();
 }
 
 void TControlUI::stop()

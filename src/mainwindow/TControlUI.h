@@ -32,9 +32,12 @@ public:
     ~TControlUI() override;
 
     // Starts a local scan with the three snapshots of the stored preferences.
-    void startScan(const QStringList &roots);
-    // Starts a local scan with the given snapshots (common, duplication, similar).
-    void startScan(const QStringList &roots, const QJsonObject &common,
+    QString startScan(const QStringList &roots);
+    // Starts a local scan with the given snapshots (common, duplication, similar). A
+    // snapshot with a value outside its range (ScanConfigCheck) starts nothing, not even
+    // onAllComplate follows, and a running scan goes on: the returned text says why, one
+    // line per value. Empty when the scan started.
+    QString startScan(const QStringList &roots, const QJsonObject &common,
         const QJsonObject &duplication, const QJsonObject &similar);
     // Stops the running stage and waits for its thread; the scan then ends through the
     // usual chain, with onAllComplate().

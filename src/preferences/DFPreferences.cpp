@@ -7,8 +7,11 @@
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
+#include "preferences/PreferenceRanges.h"
 
 #include <atomic>
+#include <cmath>
+#include <limits>
 #include <memory>
 #include <mutex>
 
@@ -16,6 +19,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMap>
+#include <QMetaEnum>
 #include <QMetaProperty>
 #include <QMutex>
 #include <QSettings>
@@ -58,6 +62,77 @@ void registerPreferenceTypes()
         "DFGenernalPreferences::DFScanPriority");
     qRegisterMetaType<DFIgnoreListPreferences::DFRemovalMethod>(
         "DFIgnoreListPreferences::DFRemovalMethod");
+}
+
+// A value as the INI format hands it back: text, or a list when it held an unquoted
+// comma (a hand-typed path such as "/photos/a, b").
+QString textOf(const QVariant &raw)
+{
+    if (raw.metaType().id() == QMetaType::QStringList)
+        return raw.toStringList().join(QStringLiteral(", "));
+    return raw.toString();
+}
+
+// What a loaded value becomes: an invalid value keeps the default. problem says why the
+// stored text was not taken as it stands, for the log.
+struct Loaded
+{
+    QVariant value;
+    QString problem;
+};
+
+QString quoted(const QVariant &raw)
+{
+    QString text = textOf(raw);
+    if (text.size() > 60)
+        text = text.left(60) + QStringLiteral("...");
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+// A ranged number is clamped, so that a value typed a little too high still means "as
+// high as possible"; anything else that does not fit its type keeps the default.
+Loaded checkedValue(const QMetaProperty &property, const QVariant &raw)
+{
+    const QString text = textOf(raw).trimmed();
+    const int type = property.metaType().id();
+    if (type == QMetaType::QString)
+        return {textOf(raw), QString()};
+    if (type == QMetaType::Bool) {
+        const QString word = text.toLower();
+        if (word == QLatin1String("true") || word == QLatin1String("1"))
+            return {true, QString()};
+        if (word == QLatin1String("false") || word == QLatin1String("0"))
+            return {false, QString()};
+        return {QVariant(), quoted(raw) + QStringLiteral(", not true or false")};
+    }
+
+    bool whole = false;
+    const qint64 number = text.toLongLong(&whole);
+    if (const PreferenceRanges::Range *range = PreferenceRanges::find(property.name())) {
+        bool ok = whole;
+        double value = double(number);
+        if (!whole)
+            value = text.toDouble(&ok);
+        if (!ok || !std::isfinite(value))
+            return {QVariant(), quoted(raw) + QStringLiteral(", not a number")};
+        if (range->contains(value))
+            return {whole ? QVariant(number) : QVariant(qint64(value)), QString()};
+        const qint64 clamped = value < double(range->minimum) ? range->minimum : range->maximum;
+        return {QVariant(clamped),
+            QStringLiteral("%1, outside %2 to %3")
+                .arg(text)
+                .arg(range->minimum)
+                .arg(range->maximum)};
+    }
+    if (!whole || number < std::numeric_limits<int>::min()
+        || number > std::numeric_limits<int>::max())
+        return {QVariant(), quoted(raw) + QStringLiteral(", not a whole number")};
+    if (property.isEnumType() && !property.enumerator().valueToKey(int(number)))
+        return {QVariant(),
+            QStringLiteral("%1, not a value of %2")
+                .arg(number)
+                .arg(QLatin1String(property.enumerator().name()))};
+    return {QVariant(int(number)), QString()};
 }
 
 } // namespace
@@ -104,9 +179,43 @@ DFPreferences::~DFPreferences()
 void DFPreferences::load()
 {
     QSettings settings(m_settingsPath, QSettings::IniFormat);
-    loadGroup(settings, m_ignoreList, kCommonGroup);
-    loadGroup(settings, m_selection, kDuplicateGroup);
-    loadGroup(settings, m_general, kSimilarGroup);
+    int corrected = loadGroup(settings, m_ignoreList, kCommonGroup);
+    corrected += loadGroup(settings, m_selection, kDuplicateGroup);
+    corrected += loadGroup(settings, m_general, kSimilarGroup);
+
+    const DFIgnoreListPreferences defaults;
+    if (!PreferenceRanges::sizeBoundsValid(
+            double(m_ignoreList->MinFileSize()), double(m_ignoreList->MaxFileSize()))) {
+        splog_d(QStringLiteral("[DFPreferences]: \"MinFileSize\" %1 KB is not below "
+                               "\"MaxFileSize\" %2 MB, so no file would be scanned; %3 is used.")
+                    .arg(m_ignoreList->MinFileSize())
+                    .arg(m_ignoreList->MaxFileSize())
+                    .arg(defaults.MinFileSize()));
+        m_ignoreList->setMinFileSize(defaults.MinFileSize());
+        ++corrected;
+    }
+
+    // The next save rewrites the file from the corrected values and drops lines that are
+    // not settings; the file as the user left it is kept beside it.
+    const bool damaged = settings.status() == QSettings::FormatError;
+    if (damaged)
+        splog_d(QStringLiteral("[DFPreferences]: %1 has lines that are not settings; they are "
+                               "left out from the next save.")
+                    .arg(m_settingsPath));
+    if (damaged || corrected > 0)
+        keepCopyOfFile();
+}
+
+void DFPreferences::keepCopyOfFile() const
+{
+    const QString copy = m_settingsPath + QStringLiteral(".bak");
+    QFile::remove(copy);
+    if (QFile::copy(m_settingsPath, copy))
+        splog_d(QStringLiteral("[DFPreferences]: The settings file as it was is kept as %1.")
+                    .arg(copy));
+    else
+        splog_d(QStringLiteral("[DFPreferences]: The settings file could not be copied to %1.")
+                    .arg(copy));
 }
 
 void DFPreferences::save()
@@ -118,10 +227,11 @@ void DFPreferences::save()
     settings.sync();
 }
 
-void DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString &name)
+int DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString &name)
 {
     registerPreferenceTypes();
     const QMetaObject *meta = group->metaObject();
+    int corrected = 0;
 
     settings.beginGroup(name);
     // From index 0 on, so the inherited "objectName" is read too and files written by
@@ -129,19 +239,26 @@ void DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
         const QString key = QString::fromLatin1(property.name());
-        if (isListProperty(key)) {
-            group->setProperty(property.name(), settings.value(key).toStringList());
-            continue;
-        }
         if (key == QLatin1String(kMapProperty))
             continue;
-        QVariant value = settings.value(key);
-        if (!value.isValid())
+        const QVariant raw = settings.value(key);
+        if (isListProperty(key)) {
+            group->setProperty(property.name(), raw.toStringList());
             continue;
-        // The INI file hands back text; enumerations are stored as their numbers.
-        if (property.isEnumType() || property.metaType().id() == QMetaType::Int)
-            value = value.toInt();
-        group->setProperty(property.name(), value);
+        }
+        // An absent key keeps the default.
+        if (!raw.isValid())
+            continue;
+        const Loaded loaded = checkedValue(property, raw);
+        if (!loaded.problem.isEmpty()) {
+            ++corrected;
+            splog_d(
+                QStringLiteral("[DFPreferences]: \"%1\" in [%2] is %3; %4 is used.")
+                    .arg(key, name, loaded.problem,
+                        (loaded.value.isValid() ? loaded.value : property.read(group)).toString()));
+        }
+        if (loaded.value.isValid())
+            group->setProperty(property.name(), loaded.value);
     }
     settings.endGroup();
 
@@ -149,11 +266,21 @@ void DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString
         PriorityMap priorities;
         settings.beginGroup(kMapGroup);
         const QStringList keys = settings.childKeys();
-        for (const QString &priority : keys)
-            priorities.insert(settings.value(priority).toString(), priority.toInt(nullptr, 10));
+        for (const QString &priority : keys) {
+            const QString folder = textOf(settings.value(priority));
+            if (folder.isEmpty()) {
+                ++corrected;
+                splog_d(QStringLiteral("[DFPreferences]: Priority %1 in [map] names no folder; "
+                                       "it is left out.")
+                            .arg(priority));
+                continue;
+            }
+            priorities.insert(folder, priority.toInt(nullptr, 10));
+        }
         settings.endGroup();
         group->setProperty(kMapProperty, QVariant::fromValue(priorities));
     }
+    return corrected;
 }
 
 void DFPreferences::saveGroup(QSettings &settings, QObject *group, const QString &name)

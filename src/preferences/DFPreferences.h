@@ -36,8 +36,11 @@ public:
     void save();
 
     // Reflective reader and writer of one group. "Duplicate_files" also reads and writes
-    // the top-level "map" section that holds the folder priorities inverted.
-    static void loadGroup(QSettings &settings, QObject *group, const QString &name);
+    // the top-level "map" section that holds the folder priorities inverted. A stored
+    // value that does not fit its setting is logged and replaced: a number outside its
+    // range (PreferenceRanges) by the nearest bound, anything else by the default. Keys
+    // the group does not know stay in the file. Returns how many values were replaced.
+    static int loadGroup(QSettings &settings, QObject *group, const QString &name);
     static void saveGroup(QSettings &settings, QObject *group, const QString &name);
 
     // "<generic config>/Veltrine/Veltrine Duplicate Finder/preferences.cfg", or, when
@@ -52,6 +55,9 @@ public:
 private:
     DFPreferences();
     void load();
+    // Copies the settings file to "preferences.cfg.bak" before a repaired load is saved
+    // over it.
+    void keepCopyOfFile() const;
 
     DFGenernalPreferences *m_general = nullptr;
     DFIgnoreListPreferences *m_ignoreList = nullptr;

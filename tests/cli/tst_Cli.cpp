@@ -63,12 +63,16 @@ void TestCli::badArguments_data()
         << QStringList {"scan", "--max-size", "inf", "."} << 1 << QByteArray("zero or more");
     QTest::newRow("size not a number")
         << QStringList {"scan", "--min-size", "nan", "."} << 1 << QByteArray("zero or more");
-    QTest::newRow("maximum overflows bytes")
-        << QStringList {"scan", "--max-size", "1e13", "."} << 1 << QByteArray("--max-size is too");
-    QTest::newRow("minimum overflows bytes")
-        << QStringList {"scan", "--min-size", "1e16", "."} << 1 << QByteArray("--min-size is too");
+    QTest::newRow("maximum overflows bytes") << QStringList {"scan", "--max-size", "1e13", "."} << 1
+                                             << QByteArray("--max-size needs a number from 1");
+    QTest::newRow("maximum below one megabyte") << QStringList {"scan", "--max-size", "0.5", "."}
+                                                << 1 << QByteArray("to 100000 (MiB), not 0.5");
+    QTest::newRow("minimum overflows bytes") << QStringList {"scan", "--min-size", "1e16", "."} << 1
+                                             << QByteArray("--min-size needs a number from 0");
     QTest::newRow("minimum above maximum") << QStringList {"scan", "--min-size", "2048",
-        "--max-size", "1", "."} << 1 << QByteArray("is above --max-size");
+        "--max-size", "1", "."} << 1 << QByteArray("is not below --max-size");
+    QTest::newRow("minimum equal to maximum") << QStringList {"scan", "--min-size", "1024",
+        "--max-size", "1", "."} << 1 << QByteArray("is not below --max-size");
     QTest::newRow("missing value")
         << QStringList {"scan", ".", "--max-size"} << 1 << QByteArray("needs a value");
     QTest::newRow("unknown option")

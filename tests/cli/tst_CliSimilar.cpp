@@ -59,6 +59,9 @@ void TestCliSimilar::badValues_data()
     QTest::addColumn<QStringList>("options");
     QTest::newRow("threshold above 100") << QStringList {"--threshold", "101"};
     QTest::newRow("threshold below 0") << QStringList {"--threshold", "-1"};
+    // A pass mark of 0 would link every pair of pictures.
+    QTest::newRow("threshold 0") << QStringList {"--threshold", "0"};
+    QTest::newRow("features beyond the re-check's range") << QStringList {"--features", "100"};
     QTest::newRow("threshold not a number") << QStringList {"--threshold", "high"};
     QTest::newRow("threshold inline") << QStringList {"--threshold=150"};
     QTest::newRow("threshold without value") << QStringList {"--threshold"};
@@ -102,10 +105,6 @@ void TestCliSimilar::similarGroups_data()
     QTest::newRow("both filters off")
         << QStringList {"--algorithm", "phash", "--any-ratio", "--any-type", "--no-features"}
         << QStringList {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
-    QTest::newRow("pass mark 0 links every pair") << QStringList {"--algorithm", "phash",
-        "--threshold", "0", "--no-features"} << QStringList {"similar:a.jpg,a_small.jpg,b.jpg"};
-    QTest::newRow("feature pass mark 100 drops every pair")
-        << QStringList {"--algorithm", "phash", "--features", "100"} << QStringList {};
 }
 
 void TestCliSimilar::similarGroups()

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Saves pictures of the main window's pages into the folder given as argument, in every
-// language of the program and at two window sizes, and one strip of the round button's
-// captions in all languages. Run it through tools/screenshots.sh (under Xvfb) to look at
+// Saves pictures of the main window's pages and of the settings dialog's tabs into the
+// folder given as argument, in every language of the program and at two window sizes, and
+// one strip of the round button's captions in all languages; with "settings" as second
+// argument only the settings dialog. Run it through tools/screenshots.sh (under Xvfb) to look at
 // the real rendering.
 #include "app/LanguageSetup.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFPreferences.h"
+#include "preferences/DFPreferencesDialog.h"
+#include "preferences/DFSelectionPreferences.h"
 #include "widgets/ProblemListDialog.h"
 
 #include <QApplication>
@@ -17,6 +22,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -140,6 +146,54 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
     }
 }
 
+// The settings dialog's three tabs, each alone and over the window of the given size, the
+// way the dialog opens on the screen.
+void shootSettings(const Language &language, const QSize &size, const QString &out)
+{
+    const QString prefix = QStringLiteral("%1-%2x%3-")
+                               .arg(QLatin1String(language.code))
+                               .arg(size.width())
+                               .arg(size.height());
+    MainWindow window({QStringLiteral("program")});
+    window.resize(size);
+    window.show();
+    (void)QTest::qWaitForWindowExposed(&window);
+    DFPreferencesDialog dialog(
+        DFPreferences::instance(), [] { return false; }, &window);
+    dialog.show();
+    (void)QTest::qWaitForWindowExposed(&dialog);
+    auto *tabs = dialog.findChild<QTabWidget *>(QStringLiteral("tabWidget"));
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        const QString name = prefix + QStringLiteral("settings-%1").arg(i + 1);
+        save(&dialog, out, name);
+        QPixmap screen = window.grab();
+        const QPixmap face = dialog.grab();
+        QPainter painter(&screen);
+        painter.fillRect(screen.rect(), QColor(0, 0, 0, 60));
+        painter.drawPixmap(
+            (screen.width() - face.width()) / 2, (screen.height() - face.height()) / 2, face);
+        painter.end();
+        screen.save(QDir(out).filePath(name + QStringLiteral("-on-window.png")));
+    }
+}
+
+// Settings as a user who has used the program a while has them.
+void fillSettings(const QString &root)
+{
+    DFPreferences *store = DFPreferences::instance();
+    store->ignoreListPreferences()->setIgnorePathFile({root + QStringLiteral("/Documents/.cache"),
+        root + QStringLiteral("/Music archive/Podcasts"),
+        root
+            + QStringLiteral("/Archive of the family pictures taken between 1998 and "
+                             "2012/Holidays in the mountains/raw exports")});
+    store->ignoreListPreferences()->setOnlyFileType(
+        {QStringLiteral("jpg"), QStringLiteral("png"), QStringLiteral("heic")});
+    store->ignoreListPreferences()->setIgnoreFileType({QStringLiteral("tmp")});
+    store->selectionPreferences()->setMapPriority({{root + QStringLiteral("/Photos"), 1},
+        {root + QStringLiteral("/Documents"), 2}, {root + QStringLiteral("/Music archive"), 3}});
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -156,14 +210,26 @@ int main(int argc, char *argv[])
              "mountains"})
         QDir(tree.path()).mkpath(QString::fromLatin1(name));
 
+    fillSettings(tree.path());
+    if (argc > 2 && QString::fromLocal8Bit(argv[2]) == QLatin1String("settings")) {
+        for (const Language &language : kLanguages) {
+            useLanguage(language.index);
+            for (const QSize &size : kSizes)
+                shootSettings(language, size, out);
+        }
+        return 0;
+    }
+
     const int count = int(std::size(kLanguages));
     QImage strip(count * 140, 160, QImage::Format_ARGB32);
     strip.fill(QColor(246, 247, 251));
     for (int i = 0; i < count; ++i) {
         useLanguage(kLanguages[i].index);
-        for (const QSize &size : kSizes)
+        for (const QSize &size : kSizes) {
             shootLanguage(
                 kLanguages[i], size, tree.path(), out, size == kSizes[0] ? &strip : nullptr, i);
+            shootSettings(kLanguages[i], size, out);
+        }
     }
     strip.save(QDir(out).filePath(QStringLiteral("round-button-all-languages.png")));
 

@@ -11,8 +11,10 @@
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
+#include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
+#include "preferences/DFPreferencesDialog.h"
 #include "widgets/ProblemListDialog.h"
 #include "widgets/RoundTextButton.h"
 
@@ -63,6 +65,8 @@ private slots:
     void roundButtonFitsEveryLanguage();
     void abnormalExitNoticeOnce();
     void cloudAndLocalExclusive();
+    void settingsRefusedWhileScanning();
+    void settingsOutsideRangesStopTheScan();
 
 private:
     template<typename T>
@@ -566,6 +570,46 @@ void tst_MainWindow::cloudAndLocalExclusive()
     QCOMPARE(stop.count(), 1);
     QCOMPARE(m_window->state(), 4);
     TControlUI::instance()->setCloudMode(false);
+}
+
+void tst_MainWindow::settingsRefusedWhileScanning()
+{
+    // The dialog learns of the scan from the window: the window's state must reach it.
+    DialogAnswerer boxes;
+    m_window->setStatus(MainWindow::StateScanning);
+    bool opened = false;
+    QTimer::singleShot(100, this, [&opened] {
+        auto *dialog = qobject_cast<DFPreferencesDialog *>(QApplication::activeModalWidget());
+        opened = dialog != nullptr;
+        if (!dialog)
+            return;
+        dialog->findChild<QPushButton *>(QStringLiteral("btnOK"))->click();
+        dialog->reject();
+    });
+    QTest::mouseClick(child<QPushButton>("btn_set"), Qt::LeftButton);
+    m_window->setStatus(MainWindow::StateReady);
+    QVERIFY(opened);
+    QCOMPARE(boxes.texts,
+        QStringList {QStringLiteral(
+            "You cannot change settings of preferences while the scan is in progress.")});
+}
+
+void tst_MainWindow::settingsOutsideRangesStopTheScan()
+{
+    // A value that reached the store without the loader's clamping (another part wrote
+    // it) must not start a scan that groups every picture.
+    DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
+    const DFGenernalPreferences saved(*similar);
+    similar->setHasSimilar(true);
+    similar->setSimilarityValue(0);
+    DialogAnswerer boxes;
+    QVERIFY(m_window->addFolder(m_tree.filePath(QStringLiteral("a"))));
+    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+    *similar = saved;
+    QCOMPARE(boxes.texts,
+        QStringList {QStringLiteral("The similarity threshold 0% is outside 1% to 100%.")});
+    QCOMPARE(m_window->state(), int(MainWindow::StateReady));
+    QCOMPARE(TControlUI::instance()->runState(), int(TControlUI::Stopped));
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -22,6 +22,8 @@ private slots:
     void formatSeconds();
     void scanRunsScannerThenFinder();
     void stopWhileScanningEndsOnce();
+    void refusesValuesOutsideRanges_data();
+    void refusesValuesOutsideRanges();
 };
 
 void TestControlUI::formatSeconds_data()
@@ -84,6 +86,51 @@ void TestControlUI::stopWhileScanningEndsOnce()
     QTest::qWait(200);
     QCOMPARE(done.count(), 1);
     QCOMPARE(controller.stage(), int(TControlUI::StageScanning));
+}
+
+void TestControlUI::refusesValuesOutsideRanges_data()
+{
+    QTest::addColumn<QJsonObject>("common");
+    QTest::addColumn<QJsonObject>("similar");
+    QTest::addColumn<QString>("refusal");
+    // Shifted to bytes this maximum overflows, and no file would pass.
+    QTest::newRow("maximum overflowing bytes")
+        << QJsonObject {{"MaxFileSize", 9e12}} << kSimilarOff
+        << "The maximum file size 9000000000000 MB is outside 1 to 100000 MB.";
+    QTest::newRow("maximum not a number") << QJsonObject {{"MaxFileSize", "big"}} << kSimilarOff
+                                          << "The maximum file size \"big\" MB is outside 1 to "
+                                             "100000 MB.";
+    QTest::newRow("minimum not below maximum")
+        << QJsonObject {{"MinFileSize", 1024}, {"MaxFileSize", 1}} << kSimilarOff
+        << "The minimum file size 1024 KB is not below the maximum file size 1 MB, so no file "
+           "would be scanned.";
+    // A pass mark of 0 links every pair of pictures.
+    QTest::newRow("similarity 0") << kCommon
+                                  << QJsonObject {{"hasSimilar", true}, {"SimilarityValue", 0}}
+                                  << "The similarity threshold 0% is outside 1% to 100%.";
+    QTest::newRow("features beyond the re-check's range")
+        << kCommon << QJsonObject {{"hasSimilar", true}, {"FeaturesValue", 100}}
+        << "The feature similarity threshold 100% is outside 20% to 60%.";
+    QTest::newRow("pass marks of a search that does not run")
+        << kCommon << QJsonObject {{"hasSimilar", false}, {"SimilarityValue", 0}} << QString();
+}
+
+void TestControlUI::refusesValuesOutsideRanges()
+{
+    QFETCH(QJsonObject, common);
+    QFETCH(QJsonObject, similar);
+    QFETCH(QString, refusal);
+    QTemporaryDir dir;
+    TControlUI controller;
+    QSignalSpy done(&controller, &TControlUI::onAllComplate);
+    QCOMPARE(controller.startScan({dir.path()}, common, {}, similar), refusal);
+    if (refusal.isEmpty()) {
+        QVERIFY(done.wait(30000));
+        return;
+    }
+    QCOMPARE(controller.runState(), int(TControlUI::Stopped));
+    QTest::qWait(50);
+    QCOMPARE(done.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestControlUI)

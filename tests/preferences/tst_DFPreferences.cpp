@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "LogText.h"
 #include "TestEnvironment.h"
 #include "app/AppIdentity.h"
+#include "app/TLogger.h"
 #include "engine/ScanTree.h"
+#include "engine/TFileData.h"
+#include "mainwindow/TControlUI.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
@@ -13,6 +17,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonObject>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
@@ -48,6 +53,7 @@ private slots:
     void loadKeepsDefaultsOrConverts_data();
     void loadKeepsDefaultsOrConverts();
     void similarityValueRoundTrip();
+    void damagedFileLoadsRepairedAndScans();
     void snapshotKeys_data();
     void snapshotKeys();
     void copiesCarryUnpersistedFlags();
@@ -155,18 +161,51 @@ void TestDFPreferences::loadKeepsDefaultsOrConverts_data()
                                                << "scanPriority" << QVariant(1);
     QTest::newRow("other group read") << noCommon << "duplicate"
                                       << "scanMethod" << QVariant(1);
-    QTest::newRow("int not a number") << QByteArray("[Common]\nThreadCount=many\n") << "common"
-                                      << "ThreadCount" << QVariant(0);
-    QTest::newRow("enum not a number")
+    QTest::newRow("int not a number keeps default")
+        << QByteArray("[Common]\nThreadCount=many\n") << "common"
+        << "ThreadCount" << QVariant(std::max(2, QThread::idealThreadCount()));
+    QTest::newRow("enum not a number keeps default")
         << QByteArray("[Duplicate_files]\nselectDuplicate=x\n") << "duplicate"
-        << "selectDuplicate" << QVariant(0);
+        << "selectDuplicate" << QVariant(2);
+    QTest::newRow("enum beyond its values keeps default")
+        << QByteArray("[Common]\nRemovealMethod=7\n") << "common"
+        << "RemovealMethod" << QVariant(0);
+    QTest::newRow("bool neither true nor false keeps default")
+        << QByteArray("[Similar_images]\nhasSimilar=perhaps\n") << "similar"
+        << "hasSimilar" << QVariant(true);
     QTest::newRow("enum value") << QByteArray("[Similar_images]\nalgorithmHint=2\n") << "similar"
                                 << "algorithmHint" << QVariant(2);
     QTest::newRow("size not a number keeps default")
         << QByteArray("[Common]\nMaxFileSize=big\n") << "common"
         << "MaxFileSize" << QVariant(100000);
-    QTest::newRow("large size") << QByteArray("[Common]\nMaxFileSize=5000000000\n") << "common"
-                                << "MaxFileSize" << QVariant(Q_INT64_C(5000000000));
+    // Shifted to bytes, this maximum overflows and no file would pass.
+    QTest::newRow("size overflowing bytes clamped")
+        << QByteArray("[Common]\nMaxFileSize=9000000000000\n") << "common"
+        << "MaxFileSize" << QVariant(100000);
+    QTest::newRow("size beyond 64 bits clamped")
+        << QByteArray("[Common]\nMaxFileSize=99999999999999999999999\n") << "common"
+        << "MaxFileSize" << QVariant(100000);
+    QTest::newRow("negative size clamped") << QByteArray("[Common]\nMinFileSize=-3\n") << "common"
+                                           << "MinFileSize" << QVariant(0);
+    QTest::newRow("minimum not below maximum: minimum reset")
+        << QByteArray("[Common]\nMinFileSize=2048\nMaxFileSize=2\n") << "common"
+        << "MinFileSize" << QVariant(0);
+    // A pass mark of 0 or below links every pair of pictures.
+    QTest::newRow("similarity 0 clamped")
+        << QByteArray("[Similar_images]\nSimilarityValue=0\n") << "similar"
+        << "SimilarityValue" << QVariant(1);
+    QTest::newRow("similarity with decimals truncated")
+        << QByteArray("[Similar_images]\nSimilarityValue=72.9\n") << "similar"
+        << "SimilarityValue" << QVariant(72);
+    QTest::newRow("features clamped")
+        << QByteArray("[Similar_images]\nFeaturesValue=95\n") << "similar"
+        << "FeaturesValue" << QVariant(60);
+    QTest::newRow("aspect limit clamped")
+        << QByteArray("[Similar_images]\nimageMinSize=0\n") << "similar"
+        << "imageMinSize" << QVariant(1);
+    QTest::newRow("folder with an unquoted comma")
+        << QByteArray("[Common]\nTrashFolder=/home/me/a, b\n") << "common"
+        << "TrashFolder" << QVariant(QStringLiteral("/home/me/a, b"));
     QTest::newRow("bool false") << QByteArray("[Common]\nHideSystemFile=false\n") << "common"
                                 << "HideSystemFile" << QVariant(false);
     QTest::newRow("deletion marker") << QByteArray("[Common]\ndeleteException=1\n") << "common"
@@ -206,6 +245,9 @@ void TestDFPreferences::loadKeepsDefaultsOrConverts()
     case QMetaType::LongLong:
         QCOMPARE(actual.toLongLong(), expected.toLongLong());
         break;
+    case QMetaType::QString:
+        QCOMPARE(actual.toString(), expected.toString());
+        break;
     default:
         QCOMPARE(actual.value<PriorityMap>(), expected.value<PriorityMap>());
     }
@@ -222,6 +264,52 @@ void TestDFPreferences::similarityValueRoundTrip()
     }
     QVERIFY(ScanTree::read(path).contains("\nSimilarityValue=72\n"));
     QCOMPARE(DFPreferences(path).generalPreferences()->property("SimilarityValue").toInt(), 72);
+}
+
+void TestDFPreferences::damagedFileLoadsRepairedAndScans()
+{
+    // Hand-edited and then cut off: numbers out of range, a wrong type, a line that is no
+    // setting, a key this version does not know, and a section header cut in the middle.
+    const QByteArray damaged = "[Common]\nMaxFileSize=9000000000000\nMinFileSize=-3\n"
+                               "ThreadCount=many\nUnknownKey=kept\nnot a setting\n"
+                               "[Similar_images]\nSimilarityValue=0\n"
+                               "[Duplicate_files]\nscanMethod=2\n[Simil";
+    const QString path = m_dir.filePath("damaged.cfg");
+    const QString logFolder = m_dir.filePath("damaged-log");
+    writeText(path, damaged);
+    QVERIFY(initLogger(logFolder));
+    {
+        const DFPreferences store(path);
+        QCOMPARE(store.ignoreListPreferences()->MaxFileSize(), quint64(100000));
+        QCOMPARE(store.ignoreListPreferences()->MinFileSize(), quint64(0));
+        QCOMPARE(store.generalPreferences()->SimilarityValue(), 1);
+        QCOMPARE(int(store.selectionPreferences()->scanMethod()), 2);
+        // The next save drops the line that is no setting; the file as it was stays.
+        QCOMPARE(ScanTree::read(path + ".bak"), damaged);
+
+        QTemporaryDir tree;
+        ScanTree::write(tree.path(), "a/one.bin", ScanTree::pattern(20000, 1));
+        ScanTree::write(tree.path(), "b/two.bin", ScanTree::pattern(20000, 1));
+        ScanTree::write(tree.path(), "b/other.bin", ScanTree::pattern(20000, 2));
+        TFileData::instance()->clear();
+        TControlUI controller;
+        QSignalSpy done(&controller, &TControlUI::onAllComplate);
+        QCOMPARE(controller.startScan({tree.path()}, store.ignoreListPreferences()->toJson(),
+                     store.selectionPreferences()->toJson(), store.generalPreferences()->toJson()),
+            QString());
+        QVERIFY(done.wait(30000));
+        QCOMPARE(TFileData::instance()->groups().size(), 1);
+        QCOMPARE(TFileData::instance()->groups().begin()->size(), 2);
+    }
+    QVERIFY(ScanTree::read(path).contains("\nUnknownKey=kept\n"));
+    // Saved repaired at exit, so the next start has nothing more to say.
+    QCOMPARE(DFPreferences(path).ignoreListPreferences()->MaxFileSize(), quint64(100000));
+    shutdownLogger();
+    const QString log = logText(logFolder);
+    for (const char *key : {"\"MaxFileSize\" in [Common]", "\"MinFileSize\" in [Common]",
+             "\"ThreadCount\" in [Common]", "\"SimilarityValue\" in [Similar_images]",
+             "lines that are not settings"})
+        QVERIFY2(log.count(QLatin1String(key)) == 1, qPrintable(log));
 }
 
 void TestDFPreferences::snapshotKeys_data()

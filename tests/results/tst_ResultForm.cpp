@@ -165,6 +165,7 @@ void tst_ResultForm::scanReviewRemove()
             ScanTree::pattern(100 + i, char('u' + i)));
 
     DialogAnswerer answers({QMessageBox::Yes});
+    answers.closeOtherDialogs = true;
     MainWindow window({QStringLiteral("program")});
     window.show();
     window.addFolder(m_tree.path());
@@ -369,6 +370,7 @@ void tst_ResultForm::everyCopyAsksAgain()
     ResultForm *page = openPage();
     // Yes to the trash, then the default (No) to losing every copy.
     DialogAnswerer answers({QMessageBox::Yes, QMessageBox::NoButton});
+    answers.closeOtherDialogs = true;
     page->on_btn_delete_clicked();
     QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
     QVERIFY(answers.texts.at(1).contains(QStringLiteral("every copy")));

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "preferences/DFGeneralWidget.h"
+
+#include "preferences/PreferenceRanges.h"
+#include "ui_Genernal.h"
+
+namespace {
+
+QString percent(int value)
+{
+    return QStringLiteral("%1%").arg(value);
+}
+
+} // namespace
+
+DFGeneralWidget::DFGeneralWidget(QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::Genernal>())
+{
+    ui->setupUi(this);
+    ui->hsSimilarity->setRange(int(PreferenceRanges::SimilarityValue.minimum),
+        int(PreferenceRanges::SimilarityValue.maximum));
+    ui->hsFeatures->setRange(
+        int(PreferenceRanges::FeaturesValue.minimum), int(PreferenceRanges::FeaturesValue.maximum));
+    ui->sbImageWH->setRange(
+        int(PreferenceRanges::imageMinSize.minimum), int(PreferenceRanges::imageMinSize.maximum));
+
+    const auto flag = [this](QCheckBox *box, void (DFGenernalPreferences::*set)(bool)) {
+        connect(box, &QCheckBox::toggled, this, [this, set](bool on) {
+            if (m_filling)
+                return;
+            (m_preferences.*set)(on);
+            updateEnabled();
+        });
+    };
+    flag(ui->chkEnableSimilar, &DFGenernalPreferences::setHasSimilar);
+    flag(ui->chkFeatures, &DFGenernalPreferences::setIsAddFeatures);
+    flag(ui->chkImageType, &DFGenernalPreferences::setIsImageType);
+    flag(ui->chkImageWH, &DFGenernalPreferences::setIsImageSize);
+    flag(ui->chkSelectedSimilar, &DFGenernalPreferences::setSelectedSimilar);
+
+    const auto algorithm
+        = [this](QRadioButton *button, DFSelectionPreferences::DFAlgorithmsHint value) {
+              connect(button, &QRadioButton::toggled, this, [this, value](bool on) {
+                  if (on && !m_filling)
+                      m_preferences.setAlgorithmHint(value);
+              });
+          };
+    algorithm(ui->rbSmart, DFSelectionPreferences::rbSmart);
+    algorithm(ui->rbHistogram, DFSelectionPreferences::rbHistogram);
+    algorithm(ui->rbPhash, DFSelectionPreferences::rbPhash);
+
+    // "Follow the duplicates removal rule" stands for every value without a button of
+    // its own; choosing it stores the rule's default.
+    const auto rule = [this](QRadioButton *button, DFSelectionPreferences::DFSelectionHint value) {
+        connect(button, &QRadioButton::toggled, this, [this, value](bool on) {
+            if (on && !m_filling)
+                m_preferences.setSelectionHint(value);
+        });
+    };
+    rule(ui->rbFollowDuplicateRules, DFSelectionPreferences::autoSelect);
+    rule(ui->rbHighResolution, DFSelectionPreferences::selectHighResolution);
+    rule(ui->rbLowResolution, DFSelectionPreferences::selectLowResolution);
+    rule(ui->rbHighQuality, DFSelectionPreferences::selectHighQuality);
+    rule(ui->rbLowQuality, DFSelectionPreferences::selectLowQuality);
+
+    connect(ui->hsSimilarity, &QSlider::valueChanged, this, [this](int value) {
+        ui->lblSimilarityValue->setText(percent(value));
+        if (!m_filling)
+            m_preferences.setSimilarityValue(value);
+    });
+    connect(ui->hsFeatures, &QSlider::valueChanged, this, [this](int value) {
+        ui->lblFeaturesValue->setText(percent(value));
+        if (!m_filling)
+            m_preferences.setFeaturesValue(value);
+    });
+    connect(ui->sbImageWH, &QSpinBox::valueChanged, this, [this](int value) {
+        if (!m_filling)
+            m_preferences.setImageMinSize(value);
+    });
+    refresh();
+}
+
+DFGeneralWidget::~DFGeneralWidget() = default;
+
+void DFGeneralWidget::setPreferences(const DFGenernalPreferences &preferences)
+{
+    m_preferences = preferences;
+    refresh();
+}
+
+void DFGeneralWidget::refresh()
+{
+    m_filling = true;
+    ui->chkEnableSimilar->setChecked(m_preferences.hasSimilar());
+    switch (m_preferences.algorithmHint()) {
+    case DFSelectionPreferences::rbHistogram:
+        ui->rbHistogram->setChecked(true);
+        break;
+    case DFSelectionPreferences::rbPhash:
+        ui->rbPhash->setChecked(true);
+        break;
+    default:
+        ui->rbSmart->setChecked(true);
+        break;
+    }
+    // The slider clamps a value outside its range; the label shows what the slider holds.
+    ui->hsSimilarity->setValue(m_preferences.SimilarityValue());
+    ui->lblSimilarityValue->setText(percent(ui->hsSimilarity->value()));
+    ui->chkFeatures->setChecked(m_preferences.isAddFeatures());
+    ui->hsFeatures->setValue(m_preferences.FeaturesValue());
+    ui->lblFeaturesValue->setText(percent(ui->hsFeatures->value()));
+    ui->chkImageType->setChecked(m_preferences.isImageType());
+    ui->chkImageWH->setChecked(m_preferences.isImageSize());
+    ui->sbImageWH->setValue(m_preferences.imageMinSize());
+    ui->chkSelectedSimilar->setChecked(m_preferences.selectedSimilar());
+    switch (m_preferences.selectionHint()) {
+    case DFSelectionPreferences::selectHighResolution:
+        ui->rbHighResolution->setChecked(true);
+        break;
+    case DFSelectionPreferences::selectLowResolution:
+        ui->rbLowResolution->setChecked(true);
+        break;
+    case DFSelectionPreferences::selectHighQuality:
+        ui->rbHighQuality->setChecked(true);
+        break;
+    case DFSelectionPreferences::selectLowQuality:
+        ui->rbLowQuality->setChecked(true);
+        break;
+    default:
+        ui->rbFollowDuplicateRules->setChecked(true);
+        break;
+    }
+    updateEnabled();
+    m_filling = false;
+}
+
+void DFGeneralWidget::updateEnabled()
+{
+    const bool on = ui->chkEnableSimilar->isChecked();
+    for (QWidget *widget : findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        if (widget != ui->chkEnableSimilar)
+            widget->setEnabled(on);
+    }
+    if (!on)
+        return;
+    ui->hsFeatures->setEnabled(ui->chkFeatures->isChecked());
+    ui->lblFeaturesValue->setEnabled(ui->chkFeatures->isChecked());
+    ui->sbImageWH->setEnabled(ui->chkImageWH->isChecked());
+    const bool rules = ui->chkSelectedSimilar->isChecked();
+    for (QRadioButton *button : {ui->rbFollowDuplicateRules, ui->rbHighResolution,
+             ui->rbLowResolution, ui->rbHighQuality, ui->rbLowQuality})
+        button->setEnabled(rules);
+}
+
+void DFGeneralWidget::retranslate()
+{
+    ui->retranslateUi(this);
+    refresh();
+}

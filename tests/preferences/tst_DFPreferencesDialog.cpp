@@ -1,0 +1,498 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DialogAnswerer.h"
+#include "TestEnvironment.h"
+#include "engine/ScanTree.h"
+#include "preferences/DFGeneralWidget.h"
+#include "preferences/DFGenernalPreferences.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFIgnoreListWidget.h"
+#include "preferences/DFPreferences.h"
+#include "preferences/DFPreferencesDialog.h"
+#include "preferences/DFSelectionPreferences.h"
+#include "preferences/DFSelectionWidget.h"
+
+#include <memory>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSettings>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+static TestEnvironment s_environment;
+
+using PriorityMap = QMap<QString, qint32>;
+
+// Each test works on a store of its own file and a dialog shown on it. Steps are written
+// as the user would take them, separated by ";": "name" clicks a button, "name=text" sets
+// a spin box or slider or types into a field, "folder:path" adds a priority folder,
+// "cell:row=text" edits the priority of a table row.
+class TestDFPreferencesDialog : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void controlWritesItsKey_data();
+    void controlWritesItsKey();
+    void defaultRestoresAndKeeps_data();
+    void defaultRestoresAndKeeps();
+    void cancelLeavesFileUntouched();
+    void refusalKeepsEdits_data();
+    void refusalKeepsEdits();
+    void priorityOfAddedFolder_data();
+    void priorityOfAddedFolder();
+    void reopeningShowsTheStore();
+    void okKeepsWhatOthersWrote();
+    void dropAddsPaths_data();
+    void dropAddsPaths();
+
+private:
+    void run(const QString &steps);
+    QString stored(const QString &key) const
+    {
+        const QVariant value = QSettings(m_path, QSettings::IniFormat).value(key);
+        return value.metaType().id() == QMetaType::QStringList ? value.toStringList().join(',')
+                                                               : value.toString();
+    }
+
+    QTemporaryDir m_dir;
+    QString m_path;
+    std::unique_ptr<DFPreferences> m_store;
+    std::unique_ptr<DFPreferencesDialog> m_dialog;
+    bool m_scanRunning = false;
+};
+
+void TestDFPreferencesDialog::init()
+{
+    m_path = m_dir.filePath(QStringLiteral("%1.cfg").arg(QTest::currentDataTag()));
+    QFile::remove(m_path);
+    m_scanRunning = false;
+    m_store = std::make_unique<DFPreferences>(m_path);
+    m_store->save();
+    m_dialog
+        = std::make_unique<DFPreferencesDialog>(m_store.get(), [this] { return m_scanRunning; });
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+}
+
+void TestDFPreferencesDialog::cleanup()
+{
+    m_dialog.reset();
+    m_store.reset();
+}
+
+void TestDFPreferencesDialog::run(const QString &steps)
+{
+    for (const QString &step : steps.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QString name = step.section(QLatin1Char('='), 0, 0);
+        const QString value = step.section(QLatin1Char('='), 1);
+        if (name.startsWith(QLatin1String("folder:"))) {
+            m_dialog->selectionWidget()->addPriorityFolders({name.mid(7)});
+        } else if (name.startsWith(QLatin1String("cell:"))) {
+            auto *table = m_dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"));
+            table->item(name.mid(5).toInt(), 0)->setText(value);
+        } else if (auto *button = m_dialog->findChild<QAbstractButton *>(name)) {
+            QVERIFY2(button->isEnabled(), qPrintable(name));
+            button->click();
+        } else if (auto *spin = m_dialog->findChild<QSpinBox *>(name)) {
+            spin->setValue(value.toInt());
+        } else if (auto *slider = m_dialog->findChild<QSlider *>(name)) {
+            slider->setValue(value.toInt());
+        } else if (auto *field = m_dialog->findChild<QLineEdit *>(name)) {
+            field->selectAll();
+            QTest::keyClick(field, Qt::Key_Delete);
+            QTest::keyClicks(field, value);
+        } else {
+            QFAIL(qPrintable(QStringLiteral("no control %1").arg(name)));
+        }
+    }
+}
+
+void TestDFPreferencesDialog::controlWritesItsKey_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("remove permanently") << "rbRemovePermanently"
+                                        << "Common/RemovealMethod"
+                                        << "1";
+    QTest::newRow("move folder typed") << "rbMoveToFolder;lineEdit=/srv/moved"
+                                       << "Common/TrashFolder"
+                                       << "/srv/moved";
+    QTest::newRow("move method") << "rbMoveToFolder;lineEdit=/srv/moved"
+                                 << "Common/RemovealMethod"
+                                 << "2";
+    QTest::newRow("minimum size") << "sbMinimumFileSize=512"
+                                  << "Common/MinFileSize"
+                                  << "512";
+    QTest::newRow("maximum size") << "sbMaximumFileSize=2048"
+                                  << "Common/MaxFileSize"
+                                  << "2048";
+    // The validator lets neither a dot nor a blank in, and empty entries are dropped.
+    QTest::newRow("ignored formats") << "radBtnUgnore;linEditIgnore=t x.t,,avi"
+                                     << "Common/IgnoreFileType"
+                                     << "txt,avi";
+    QTest::newRow("ignore mode") << "radBtnUgnore"
+                                 << "Common/ScanFileType"
+                                 << "1";
+    QTest::newRow("only formats") << "linEditOnly=jpg,png"
+                                  << "Common/OnlyFileType"
+                                  << "jpg,png";
+    QTest::newRow("hidden files") << "chkIgnoreSystemHidden"
+                                  << "Common/HideSystemFile"
+                                  << "false";
+    QTest::newRow("whole content") << "rbAllFileContent"
+                                   << "Duplicate_files/scanMethod"
+                                   << "2";
+    QTest::newRow("by name") << "rbFileName"
+                             << "Duplicate_files/scanMethod"
+                             << "1";
+    QTest::newRow("newest") << "rbSelectionNewest"
+                            << "Duplicate_files/selectDuplicate"
+                            << "0";
+    QTest::newRow("priority rule") << "rbSelectionPriority"
+                                   << "Duplicate_files/selectDuplicate"
+                                   << "3";
+    QTest::newRow("priority folders") << "folder:/data/a;folder:/data/b;cell:1=7"
+                                      << "map/7"
+                                      << "/data/b";
+    QTest::newRow("folder groups") << "chkScanDupDir"
+                                   << "Duplicate_files/scanDupDirectory"
+                                   << "true";
+    QTest::newRow("similar off") << "chkEnableSimilar"
+                                 << "Similar_images/hasSimilar"
+                                 << "false";
+    QTest::newRow("phash") << "rbPhash"
+                           << "Similar_images/algorithmHint"
+                           << "2";
+    QTest::newRow("similarity") << "hsSimilarity=80"
+                                << "Similar_images/SimilarityValue"
+                                << "80";
+    QTest::newRow("features") << "hsFeatures=30"
+                              << "Similar_images/FeaturesValue"
+                              << "30";
+    QTest::newRow("features off") << "chkFeatures"
+                                  << "Similar_images/isAddFeatures"
+                                  << "false";
+    QTest::newRow("any type") << "chkImageType"
+                              << "Similar_images/isImageType"
+                              << "false";
+    QTest::newRow("any ratio") << "chkImageWH"
+                               << "Similar_images/isImageSize"
+                               << "false";
+    QTest::newRow("ratio limit") << "sbImageWH=7"
+                                 << "Similar_images/imageMinSize"
+                                 << "7";
+    QTest::newRow("select similar") << "chkSelectedSimilar"
+                                    << "Similar_images/selectedSimilar"
+                                    << "true";
+    QTest::newRow("similar rule") << "chkSelectedSimilar;rbLowQuality"
+                                  << "Similar_images/selectionHint"
+                                  << "7";
+}
+
+void TestDFPreferencesDialog::controlWritesItsKey()
+{
+    QFETCH(QString, steps);
+    QFETCH(QString, key);
+    QFETCH(QString, expected);
+    run(steps + QStringLiteral(";btnOK"));
+    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(stored(key), expected);
+}
+
+void TestDFPreferencesDialog::defaultRestoresAndKeeps_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("expected");
+    const QString threads = QString::number(std::max(2, QThread::idealThreadCount()));
+    QTest::newRow("removal method") << "Common/RemovealMethod"
+                                    << "0";
+    QTest::newRow("minimum size") << "Common/MinFileSize"
+                                  << "0";
+    QTest::newRow("maximum size") << "Common/MaxFileSize"
+                                  << "100000";
+    QTest::newRow("hidden files") << "Common/HideSystemFile"
+                                  << "true";
+    QTest::newRow("format mode") << "Common/ScanFileType"
+                                 << "0";
+    QTest::newRow("threads") << "Common/ThreadCount" << threads;
+    QTest::newRow("scan method") << "Duplicate_files/scanMethod"
+                                 << "0";
+    QTest::newRow("duplicate rule") << "Duplicate_files/selectDuplicate"
+                                    << "2";
+    QTest::newRow("folder groups") << "Duplicate_files/scanDupDirectory"
+                                   << "false";
+    QTest::newRow("similar on") << "Similar_images/hasSimilar"
+                                << "true";
+    QTest::newRow("similarity") << "Similar_images/SimilarityValue"
+                                << "55";
+    QTest::newRow("features") << "Similar_images/FeaturesValue"
+                              << "50";
+    QTest::newRow("select similar") << "Similar_images/selectedSimilar"
+                                    << "false";
+    QTest::newRow("similar rule") << "Similar_images/selectionHint"
+                                  << "2";
+    QTest::newRow("scan priority") << "Similar_images/scanPriority"
+                                   << "1";
+    QTest::newRow("ratio limit") << "Similar_images/imageMinSize"
+                                 << "4";
+    QTest::newRow("ratio filter") << "Similar_images/isImageSize"
+                                  << "true";
+    // What the user collected stays.
+    QTest::newRow("kept: ignore list") << "Common/IgnorePathFile"
+                                       << "/skip/me";
+    QTest::newRow("kept: formats") << "Common/IgnoreFileType"
+                                   << "tmp";
+    QTest::newRow("kept: move folder") << "Common/TrashFolder"
+                                       << "/srv/moved";
+    QTest::newRow("kept: algorithm") << "Similar_images/algorithmHint"
+                                     << "2";
+    QTest::newRow("kept: priorities") << "map/4"
+                                      << "/data/a";
+}
+
+void TestDFPreferencesDialog::defaultRestoresAndKeeps()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, expected);
+    DFIgnoreListPreferences *common = m_store->ignoreListPreferences();
+    common->setRemovealMethod(DFIgnoreListPreferences::moveToFolder);
+    common->setTrashFolder(QStringLiteral("/srv/moved"));
+    common->setMinFileSize(10);
+    common->setMaxFileSize(20);
+    common->setHideSystemFile(false);
+    common->setScanFileType(1);
+    common->setThreadCount(1);
+    common->setIgnorePathFile({QStringLiteral("/skip/me")});
+    common->setIgnoreFileType({QStringLiteral("tmp")});
+    DFSelectionPreferences *duplicate = m_store->selectionPreferences();
+    duplicate->setScanMethod(DFSelectionPreferences::scanName);
+    duplicate->setSelectDuplicate(DFSelectionPreferences::NoSelected);
+    duplicate->setScanDupDirectory(true);
+    duplicate->setMapPriority({{QStringLiteral("/data/a"), 4}});
+    DFGenernalPreferences *similar = m_store->generalPreferences();
+    similar->setHasSimilar(false);
+    similar->setSimilarityValue(90);
+    similar->setFeaturesValue(30);
+    similar->setSelectedSimilar(true);
+    similar->setSelectionHint(DFSelectionPreferences::selectLowQuality);
+    similar->setScanPriority(DFGenernalPreferences::scanCustom);
+    similar->setImageMinSize(9);
+    similar->setIsImageSize(false);
+    similar->setAlgorithmHint(DFSelectionPreferences::rbPhash);
+    m_dialog->hide();
+    m_dialog->show();
+
+    // Written at once, and the dialog stays open.
+    run(QStringLiteral("btnDefault"));
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(stored(key), expected);
+}
+
+void TestDFPreferencesDialog::cancelLeavesFileUntouched()
+{
+    const QByteArray before = ScanTree::read(m_path);
+    run(QStringLiteral("rbMoveToFolder;lineEdit=/srv/moved;sbMaximumFileSize=5;"
+                       "folder:/data/a;rbFileName;hsSimilarity=90;chkEnableSimilar;btnCancel"));
+    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+    QCOMPARE(ScanTree::read(m_path), before);
+    QCOMPARE(int(m_store->ignoreListPreferences()->RemovealMethod()), 0);
+    QVERIFY(m_store->selectionPreferences()->mapPriority().isEmpty());
+}
+
+void TestDFPreferencesDialog::refusalKeepsEdits_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<bool>("scanRunning");
+    QTest::addColumn<QString>("text");
+    // The control whose edit must survive the refusal, and the value it must show.
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("minimum equal to maximum")
+        << "sbMinimumFileSize=1024;sbMaximumFileSize=1;btnOK" << false
+        << "The maximum file size cannot be less than the minimum file size."
+        << "sbMinimumFileSize"
+        << "1024";
+    QTest::newRow("empty move folder")
+        << "sbMinimumFileSize=1023;sbMaximumFileSize=1;rbMoveToFolder;btnOK" << false
+        << "Please select the folder where the deleted files will be moved to."
+        << "sbMinimumFileSize"
+        << "1023";
+    QTest::newRow("folder added twice")
+        << "folder:/data/a;folder:/data/a" << false << "The folder has been added."
+        << "cell:0"
+        << "1";
+    QTest::newRow("priority not a number")
+        << "folder:/data/a;cell:0=abc" << false << "abc is not a number."
+        << "cell:0"
+        << "1";
+    QTest::newRow("priority of another folder")
+        << "folder:/data/a;folder:/data/b;cell:1=1" << false << "1 is added."
+        << "cell:1"
+        << "2";
+    QTest::newRow("OK during a scan")
+        << "hsSimilarity=90;btnOK" << true
+        << "You cannot change settings of preferences while the scan is in progress."
+        << "hsSimilarity"
+        << "90";
+    QTest::newRow("Default during a scan")
+        << "hsSimilarity=90;btnDefault" << true
+        << "You cannot change settings of preferences while the scan is in progress."
+        << "hsSimilarity"
+        << "90";
+}
+
+void TestDFPreferencesDialog::refusalKeepsEdits()
+{
+    QFETCH(QString, steps);
+    QFETCH(bool, scanRunning);
+    QFETCH(QString, text);
+    QFETCH(QString, control);
+    QFETCH(QString, shown);
+    const QByteArray before = ScanTree::read(m_path);
+    m_scanRunning = scanRunning;
+    DialogAnswerer boxes;
+    run(steps);
+    QCOMPARE(boxes.texts, QStringList {text});
+    QCOMPARE(boxes.titles, QStringList {scanRunning ? QStringLiteral("Note") : "Error"});
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(ScanTree::read(m_path), before);
+    QString actual;
+    if (control.startsWith(QLatin1String("cell:")))
+        actual = m_dialog->findChild<QTableWidget *>(QStringLiteral("tableWidget"))
+                     ->item(control.mid(5).toInt(), 0)
+                     ->text();
+    else if (auto *spin = m_dialog->findChild<QSpinBox *>(control))
+        actual = QString::number(spin->value());
+    else
+        actual = QString::number(m_dialog->findChild<QSlider *>(control)->value());
+    QCOMPARE(actual, shown);
+}
+
+void TestDFPreferencesDialog::priorityOfAddedFolder_data()
+{
+    QTest::addColumn<PriorityMap>("priorities");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("empty map") << PriorityMap {} << 1;
+    QTest::newRow("one above the largest") << PriorityMap {{"/data/a", 5}, {"/data/b", 2}} << 6;
+    QTest::newRow("priorities below 1 do not count") << PriorityMap {{"/data/a", -3}} << 1;
+}
+
+void TestDFPreferencesDialog::priorityOfAddedFolder()
+{
+    QFETCH(PriorityMap, priorities);
+    QFETCH(int, expected);
+    m_store->selectionPreferences()->setMapPriority(priorities);
+    m_dialog->hide();
+    m_dialog->show();
+    run(QStringLiteral("folder:/data/new;btnOK"));
+    QCOMPARE(m_store->selectionPreferences()->mapPriority().value("/data/new"), expected);
+}
+
+void TestDFPreferencesDialog::reopeningShowsTheStore()
+{
+    // The result page changes the removal method while the dialog is closed.
+    run(QStringLiteral("hsSimilarity=90;btnCancel"));
+    m_store->ignoreListPreferences()->setRemovealMethod(DFIgnoreListPreferences::removePermanently);
+    m_dialog->show();
+    QVERIFY(m_dialog->findChild<QAbstractButton *>("rbRemovePermanently")->isChecked());
+    QCOMPARE(m_dialog->findChild<QSlider *>("hsSimilarity")->value(), 55);
+    // A new language puts the design-time texts back; the page fills them again.
+    m_dialog->retranslate();
+    QCOMPARE(m_dialog->findChild<QLabel *>("lblSimilarityValue")->text(), QStringLiteral("55%"));
+}
+
+void TestDFPreferencesDialog::okKeepsWhatOthersWrote()
+{
+    // A removal that starts while the dialog is open sets its crash marker; OK must not
+    // clear it, or a crash would go unreported at the next start.
+    m_store->ignoreListPreferences()->setDeleteException(1);
+    m_store->ignoreListPreferences()->setSaveFolder(QStringLiteral("/srv/projects"));
+    run(QStringLiteral("hsSimilarity=90;btnOK"));
+    QCOMPARE(stored("Common/deleteException"), QStringLiteral("1"));
+    QCOMPARE(stored("Common/SaveFolder"), QStringLiteral("/srv/projects"));
+    QCOMPARE(stored("Similar_images/SimilarityValue"), QStringLiteral("90"));
+}
+
+void TestDFPreferencesDialog::dropAddsPaths_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QStringList>("dropped");
+    QTest::addColumn<bool>("accepted");
+    // Ignore list entries, or "folder=priority" for the table, in the tree's names.
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("folder and file onto the ignore list")
+        << "lwIgnoreList"
+        << "" << QStringList {"photos", "notes.txt", "missing"} << true
+        << QStringList {"photos", "notes.txt"} << QStringList {};
+    QTest::newRow("nothing that exists")
+        << "lwIgnoreList"
+        << "" << QStringList {"missing"} << false << QStringList {} << QStringList {};
+    QTest::newRow("folders onto the table in drop order")
+        << "tableWidget"
+        << "" << QStringList {"photos", "notes.txt", "music"} << true
+        << QStringList {"music=2", "photos=1"} << QStringList {};
+    QTest::newRow("only a file onto the table")
+        << "tableWidget"
+        << "" << QStringList {"notes.txt"} << false << QStringList {} << QStringList {};
+    QTest::newRow("folder already in the table")
+        << "tableWidget"
+        << "folder:@/photos" << QStringList {"photos", "music"} << true
+        << QStringList {"music=2", "photos=1"} << QStringList {"The folder has been added."};
+}
+
+void TestDFPreferencesDialog::dropAddsPaths()
+{
+    QFETCH(QString, target);
+    QFETCH(QString, steps);
+    QFETCH(QStringList, dropped);
+    QFETCH(bool, accepted);
+    QFETCH(QStringList, entries);
+    QFETCH(QStringList, texts);
+    QTemporaryDir tree;
+    QVERIFY(QDir(tree.path()).mkpath("photos") && QDir(tree.path()).mkpath("music"));
+    ScanTree::write(tree.path(), "notes.txt", "x");
+    run(steps.replace('@', tree.path()));
+    QList<QUrl> urls;
+    for (const QString &name : dropped)
+        urls << QUrl::fromLocalFile(tree.filePath(name));
+    QMimeData data;
+    data.setUrls(urls);
+
+    DialogAnswerer boxes;
+    QWidget *viewport = m_dialog->findChild<QAbstractItemView *>(target)->viewport();
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    QDragEnterEvent enter(QPoint(5, 5), actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    QCOMPARE(enter.isAccepted(), accepted);
+    if (accepted) {
+        QDropEvent drop(QPointF(5, 5), actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &drop);
+        // Told "moved", a file manager may delete what was dragged.
+        QCOMPARE(drop.dropAction(), Qt::LinkAction);
+    }
+    QTest::qWait(100);
+
+    QStringList actual;
+    const QString root = tree.path() + '/';
+    for (const QString &path : m_dialog->ignoreListWidget()->preferences().IgnorePathFile())
+        actual << QString(path).remove(root);
+    const PriorityMap priorities = m_dialog->selectionWidget()->preferences().mapPriority();
+    for (auto it = priorities.cbegin(); it != priorities.cend(); ++it)
+        actual << QString(it.key()).remove(root) + '=' + QString::number(it.value());
+    QCOMPARE(actual, entries);
+    QCOMPARE(boxes.texts, texts);
+}
+
+QTEST_MAIN(TestDFPreferencesDialog)
+#include "tst_DFPreferencesDialog.moc"
