@@ -17,13 +17,13 @@
 <context>
     <name>DFIgnoreListWidget</name>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="158"/>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
         <source>Error</source>
         <translation>Error</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
         <source>The maximum file size cannot be less than the minimum file size.</source>
         <translation>El tamaño máximo de archivo no puede ser menor que el tamaño mínimo.</translation>
     </message>
@@ -96,12 +96,12 @@
         <translation>Aceptar</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="97"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="98"/>
         <source>You cannot change settings of preferences while the scan is in progress.</source>
         <translation>No se puede cambiar la configuración mientras el análisis está en curso.</translation>
     </message>
@@ -225,32 +225,6 @@
     </message>
 </context>
 <context>
-    <name>GroupListPage</name>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="35"/>
-        <source>%1 copies, %2</source>
-        <translation>%1 copias, %2</translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="58"/>
-        <source>Scan results</source>
-        <translation>Resultados del análisis</translation>
-    </message>
-    <message numerus="yes">
-        <location filename="../../src/results/GroupListPage.cpp" line="66"/>
-        <source>%n group(s) of duplicates, %1 in all</source>
-        <translation>
-            <numerusform>%n grupo de duplicados, %1 en total</numerusform>
-            <numerusform>%n grupos de duplicados, %1 en total</numerusform>
-        </translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="75"/>
-        <source>Back</source>
-        <translation>Volver</translation>
-    </message>
-</context>
-<context>
     <name>IgnoreList</name>
     <message>
         <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
@@ -356,124 +330,124 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="334"/>
         <source>Files scanned</source>
         <translation>Archivos analizados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
         <source>Duplicates found</source>
         <translation>Duplicados encontrados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="336"/>
         <source>Size of duplicates</source>
         <translation>Tamaño de los duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="337"/>
         <source>Progress</source>
         <translation>Progreso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="338"/>
         <source>Elapsed time</source>
         <translation>Tiempo transcurrido</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="386"/>
         <source>Local Computer</source>
         <translation>Equipo local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="409"/>
         <source>User Guide</source>
         <translation>Guía del usuario</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="410"/>
         <source>Product FAQ</source>
         <translation>Preguntas frecuentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="411"/>
         <source>Feedback and Support</source>
         <translation>Comentarios y soporte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="412"/>
         <source>Check for Updates</source>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="413"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1141"/>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1161"/>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
         <source>Show Log in Explorer</source>
         <translation>Mostrar registro en el explorador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
         <source>Show Results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="470"/>
         <source>Scan</source>
         <translation>Analizar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="483"/>
         <source>Stop</source>
         <translation>Detener</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="491"/>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="497"/>
         <source>New Scan</source>
         <translation>Nuevo análisis</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="502"/>
         <source>Show results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>«%1» es un archivo, no una carpeta. Solo se pueden analizar carpetas: añada en su lugar la carpeta que lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="563"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>No se encontró «%1». Puede que se haya movido o eliminado.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="566"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>No se añadió %n elemento porque no es una carpeta:</numerusform>
@@ -481,18 +455,18 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="568"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="618"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="635"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="701"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1108"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1227"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="589"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n carpeta añadida</numerusform>
@@ -500,28 +474,28 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="619"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="702"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Después de añadir cuentas y carpetas en la nube, ya no se pueden añadir carpetas locales.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="623"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="636"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Después de añadir carpetas locales, ya no se pueden añadir cuentas en la nube.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="840"/>
         <source>%1 and %2 could not be read.</source>
         <translation>No se pudieron leer %1 y %2.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n carpeta</numerusform>
@@ -529,7 +503,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n archivo</numerusform>
@@ -537,7 +511,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="843"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>No se pudo leer %n carpeta.</numerusform>
@@ -545,7 +519,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="845"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>No se pudo leer %n archivo.</numerusform>
@@ -553,27 +527,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="866"/>
         <source>Folders that could not be read</source>
         <translation>Carpetas que no se pudieron leer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
         <source>Files that could not be read</source>
         <translation>Archivos que no se pudieron leer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Enlaces no seguidos porque llevan fuera de las carpetas elegidas</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="870"/>
         <source>System folders not entered</source>
         <translation>Carpetas del sistema no exploradas</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>No se siguió %n enlace que lleva fuera de las carpetas elegidas.</numerusform>
@@ -581,86 +555,86 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="885"/>
         <source>Details</source>
         <translation>Detalles</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="894"/>
         <source>The chosen folder could not be read.</source>
         <translation>No se pudo leer la carpeta elegida.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="895"/>
         <source>The chosen folders could not be read.</source>
         <translation>No se pudieron leer las carpetas elegidas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="897"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Compruebe que todavía existe y que tiene permiso para abrirla.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="898"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Compruebe que todavía existen y que tiene permiso para abrirlas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="917"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1015"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1068"/>
         <source>Open File</source>
         <translation>Abrir archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="918"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>«%1» es una carpeta, no un archivo de proyecto. Para analizarla, añádala con el botón +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>El archivo de proyecto «%1» no existe.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1028"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1067"/>
         <source>Save File</source>
         <translation>Guardar archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Los resultados del análisis de la nube no se pueden guardar.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1109"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1228"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Los resultados del análisis actual no se han guardado. ¿Desea guardar el archivo?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1142"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versión %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1162"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>El nuevo idioma se aplicará la próxima vez que se inicie el programa.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1217"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Se detectó un cierre anómalo durante la última eliminación</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1212"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Elementos procesados antes de la interrupción: %1 de %2.&lt;br&gt;El registro de eliminaciones indica cada uno y adónde fue:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1203"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>
     </message>
@@ -673,6 +647,92 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
         <source>Error</source>
         <translation>Error</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewDialog</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="22"/>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="34"/>
+        <source>Chosen copy</source>
+        <translation>Copia elegida</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="36"/>
+        <source>Compared with</source>
+        <translation>Comparada con</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="42"/>
+        <source>Previous copy (Left arrow)</source>
+        <translation>Copia anterior (flecha izquierda)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="50"/>
+        <source>Next copy (Right arrow)</source>
+        <translation>Copia siguiente (flecha derecha)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="72"/>
+        <source>Left and Right arrow keys show the other copies of the group.</source>
+        <translation>Las teclas de flecha izquierda y derecha muestran las demás copias del grupo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="130"/>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewPane</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="105"/>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="106"/>
+        <source>Modified</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="107"/>
+        <source>Similarity</source>
+        <translation>Similitud</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="112"/>
+        <source>Remove this copy</source>
+        <translation>Eliminar esta copia</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="182"/>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="193"/>
+        <source>%1 file</source>
+        <translation>Archivo %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="200"/>
+        <source>Loading…</source>
+        <translation>Cargando…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
+        <source>This picture cannot be shown.</source>
+        <translation>No se puede mostrar esta imagen.</translation>
     </message>
 </context>
 <context>
@@ -699,6 +759,563 @@
             <numerusform>... y %n más</numerusform>
             <numerusform>... y %n más</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>RemovalSummaryDialog</name>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="22"/>
+        <source>Removal finished</source>
+        <translation>Eliminación finalizada</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Item</source>
+        <translation>Elemento</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Details</source>
+        <translation type="unfinished">Detalles</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>
+        <source>Removed</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="50"/>
+        <source>Moved</source>
+        <translation>Movido</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="51"/>
+        <source>In the trash</source>
+        <translation>En la papelera</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Kept</source>
+        <translation>Conservado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Failed</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="74"/>
+        <source>Space freed: %1</source>
+        <translation>Espacio liberado: %1</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="93"/>
+        <source>%n item(s) removed.</source>
+        <translation>
+            <numerusform>Se eliminó %n elemento.</numerusform>
+            <numerusform>Se eliminaron %n elementos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="96"/>
+        <source>%n item(s) stayed in place; the reasons are listed below.</source>
+        <translation>
+            <numerusform>%n elemento se quedó en su sitio; los motivos se indican a continuación.</numerusform>
+            <numerusform>%n elementos se quedaron en su sitio; los motivos se indican a continuación.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ResultForm</name>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="52"/>
+        <source>Back</source>
+        <translation>Volver</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="62"/>
+        <source>Scan Results</source>
+        <translation>Resultados del análisis</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="82"/>
+        <source>Search by name</source>
+        <translation>Buscar por nombre</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="98"/>
+        <source>Sort by</source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="106"/>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="111"/>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="116"/>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="121"/>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="126"/>
+        <source>Selected</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="153"/>
+        <source>Loading results...</source>
+        <translation>Cargando resultados...</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="225"/>
+        <location filename="../../src/results/ResultForm.cpp" line="590"/>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="238"/>
+        <location filename="../../src/results/ResultForm.ui" line="716"/>
+        <location filename="../../src/results/ResultForm.cpp" line="72"/>
+        <source>Images</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="251"/>
+        <location filename="../../src/results/ResultForm.ui" line="759"/>
+        <location filename="../../src/results/ResultForm.cpp" line="74"/>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="264"/>
+        <location filename="../../src/results/ResultForm.ui" line="802"/>
+        <location filename="../../src/results/ResultForm.cpp" line="76"/>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="277"/>
+        <location filename="../../src/results/ResultForm.ui" line="845"/>
+        <location filename="../../src/results/ResultForm.cpp" line="78"/>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="290"/>
+        <location filename="../../src/results/ResultForm.ui" line="888"/>
+        <location filename="../../src/results/ResultForm.cpp" line="80"/>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="303"/>
+        <location filename="../../src/results/ResultForm.cpp" line="82"/>
+        <source>Packages</source>
+        <translation>Paquetes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="316"/>
+        <location filename="../../src/results/ResultForm.ui" line="931"/>
+        <location filename="../../src/results/ResultForm.cpp" line="84"/>
+        <source>Others</source>
+        <translation>Otros</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="469"/>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="479"/>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="489"/>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="502"/>
+        <source>Grid</source>
+        <translation>Cuadrícula</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="515"/>
+        <source>Flow</source>
+        <translation>Mosaico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="546"/>
+        <source>Thumbnail size</source>
+        <translation>Tamaño de las miniaturas</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="661"/>
+        <source>Duplicates by type</source>
+        <translation>Duplicados por tipo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="972"/>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1013"/>
+        <source>Can be freed</source>
+        <translation>Se puede liberar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1102"/>
+        <source>Selected:</source>
+        <translation>Seleccionados:</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1123"/>
+        <source>Remove Selected</source>
+        <translation>Eliminar seleccionados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="124"/>
+        <source>If it keeps happening, write to &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</source>
+        <translation>Si el problema persiste, escriba a &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="127"/>
+        <source>If it keeps happening, please send us the log files from &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</source>
+        <translation>Si el problema persiste, envíenos los archivos de registro de &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="304"/>
+        <source>Select by Filename</source>
+        <translation>Seleccionar por nombre de archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="305"/>
+        <source>Select by Priority</source>
+        <translation>Seleccionar por prioridad</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="306"/>
+        <source>Select Newest</source>
+        <translation>Seleccionar los más recientes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="307"/>
+        <source>Select Oldest</source>
+        <translation>Seleccionar los más antiguos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="308"/>
+        <source>Select high-quality</source>
+        <translation>Seleccionar alta calidad</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="309"/>
+        <source>Select low-quality</source>
+        <translation>Seleccionar baja calidad</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="310"/>
+        <source>Select high-resolution</source>
+        <translation>Seleccionar alta resolución</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="311"/>
+        <source>Select low-resolution</source>
+        <translation>Seleccionar baja resolución</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="312"/>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="313"/>
+        <source>Deselect</source>
+        <translation>Anular selección</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="330"/>
+        <source>Show Only Duplicate Files</source>
+        <translation>Mostrar solo archivos duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="331"/>
+        <source>Show Only Selected Files</source>
+        <translation>Mostrar solo archivos seleccionados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="332"/>
+        <source>Show All Files</source>
+        <translation>Mostrar todos los archivos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="352"/>
+        <source>Similarity</source>
+        <translation>Similitud</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="386"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1598"/>
+        <source>Move to Recycle Bin</source>
+        <translation>Mover a la Papelera de reciclaje</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="387"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1599"/>
+        <source>Remove permanently</source>
+        <translation>Eliminar permanentemente</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="388"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1600"/>
+        <source>Move to Folder</source>
+        <translation>Mover a una carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="423"/>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Loading Data</source>
+        <translation>Cargando datos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Data is still loading, please wait...</source>
+        <translation>Los datos aún se están cargando; espere...</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="606"/>
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n grupo</numerusform>
+            <numerusform>%n grupos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="608"/>
+        <source>loading…</source>
+        <translation>cargando…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="812"/>
+        <source>%1% similar</source>
+        <translation>%1&#xa0;% de similitud</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="824"/>
+        <source>%1 · %n copies · %2</source>
+        <translation>
+            <numerusform>%1 · %n copia · %2</numerusform>
+            <numerusform>%1 · %n copias · %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="938"/>
+        <source>Ignore Group</source>
+        <translation>Ignorar grupo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="940"/>
+        <source>Remove Selected Files of This Group</source>
+        <translation>Eliminar los archivos seleccionados de este grupo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="956"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <source>Show in Folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="957"/>
+        <source>Hide from Results</source>
+        <translation>Ocultar de los resultados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="959"/>
+        <source>Remove This File</source>
+        <translation>Eliminar este archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Open Link Failed</source>
+        <translation>No se pudo abrir el enlace</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Failed to get the web link for the file.</source>
+        <translation>No se pudo obtener el enlace web del archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1413"/>
+        <source>The file was not found.</source>
+        <translation>No se encontró el archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1069"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1252"/>
+        <source>Delete Failed</source>
+        <translation>Error al eliminar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1070"/>
+        <source>Failed to delete the file: %1</source>
+        <translation>No se pudo eliminar el archivo: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>No selected</source>
+        <translation>Sin selección</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>The current group has no selected files.</source>
+        <translation>El grupo actual no tiene archivos seleccionados.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1173"/>
+        <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>Los archivos seleccionados se moverán a la papelera de la unidad en la nube; los que sean demasiado grandes podrían eliminarse permanentemente. ¿Seguro que desea eliminarlos?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1177"/>
+        <source>The selected files will be permanently deleted, are you sure to delete?</source>
+        <translation>Los archivos seleccionados se eliminarán permanentemente. ¿Seguro que desea eliminarlos?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1179"/>
+        <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>Los archivos seleccionados se moverán a la Papelera de reciclaje; los que sean demasiado grandes podrían eliminarse permanentemente. ¿Seguro que desea eliminarlos?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>No Selected Files!</source>
+        <translation>¡No hay archivos seleccionados!</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1231"/>
+        <source>In some groups every copy is selected, so nothing of them would be kept.
+
+Remove every copy of those files too? With &quot;No&quot; one copy of each stays.</source>
+        <translation>En algunos grupos están seleccionadas todas las copias, así que no se conservaría ninguna.
+
+¿Eliminar también todas las copias de esos archivos? Con «No» se conserva una copia de cada uno.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1253"/>
+        <source>Nothing was removed: the removal record %1 cannot be written (%2).</source>
+        <translation>No se eliminó nada: no se puede escribir el registro de eliminaciones %1 (%2).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1266"/>
+        <source>Removing files</source>
+        <translation>Eliminando archivos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1268"/>
+        <source>Removing the selected files…</source>
+        <translation>Eliminando los archivos seleccionados…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1345"/>
+        <source>the removal record cannot be written: %1</source>
+        <translation>no se puede escribir el registro de eliminaciones: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1401"/>
+        <source>The file changed after the scan.</source>
+        <translation>El archivo cambió después del análisis.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1403"/>
+        <source>No other copy of it would be left.</source>
+        <translation>No quedaría ninguna otra copia.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1405"/>
+        <source>Its content no longer matches the copy that stays.</source>
+        <translation>Su contenido ya no coincide con la copia que se conserva.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1407"/>
+        <source>Not everything in it has a copy in the folder that stays.</source>
+        <translation>No todo su contenido tiene copia en la carpeta que se conserva.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1409"/>
+        <source>Every copy of its group was selected; this one stays.</source>
+        <translation>Se seleccionaron todas las copias del grupo; esta se conserva.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1416"/>
+        <source>The item is not a file.</source>
+        <translation>El elemento no es un archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1418"/>
+        <source>The item is not a directory.</source>
+        <translation>El elemento no es una carpeta.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1420"/>
+        <source>Failed to move the file.</source>
+        <translation>No se pudo mover el archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1426"/>
+        <source>Permission denied. Please check the file&apos;s access rights.</source>
+        <translation>Permiso denegado. Compruebe los permisos de acceso del archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1428"/>
+        <source>The file is currently in use and cannot be deleted.</source>
+        <translation>El archivo está en uso y no se puede eliminar.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1430"/>
+        <source>Failed to move the file to the recycle bin.</source>
+        <translation>No se pudo mover el archivo a la Papelera de reciclaje.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1433"/>
+        <source>An unknown error occurred while deleting the file.</source>
+        <translation>Se produjo un error desconocido al eliminar el archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1526"/>
+        <source>Incomplete scan</source>
+        <translation>Análisis incompleto</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1527"/>
+        <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
+        <translation>Este análisis no pudo completar la comparación de imágenes por falta de &lt;br&gt;memoria y espacio en disco. Elimine archivos duplicados&lt;br&gt;o seleccione menos carpetas e inténtelo de nuevo. Asegúrese de disponer de al menos &lt;br&gt;1 GB de memoria y 1 GB de espacio libre en la unidad del sistema. &lt;br&gt;</translation>
     </message>
 </context>
 <context>
@@ -808,46 +1425,126 @@
     </message>
 </context>
 <context>
+    <name>TImageItemDelegate</name>
+    <message>
+        <location filename="../../src/results/TImageItemDelegate.cpp" line="204"/>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>TImageModel</name>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copia</numerusform>
+            <numerusform>%n copias</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="85"/>
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n seleccionada</numerusform>
+            <numerusform>%n seleccionadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="168"/>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="170"/>
+        <source>Modified</source>
+        <translation>Modificado</translation>
+    </message>
+</context>
+<context>
     <name>TOpenSaveThread</name>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="223"/>
         <source>The project file could not be opened.</source>
         <translation>No se pudo abrir el archivo de proyecto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="225"/>
         <source>The project file is damaged or incomplete.</source>
         <translation>El archivo de proyecto está dañado o incompleto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="227"/>
         <source>This file is not a project file of this program.</source>
         <translation>Este archivo no es un archivo de proyecto de este programa.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="229"/>
         <source>The project file contains invalid data and was not opened.</source>
         <translation>El archivo de proyecto contiene datos no válidos y no se abrió.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="231"/>
         <source>None of the duplicate groups in this project exist any more.</source>
         <translation>Ya no existe ninguno de los grupos de duplicados de este proyecto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="233"/>
         <source>The project file could not be saved.</source>
         <translation>No se pudo guardar el archivo de proyecto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="235"/>
         <source>The operation was cancelled.</source>
         <translation>Se canceló la operación.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="237"/>
         <source>Unknown error.</source>
         <translation>Error desconocido.</translation>
+    </message>
+</context>
+<context>
+    <name>TPieChart</name>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="194"/>
+        <source>Images</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="196"/>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="198"/>
+        <source>Musics</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="200"/>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="202"/>
+        <source>Folder</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="204"/>
+        <source>Others</source>
+        <translation>Otros</translation>
     </message>
 </context>
 </TS>

@@ -17,13 +17,13 @@
 <context>
     <name>DFIgnoreListWidget</name>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="158"/>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
         <source>Error</source>
         <translation>Errore</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
         <source>The maximum file size cannot be less than the minimum file size.</source>
         <translation>La dimensione massima del file non può essere inferiore a quella minima.</translation>
     </message>
@@ -96,12 +96,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="97"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="98"/>
         <source>You cannot change settings of preferences while the scan is in progress.</source>
         <translation>Non è possibile modificare le impostazioni durante la scansione.</translation>
     </message>
@@ -225,32 +225,6 @@
     </message>
 </context>
 <context>
-    <name>GroupListPage</name>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="35"/>
-        <source>%1 copies, %2</source>
-        <translation>%1 copie, %2</translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="58"/>
-        <source>Scan results</source>
-        <translation>Risultati della scansione</translation>
-    </message>
-    <message numerus="yes">
-        <location filename="../../src/results/GroupListPage.cpp" line="66"/>
-        <source>%n group(s) of duplicates, %1 in all</source>
-        <translation>
-            <numerusform>%n gruppo di duplicati, %1 in totale</numerusform>
-            <numerusform>%n gruppi di duplicati, %1 in totale</numerusform>
-        </translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="75"/>
-        <source>Back</source>
-        <translation>Indietro</translation>
-    </message>
-</context>
-<context>
     <name>IgnoreList</name>
     <message>
         <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
@@ -356,124 +330,124 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="334"/>
         <source>Files scanned</source>
         <translation>File analizzati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
         <source>Duplicates found</source>
         <translation>Duplicati trovati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="336"/>
         <source>Size of duplicates</source>
         <translation>Dimensione dei duplicati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="337"/>
         <source>Progress</source>
         <translation>Avanzamento</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="338"/>
         <source>Elapsed time</source>
         <translation>Tempo trascorso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="386"/>
         <source>Local Computer</source>
         <translation>Computer locale</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="409"/>
         <source>User Guide</source>
         <translation>Guida utente</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="410"/>
         <source>Product FAQ</source>
         <translation>Domande frequenti</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="411"/>
         <source>Feedback and Support</source>
         <translation>Feedback e supporto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="412"/>
         <source>Check for Updates</source>
         <translation>Verifica aggiornamenti</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="413"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1141"/>
         <source>About</source>
         <translation>Informazioni</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1161"/>
         <source>Language</source>
         <translation>Lingua</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
         <source>Show Log in Explorer</source>
         <translation>Mostra log in Esplora risorse</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Open Project</source>
         <translation>Apri progetto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Save Project</source>
         <translation>Salva progetto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
         <source>Show Results</source>
         <translation>Mostra risultati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="470"/>
         <source>Scan</source>
         <translation>Scansiona</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="483"/>
         <source>Stop</source>
         <translation>Interrompi</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="491"/>
         <source>Continue</source>
         <translation>Continua</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="497"/>
         <source>New Scan</source>
         <translation>Nuova scansione</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="502"/>
         <source>Show results</source>
         <translation>Mostra risultati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>&quot;%1&quot; è un file, non una cartella. Si possono analizzare solo cartelle: aggiungi invece la cartella che lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="563"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>Impossibile trovare &quot;%1&quot;. Potrebbe essere stato spostato o rimosso.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="566"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>%n elemento non è stato aggiunto perché non è una cartella:</numerusform>
@@ -481,18 +455,18 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="568"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="618"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="635"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="701"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1108"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1227"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="589"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n cartella aggiunta</numerusform>
@@ -500,28 +474,28 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="619"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="702"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Dopo aver aggiunto account e cartelle cloud, non è più possibile aggiungere cartelle locali.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="623"/>
         <source>Select Folder</source>
         <translation>Seleziona cartella</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="636"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Dopo aver aggiunto cartelle locali, non è più possibile aggiungere account cloud.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="840"/>
         <source>%1 and %2 could not be read.</source>
         <translation>Impossibile leggere %1 e %2.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n cartella</numerusform>
@@ -529,7 +503,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n file</numerusform>
@@ -537,7 +511,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="843"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>Impossibile leggere %n cartella.</numerusform>
@@ -545,7 +519,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="845"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>Impossibile leggere %n file.</numerusform>
@@ -553,27 +527,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="866"/>
         <source>Folders that could not be read</source>
         <translation>Cartelle che non è stato possibile leggere</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
         <source>Files that could not be read</source>
         <translation>File che non è stato possibile leggere</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Collegamenti non seguiti perché portano fuori dalle cartelle scelte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="870"/>
         <source>System folders not entered</source>
         <translation>Cartelle di sistema non esplorate</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>%n collegamento che porta fuori dalle cartelle scelte non è stato seguito.</numerusform>
@@ -581,86 +555,86 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="885"/>
         <source>Details</source>
         <translation>Dettagli</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="894"/>
         <source>The chosen folder could not be read.</source>
         <translation>Impossibile leggere la cartella scelta.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="895"/>
         <source>The chosen folders could not be read.</source>
         <translation>Impossibile leggere le cartelle scelte.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="897"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Verifica che esista ancora e di avere il permesso di aprirla.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="898"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Verifica che esistano ancora e di avere il permesso di aprirle.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="917"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1015"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1068"/>
         <source>Open File</source>
         <translation>Apri file</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="918"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>&quot;%1&quot; è una cartella, non un file di progetto. Per analizzarla, aggiungila con il pulsante +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>Il file di progetto &quot;%1&quot; non esiste.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1028"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1067"/>
         <source>Save File</source>
         <translation>Salva file</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>I risultati della scansione cloud non possono essere salvati.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1109"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1228"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>I risultati della scansione corrente non sono stati salvati. Salvare il file?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1142"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versione %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1162"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>La nuova lingua sarà applicata al prossimo avvio del programma.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1217"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Rilevata chiusura anomala durante l&apos;ultima eliminazione</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1212"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Elementi elaborati prima dell’interruzione: %1 di %2.&lt;br&gt;Il registro delle eliminazioni elenca ciascuno e dove è finito:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1203"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Il programma si è chiuso in modo imprevisto durante l&apos;ultima eliminazione in blocco,&lt;br&gt;forse a causa di un software antivirus.&lt;br&gt;&lt;br&gt;Disattivare temporaneamente l&apos;antivirus o aggiungere questa applicazione&lt;br&gt;al suo elenco di esclusioni per evitare errori di eliminazione o arresti anomali.</translation>
     </message>
@@ -673,6 +647,92 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
         <source>Error</source>
         <translation>Errore</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewDialog</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="22"/>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="34"/>
+        <source>Chosen copy</source>
+        <translation>Copia scelta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="36"/>
+        <source>Compared with</source>
+        <translation>Confrontata con</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="42"/>
+        <source>Previous copy (Left arrow)</source>
+        <translation>Copia precedente (freccia sinistra)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="50"/>
+        <source>Next copy (Right arrow)</source>
+        <translation>Copia successiva (freccia destra)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="72"/>
+        <source>Left and Right arrow keys show the other copies of the group.</source>
+        <translation>I tasti freccia sinistra e destra mostrano le altre copie del gruppo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="130"/>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewPane</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="105"/>
+        <source>Resolution</source>
+        <translation>Risoluzione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="106"/>
+        <source>Modified</source>
+        <translation>Modificato</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="107"/>
+        <source>Similarity</source>
+        <translation>Somiglianza</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="112"/>
+        <source>Remove this copy</source>
+        <translation>Rimuovi questa copia</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="182"/>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="193"/>
+        <source>%1 file</source>
+        <translation>File %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="200"/>
+        <source>Loading…</source>
+        <translation>Caricamento…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
+        <source>This picture cannot be shown.</source>
+        <translation>Impossibile visualizzare questa immagine.</translation>
     </message>
 </context>
 <context>
@@ -699,6 +759,563 @@
             <numerusform>... e altri %n</numerusform>
             <numerusform>... e altri %n</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>RemovalSummaryDialog</name>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="22"/>
+        <source>Removal finished</source>
+        <translation>Rimozione completata</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Item</source>
+        <translation>Elemento</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Details</source>
+        <translation type="unfinished">Dettagli</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>
+        <source>Removed</source>
+        <translation>Rimosso</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="50"/>
+        <source>Moved</source>
+        <translation>Spostato</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="51"/>
+        <source>In the trash</source>
+        <translation>Nel cestino</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Kept</source>
+        <translation>Conservato</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Failed</source>
+        <translation>Non riuscito</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="74"/>
+        <source>Space freed: %1</source>
+        <translation>Spazio liberato: %1</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="93"/>
+        <source>%n item(s) removed.</source>
+        <translation>
+            <numerusform>%n elemento rimosso.</numerusform>
+            <numerusform>%n elementi rimossi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="96"/>
+        <source>%n item(s) stayed in place; the reasons are listed below.</source>
+        <translation>
+            <numerusform>%n elemento è rimasto al suo posto; i motivi sono elencati sotto.</numerusform>
+            <numerusform>%n elementi sono rimasti al loro posto; i motivi sono elencati sotto.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ResultForm</name>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="52"/>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="62"/>
+        <source>Scan Results</source>
+        <translation>Risultati della scansione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="82"/>
+        <source>Search by name</source>
+        <translation>Cerca per nome</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="98"/>
+        <source>Sort by</source>
+        <translation>Ordina per</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="106"/>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="111"/>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="116"/>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="121"/>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="126"/>
+        <source>Selected</source>
+        <translation>Selezione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="153"/>
+        <source>Loading results...</source>
+        <translation>Caricamento dei risultati...</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="225"/>
+        <location filename="../../src/results/ResultForm.cpp" line="590"/>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="238"/>
+        <location filename="../../src/results/ResultForm.ui" line="716"/>
+        <location filename="../../src/results/ResultForm.cpp" line="72"/>
+        <source>Images</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="251"/>
+        <location filename="../../src/results/ResultForm.ui" line="759"/>
+        <location filename="../../src/results/ResultForm.cpp" line="74"/>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="264"/>
+        <location filename="../../src/results/ResultForm.ui" line="802"/>
+        <location filename="../../src/results/ResultForm.cpp" line="76"/>
+        <source>Music</source>
+        <translation>Musica</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="277"/>
+        <location filename="../../src/results/ResultForm.ui" line="845"/>
+        <location filename="../../src/results/ResultForm.cpp" line="78"/>
+        <source>Videos</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="290"/>
+        <location filename="../../src/results/ResultForm.ui" line="888"/>
+        <location filename="../../src/results/ResultForm.cpp" line="80"/>
+        <source>Folders</source>
+        <translation>Cartelle</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="303"/>
+        <location filename="../../src/results/ResultForm.cpp" line="82"/>
+        <source>Packages</source>
+        <translation>Pacchetti</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="316"/>
+        <location filename="../../src/results/ResultForm.ui" line="931"/>
+        <location filename="../../src/results/ResultForm.cpp" line="84"/>
+        <source>Others</source>
+        <translation>Altri</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="469"/>
+        <source>Select</source>
+        <translation>Seleziona</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="479"/>
+        <source>Filter</source>
+        <translation>Filtra</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="489"/>
+        <source>List</source>
+        <translation>Elenco</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="502"/>
+        <source>Grid</source>
+        <translation>Griglia</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="515"/>
+        <source>Flow</source>
+        <translation>Mosaico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="546"/>
+        <source>Thumbnail size</source>
+        <translation>Dimensione delle miniature</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="661"/>
+        <source>Duplicates by type</source>
+        <translation>Duplicati per tipo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="972"/>
+        <source>Total</source>
+        <translation>Totale</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1013"/>
+        <source>Can be freed</source>
+        <translation>Liberabile</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1102"/>
+        <source>Selected:</source>
+        <translation>Selezionati:</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1123"/>
+        <source>Remove Selected</source>
+        <translation>Rimuovi selezionati</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="124"/>
+        <source>If it keeps happening, write to &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</source>
+        <translation>Se il problema persiste, scrivi a &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="127"/>
+        <source>If it keeps happening, please send us the log files from &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</source>
+        <translation>Se il problema persiste, inviaci i file di log della cartella &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="304"/>
+        <source>Select by Filename</source>
+        <translation>Seleziona per nome file</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="305"/>
+        <source>Select by Priority</source>
+        <translation>Seleziona per priorità</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="306"/>
+        <source>Select Newest</source>
+        <translation>Seleziona i più recenti</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="307"/>
+        <source>Select Oldest</source>
+        <translation>Seleziona i più vecchi</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="308"/>
+        <source>Select high-quality</source>
+        <translation>Seleziona alta qualità</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="309"/>
+        <source>Select low-quality</source>
+        <translation>Seleziona bassa qualità</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="310"/>
+        <source>Select high-resolution</source>
+        <translation>Seleziona alta risoluzione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="311"/>
+        <source>Select low-resolution</source>
+        <translation>Seleziona bassa risoluzione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="312"/>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="313"/>
+        <source>Deselect</source>
+        <translation>Deseleziona</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="330"/>
+        <source>Show Only Duplicate Files</source>
+        <translation>Mostra solo file duplicati</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="331"/>
+        <source>Show Only Selected Files</source>
+        <translation>Mostra solo file selezionati</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="332"/>
+        <source>Show All Files</source>
+        <translation>Mostra tutti i file</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="352"/>
+        <source>Similarity</source>
+        <translation>Somiglianza</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="386"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1598"/>
+        <source>Move to Recycle Bin</source>
+        <translation>Sposta nel Cestino</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="387"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1599"/>
+        <source>Remove permanently</source>
+        <translation>Elimina definitivamente</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="388"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1600"/>
+        <source>Move to Folder</source>
+        <translation>Sposta in una cartella</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="423"/>
+        <source>Select Folder</source>
+        <translation>Seleziona cartella</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Loading Data</source>
+        <translation>Caricamento dati</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Data is still loading, please wait...</source>
+        <translation>I dati sono ancora in caricamento, attendi...</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="606"/>
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n gruppo</numerusform>
+            <numerusform>%n gruppi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="608"/>
+        <source>loading…</source>
+        <translation>caricamento…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="812"/>
+        <source>%1% similar</source>
+        <translation>simile al %1%</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="824"/>
+        <source>%1 · %n copies · %2</source>
+        <translation>
+            <numerusform>%1 · %n copia · %2</numerusform>
+            <numerusform>%1 · %n copie · %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="938"/>
+        <source>Ignore Group</source>
+        <translation>Ignora gruppo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="940"/>
+        <source>Remove Selected Files of This Group</source>
+        <translation>Rimuovi i file selezionati di questo gruppo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="956"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <source>Show in Folder</source>
+        <translation>Mostra nella cartella</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="957"/>
+        <source>Hide from Results</source>
+        <translation>Nascondi dai risultati</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="959"/>
+        <source>Remove This File</source>
+        <translation>Rimuovi questo file</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Open Link Failed</source>
+        <translation>Impossibile aprire il collegamento</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Failed to get the web link for the file.</source>
+        <translation>Impossibile ottenere il collegamento web del file.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1413"/>
+        <source>The file was not found.</source>
+        <translation>Il file non è stato trovato.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1069"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1252"/>
+        <source>Delete Failed</source>
+        <translation>Eliminazione non riuscita</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1070"/>
+        <source>Failed to delete the file: %1</source>
+        <translation>Impossibile eliminare il file: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>No selected</source>
+        <translation>Nessuna selezione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>The current group has no selected files.</source>
+        <translation>Il gruppo corrente non ha file selezionati.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1173"/>
+        <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>I file selezionati verranno spostati nel cestino dell&apos;unità cloud; quelli troppo grandi potrebbero essere eliminati definitivamente. Vuoi davvero eliminarli?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1177"/>
+        <source>The selected files will be permanently deleted, are you sure to delete?</source>
+        <translation>I file selezionati verranno eliminati definitivamente. Vuoi davvero eliminarli?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1179"/>
+        <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>I file selezionati verranno spostati nel Cestino; quelli troppo grandi potrebbero essere eliminati definitivamente. Vuoi davvero eliminarli?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>No Selected Files!</source>
+        <translation>Nessun file selezionato!</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1231"/>
+        <source>In some groups every copy is selected, so nothing of them would be kept.
+
+Remove every copy of those files too? With &quot;No&quot; one copy of each stays.</source>
+        <translation>In alcuni gruppi sono selezionate tutte le copie, quindi non ne resterebbe nessuna.
+
+Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una copia per ciascuno.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1253"/>
+        <source>Nothing was removed: the removal record %1 cannot be written (%2).</source>
+        <translation>Non è stato rimosso nulla: impossibile scrivere il registro delle eliminazioni %1 (%2).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1266"/>
+        <source>Removing files</source>
+        <translation>Rimozione dei file</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1268"/>
+        <source>Removing the selected files…</source>
+        <translation>Rimozione dei file selezionati…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1345"/>
+        <source>the removal record cannot be written: %1</source>
+        <translation>impossibile scrivere il registro delle eliminazioni: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1401"/>
+        <source>The file changed after the scan.</source>
+        <translation>Il file è cambiato dopo la scansione.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1403"/>
+        <source>No other copy of it would be left.</source>
+        <translation>Non resterebbe nessun’altra copia.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1405"/>
+        <source>Its content no longer matches the copy that stays.</source>
+        <translation>Il contenuto non corrisponde più alla copia che resta.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1407"/>
+        <source>Not everything in it has a copy in the folder that stays.</source>
+        <translation>Non tutto il contenuto ha una copia nella cartella che resta.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1409"/>
+        <source>Every copy of its group was selected; this one stays.</source>
+        <translation>Erano selezionate tutte le copie del gruppo; questa resta.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1416"/>
+        <source>The item is not a file.</source>
+        <translation>L&apos;elemento non è un file.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1418"/>
+        <source>The item is not a directory.</source>
+        <translation>L&apos;elemento non è una cartella.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1420"/>
+        <source>Failed to move the file.</source>
+        <translation>Impossibile spostare il file.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1426"/>
+        <source>Permission denied. Please check the file&apos;s access rights.</source>
+        <translation>Accesso negato. Verifica i permessi di accesso del file.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1428"/>
+        <source>The file is currently in use and cannot be deleted.</source>
+        <translation>Il file è in uso e non può essere eliminato.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1430"/>
+        <source>Failed to move the file to the recycle bin.</source>
+        <translation>Impossibile spostare il file nel Cestino.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1433"/>
+        <source>An unknown error occurred while deleting the file.</source>
+        <translation>Si è verificato un errore sconosciuto durante l&apos;eliminazione del file.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1526"/>
+        <source>Incomplete scan</source>
+        <translation>Scansione incompleta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1527"/>
+        <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
+        <translation>Questa scansione non ha potuto completare il confronto delle immagini per &lt;br&gt;limiti di memoria e di spazio su disco. Elimina i file duplicati&lt;br&gt;o seleziona meno cartelle e riprova. Assicurati che siano disponibili almeno 1 GB di &lt;br&gt;memoria e 1 GB di spazio libero sull&apos;unità di sistema. &lt;br&gt;</translation>
     </message>
 </context>
 <context>
@@ -808,46 +1425,126 @@
     </message>
 </context>
 <context>
+    <name>TImageItemDelegate</name>
+    <message>
+        <location filename="../../src/results/TImageItemDelegate.cpp" line="204"/>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>TImageModel</name>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copia</numerusform>
+            <numerusform>%n copie</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="85"/>
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n selezionata</numerusform>
+            <numerusform>%n selezionate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="168"/>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="170"/>
+        <source>Modified</source>
+        <translation>Modificato</translation>
+    </message>
+</context>
+<context>
     <name>TOpenSaveThread</name>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="223"/>
         <source>The project file could not be opened.</source>
         <translation>Impossibile aprire il file di progetto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="225"/>
         <source>The project file is damaged or incomplete.</source>
         <translation>Il file di progetto è danneggiato o incompleto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="227"/>
         <source>This file is not a project file of this program.</source>
         <translation>Questo file non è un file di progetto di questo programma.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="229"/>
         <source>The project file contains invalid data and was not opened.</source>
         <translation>Il file di progetto contiene dati non validi e non è stato aperto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="231"/>
         <source>None of the duplicate groups in this project exist any more.</source>
         <translation>Nessuno dei gruppi di duplicati di questo progetto esiste più.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="233"/>
         <source>The project file could not be saved.</source>
         <translation>Impossibile salvare il file di progetto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="235"/>
         <source>The operation was cancelled.</source>
         <translation>L&apos;operazione è stata annullata.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="237"/>
         <source>Unknown error.</source>
         <translation>Errore sconosciuto.</translation>
+    </message>
+</context>
+<context>
+    <name>TPieChart</name>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="194"/>
+        <source>Images</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="196"/>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="198"/>
+        <source>Musics</source>
+        <translation>Musica</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="200"/>
+        <source>Videos</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="202"/>
+        <source>Folder</source>
+        <translation>Cartelle</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="204"/>
+        <source>Others</source>
+        <translation>Altri</translation>
     </message>
 </context>
 </TS>

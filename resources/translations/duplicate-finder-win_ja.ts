@@ -17,13 +17,13 @@
 <context>
     <name>DFIgnoreListWidget</name>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="158"/>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
         <source>Error</source>
         <translation>エラー</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
         <source>The maximum file size cannot be less than the minimum file size.</source>
         <translation>最大ファイルサイズを最小ファイルサイズより小さくすることはできません。</translation>
     </message>
@@ -96,12 +96,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="97"/>
         <source>Note</source>
         <translation>注意</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="98"/>
         <source>You cannot change settings of preferences while the scan is in progress.</source>
         <translation>スキャン中は設定を変更できません。</translation>
     </message>
@@ -225,31 +225,6 @@
     </message>
 </context>
 <context>
-    <name>GroupListPage</name>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="35"/>
-        <source>%1 copies, %2</source>
-        <translation>%1 個のコピー、%2</translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="58"/>
-        <source>Scan results</source>
-        <translation>スキャン結果</translation>
-    </message>
-    <message numerus="yes">
-        <location filename="../../src/results/GroupListPage.cpp" line="66"/>
-        <source>%n group(s) of duplicates, %1 in all</source>
-        <translation>
-            <numerusform>%n 個の重複グループ、合計 %1</numerusform>
-        </translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="75"/>
-        <source>Back</source>
-        <translation>戻る</translation>
-    </message>
-</context>
-<context>
     <name>IgnoreList</name>
     <message>
         <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
@@ -355,304 +330,304 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="334"/>
         <source>Files scanned</source>
         <translation>スキャンしたファイル</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
         <source>Duplicates found</source>
         <translation>見つかった重複</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="336"/>
         <source>Size of duplicates</source>
         <translation>重複のサイズ</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="337"/>
         <source>Progress</source>
         <translation>進行状況</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="338"/>
         <source>Elapsed time</source>
         <translation>経過時間</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="386"/>
         <source>Local Computer</source>
         <translation>ローカルコンピューター</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="409"/>
         <source>User Guide</source>
         <translation>ユーザーガイド</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="410"/>
         <source>Product FAQ</source>
         <translation>よくある質問</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="411"/>
         <source>Feedback and Support</source>
         <translation>フィードバックとサポート</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="412"/>
         <source>Check for Updates</source>
         <translation>アップデートを確認</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="413"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1141"/>
         <source>About</source>
         <translation>バージョン情報</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1161"/>
         <source>Language</source>
         <translation>言語</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
         <source>Show Log in Explorer</source>
         <translation>エクスプローラーでログを表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Open Project</source>
         <translation>プロジェクトを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Save Project</source>
         <translation>プロジェクトを保存</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
         <source>Show Results</source>
         <translation>結果を表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="470"/>
         <source>Scan</source>
         <translation>スキャン</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="483"/>
         <source>Stop</source>
         <translation>停止</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="491"/>
         <source>Continue</source>
         <translation>続行</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="497"/>
         <source>New Scan</source>
         <translation>新規スキャン</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="502"/>
         <source>Show results</source>
         <translation>結果を表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>「%1」はファイルであり、フォルダーではありません。スキャンできるのはフォルダーだけです。代わりにそのファイルを含むフォルダーを追加してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="563"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>「%1」が見つかりません。移動または削除された可能性があります。</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="566"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>フォルダーではないため、%n 個の項目を追加しませんでした:</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="568"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="618"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="635"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="701"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1108"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1227"/>
         <source>Note</source>
         <translation>注意</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="589"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n 個のフォルダーを追加済み</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="619"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="702"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>クラウドアカウントとフォルダーを追加した後は、ローカルフォルダーを追加できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="623"/>
         <source>Select Folder</source>
         <translation>フォルダーを選択</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="636"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>ローカルフォルダーを追加した後は、クラウドアカウントを追加できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="840"/>
         <source>%1 and %2 could not be read.</source>
         <translation>%1と%2を読み取れませんでした。</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n 個のフォルダー</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n 個のファイル</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="843"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>%n 個のフォルダーを読み取れませんでした。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="845"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>%n 個のファイルを読み取れませんでした。</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="866"/>
         <source>Folders that could not be read</source>
         <translation>読み取れなかったフォルダー</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
         <source>Files that could not be read</source>
         <translation>読み取れなかったファイル</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>選択したフォルダーの外を指すため、たどらなかったリンク</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="870"/>
         <source>System folders not entered</source>
         <translation>スキャンしなかったシステムフォルダー</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>選択したフォルダーの外を指す %n 個のリンクはたどりませんでした。</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="885"/>
         <source>Details</source>
         <translation>詳細</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="894"/>
         <source>The chosen folder could not be read.</source>
         <translation>選択したフォルダーを読み取れませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="895"/>
         <source>The chosen folders could not be read.</source>
         <translation>選択したフォルダーを読み取れませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="897"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>フォルダーがまだ存在し、開く権限があることを確認してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="898"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>フォルダーがまだ存在し、開く権限があることを確認してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="917"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1015"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1068"/>
         <source>Open File</source>
         <translation>ファイルを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="918"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>「%1」はフォルダーであり、プロジェクトファイルではありません。スキャンするには + ボタンで追加してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>プロジェクトファイル「%1」は存在しません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1028"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1067"/>
         <source>Save File</source>
         <translation>ファイルを保存</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>クラウドドライブのスキャン結果は保存できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1109"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1228"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>現在のスキャン結果は保存されていません。ファイルを保存しますか？</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1142"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;バージョン %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1162"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>新しい言語は次回プログラムを起動したときに有効になります。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1217"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>前回の削除中に異常終了を検出しました</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1212"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>中断前に処理された項目: %2 件中 %1 件。&lt;br&gt;削除ジャーナルに各項目と移動先が記録されています:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1203"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>前回の一括削除中にプログラムが予期せず終了しました。&lt;br&gt;ウイルス対策ソフトウェアの干渉が原因の可能性があります。&lt;br&gt;&lt;br&gt;削除の失敗やクラッシュを避けるため、ウイルス対策ソフトを一時的に無効にするか、&lt;br&gt;このアプリケーションを許可リストに追加してください。</translation>
     </message>
@@ -665,6 +640,92 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
         <source>Error</source>
         <translation>エラー</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewDialog</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="22"/>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="34"/>
+        <source>Chosen copy</source>
+        <translation>選んだコピー</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="36"/>
+        <source>Compared with</source>
+        <translation>比較対象</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="42"/>
+        <source>Previous copy (Left arrow)</source>
+        <translation>前のコピー (左矢印キー)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="50"/>
+        <source>Next copy (Right arrow)</source>
+        <translation>次のコピー (右矢印キー)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="72"/>
+        <source>Left and Right arrow keys show the other copies of the group.</source>
+        <translation>左右の矢印キーで、グループ内の他のコピーを表示できます。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="130"/>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewPane</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="105"/>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="106"/>
+        <source>Modified</source>
+        <translation>更新日時</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="107"/>
+        <source>Similarity</source>
+        <translation>類似度</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="112"/>
+        <source>Remove this copy</source>
+        <translation>このコピーを削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="182"/>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="193"/>
+        <source>%1 file</source>
+        <translation>%1 ファイル</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="200"/>
+        <source>Loading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
+        <source>This picture cannot be shown.</source>
+        <translation>この画像は表示できません。</translation>
     </message>
 </context>
 <context>
@@ -690,6 +751,559 @@
         <translation>
             <numerusform>... ほか %n 件</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>RemovalSummaryDialog</name>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="22"/>
+        <source>Removal finished</source>
+        <translation>削除が完了しました</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Item</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Details</source>
+        <translation type="unfinished">詳細</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>
+        <source>Removed</source>
+        <translation>削除済み</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="50"/>
+        <source>Moved</source>
+        <translation>移動済み</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="51"/>
+        <source>In the trash</source>
+        <translation>ごみ箱内</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Kept</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="74"/>
+        <source>Space freed: %1</source>
+        <translation>解放された容量: %1</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="93"/>
+        <source>%n item(s) removed.</source>
+        <translation>
+            <numerusform>%n 個の項目を削除しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="96"/>
+        <source>%n item(s) stayed in place; the reasons are listed below.</source>
+        <translation>
+            <numerusform>%n 個の項目はそのまま残りました。理由は下の一覧のとおりです。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ResultForm</name>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="52"/>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="62"/>
+        <source>Scan Results</source>
+        <translation>スキャン結果</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="82"/>
+        <source>Search by name</source>
+        <translation>名前で検索</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="98"/>
+        <source>Sort by</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="106"/>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="111"/>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="116"/>
+        <source>Copies</source>
+        <translation>コピー数</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="121"/>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="126"/>
+        <source>Selected</source>
+        <translation>選択数</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="153"/>
+        <source>Loading results...</source>
+        <translation>結果を読み込んでいます...</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="225"/>
+        <location filename="../../src/results/ResultForm.cpp" line="590"/>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="238"/>
+        <location filename="../../src/results/ResultForm.ui" line="716"/>
+        <location filename="../../src/results/ResultForm.cpp" line="72"/>
+        <source>Images</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="251"/>
+        <location filename="../../src/results/ResultForm.ui" line="759"/>
+        <location filename="../../src/results/ResultForm.cpp" line="74"/>
+        <source>Documents</source>
+        <translation>ドキュメント</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="264"/>
+        <location filename="../../src/results/ResultForm.ui" line="802"/>
+        <location filename="../../src/results/ResultForm.cpp" line="76"/>
+        <source>Music</source>
+        <translation>音楽</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="277"/>
+        <location filename="../../src/results/ResultForm.ui" line="845"/>
+        <location filename="../../src/results/ResultForm.cpp" line="78"/>
+        <source>Videos</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="290"/>
+        <location filename="../../src/results/ResultForm.ui" line="888"/>
+        <location filename="../../src/results/ResultForm.cpp" line="80"/>
+        <source>Folders</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="303"/>
+        <location filename="../../src/results/ResultForm.cpp" line="82"/>
+        <source>Packages</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="316"/>
+        <location filename="../../src/results/ResultForm.ui" line="931"/>
+        <location filename="../../src/results/ResultForm.cpp" line="84"/>
+        <source>Others</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="469"/>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="479"/>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="489"/>
+        <source>List</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="502"/>
+        <source>Grid</source>
+        <translation>グリッド</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="515"/>
+        <source>Flow</source>
+        <translation>フロー</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="546"/>
+        <source>Thumbnail size</source>
+        <translation>サムネイルのサイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="661"/>
+        <source>Duplicates by type</source>
+        <translation>種類別の重複</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="972"/>
+        <source>Total</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1013"/>
+        <source>Can be freed</source>
+        <translation>解放可能</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1102"/>
+        <source>Selected:</source>
+        <translation>選択済み:</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1123"/>
+        <source>Remove Selected</source>
+        <translation>選択項目を削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="124"/>
+        <source>If it keeps happening, write to &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</source>
+        <translation>問題が続く場合は、&lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt; までご連絡ください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="127"/>
+        <source>If it keeps happening, please send us the log files from &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</source>
+        <translation>問題が続く場合は、&lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt; にあるログファイルをお送りください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="304"/>
+        <source>Select by Filename</source>
+        <translation>ファイル名で選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="305"/>
+        <source>Select by Priority</source>
+        <translation>優先度で選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="306"/>
+        <source>Select Newest</source>
+        <translation>最新のものを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="307"/>
+        <source>Select Oldest</source>
+        <translation>最も古いものを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="308"/>
+        <source>Select high-quality</source>
+        <translation>高画質を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="309"/>
+        <source>Select low-quality</source>
+        <translation>低画質を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="310"/>
+        <source>Select high-resolution</source>
+        <translation>高解像度を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="311"/>
+        <source>Select low-resolution</source>
+        <translation>低解像度を選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="312"/>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="313"/>
+        <source>Deselect</source>
+        <translation>選択を解除</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="330"/>
+        <source>Show Only Duplicate Files</source>
+        <translation>重複ファイルのみ表示</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="331"/>
+        <source>Show Only Selected Files</source>
+        <translation>選択したファイルのみ表示</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="332"/>
+        <source>Show All Files</source>
+        <translation>すべてのファイルを表示</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="352"/>
+        <source>Similarity</source>
+        <translation>類似度</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="386"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1598"/>
+        <source>Move to Recycle Bin</source>
+        <translation>ごみ箱に移動</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="387"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1599"/>
+        <source>Remove permanently</source>
+        <translation>完全に削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="388"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1600"/>
+        <source>Move to Folder</source>
+        <translation>フォルダーに移動</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="423"/>
+        <source>Select Folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Loading Data</source>
+        <translation>データの読み込み中</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Data is still loading, please wait...</source>
+        <translation>データを読み込んでいます。しばらくお待ちください...</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="606"/>
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n 個のグループ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="608"/>
+        <source>loading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="812"/>
+        <source>%1% similar</source>
+        <translation>類似度 %1%</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="824"/>
+        <source>%1 · %n copies · %2</source>
+        <translation>
+            <numerusform>%1 · %n 個のコピー · %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="938"/>
+        <source>Ignore Group</source>
+        <translation>グループを無視</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="940"/>
+        <source>Remove Selected Files of This Group</source>
+        <translation>このグループの選択したファイルを削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="956"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <source>Show in Folder</source>
+        <translation>フォルダーで表示</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="957"/>
+        <source>Hide from Results</source>
+        <translation>結果に表示しない</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="959"/>
+        <source>Remove This File</source>
+        <translation>このファイルを削除</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Open Link Failed</source>
+        <translation>リンクを開けませんでした</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Failed to get the web link for the file.</source>
+        <translation>ファイルの Web リンクを取得できませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1413"/>
+        <source>The file was not found.</source>
+        <translation>ファイルが見つかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1069"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1252"/>
+        <source>Delete Failed</source>
+        <translation>削除に失敗しました</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1070"/>
+        <source>Failed to delete the file: %1</source>
+        <translation>ファイルを削除できませんでした: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>No selected</source>
+        <translation>選択なし</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>The current group has no selected files.</source>
+        <translation>現在のグループには選択されたファイルがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1173"/>
+        <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>選択したファイルはクラウドドライブのごみ箱に移動されます。サイズが大きすぎるファイルは完全に削除される場合があります。削除してもよろしいですか？</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1177"/>
+        <source>The selected files will be permanently deleted, are you sure to delete?</source>
+        <translation>選択したファイルは完全に削除されます。削除してもよろしいですか？</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1179"/>
+        <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>選択したファイルはごみ箱に移動されます。サイズが大きすぎるファイルは完全に削除される場合があります。削除してもよろしいですか？</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>No Selected Files!</source>
+        <translation>ファイルが選択されていません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1231"/>
+        <source>In some groups every copy is selected, so nothing of them would be kept.
+
+Remove every copy of those files too? With &quot;No&quot; one copy of each stays.</source>
+        <translation>一部のグループではすべてのコピーが選択されているため、何も残りません。
+
+これらのファイルのコピーもすべて削除しますか？「いいえ」を選ぶと、各ファイルのコピーが 1 つずつ残ります。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1253"/>
+        <source>Nothing was removed: the removal record %1 cannot be written (%2).</source>
+        <translation>何も削除していません: 削除ジャーナル %1 に書き込めません (%2)。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1266"/>
+        <source>Removing files</source>
+        <translation>ファイルを削除しています</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1268"/>
+        <source>Removing the selected files…</source>
+        <translation>選択したファイルを削除しています…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1345"/>
+        <source>the removal record cannot be written: %1</source>
+        <translation>削除ジャーナルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1401"/>
+        <source>The file changed after the scan.</source>
+        <translation>スキャン後にファイルが変更されました。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1403"/>
+        <source>No other copy of it would be left.</source>
+        <translation>ほかのコピーが残りません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1405"/>
+        <source>Its content no longer matches the copy that stays.</source>
+        <translation>内容が残すコピーと一致しなくなりました。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1407"/>
+        <source>Not everything in it has a copy in the folder that stays.</source>
+        <translation>中身のすべてが残すフォルダーにコピーされているわけではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1409"/>
+        <source>Every copy of its group was selected; this one stays.</source>
+        <translation>グループのすべてのコピーが選択されていたため、これは残します。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1416"/>
+        <source>The item is not a file.</source>
+        <translation>この項目はファイルではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1418"/>
+        <source>The item is not a directory.</source>
+        <translation>この項目はフォルダーではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1420"/>
+        <source>Failed to move the file.</source>
+        <translation>ファイルを移動できませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1426"/>
+        <source>Permission denied. Please check the file&apos;s access rights.</source>
+        <translation>アクセスが拒否されました。ファイルのアクセス権を確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1428"/>
+        <source>The file is currently in use and cannot be deleted.</source>
+        <translation>ファイルは使用中のため削除できません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1430"/>
+        <source>Failed to move the file to the recycle bin.</source>
+        <translation>ファイルをごみ箱に移動できませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1433"/>
+        <source>An unknown error occurred while deleting the file.</source>
+        <translation>ファイルの削除中に不明なエラーが発生しました。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1526"/>
+        <source>Incomplete scan</source>
+        <translation>スキャンが完了していません</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1527"/>
+        <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
+        <translation>メモリとディスク容量の制限により、このスキャンでは&lt;br&gt;画像の照合を完了できませんでした。重複ファイルを削除するか、&lt;br&gt;選択するフォルダーを減らしてから、もう一度お試しください。少なくとも 1 GB の&lt;br&gt;メモリと、システムドライブに 1 GB の空き容量を確保してください。&lt;br&gt;</translation>
     </message>
 </context>
 <context>
@@ -799,46 +1413,124 @@
     </message>
 </context>
 <context>
+    <name>TImageItemDelegate</name>
+    <message>
+        <location filename="../../src/results/TImageItemDelegate.cpp" line="204"/>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>TImageModel</name>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n 個のコピー</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="85"/>
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n 個選択済み</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="168"/>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="170"/>
+        <source>Modified</source>
+        <translation>更新日時</translation>
+    </message>
+</context>
+<context>
     <name>TOpenSaveThread</name>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="223"/>
         <source>The project file could not be opened.</source>
         <translation>プロジェクトファイルを開けませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="225"/>
         <source>The project file is damaged or incomplete.</source>
         <translation>プロジェクトファイルが破損しているか、不完全です。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="227"/>
         <source>This file is not a project file of this program.</source>
         <translation>このファイルはこのプログラムのプロジェクトファイルではありません。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="229"/>
         <source>The project file contains invalid data and was not opened.</source>
         <translation>プロジェクトファイルに無効なデータが含まれているため、開きませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="231"/>
         <source>None of the duplicate groups in this project exist any more.</source>
         <translation>このプロジェクトの重複グループはもう存在しません。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="233"/>
         <source>The project file could not be saved.</source>
         <translation>プロジェクトファイルを保存できませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="235"/>
         <source>The operation was cancelled.</source>
         <translation>操作はキャンセルされました。</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="237"/>
         <source>Unknown error.</source>
         <translation>不明なエラー。</translation>
+    </message>
+</context>
+<context>
+    <name>TPieChart</name>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="194"/>
+        <source>Images</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="196"/>
+        <source>Documents</source>
+        <translation>ドキュメント</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="198"/>
+        <source>Musics</source>
+        <translation>音楽</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="200"/>
+        <source>Videos</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="202"/>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="204"/>
+        <source>Others</source>
+        <translation>その他</translation>
     </message>
 </context>
 </TS>

@@ -17,13 +17,13 @@
 <context>
     <name>DFIgnoreListWidget</name>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="158"/>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
         <source>Error</source>
         <translation>Erro</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="160"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
         <source>The maximum file size cannot be less than the minimum file size.</source>
         <translation>O tamanho máximo de ficheiro não pode ser inferior ao tamanho mínimo.</translation>
     </message>
@@ -96,12 +96,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="90"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="97"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="91"/>
+        <location filename="../../src/preferences/DFPreferencesDialog.cpp" line="98"/>
         <source>You cannot change settings of preferences while the scan is in progress.</source>
         <translation>Não é possível alterar as definições enquanto a análise está em curso.</translation>
     </message>
@@ -225,32 +225,6 @@
     </message>
 </context>
 <context>
-    <name>GroupListPage</name>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="35"/>
-        <source>%1 copies, %2</source>
-        <translation>%1 cópias, %2</translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="58"/>
-        <source>Scan results</source>
-        <translation>Resultados da análise</translation>
-    </message>
-    <message numerus="yes">
-        <location filename="../../src/results/GroupListPage.cpp" line="66"/>
-        <source>%n group(s) of duplicates, %1 in all</source>
-        <translation>
-            <numerusform>%n grupo de duplicados, %1 no total</numerusform>
-            <numerusform>%n grupos de duplicados, %1 no total</numerusform>
-        </translation>
-    </message>
-    <message>
-        <location filename="../../src/results/GroupListPage.cpp" line="75"/>
-        <source>Back</source>
-        <translation>Voltar</translation>
-    </message>
-</context>
-<context>
     <name>IgnoreList</name>
     <message>
         <location filename="../../src/preferences/IgnoreList.ui" line="25"/>
@@ -356,124 +330,124 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="327"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="334"/>
         <source>Files scanned</source>
         <translation>Ficheiros analisados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="328"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
         <source>Duplicates found</source>
         <translation>Duplicados encontrados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="329"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="336"/>
         <source>Size of duplicates</source>
         <translation>Tamanho dos duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="330"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="337"/>
         <source>Progress</source>
         <translation>Progresso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="331"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="338"/>
         <source>Elapsed time</source>
         <translation>Tempo decorrido</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="378"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="386"/>
         <source>Local Computer</source>
         <translation>Computador local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="401"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="409"/>
         <source>User Guide</source>
         <translation>Guia do utilizador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="402"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="410"/>
         <source>Product FAQ</source>
         <translation>Perguntas frequentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="403"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="411"/>
         <source>Feedback and Support</source>
         <translation>Comentários e suporte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="404"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="412"/>
         <source>Check for Updates</source>
         <translation>Procurar atualizações</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="405"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="413"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1141"/>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="406"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1148"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1161"/>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="418"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
         <source>Show Log in Explorer</source>
         <translation>Mostrar registo no explorador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="420"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Open Project</source>
         <translation>Abrir projeto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="421"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Save Project</source>
         <translation>Guardar projeto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="422"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
         <source>Show Results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="461"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="470"/>
         <source>Scan</source>
         <translation>Analisar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="474"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="483"/>
         <source>Stop</source>
         <translation>Parar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="482"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="491"/>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="497"/>
         <source>New Scan</source>
         <translation>Nova análise</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="493"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="502"/>
         <source>Show results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="550"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>&quot;%1&quot; é um ficheiro, não uma pasta. Só é possível analisar pastas: adicione antes a pasta que o contém.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="554"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="563"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>Não foi possível encontrar &quot;%1&quot;. Pode ter sido movido ou removido.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="557"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="566"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>%n item não foi adicionado porque não é uma pasta:</numerusform>
@@ -481,18 +455,18 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="609"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="626"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="692"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1097"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1197"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="568"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="618"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="635"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="701"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1108"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1227"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="589"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n pasta adicionada</numerusform>
@@ -500,28 +474,28 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="610"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="693"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="619"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="702"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Depois de adicionar contas e pastas na nuvem, já não é possível adicionar pastas locais.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="614"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="623"/>
         <source>Select Folder</source>
         <translation>Selecionar pasta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="627"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="636"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Depois de adicionar pastas locais, já não é possível adicionar contas na nuvem.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="824"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="840"/>
         <source>%1 and %2 could not be read.</source>
         <translation>Não foi possível ler %1 e %2.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n pasta</numerusform>
@@ -529,7 +503,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="825"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n ficheiro</numerusform>
@@ -537,7 +511,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="827"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="843"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>Não foi possível ler %n pasta.</numerusform>
@@ -545,7 +519,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="845"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>Não foi possível ler %n ficheiro.</numerusform>
@@ -553,27 +527,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="850"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="866"/>
         <source>Folders that could not be read</source>
         <translation>Pastas que não foi possível ler</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="851"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
         <source>Files that could not be read</source>
         <translation>Ficheiros que não foi possível ler</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="852"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Ligações não seguidas porque levam para fora das pastas escolhidas</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="854"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="870"/>
         <source>System folders not entered</source>
         <translation>Pastas do sistema não percorridas</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="862"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>%n ligação para fora das pastas escolhidas não foi seguida.</numerusform>
@@ -581,86 +555,86 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="869"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="885"/>
         <source>Details</source>
         <translation>Detalhes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="894"/>
         <source>The chosen folder could not be read.</source>
         <translation>Não foi possível ler a pasta escolhida.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="879"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="895"/>
         <source>The chosen folders could not be read.</source>
         <translation>Não foi possível ler as pastas escolhidas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="881"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="897"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Verifique se ainda existe e se tem permissão para a abrir.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="882"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="898"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Verifique se ainda existem e se tem permissão para as abrir.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="901"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1004"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1057"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="917"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1015"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1068"/>
         <source>Open File</source>
         <translation>Abrir ficheiro</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="902"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="918"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>&quot;%1&quot; é uma pasta, não um ficheiro de projeto. Para a analisar, adicione-a com o botão +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="905"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>O ficheiro de projeto &quot;%1&quot; não existe.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1017"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1056"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1028"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1067"/>
         <source>Save File</source>
         <translation>Guardar ficheiro</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Os resultados da análise da nuvem não podem ser guardados.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1098"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1198"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1109"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1228"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Os resultados da análise atual não foram guardados. Pretende guardar o ficheiro?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1131"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1142"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versão %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1149"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1162"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>O novo idioma será aplicado da próxima vez que o programa for iniciado.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1217"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Foi detetado um encerramento anómalo durante a última eliminação</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1186"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1212"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Itens processados antes da interrupção: %1 de %2.&lt;br&gt;O registro de remoções lista cada um e para onde foi:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1184"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1203"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>O programa terminou inesperadamente durante a última eliminação em lote,&lt;br&gt;possivelmente devido a interferência do antivírus.&lt;br&gt;&lt;br&gt;Desative temporariamente o antivírus ou adicione esta aplicação&lt;br&gt;à sua lista de permissões para evitar falhas de eliminação ou bloqueios.</translation>
     </message>
@@ -673,6 +647,92 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
         <source>Error</source>
         <translation>Erro</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewDialog</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="22"/>
+        <source>Preview</source>
+        <translation>Pré-visualização</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="34"/>
+        <source>Chosen copy</source>
+        <translation>Cópia escolhida</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="36"/>
+        <source>Compared with</source>
+        <translation>Comparada com</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="42"/>
+        <source>Previous copy (Left arrow)</source>
+        <translation>Cópia anterior (seta para a esquerda)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="50"/>
+        <source>Next copy (Right arrow)</source>
+        <translation>Cópia seguinte (seta para a direita)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="72"/>
+        <source>Left and Right arrow keys show the other copies of the group.</source>
+        <translation>As teclas de seta para a esquerda e para a direita mostram as outras cópias do grupo.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewDialog.cpp" line="130"/>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreviewPane</name>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="105"/>
+        <source>Resolution</source>
+        <translation>Resolução</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="106"/>
+        <source>Modified</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="107"/>
+        <source>Similarity</source>
+        <translation>Semelhança</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="112"/>
+        <source>Remove this copy</source>
+        <translation>Remover esta cópia</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="182"/>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="193"/>
+        <source>%1 file</source>
+        <translation>Ficheiro %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="200"/>
+        <source>Loading…</source>
+        <translation>A carregar…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
+        <source>This picture cannot be shown.</source>
+        <translation>Não é possível mostrar esta imagem.</translation>
     </message>
 </context>
 <context>
@@ -699,6 +759,563 @@
             <numerusform>... e mais %n</numerusform>
             <numerusform>... e mais %n</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>RemovalSummaryDialog</name>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="22"/>
+        <source>Removal finished</source>
+        <translation>Remoção concluída</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Item</source>
+        <translation>Item</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
+        <source>Details</source>
+        <translation type="unfinished">Detalhes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>
+        <source>Removed</source>
+        <translation>Removido</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="50"/>
+        <source>Moved</source>
+        <translation>Movido</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="51"/>
+        <source>In the trash</source>
+        <translation>Na reciclagem</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Kept</source>
+        <translation>Mantido</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="56"/>
+        <source>Failed</source>
+        <translation>Falhou</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="74"/>
+        <source>Space freed: %1</source>
+        <translation>Espaço libertado: %1</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="93"/>
+        <source>%n item(s) removed.</source>
+        <translation>
+            <numerusform>%n item removido.</numerusform>
+            <numerusform>%n itens removidos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/RemovalSummaryDialog.cpp" line="96"/>
+        <source>%n item(s) stayed in place; the reasons are listed below.</source>
+        <translation>
+            <numerusform>%n item ficou no lugar; os motivos estão indicados abaixo.</numerusform>
+            <numerusform>%n itens ficaram no lugar; os motivos estão indicados abaixo.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ResultForm</name>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="52"/>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="62"/>
+        <source>Scan Results</source>
+        <translation>Resultados da análise</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="82"/>
+        <source>Search by name</source>
+        <translation>Pesquisar por nome</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="98"/>
+        <source>Sort by</source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="106"/>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="111"/>
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="116"/>
+        <source>Copies</source>
+        <translation>Cópias</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="121"/>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="126"/>
+        <source>Selected</source>
+        <translation>Seleção</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="153"/>
+        <source>Loading results...</source>
+        <translation>A carregar resultados...</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="225"/>
+        <location filename="../../src/results/ResultForm.cpp" line="590"/>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="238"/>
+        <location filename="../../src/results/ResultForm.ui" line="716"/>
+        <location filename="../../src/results/ResultForm.cpp" line="72"/>
+        <source>Images</source>
+        <translation>Imagens</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="251"/>
+        <location filename="../../src/results/ResultForm.ui" line="759"/>
+        <location filename="../../src/results/ResultForm.cpp" line="74"/>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="264"/>
+        <location filename="../../src/results/ResultForm.ui" line="802"/>
+        <location filename="../../src/results/ResultForm.cpp" line="76"/>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="277"/>
+        <location filename="../../src/results/ResultForm.ui" line="845"/>
+        <location filename="../../src/results/ResultForm.cpp" line="78"/>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="290"/>
+        <location filename="../../src/results/ResultForm.ui" line="888"/>
+        <location filename="../../src/results/ResultForm.cpp" line="80"/>
+        <source>Folders</source>
+        <translation>Pastas</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="303"/>
+        <location filename="../../src/results/ResultForm.cpp" line="82"/>
+        <source>Packages</source>
+        <translation>Pacotes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="316"/>
+        <location filename="../../src/results/ResultForm.ui" line="931"/>
+        <location filename="../../src/results/ResultForm.cpp" line="84"/>
+        <source>Others</source>
+        <translation>Outros</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="469"/>
+        <source>Select</source>
+        <translation>Selecionar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="479"/>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="489"/>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="502"/>
+        <source>Grid</source>
+        <translation>Grelha</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="515"/>
+        <source>Flow</source>
+        <translation>Mosaico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="546"/>
+        <source>Thumbnail size</source>
+        <translation>Tamanho das miniaturas</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="661"/>
+        <source>Duplicates by type</source>
+        <translation>Duplicados por tipo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="972"/>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1013"/>
+        <source>Can be freed</source>
+        <translation>Pode ser libertado</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1102"/>
+        <source>Selected:</source>
+        <translation>Selecionados:</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.ui" line="1123"/>
+        <source>Remove Selected</source>
+        <translation>Remover selecionados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="124"/>
+        <source>If it keeps happening, write to &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</source>
+        <translation>Se o problema persistir, escreva para &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="127"/>
+        <source>If it keeps happening, please send us the log files from &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</source>
+        <translation>Se o problema persistir, envie-nos os ficheiros de registo de &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="304"/>
+        <source>Select by Filename</source>
+        <translation>Selecionar por nome de ficheiro</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="305"/>
+        <source>Select by Priority</source>
+        <translation>Selecionar por prioridade</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="306"/>
+        <source>Select Newest</source>
+        <translation>Selecionar os mais recentes</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="307"/>
+        <source>Select Oldest</source>
+        <translation>Selecionar os mais antigos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="308"/>
+        <source>Select high-quality</source>
+        <translation>Selecionar alta qualidade</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="309"/>
+        <source>Select low-quality</source>
+        <translation>Selecionar baixa qualidade</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="310"/>
+        <source>Select high-resolution</source>
+        <translation>Selecionar alta resolução</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="311"/>
+        <source>Select low-resolution</source>
+        <translation>Selecionar baixa resolução</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="312"/>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="313"/>
+        <source>Deselect</source>
+        <translation>Anular seleção</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="330"/>
+        <source>Show Only Duplicate Files</source>
+        <translation>Mostrar apenas ficheiros duplicados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="331"/>
+        <source>Show Only Selected Files</source>
+        <translation>Mostrar apenas ficheiros selecionados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="332"/>
+        <source>Show All Files</source>
+        <translation>Mostrar todos os ficheiros</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="352"/>
+        <source>Similarity</source>
+        <translation>Semelhança</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="386"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1598"/>
+        <source>Move to Recycle Bin</source>
+        <translation>Mover para a Reciclagem</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="387"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1599"/>
+        <source>Remove permanently</source>
+        <translation>Eliminar permanentemente</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="388"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1600"/>
+        <source>Move to Folder</source>
+        <translation>Mover para uma pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="423"/>
+        <source>Select Folder</source>
+        <translation>Selecionar pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Loading Data</source>
+        <translation>A carregar dados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <source>Data is still loading, please wait...</source>
+        <translation>Os dados ainda estão a ser carregados; aguarde...</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="606"/>
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n grupo</numerusform>
+            <numerusform>%n grupos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="608"/>
+        <source>loading…</source>
+        <translation>a carregar…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="812"/>
+        <source>%1% similar</source>
+        <translation>%1% de semelhança</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/ResultForm.cpp" line="824"/>
+        <source>%1 · %n copies · %2</source>
+        <translation>
+            <numerusform>%1 · %n cópia · %2</numerusform>
+            <numerusform>%1 · %n cópias · %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="938"/>
+        <source>Ignore Group</source>
+        <translation>Ignorar grupo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="940"/>
+        <source>Remove Selected Files of This Group</source>
+        <translation>Remover os ficheiros selecionados deste grupo</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="956"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <source>Show in Folder</source>
+        <translation>Mostrar na pasta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="957"/>
+        <source>Hide from Results</source>
+        <translation>Ocultar dos resultados</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="959"/>
+        <source>Remove This File</source>
+        <translation>Remover este ficheiro</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Open Link Failed</source>
+        <translation>Não foi possível abrir a ligação</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <source>Failed to get the web link for the file.</source>
+        <translation>Não foi possível obter a ligação web do ficheiro.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1413"/>
+        <source>The file was not found.</source>
+        <translation>O ficheiro não foi encontrado.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1069"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1252"/>
+        <source>Delete Failed</source>
+        <translation>Falha ao eliminar</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1070"/>
+        <source>Failed to delete the file: %1</source>
+        <translation>Não foi possível eliminar o ficheiro: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>No selected</source>
+        <translation>Sem seleção</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <source>The current group has no selected files.</source>
+        <translation>O grupo atual não tem ficheiros selecionados.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1173"/>
+        <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>Os ficheiros selecionados serão movidos para a reciclagem da unidade na nuvem; os que forem demasiado grandes poderão ser eliminados permanentemente. Tem a certeza de que pretende eliminá-los?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1177"/>
+        <source>The selected files will be permanently deleted, are you sure to delete?</source>
+        <translation>Os ficheiros selecionados serão eliminados permanentemente. Tem a certeza de que pretende eliminá-los?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1179"/>
+        <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
+        <translation>Os ficheiros selecionados serão movidos para a Reciclagem; os que forem demasiado grandes poderão ser eliminados permanentemente. Tem a certeza de que pretende eliminá-los?</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <source>No Selected Files!</source>
+        <translation>Nenhum ficheiro selecionado!</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1231"/>
+        <source>In some groups every copy is selected, so nothing of them would be kept.
+
+Remove every copy of those files too? With &quot;No&quot; one copy of each stays.</source>
+        <translation>Em alguns grupos estão selecionadas todas as cópias, pelo que nenhuma seria mantida.
+
+Remover também todas as cópias desses ficheiros? Com &quot;Não&quot;, fica uma cópia de cada um.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1253"/>
+        <source>Nothing was removed: the removal record %1 cannot be written (%2).</source>
+        <translation>Nada foi removido: não é possível escrever o registo de remoções %1 (%2).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1266"/>
+        <source>Removing files</source>
+        <translation>A remover ficheiros</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1268"/>
+        <source>Removing the selected files…</source>
+        <translation>A remover os ficheiros selecionados…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1345"/>
+        <source>the removal record cannot be written: %1</source>
+        <translation>não é possível escrever o registo de remoções: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1401"/>
+        <source>The file changed after the scan.</source>
+        <translation>O ficheiro foi alterado após a análise.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1403"/>
+        <source>No other copy of it would be left.</source>
+        <translation>Não restaria nenhuma outra cópia.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1405"/>
+        <source>Its content no longer matches the copy that stays.</source>
+        <translation>O conteúdo já não coincide com a cópia que fica.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1407"/>
+        <source>Not everything in it has a copy in the folder that stays.</source>
+        <translation>Nem todo o conteúdo tem cópia na pasta que fica.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1409"/>
+        <source>Every copy of its group was selected; this one stays.</source>
+        <translation>Todas as cópias do grupo estavam selecionadas; esta fica.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1416"/>
+        <source>The item is not a file.</source>
+        <translation>O item não é um ficheiro.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1418"/>
+        <source>The item is not a directory.</source>
+        <translation>O item não é uma pasta.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1420"/>
+        <source>Failed to move the file.</source>
+        <translation>Não foi possível mover o ficheiro.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1426"/>
+        <source>Permission denied. Please check the file&apos;s access rights.</source>
+        <translation>Permissão negada. Verifique as permissões de acesso do ficheiro.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1428"/>
+        <source>The file is currently in use and cannot be deleted.</source>
+        <translation>O ficheiro está a ser utilizado e não pode ser eliminado.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1430"/>
+        <source>Failed to move the file to the recycle bin.</source>
+        <translation>Não foi possível mover o ficheiro para a Reciclagem.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1433"/>
+        <source>An unknown error occurred while deleting the file.</source>
+        <translation>Ocorreu um erro desconhecido ao eliminar o ficheiro.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1526"/>
+        <source>Incomplete scan</source>
+        <translation>Análise incompleta</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1527"/>
+        <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
+        <translation>Esta análise não conseguiu concluir a comparação de imagens devido a &lt;br&gt;limitações de memória e de espaço em disco. Elimine ficheiros duplicados&lt;br&gt;ou selecione menos pastas e tente novamente. Certifique-se de que estão disponíveis pelo menos &lt;br&gt;1 GB de memória e 1 GB de espaço livre na unidade do sistema. &lt;br&gt;</translation>
     </message>
 </context>
 <context>
@@ -808,46 +1425,126 @@
     </message>
 </context>
 <context>
+    <name>TImageItemDelegate</name>
+    <message>
+        <location filename="../../src/results/TImageItemDelegate.cpp" line="204"/>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>TImageModel</name>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n cópia</numerusform>
+            <numerusform>%n cópias</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/results/GroupRowDelegate.cpp" line="85"/>
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n selecionada</numerusform>
+            <numerusform>%n selecionadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>File</source>
+        <translation>Ficheiro</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="168"/>
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TImageModel.cpp" line="170"/>
+        <source>Modified</source>
+        <translation>Modificado</translation>
+    </message>
+</context>
+<context>
     <name>TOpenSaveThread</name>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="144"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="223"/>
         <source>The project file could not be opened.</source>
         <translation>Não foi possível abrir o ficheiro de projeto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="146"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="225"/>
         <source>The project file is damaged or incomplete.</source>
         <translation>O ficheiro de projeto está danificado ou incompleto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="148"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="227"/>
         <source>This file is not a project file of this program.</source>
         <translation>Este ficheiro não é um ficheiro de projeto deste programa.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="150"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="229"/>
         <source>The project file contains invalid data and was not opened.</source>
         <translation>O ficheiro de projeto contém dados inválidos e não foi aberto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="152"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="231"/>
         <source>None of the duplicate groups in this project exist any more.</source>
         <translation>Nenhum dos grupos de duplicados deste projeto existe ainda.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="154"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="233"/>
         <source>The project file could not be saved.</source>
         <translation>Não foi possível guardar o ficheiro de projeto.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="156"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="235"/>
         <source>The operation was cancelled.</source>
         <translation>A operação foi cancelada.</translation>
     </message>
     <message>
-        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="158"/>
+        <location filename="../../src/fileops/TOpenSaveThread.cpp" line="237"/>
         <source>Unknown error.</source>
         <translation>Erro desconhecido.</translation>
+    </message>
+</context>
+<context>
+    <name>TPieChart</name>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="194"/>
+        <source>Images</source>
+        <translation>Imagens</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="196"/>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="198"/>
+        <source>Musics</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="200"/>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="202"/>
+        <source>Folder</source>
+        <translation>Pastas</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/TPieChart.cpp" line="204"/>
+        <source>Others</source>
+        <translation>Outros</translation>
     </message>
 </context>
 </TS>
