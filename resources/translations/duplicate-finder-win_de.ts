@@ -781,7 +781,7 @@
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
         <source>Details</source>
-        <translation type="unfinished">Details</translation>
+        <translation>Details</translation>
     </message>
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>

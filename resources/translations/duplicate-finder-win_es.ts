@@ -781,7 +781,7 @@
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
         <source>Details</source>
-        <translation type="unfinished">Detalles</translation>
+        <translation>Detalles</translation>
     </message>
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>

@@ -773,7 +773,7 @@
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
         <source>Details</source>
-        <translation type="unfinished">詳細</translation>
+        <translation>詳細</translation>
     </message>
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>

@@ -781,7 +781,7 @@
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="32"/>
         <source>Details</source>
-        <translation type="unfinished">Detalhes</translation>
+        <translation>Detalhes</translation>
     </message>
     <message>
         <location filename="../../src/results/RemovalSummaryDialog.cpp" line="48"/>
