@@ -4,17 +4,27 @@
 #include "app/FileTypeCatalogue.h"
 #include "results/TImageModel.h"
 
+#include <sys/stat.h>
+
 #include <QDir>
+#include <QFile>
+#include <qplatformdefs.h>
 #include <QFileInfo>
 #include <QtConcurrent>
 
 qint64 SelectionTotals::bytesOf(const QString &entry)
 {
-    const QFileInfo info(stripSimilarTag(entry));
-    if (info.isFile())
-        return info.size();
-    if (!info.isDir())
+    // One stat per item, without the file-information cache: the totals run over every
+    // selected item after each change of the selection.
+    const QString path = stripSimilarTag(entry);
+    QT_STATBUF status;
+    if (QT_STAT(QFile::encodeName(path).constData(), &status) != 0)
         return 0;
+    if (S_ISREG(status.st_mode))
+        return qint64(status.st_size);
+    if (!S_ISDIR(status.st_mode))
+        return 0;
+    const QFileInfo info(path);
     qint64 bytes = 0;
     const QFileInfoList files
         = QDir(info.filePath()).entryInfoList(QDir::Files | QDir::Hidden | QDir::System);
