@@ -159,6 +159,11 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
         if (m_totalsAgain) {
             m_totalsAgain = false;
             updateSelectedAndSize();
+        } else if (!m_totalsChecked) {
+            // The sizes the scan saw are shown at once; the disk has the last word.
+            m_totalsChecked = true;
+            m_totalsWatcher.setFuture(
+                SelectionTotals::start(TFileData::instance()->selected(), {}, m_isCloud, m_cloud));
         }
     });
     connect(&m_memberWatcher, &QFutureWatcherBase::finished, this, [this] {
@@ -214,6 +219,10 @@ void ResultForm::initUI()
     ui->listView_groups->setModel(m_groupModel);
     ui->listView_groups->setItemDelegate(new GroupRowDelegate(ui->listView_groups));
     ui->listView_groups->setSelectionMode(QAbstractItemView::SingleSelection);
+    // Laid out a slice at a time: a list of a hundred thousand groups would otherwise
+    // hold the window for the whole layout after every reset.
+    ui->listView_groups->setLayoutMode(QListView::Batched);
+    ui->listView_groups->setBatchSize(2000);
     connect(ui->listView_groups->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &ResultForm::groupSelectionChanged);
     connect(ui->listView_groups, &QWidget::customContextMenuRequested, this,
@@ -862,8 +871,10 @@ void ResultForm::updateSelectedAndSize()
         m_totalsAgain = true;
         return;
     }
-    m_totalsWatcher.setFuture(
-        SelectionTotals::start(TFileData::instance()->selected(), m_isCloud, m_cloud));
+    TFileData *store = TFileData::instance();
+    m_totalsChecked = m_isCloud;
+    m_totalsWatcher.setFuture(SelectionTotals::start(
+        store->selected(), m_isCloud ? TFileData::Stamps() : store->stamps(), m_isCloud, m_cloud));
 }
 
 // ----------------------------------------------------------------------------- menus

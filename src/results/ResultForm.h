@@ -225,6 +225,8 @@ private:
     QFutureWatcher<SelectionTotals> m_totalsWatcher;
     SelectionTotals m_totals;
     bool m_totalsAgain = false;
+    // The totals shown were confirmed against the disk (not only the scan's sizes).
+    bool m_totalsChecked = false;
 
     QFutureWatcher<void> m_memberWatcher;
     QList<IndexFileGroup> m_members;

@@ -8,9 +8,9 @@
 
 #include <QDir>
 #include <QFile>
-#include <qplatformdefs.h>
 #include <QFileInfo>
 #include <QtConcurrent>
+#include <qplatformdefs.h>
 
 qint64 SelectionTotals::bytesOf(const QString &entry)
 {
@@ -33,12 +33,12 @@ qint64 SelectionTotals::bytesOf(const QString &entry)
     return bytes;
 }
 
-QFuture<SelectionTotals> SelectionTotals::start(
-    const QHash<QString, QStringList> &selected, bool isCloud, KvCloudObject *cloud)
+QFuture<SelectionTotals> SelectionTotals::start(const QHash<QString, QStringList> &selected,
+    const QHash<QString, FileStamp> &stamps, bool isCloud, KvCloudObject *cloud)
 {
     // Whole groups per task keep the scheduling cost well below the stat calls.
     const QList<QStringList> lists = selected.values();
-    auto map = [isCloud, cloud](const QStringList &paths) {
+    auto map = [isCloud, cloud, stamps](const QStringList &paths) {
         SelectionTotals part;
         part.count = int(paths.size());
         for (const QString &path : paths) {
@@ -46,6 +46,9 @@ QFuture<SelectionTotals> SelectionTotals::start(
                 part.bytes += TImageModel::cloudProperty(
                     cloud, QFileInfo(path).completeBaseName(), QStringLiteral("size"))
                                   .toLongLong();
+            else if (const auto stamp = stamps.constFind(stripSimilarTag(path));
+                     stamp != stamps.cend() && stamp->isValid())
+                part.bytes += stamp->size;
             else
                 part.bytes += bytesOf(path);
         }
