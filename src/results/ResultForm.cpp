@@ -302,6 +302,15 @@ void ResultForm::initUI()
                            " subcontrol-position: center right; right: 5px; }"));
     }
     ui->lab_preview->setMinimumSize(200, 200);
+    ui->horizontalSlider->setMinimumWidth(90);
+    // The group's title has a line of its own above the view's tools: long names and long
+    // translations of the tools then never squeeze each other.
+    ui->horizontalLayout_members->removeWidget(ui->lab_group_title);
+    ui->verticalLayout_members->insertWidget(0, ui->lab_group_title);
+    ui->lab_group_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QFont titleFont = ui->lab_group_title->font();
+    titleFont.setBold(true);
+    ui->lab_group_title->setFont(titleFont);
     setViewMode(GridMode);
 }
 
@@ -830,8 +839,11 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
     const int row = currentGroupIndex().row();
     if (row >= 0 && row < m_groupModel->displayedGroups().size()) {
         const GroupItem &group = m_groupModel->displayedGroups().at(row);
-        ui->lab_group_title->setText(tr("%1 · %n copies · %2", nullptr, group.count)
-                                         .arg(group.name, TImageModel::sizeText(group.totalSize)));
+        const QString title = tr("%1 · %n copies · %2", nullptr, group.count)
+                                  .arg(group.name, TImageModel::sizeText(group.totalSize));
+        ui->lab_group_title->setToolTip(title);
+        ui->lab_group_title->setText(ui->lab_group_title->fontMetrics().elidedText(
+            title, Qt::ElideMiddle, std::max(200, ui->widget_members->width() - 20)));
     }
 }
 

@@ -202,8 +202,9 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
     const QString prefix = QStringLiteral("en-%1x%2-result-").arg(size.width()).arg(size.height());
     fillResults(root);
     ResultForm page;
-    page.resize(size);
     page.show();
+    // After the show: the page restores the size it had when last closed.
+    page.resize(size);
     (void)QTest::qWaitForWindowExposed(&page);
     // The loading page, before the first groups arrive.
     save(&page, out, prefix + QStringLiteral("0-loading"));
@@ -278,8 +279,8 @@ int main(int argc, char *argv[])
         useLanguage(language.index);
         fillResults(root.path());
         ResultForm page;
-        page.resize(kSizes[0]);
         page.show();
+        page.resize(kSizes[0]);
         waitLoaded(page);
         QTest::qWait(600);
         save(&page, out,
