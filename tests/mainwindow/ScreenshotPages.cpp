@@ -4,6 +4,7 @@
 // one strip of the round button's captions in all languages; with "settings" as second
 // argument only the settings dialog. Run it through tools/screenshots.sh (under Xvfb) to look at
 // the real rendering.
+#include "ScreenshotSupport.h"
 #include "app/LanguageSetup.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
@@ -28,29 +29,7 @@
 
 namespace {
 
-struct Language
-{
-    int index;
-    const char *code;
-};
-const Language kLanguages[]
-    = {{1, "en"}, {5, "de"}, {6, "es"}, {2, "fr"}, {4, "it"}, {3, "pt"}, {7, "ja"}};
-const QSize kSizes[] = {QSize(1366, 768), QSize(1920, 1080)};
-
-void save(QWidget *widget, const QString &folder, const QString &name)
-{
-    QTest::qWait(120);
-    widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
-}
-
-void useLanguage(int index)
-{
-    QCoreApplication::removeTranslator(&LanguageSetup::appTranslator());
-    QCoreApplication::removeTranslator(&LanguageSetup::qtTranslator());
-    LanguageSetup::setupLanguage(index);
-    QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
-    QCoreApplication::installTranslator(&LanguageSetup::qtTranslator());
-}
+using namespace ScreenshotSupport;
 
 // A scan that met every kind of problem, with more unreadable files than it keeps.
 void fillProblems(ScanProblems &problems, const QString &root)
@@ -68,10 +47,7 @@ void fillProblems(ScanProblems &problems, const QString &root)
 void shootLanguage(const Language &language, const QSize &size, const QString &root,
     const QString &out, QImage *buttonStrip, int column)
 {
-    const QString prefix = QStringLiteral("%1-%2x%3-")
-                               .arg(QLatin1String(language.code))
-                               .arg(size.width())
-                               .arg(size.height());
+    const QString prefix = namePrefix(language, size);
     MainWindow window({QStringLiteral("program")});
     window.resize(size);
     window.show();
@@ -150,10 +126,7 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
 // way the dialog opens on the screen.
 void shootSettings(const Language &language, const QSize &size, const QString &out)
 {
-    const QString prefix = QStringLiteral("%1-%2x%3-")
-                               .arg(QLatin1String(language.code))
-                               .arg(size.width())
-                               .arg(size.height());
+    const QString prefix = namePrefix(language, size);
     MainWindow window({QStringLiteral("program")});
     window.resize(size);
     window.show();

@@ -3,6 +3,7 @@
 // each view mode, menu, question, the removal summary and the picture preview, in English
 // at two window sizes, and the main state in every language. Run it through
 // tools/screenshots.sh (under Xvfb) to look at the real rendering.
+#include "ScreenshotSupport.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "engine/GroupItemAutoSelector.h"
@@ -29,34 +30,12 @@
 
 namespace {
 
-struct Language
-{
-    int index;
-    const char *code;
-};
-const Language kLanguages[]
-    = {{1, "en"}, {5, "de"}, {6, "es"}, {2, "fr"}, {4, "it"}, {3, "pt"}, {7, "ja"}};
-const QSize kSizes[] = {QSize(1366, 768), QSize(1920, 1080)};
+using namespace ScreenshotSupport;
 
 void waitLoaded(const ResultForm &page)
 {
     for (int i = 0; i < 400 && !page.isDataLoaded(); ++i)
         QTest::qWait(50);
-}
-
-void save(QWidget *widget, const QString &folder, const QString &name)
-{
-    QTest::qWait(150);
-    widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
-}
-
-void useLanguage(int index)
-{
-    QCoreApplication::removeTranslator(&LanguageSetup::appTranslator());
-    QCoreApplication::removeTranslator(&LanguageSetup::qtTranslator());
-    LanguageSetup::setupLanguage(index);
-    QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
-    QCoreApplication::installTranslator(&LanguageSetup::qtTranslator());
 }
 
 // A photo-like picture: a sky gradient, a sun and hills, varied by seed.
