@@ -471,8 +471,9 @@ void ResultForm::setActiveDeleteAction(QAction *newAction)
     }
     m_activeDeleteAction = newAction;
     if (newAction) {
+        // The style sheet draws a checked item's indicator with ":/resource/check.svg"; an
+        // icon of its own would take the indicator's place and hide the mark.
         newAction->setChecked(true);
-        newAction->setIcon(QIcon(QStringLiteral(":/resource/check.svg")));
     }
 }
 
