@@ -262,6 +262,8 @@ int main(int argc, char *argv[])
     }
 
     TControlUI controller;
+    if (!options.useCache())
+        controller.finder()->setCacheOptions(ContentKeyCache::Options {});
     QTimer progressTimer;
     const bool terminal = ::isatty(STDERR_FILENO) == 1;
     double percent = 0.0;

@@ -7,6 +7,7 @@
 // with the large one, which shows the large one was really decoded and hashed.
 #include "LogText.h"
 #include "ReportGroups.h"
+#include "TestEnvironment.h"
 #include "engine/ScanTree.h"
 
 #include <algorithm>
@@ -177,6 +178,9 @@ ChildRun runMeasured(const QStringList &arguments, const QString &folder)
 }
 
 } // namespace
+
+// The scans' key cache goes to a temporary data folder, never the user's.
+static TestEnvironment environment;
 
 class TestCliLargePicture : public QObject
 {
