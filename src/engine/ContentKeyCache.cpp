@@ -4,6 +4,7 @@
 #include "app/DataDirectory.h"
 #include "app/TLogger.h"
 
+#include <algorithm>
 #include <sqlite3.h>
 
 #include <QDateTime>
@@ -118,6 +119,9 @@ bool ContentKeyCache::open()
     }
     sqlite3_extended_result_codes(m_db, 1);
     sqlite3_busy_timeout(m_db, kBusyMs);
+    // A cache lost with the last commit before a power cut costs only reads: the log is
+    // not flushed at every commit.
+    sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
     return prepareSchema();
 }
 
@@ -179,7 +183,6 @@ bool ContentKeyCache::prepareSchema()
                                   "NULL, flags INTEGER NOT NULL, seen INTEGER NOT NULL, "
                                   "checksum INTEGER NOT NULL, PRIMARY KEY(device, inode)) "
                                   "WITHOUT ROWID")
-            && exec("CREATE INDEX keys_seen ON keys(seen)")
             && exec(QByteArray("PRAGMA application_id=" + QByteArray::number(kApplicationId))
                         .constData())
             && exec(
@@ -236,56 +239,121 @@ void ContentKeyCache::reject(const char *why)
         open();
 }
 
+// Entries in the table's own order (signed, as SQLite compares), so that look-ups and
+// writes walk the tree forwards instead of jumping about it.
+std::vector<quint32> ContentKeyCache::tableOrder(const std::vector<Entry> &entries)
+{
+    std::vector<quint32> order;
+    order.reserve(entries.size());
+    for (quint32 i = 0; i < quint32(entries.size()); ++i)
+        if (entries[i].stamp.size >= 0)
+            order.push_back(i);
+    std::sort(order.begin(), order.end(), [&entries](quint32 a, quint32 b) {
+        const Stamp &x = entries[a].stamp;
+        const Stamp &y = entries[b].stamp;
+        return qint64(x.device) != qint64(y.device) ? qint64(x.device) < qint64(y.device)
+                                                    : qint64(x.inode) < qint64(y.inode);
+    });
+    return order;
+}
+
 void ContentKeyCache::lookup(std::vector<Entry> &entries)
 {
     if (!m_db || entries.empty())
         return;
-    // One snapshot for the whole batch: no lock is taken per row.
-    if (!exec("BEGIN"))
-        return;
-    bool damaged = false;
-    for (Entry &entry : entries) {
+    for (Entry &entry : entries)
         entry.found = false;
-        if (entry.stamp.size < 0)
-            continue;
-        sqlite3_bind_int64(m_select, 1, sqlite3_int64(entry.stamp.device));
-        sqlite3_bind_int64(m_select, 2, sqlite3_int64(entry.stamp.inode));
-        const int code = sqlite3_step(m_select);
-        if (code == SQLITE_ROW) {
-            Stamp stored = entry.stamp;
-            stored.size = sqlite3_column_int64(m_select, 0);
-            stored.modifiedNs = sqlite3_column_int64(m_select, 1);
-            stored.changedNs = sqlite3_column_int64(m_select, 2);
-            const quint64 sampled = quint64(sqlite3_column_int64(m_select, 3));
-            const quint64 full = quint64(sqlite3_column_int64(m_select, 4));
-            const int flags = sqlite3_column_int(m_select, 5);
-            if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(m_select, 7)) {
-                damaged = true;
-            } else if (stored == entry.stamp) {
-                entry.found = true;
-                entry.seenDay = qint32(sqlite3_column_int(m_select, 6));
-                entry.hasSampled = flags & kSampledFlag;
-                entry.sampledKey = entry.hasSampled ? sampled : 0;
-                entry.hasFull = flags & kFullFlag;
-                entry.fullKey = entry.hasFull ? full : 0;
-            }
-        } else if (code != SQLITE_DONE) {
-            damaged = isDamage(code);
-            if (!damaged)
-                splog_d(QStringLiteral("[ContentKeyCache]: look-up failed: %1")
-                            .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
-        }
-        sqlite3_reset(m_select);
-        if (damaged || code != SQLITE_ROW && code != SQLITE_DONE)
-            break;
-    }
-    if (!m_db)
+    const std::vector<quint32> order = tableOrder(entries);
+    // One snapshot for the whole batch: no lock is taken per row.
+    if (order.empty() || !exec("BEGIN"))
         return;
+    // When the batch asks for a good part of the table, one pass over the table in key
+    // order costs less than a search per file.
+    int pages = 0;
+    {
+        sqlite3_stmt *count = nullptr;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA page_count", -1, &count, nullptr) == SQLITE_OK
+            && sqlite3_step(count) == SQLITE_ROW)
+            pages = sqlite3_column_int(count, 0);
+        sqlite3_finalize(count);
+    }
+    constexpr qint64 kRowsPerPage = 50;
+    sqlite3_stmt *statement = m_select;
+    const bool scan = qint64(pages) * kRowsPerPage <= qint64(order.size()) * 4;
+    if (scan
+        && sqlite3_prepare_v2(m_db,
+               "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum, device, inode "
+               "FROM keys ORDER BY device, inode",
+               -1, &statement, nullptr)
+            != SQLITE_OK) {
+        sqlite3_finalize(statement);
+        statement = m_select;
+    }
+    const bool scanning = statement != m_select;
+    bool damaged = false;
+    int code = SQLITE_OK;
+    size_t next = 0;
+    // Takes the row under the statement for entries[order[at]], whose key it has.
+    const auto take = [&](size_t at) {
+        Entry &entry = entries[order[at]];
+        Stamp stored = entry.stamp;
+        stored.size = sqlite3_column_int64(statement, 0);
+        stored.modifiedNs = sqlite3_column_int64(statement, 1);
+        stored.changedNs = sqlite3_column_int64(statement, 2);
+        const quint64 sampled = quint64(sqlite3_column_int64(statement, 3));
+        const quint64 full = quint64(sqlite3_column_int64(statement, 4));
+        const int flags = sqlite3_column_int(statement, 5);
+        if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(statement, 7)) {
+            damaged = true;
+        } else if (stored == entry.stamp) {
+            entry.found = true;
+            entry.seenDay = qint32(sqlite3_column_int(statement, 6));
+            entry.hasSampled = flags & kSampledFlag;
+            entry.sampledKey = entry.hasSampled ? sampled : 0;
+            entry.hasFull = flags & kFullFlag;
+            entry.fullKey = entry.hasFull ? full : 0;
+        }
+    };
+    if (scanning) {
+        while (!damaged && next < order.size() && (code = sqlite3_step(statement)) == SQLITE_ROW) {
+            const qint64 device = sqlite3_column_int64(statement, 8);
+            const qint64 inode = sqlite3_column_int64(statement, 9);
+            const auto before = [&](size_t at) {
+                const Stamp &stamp = entries[order[at]].stamp;
+                return qint64(stamp.device) < device
+                    || (qint64(stamp.device) == device && qint64(stamp.inode) < inode);
+            };
+            while (next < order.size() && before(next))
+                ++next;
+            if (next < order.size() && qint64(entries[order[next]].stamp.device) == device
+                && qint64(entries[order[next]].stamp.inode) == inode)
+                take(next++);
+        }
+        sqlite3_finalize(statement);
+    } else {
+        for (; next < order.size() && !damaged; ++next) {
+            const Stamp &stamp = entries[order[next]].stamp;
+            sqlite3_bind_int64(statement, 1, sqlite3_int64(stamp.device));
+            sqlite3_bind_int64(statement, 2, sqlite3_int64(stamp.inode));
+            code = sqlite3_step(statement);
+            if (code == SQLITE_ROW)
+                take(next);
+            sqlite3_reset(statement);
+            if (code != SQLITE_ROW && code != SQLITE_DONE)
+                break;
+        }
+    }
+    if (code != SQLITE_ROW && code != SQLITE_DONE && code != SQLITE_OK) {
+        damaged = isDamage(code);
+        splog_d(QStringLiteral("[ContentKeyCache]: look-up failed: %1")
+                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+    }
     exec("COMMIT");
-    if (damaged) {
+    if (damaged || !m_db) {
         for (Entry &entry : entries)
             entry = Entry {entry.stamp};
-        reject("damaged");
+        if (m_db)
+            reject("damaged");
     }
 }
 
@@ -294,6 +362,20 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
     if (!m_db)
         return;
     const qint32 day = today();
+    std::vector<quint32> rows = tableOrder(entries);
+    rows.erase(std::remove_if(rows.begin(), rows.end(),
+                   [&](quint32 index) {
+                       const Entry &entry = entries[index];
+                       return !(entry.hasSampled || entry.hasFull)
+                           || (!entry.fresh && (!entry.found || entry.seenDay >= day))
+                           || readNs - std::max(entry.stamp.modifiedNs, entry.stamp.changedNs)
+                           < kRacyNs;
+                   }),
+        rows.end());
+    // Nothing new: a scan of an unchanged tree writes nothing (and the pruning ran the day
+    // its entries were written).
+    if (rows.empty())
+        return;
     sqlite3_stmt *insert = nullptr;
     if (sqlite3_prepare_v2(m_db,
             "INSERT OR REPLACE INTO keys(device, inode, size, mtime, ctime, sampled, full, "
@@ -307,13 +389,8 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         return;
     }
     bool failed = false;
-    for (const Entry &entry : entries) {
-        if (entry.stamp.size < 0 || !(entry.hasSampled || entry.hasFull))
-            continue;
-        if (!entry.fresh && (!entry.found || entry.seenDay >= day))
-            continue;
-        if (readNs - std::max(entry.stamp.modifiedNs, entry.stamp.changedNs) < kRacyNs)
-            continue;
+    for (quint32 index : rows) {
+        const Entry &entry = entries[index];
         const int flags = (entry.hasSampled ? kSampledFlag : 0) | (entry.hasFull ? kFullFlag : 0);
         const quint64 sampled = entry.hasSampled ? entry.sampledKey : 0;
         const quint64 full = entry.hasFull ? entry.fullKey : 0;
@@ -337,13 +414,10 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         }
     }
     sqlite3_finalize(insert);
-    if (failed) {
-        exec("ROLLBACK");
-        return;
-    }
+    // One pass over the table (no index on the day: it would cost every write more).
     const QByteArray prune
         = QByteArray("DELETE FROM keys WHERE seen < ") + QByteArray::number(day - kKeepDays);
-    if (!exec(prune.constData())) {
+    if (failed || !exec(prune.constData())) {
         if (m_db)
             exec("ROLLBACK");
         return;

@@ -99,6 +99,7 @@ private:
     // Renames the file (and its log) aside and starts a new one.
     void reject(const char *why);
     bool exec(const char *sql);
+    static std::vector<quint32> tableOrder(const std::vector<Entry> &entries);
 
     QString m_path;
     sqlite3 *m_db = nullptr;

@@ -119,35 +119,51 @@ void TestContentKeyCache::stampDecides_data()
 {
     QTest::addColumn<int>("field");
     QTest::addColumn<bool>("found");
-    QTest::newRow("same stamp") << -1 << true;
-    QTest::newRow("other device") << 0 << false;
-    QTest::newRow("other inode") << 1 << false;
-    QTest::newRow("other size") << 2 << false;
-    QTest::newRow("other modification time") << 3 << false;
-    QTest::newRow("other change time") << 4 << false;
+    QTest::addColumn<int>("batch");
+    // A batch of one is searched for; a batch of most of the table is merged with it.
+    for (int batch : {1, 400}) {
+        QTest::addRow("same stamp, batch %d", batch) << -1 << true << batch;
+        QTest::addRow("other device, batch %d", batch) << 0 << false << batch;
+        QTest::addRow("other inode, batch %d", batch) << 1 << false << batch;
+        QTest::addRow("other size, batch %d", batch) << 2 << false << batch;
+        QTest::addRow("other modification time, batch %d", batch) << 3 << false << batch;
+        QTest::addRow("other change time, batch %d", batch) << 4 << false << batch;
+    }
 }
 
 void TestContentKeyCache::stampDecides()
 {
     QFETCH(int, field);
     QFETCH(bool, found);
-    const QString path = m_dir.filePath("stamps.sqlite");
-    ContentKeyCache::Stamp stamp {5, 77, 4096, 1'000'000'000'123LL, 1'000'000'000'456LL};
-    {
-        ContentKeyCache cache(path);
-        ContentKeyCache::Entry entry {stamp, 11, 22, true, true};
-        entry.fresh = true;
-        cache.store({entry}, stamp.changedNs + ContentKeyCache::kRacyNs);
+    QFETCH(int, batch);
+    const QString path = m_dir.filePath(QString("stamps-%1.sqlite").arg(batch));
+    // Neighbours in key order on both sides of the entry looked at.
+    std::vector<ContentKeyCache::Entry> stored;
+    for (int i = 0; i < 400; ++i) {
+        ContentKeyCache::Stamp stamp {
+            5, quint64(i), 4096, 1'000'000'000'123LL, 1'000'000'000'456LL};
+        stored.push_back(ContentKeyCache::Entry {stamp, quint64(i), quint64(1000 + i), true, true});
+        stored.back().fresh = true;
     }
+    if (!QFileInfo::exists(path))
+        ContentKeyCache(path).store(stored, stored[0].stamp.changedNs + ContentKeyCache::kRacyNs);
+    ContentKeyCache::Stamp stamp = stored[200].stamp;
     qint64 *fields[] = {reinterpret_cast<qint64 *>(&stamp.device),
         reinterpret_cast<qint64 *>(&stamp.inode), &stamp.size, &stamp.modifiedNs, &stamp.changedNs};
     if (field >= 0)
-        ++*fields[field];
+        *fields[field] += field == 1 ? 1000 : 1;
+    std::vector<ContentKeyCache::Entry> entries;
+    for (int i = 400 - batch; i < 400; ++i)
+        entries.push_back(
+            ContentKeyCache::Entry {i == 200 || batch == 1 ? stamp : stored[i].stamp});
     ContentKeyCache cache(path);
-    std::vector<ContentKeyCache::Entry> entries {ContentKeyCache::Entry {stamp}};
     cache.lookup(entries);
-    QCOMPARE(entries[0].found, found);
-    QCOMPARE(entries[0].fullKey, quint64(found ? 22 : 0));
+    const ContentKeyCache::Entry &looked = entries[batch == 1 ? 0 : 200];
+    QCOMPARE(looked.found, found);
+    QCOMPARE(looked.fullKey, quint64(found ? 1200 : 0));
+    QCOMPARE(std::count_if(entries.begin(), entries.end(),
+                 [](const ContentKeyCache::Entry &entry) { return entry.found; }),
+        qsizetype(batch - 1 + found));
 }
 
 void TestContentKeyCache::changedFilesReadAgain_data()
