@@ -568,6 +568,7 @@ void DuplicateFileFinder::processDuplicates()
     if (scanMethod != scanName)
         computeSampledKeys();
 
+    m_fullReadStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
     // Stage B, in chunks so that a stop takes effect between them.
     const qsizetype candidates = qsizetype(m_runs.size());
     const qsizetype chunk
@@ -650,22 +651,59 @@ void DuplicateFileFinder::computeSampledKeys()
         }
         return folders;
     };
-    QList<quint32> folders = foldersToRead();
-    if (m_cache) {
-        // The stamps are taken before any file is read, and a key is stored only when its
-        // file was last modified well before that moment.
-        m_readStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
-        m_cachedFiles.clear();
-        for (quint32 i = 0; i < quint32(files); ++i)
+    if (!m_cache) {
+        QtConcurrent::blockingMap(foldersToRead(), [this](quint32 folder) { keyFolder(folder); });
+        return;
+    }
+    // With the cache, folders go in runs of about kCacheBatch wanted files: each run is
+    // stamped, looked up in one read, its misses read and their keys stored in one write,
+    // so the cache's part of memory stays the same however large the tree.
+    constexpr quint32 kCacheBatch = 32768;
+    const QList<quint32> folders = foldersToRead();
+    QList<quint32> batch;
+    quint32 wanted = 0;
+    for (qsizetype at = 0; at < folders.size() && !isStopRequested(); ++at) {
+        const ScanTable::Folder &folder = m_table.folder(folders[at]);
+        batch.append(folders[at]);
+        wanted += quint32(std::count(m_keyState.begin() + folder.firstFile,
+            m_keyState.begin() + folder.firstFile + folder.fileCount, quint8(1)));
+        if (wanted >= kCacheBatch || at + 1 == folders.size()) {
+            keyFoldersWithCache(batch);
+            batch.clear();
+            wanted = 0;
+        }
+    }
+    m_cachedFiles = {};
+    m_cacheEntries = {};
+}
+
+void DuplicateFileFinder::keyFoldersWithCache(const QList<quint32> &folders)
+{
+    // The stamps are taken before any file is read, and a key is stored only when its
+    // file was last modified well before that moment.
+    m_readStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    m_cachedFiles.clear();
+    for (quint32 index : folders) {
+        const ScanTable::Folder &folder = m_table.folder(index);
+        for (quint32 i = folder.firstFile; i < folder.firstFile + folder.fileCount; ++i)
             if (m_keyState[i] == 1)
                 m_cachedFiles.push_back(i);
-        m_cacheEntries.assign(m_cachedFiles.size(), ContentKeyCache::Entry {});
-        QtConcurrent::blockingMap(folders, [this](quint32 folder) { stampFolder(folder); });
-        m_cache->lookup(m_cacheEntries);
-        takeCachedSampledKeys();
-        folders = foldersToRead();
     }
+    m_cacheEntries.assign(m_cachedFiles.size(), ContentKeyCache::Entry {});
+    QtConcurrent::blockingMap(folders, [this](quint32 folder) { stampFolder(folder); });
+    m_cache->lookup(m_cacheEntries);
+    takeCachedSampledKeys();
     QtConcurrent::blockingMap(folders, [this](quint32 folder) { keyFolder(folder); });
+    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
+        ContentKeyCache::Entry &entry = m_cacheEntries[slot];
+        const quint32 file = m_cachedFiles[slot];
+        if (m_keyState[file] == 2 && !(entry.found && entry.hasSampled)) {
+            entry.sampledKey = m_keys[file];
+            entry.hasSampled = true;
+            entry.fresh = true;
+        }
+    }
+    m_cache->store(m_cacheEntries, m_readStartNs);
 }
 
 void DuplicateFileFinder::stampFolder(quint32 index)
@@ -706,6 +744,8 @@ void DuplicateFileFinder::takeCachedSampledKeys()
         m_keyState[file] = 2;
         m_keyedFiles.fetch_add(1);
         m_keysFromCache.fetch_add(1);
+        if (entry.hasFull && scanMethod == scanAllContent)
+            m_cachedFullKeys.emplace(file, entry.fullKey);
     }
 }
 
@@ -713,14 +753,11 @@ bool DuplicateFileFinder::cachedFullKey(quint32 file, quint64 &key)
 {
     if (!m_cache)
         return false;
-    const auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), file);
-    if (slot == m_cachedFiles.end() || *slot != file)
-        return false;
     QMutexLocker locker(&m_cacheLock);
-    const ContentKeyCache::Entry &entry = m_cacheEntries[size_t(slot - m_cachedFiles.begin())];
-    if (!entry.found || !entry.hasFull)
+    const auto found = m_cachedFullKeys.find(file);
+    if (found == m_cachedFullKeys.end())
         return false;
-    key = entry.fullKey;
+    key = found->second;
     m_keysFromCache.fetch_add(1);
     return true;
 }
@@ -729,16 +766,30 @@ void DuplicateFileFinder::noteFullKey(quint32 file, quint64 key, const ContentKe
 {
     if (!m_cache)
         return;
-    const auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), file);
-    if (slot == m_cachedFiles.end() || *slot != file)
+#ifdef Q_OS_UNIX
+    // The row holds both keys: the sampled one is read again from the same file and must
+    // be the one this scan used, or the file changed between the two reads.
+    const ScanTable::Folder &folder = m_table.folder(m_table.file(file).folder);
+    const QByteArray native = m_table.nativePath(file);
+    quint64 sampled = 0;
+    int error = 0;
+    struct stat opened
+    {
+    };
+    if (!sampledKeyAt(
+            AT_FDCWD, native.constData(), m_table.file(file).size, folder.driveType, sampled,
+            [this, file] { return m_table.filePath(file); }, error, &opened)
+        || sampled != m_keys[file] || !(stampOf(opened) == read))
         return;
-    QMutexLocker locker(&m_cacheLock);
-    ContentKeyCache::Entry &entry = m_cacheEntries[size_t(slot - m_cachedFiles.begin())];
-    entry.fullKey = key;
-    entry.hasFull = true;
+    ContentKeyCache::Entry entry {read, sampled, key, true, true};
     entry.fresh = true;
-    if (!(entry.stamp == read))
-        entry.stamp.size = -1;
+    QMutexLocker locker(&m_cacheLock);
+    m_fullEntries.push_back(entry);
+#else
+    Q_UNUSED(file)
+    Q_UNUSED(key)
+    Q_UNUSED(read)
+#endif
 }
 
 void DuplicateFileFinder::keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read)
@@ -757,19 +808,10 @@ void DuplicateFileFinder::storeKeys()
 {
     if (!m_cache)
         return;
-    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
-        ContentKeyCache::Entry &entry = m_cacheEntries[slot];
-        const quint32 file = m_cachedFiles[slot];
-        if (m_keyState[file] == 2 && !(entry.found && entry.hasSampled)) {
-            entry.sampledKey = m_keys[file];
-            entry.hasSampled = true;
-            entry.fresh = true;
-        }
-    }
-    m_cache->store(m_cacheEntries, m_readStartNs);
+    m_cache->store(m_fullEntries, m_fullReadStartNs);
     m_cache.reset();
-    m_cachedFiles = {};
-    m_cacheEntries = {};
+    m_fullEntries = {};
+    m_cachedFullKeys = {};
 }
 
 void DuplicateFileFinder::keyFolder(quint32 index)

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include <QByteArray>
@@ -110,12 +111,12 @@ private:
     void computeSampledKeys();
     void keyFolder(quint32 folder);
     // The cache's part: the stamps of the wanted files of a folder, before any is read.
+    void keyFoldersWithCache(const QList<quint32> &folders);
     void stampFolder(quint32 folder);
     void takeCachedSampledKeys();
     // The cached whole-content key of a file whose stamp matched; false when there is none.
     bool cachedFullKey(quint32 file, quint64 &key);
-    // A key just read, with the status of the file it was read from: a file that is not
-    // the one stamped before the reads keeps no cache entry.
+    // A whole-content key just read, with the status of the file it was read from.
     void noteFullKey(quint32 file, quint64 key, const ContentKeyCache::Stamp &read);
     void keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read);
     void storeKeys();
@@ -188,15 +189,20 @@ private:
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
     QHash<QByteArray, QStringList> m_signatureTable;
-    // The key cache of the running scan, with one entry per wanted file (m_cachedFiles,
-    // ascending file indices, gives each entry's file). The pool threads write full keys
-    // into the entries under m_cacheLock.
+    // The key cache of the running scan. The sampled keys go through it one run of
+    // folders at a time: an entry per wanted file of the run (m_cachedFiles, ascending file
+    // indices, gives each entry's file). The whole-content keys found in it wait in
+    // m_cachedFullKeys, those read in m_fullEntries; the pool threads use both under
+    // m_cacheLock.
     ContentKeyCache::Options m_cacheOptions;
     std::unique_ptr<ContentKeyCache> m_cache;
     std::vector<quint32> m_cachedFiles;
     std::vector<ContentKeyCache::Entry> m_cacheEntries;
+    std::unordered_map<quint32, quint64> m_cachedFullKeys;
+    std::vector<ContentKeyCache::Entry> m_fullEntries;
     QMutex m_cacheLock;
     qint64 m_readStartNs = 0;
+    qint64 m_fullReadStartNs = 0;
     std::atomic<qint64> m_keysFromCache {0};
     // Group key of every file group touched by a folder with duplicates.
     QSet<QString> m_folderGroupKeys;
