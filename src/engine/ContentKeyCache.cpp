@@ -65,15 +65,18 @@ qint64 ContentKeyCache::sizeOnDisk(const QString &path)
     return total;
 }
 
-bool ContentKeyCache::remove(const QString &path)
+bool ContentKeyCache::clear(const QString &path)
 {
-    bool removed = true;
-    for (const char *suffix : kSuffixes) {
-        const QString file = path + QLatin1String(suffix);
-        if (QFileInfo::exists(file))
-            removed = QFile::remove(file) && removed;
-    }
-    return removed;
+    if (!QFileInfo::exists(path))
+        return true;
+    ContentKeyCache cache(path);
+    if (!cache.isOpen() || !cache.exec("DELETE FROM keys"))
+        return false;
+    // The file shrinks only when no other process reads it at the moment; the keys are
+    // gone in any case.
+    cache.exec("PRAGMA wal_checkpoint(TRUNCATE)");
+    cache.exec("VACUUM");
+    return true;
 }
 
 ContentKeyCache::ContentKeyCache(const QString &path) : m_path(path)

@@ -71,8 +71,9 @@ public:
     static QString setAsidePath(const QString &path);
     // The cache file with its write-ahead log, in bytes.
     static qint64 sizeOnDisk(const QString &path);
-    // Removes the cache (and its log); false when a file could not be removed.
-    static bool remove(const QString &path);
+    // Empties the cache and gives its room back, through the same locks as every scan;
+    // false when it could not (a scan of another process kept it busy).
+    static bool clear(const QString &path);
 
     explicit ContentKeyCache(const QString &path);
     ~ContentKeyCache();
