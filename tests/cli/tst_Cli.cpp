@@ -254,6 +254,7 @@ void TestCli::cacheKeepsGroups()
     const QStringList scan {"scan", "--json", "--select", "none", "--method", method, tree};
     const CliRun reference = runCli(scan + QStringList {"--no-cache"});
     QCOMPARE(reference.exitCode, 0);
+    QCOMPARE(QJsonDocument::fromJson(reference.out).object().value("cachedKeys").toInt(), 0);
     const QStringList expected = reportGroups(reference.out, tree, false);
     QVERIFY(expected.size() > 100);
     // Two processes fill one cache at the same time; a third takes its keys from it.
@@ -271,6 +272,9 @@ void TestCli::cacheKeepsGroups()
     const CliRun cached = runCli(scan);
     QCOMPARE(cached.exitCode, 0);
     QCOMPARE(reportGroups(cached.out, tree, false), expected);
+    // What the two wrote is there: the third takes the keys of the tree's 900 or so
+    // candidates from it.
+    QVERIFY(QJsonDocument::fromJson(cached.out).object().value("cachedKeys").toInt() > 800);
 }
 
 QTEST_GUILESS_MAIN(TestCli)
