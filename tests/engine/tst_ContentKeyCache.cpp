@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include <QDirIterator>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
@@ -37,8 +38,9 @@ QList<QStringList> scan(const QString &root, const QString &cachePath, qint64 *f
     TFileData::instance()->clear();
     DuplicateFileFinder::SizeTable table;
     QStringList all;
-    for (const QString &name : QDir(root).entryList(QDir::Files, QDir::Name)) {
-        const QString path = root + QLatin1Char('/') + name;
+    QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
         const qint64 size = QFileInfo(path).size();
         table[size].append(FileMeta {size, path, 0});
         all.append(path);
@@ -55,7 +57,7 @@ QList<QStringList> scan(const QString &root, const QString &cachePath, qint64 *f
     QList<QStringList> groups;
     for (QStringList group : TFileData::instance()->groups()) {
         for (QString &path : group)
-            path = QFileInfo(path).fileName();
+            path = path.mid(root.size() + 1);
         group.sort();
         groups.append(group);
     }
@@ -100,6 +102,7 @@ private slots:
     void changedFilesReadAgain();
     void rejectedCacheSetAside_data();
     void rejectedCacheSetAside();
+    void largeTreeInRuns();
 
 private:
     QTemporaryDir m_dir;
@@ -111,6 +114,11 @@ void TestContentKeyCache::initTestCase()
         writeTree(m_dir.filePath(QLatin1String(row)));
     for (const char *row : {"not a database", "foreign database", "newer layout", "damaged row"})
         writeTree(m_dir.filePath(QLatin1String(row)));
+    // More candidates than one run of folders takes, in 170 folders of 200 files: 17,000
+    // pairs of one size.
+    for (int k = 0; k < 34000; ++k)
+        ScanTree::write(m_dir.filePath("large"), QString("d%1/f%2").arg(k / 200).arg(k),
+            QByteArray::number(100000000 + k / 2));
     // Files younger than the racy window are never stored; the trees must age past it.
     QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
 }
@@ -242,6 +250,17 @@ void TestContentKeyCache::rejectedCacheSetAside()
     // The new cache works.
     QCOMPARE(scan(root, cache, &taken), expected);
     QCOMPARE(taken, 6);
+}
+
+void TestContentKeyCache::largeTreeInRuns()
+{
+    const QString root = m_dir.filePath("large");
+    const QString cache = m_dir.filePath("large.sqlite");
+    const QList<QStringList> first = scan(root, cache);
+    QCOMPARE(first.size(), 17000);
+    qint64 taken = 0;
+    QCOMPARE(scan(root, cache, &taken), first);
+    QCOMPARE(taken, 34000);
 }
 
 QTEST_GUILESS_MAIN(TestContentKeyCache)
