@@ -175,8 +175,11 @@ bool ContentKeyCache::prepareSchema()
         code = pragma("SELECT count(*) FROM sqlite_master", tables);
     if (code != SQLITE_OK) {
         exec("ROLLBACK");
-        if (m_db)
-            reject(isDamage(code) ? "damaged" : "unreadable");
+        // Only damage sets the file aside; a passing read error leaves it for the next scan.
+        if (m_db && isDamage(code))
+            reject("damaged");
+        else
+            close();
         return m_db != nullptr;
     }
     if (id == 0 && version == 0 && tables == 0) {
@@ -392,6 +395,7 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         return;
     }
     bool failed = false;
+    bool damaged = false;
     for (quint32 index : rows) {
         const Entry &entry = entries[index];
         const int flags = (entry.hasSampled ? kSampledFlag : 0) | (entry.hasFull ? kFullFlag : 0);
@@ -413,10 +417,16 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
             splog_d(QStringLiteral("[ContentKeyCache]: store failed: %1")
                         .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
             failed = true;
+            damaged = isDamage(code);
             break;
         }
     }
     sqlite3_finalize(insert);
+    if (damaged) {
+        exec("ROLLBACK");
+        reject("damaged");
+        return;
+    }
     // One pass over the table (no index on the day: it would cost every write more).
     const QByteArray prune
         = QByteArray("DELETE FROM keys WHERE seen < ") + QByteArray::number(day - kKeepDays);
