@@ -25,8 +25,11 @@ SHARED_BENCH = os.path.normpath(os.path.join(HERE, "..", "..", "shared", "bench"
 SEEDS = {"small": 1, "medium": 2, "many-small": 3, "large-files": 4}
 
 
-def run_timed(cmd, stdout_path):
-    """Runs cmd under /usr/bin/time; returns (wall s, cpu s, peak KiB, exit status)."""
+def run_timed(cmd, stdout_path, before=None):
+    """Runs cmd under /usr/bin/time (after before(), untimed); returns (wall s, cpu s, peak
+    KiB, exit status)."""
+    if before:
+        before()
     with tempfile.NamedTemporaryFile("r", suffix=".time") as timing, \
             open(stdout_path, "wb") as out:
         status = subprocess.call(["/usr/bin/time", "-f", "%e %U %S %M", "-o", timing.name] + cmd,
@@ -65,11 +68,16 @@ def check(truth, tree, output, fmt, mode):
 
 
 def tool_commands(tool, tree, cli):
-    """(command, output format for check_groups, truth mode) of one tool."""
+    """(command, output format for check_groups, truth mode) of one tool.
+
+    cli-METHOD reads every file (--no-cache); cli-METHOD-first starts each run with an
+    empty key cache (a first scan, which fills it); cli-METHOD-cached is a second scan of
+    the unchanged tree (the warm-up run fills the cache)."""
     if tool.startswith("cli-"):
-        method = tool[4:]
+        method, _, cache = tool[4:].partition("-")
         return ([cli, "scan", "--method", method, "--include-hidden", "--select", "none",
-                 "--json", tree], "cli-json", {"sampled": "sampled", "full": "exact"}.get(method))
+                 "--json", tree] + ([] if cache else ["--no-cache"]), "cli-json",
+                {"sampled": "sampled", "full": "exact"}.get(method))
     if tool == "fdupes":
         return (["fdupes", "-r", "-n", "-q", tree], "fdupes", "exact")
     if tool == "jdupes":
@@ -78,8 +86,18 @@ def tool_commands(tool, tree, cli):
         return (["rmlint", "-T", "df", "-r", "-F", "-L", "-o", "json:stdout", tree],
                 "rmlint-json", "exact")
     if tool == "find":
-        return (["find", tree, "-type", "f", "-printf", "%s\n"], None, None)
+        return (["find", tree, "-type", "f", "-printf", "%s %p\n"], None, None)
     raise ValueError(tool)
+
+
+# The command line keeps its key cache under XDG_CONFIG_HOME; the benchmark gives it a
+# folder of its own so that the user's cache is neither used nor changed.
+CACHE_HOME = tempfile.mkdtemp(prefix="dupbench-config.")
+os.environ["XDG_CONFIG_HOME"] = CACHE_HOME
+
+
+def clear_cache():
+    shutil.rmtree(os.path.join(CACHE_HOME, "Veltrine"), ignore_errors=True)
 
 
 def bench_tree(preset, args, out_dir):
@@ -98,8 +116,11 @@ def bench_tree(preset, args, out_dir):
             continue
         cmd, fmt, mode = tool_commands(tool, tree, args.cli)
         out = os.path.join(out_dir, f"{preset}.{tool}.out")
-        run_timed(cmd, out)  # warm-up: page cache and the tool's own libraries
-        samples = [run_timed(cmd, out) for _ in range(args.runs)]
+        before = clear_cache if tool.endswith("-first") else None
+        if tool.endswith("-cached"):
+            clear_cache()
+        run_timed(cmd, out)  # warm-up: page cache, the tool's own libraries, the key cache
+        samples = [run_timed(cmd, out, before) for _ in range(args.runs)]
         wall = statistics.median(s[0] for s in samples)
         cpu = statistics.median(s[1] for s in samples)
         peak = max(s[2] for s in samples)
@@ -114,7 +135,7 @@ def bench_tree(preset, args, out_dir):
             verdict = check(truth, tree, out, fmt, mode)
         rows.append(dict(tool=tool, wall=wall, cpu=cpu, peak_kib=peak, status=status,
                          scanned=scanned, correct=verdict))
-        print(f"  {tool:12s} wall {wall:7.3f} s  cpu {cpu:7.3f} s  peak {peak / 1024:8.1f} MiB"
+        print(f"  {tool:18s} wall {wall:7.3f} s  cpu {cpu:7.3f} s  peak {peak / 1024:8.1f} MiB"
               f"  exit {status}  correct={verdict}", flush=True)
 
     peers = [r for r in rows if r["tool"] in ("fdupes", "jdupes", "rmlint")]
@@ -122,13 +143,13 @@ def bench_tree(preset, args, out_dir):
     find = next((r for r in rows if r["tool"] == "find"), None)
     print(f"\n== {preset}: {files} files; ratios to the fastest peer"
           + (f" ({fastest['tool']})" if fastest else "") + "\n")
-    print(f"{'tool':12s} {'wall s':>8s} {'cpu s':>8s} {'peak MiB':>9s} {'B/file':>7s}"
+    print(f"{'tool':18s} {'wall s':>8s} {'cpu s':>8s} {'peak MiB':>9s} {'B/file':>7s}"
           f" {'wall x':>7s} {'cpu x':>7s} {'mem x':>7s} {'x find':>7s}  correct")
     for r in rows:
         ratio = lambda key: (r[key] / fastest[key]) if fastest and fastest[key] > 0 else float("nan")
         vs_find = r["wall"] / find["wall"] if find and find["wall"] > 0 else float("nan")
         per_file = r["peak_kib"] * 1024 / files if files else 0
-        print(f"{r['tool']:12s} {r['wall']:8.3f} {r['cpu']:8.3f} {r['peak_kib'] / 1024:9.1f}"
+        print(f"{r['tool']:18s} {r['wall']:8.3f} {r['cpu']:8.3f} {r['peak_kib'] / 1024:9.1f}"
               f" {per_file:7.0f} {ratio('wall'):7.2f} {ratio('cpu'):7.2f} {ratio('peak_kib'):7.2f}"
               f" {vs_find:7.2f}  {r['correct']}")
     print()
@@ -143,7 +164,9 @@ def main():
     ap.add_argument("--work", default=os.path.join(tempfile.gettempdir(), "veltrine-bench"),
                     help="folder for the trees (reused when present)")
     ap.add_argument("--cli", default=None, help="path of veltrine-duplicate-finder-cli")
-    ap.add_argument("--tools", default="find,cli-sampled,cli-full,cli-name,fdupes,jdupes,rmlint")
+    ap.add_argument("--tools", default="find,cli-sampled,cli-full,cli-sampled-first,"
+                    "cli-full-first,cli-sampled-cached,cli-full-cached,cli-name,fdupes,jdupes,"
+                    "rmlint")
     ap.add_argument("--out", default=None, help="keep raw outputs here")
     ap.add_argument("--remove-trees", action="store_true", help="delete the trees afterwards")
     args = ap.parse_args()
@@ -164,6 +187,7 @@ def main():
         bench_tree(preset, args, out_dir)
         if args.remove_trees:
             shutil.rmtree(os.path.join(args.work, preset), ignore_errors=True)
+    shutil.rmtree(CACHE_HOME, ignore_errors=True)
     return 0
 
 

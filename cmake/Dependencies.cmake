@@ -5,6 +5,10 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(LIBRAW REQUIRED IMPORTED_TARGET libraw_r)
 pkg_check_modules(LIBHEIF REQUIRED IMPORTED_TARGET libheif)
 pkg_check_modules(XXHASH REQUIRED IMPORTED_TARGET libxxhash)
+# The content-key cache talks to SQLite directly: the command line starts without loading a
+# SQL plugin, and the cache needs the library's own result codes to tell damage from a busy
+# file.
+find_package(SQLite3 REQUIRED)
 find_package(spdlog REQUIRED)
 find_package(Backward REQUIRED)
 

@@ -8,7 +8,7 @@ PACKAGES=(
     qt6-base-dev qt6-base-dev-tools qt6-charts-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools
     qt6-l10n-tools qt6-translations-l10n libqt6opengl6-dev libgl-dev
     libopencv-dev libopencv-contrib-dev libraw-dev libheif-dev libheif-examples
-    libxxhash-dev xxhash libspdlog-dev libfmt-dev libbackward-cpp-dev libdw-dev
+    libxxhash-dev xxhash libsqlite3-dev libspdlog-dev libfmt-dev libbackward-cpp-dev libdw-dev
     rclone xvfb xauth imagemagick g++-mingw-w64-x86-64
     fonts-dejavu-core fonts-noto-cjk
     fdupes jdupes rmlint python3 time libglib2.0-bin strace

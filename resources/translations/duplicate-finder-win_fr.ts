@@ -57,6 +57,21 @@
         <source>Select Files</source>
         <translation>Sélectionner des fichiers</translation>
     </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="98"/>
+        <source>Clear cache</source>
+        <translation>Vider le cache</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="99"/>
+        <source>The cache is in use by a running scan. Try again when it has ended.</source>
+        <translation>Le cache est utilisé par une recherche en cours. Réessayez lorsqu'elle sera terminée.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="111"/>
+        <source>Content keys kept from earlier scans: %1</source>
+        <translation>Clés de contenu conservées des recherches précédentes : %1</translation>
+    </message>
 </context>
 <context>
     <name>DFPreferencesDialog</name>

@@ -57,6 +57,21 @@
         <source>Select Files</source>
         <translation>Seleziona file</translation>
     </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="98"/>
+        <source>Clear cache</source>
+        <translation>Svuota cache</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="99"/>
+        <source>The cache is in use by a running scan. Try again when it has ended.</source>
+        <translation>La cache è in uso da una scansione in corso. Riprova quando sarà terminata.</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="111"/>
+        <source>Content keys kept from earlier scans: %1</source>
+        <translation>Chiavi di contenuto conservate dalle scansioni precedenti: %1</translation>
+    </message>
 </context>
 <context>
     <name>DFPreferencesDialog</name>

@@ -57,6 +57,21 @@
         <source>Select Files</source>
         <translation>ファイルを選択</translation>
     </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="98"/>
+        <source>Clear cache</source>
+        <translation>キャッシュを消去</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="99"/>
+        <source>The cache is in use by a running scan. Try again when it has ended.</source>
+        <translation>実行中のスキャンがキャッシュを使用しています。終了後にもう一度お試しください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="111"/>
+        <source>Content keys kept from earlier scans: %1</source>
+        <translation>以前のスキャンで保存したコンテンツキー: %1</translation>
+    </message>
 </context>
 <context>
     <name>DFPreferencesDialog</name>

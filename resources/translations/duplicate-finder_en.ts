@@ -57,6 +57,21 @@
         <source>Select Files</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="98"/>
+        <source>Clear cache</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="99"/>
+        <source>The cache is in use by a running scan. Try again when it has ended.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="111"/>
+        <source>Content keys kept from earlier scans: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DFPreferencesDialog</name>

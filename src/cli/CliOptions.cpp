@@ -95,6 +95,8 @@ QString CliOptions::usage()
         "  --ignore EXT,...            skip these extensions\n"
         "  --ignore-path PATH          skip this folder or file (repeatable)\n"
         "  --include-hidden            include hidden files and folders\n"
+        "  --no-cache                  read every file; neither use nor update the keys\n"
+        "                              kept from earlier scans\n"
         "  --similar                   also group similar pictures; each option below\n"
         "                              turns this on as well:\n"
         "  --threshold PERCENT         pass mark of the fast comparison, %5 to %6\n"
@@ -353,6 +355,8 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             m_ignorePaths.append(QDir::cleanPath(QFileInfo(value).absoluteFilePath()));
         } else if (name == QLatin1String("--include-hidden") && !inlineValue) {
             m_includeHidden = true;
+        } else if (name == QLatin1String("--no-cache") && !inlineValue) {
+            m_useCache = false;
         } else if (name == QLatin1String("--folders") && !inlineValue) {
             m_folderGroups = true;
         } else if (name == QLatin1String("--similar") && !inlineValue) {

@@ -32,6 +32,7 @@ public:
     bool allowAllCopies() const { return m_allowAllCopies; }
     QStringList folders() const { return m_folders; }
     bool json() const { return m_json; }
+    bool useCache() const { return m_useCache; }
     QString savePath() const { return m_savePath; }
     QString logDirectory() const { return m_logDirectory; }
     // "all" selects every member of each group once the scan is done; the finder itself
@@ -70,6 +71,7 @@ private:
     bool m_sameType = true;
     bool m_sameRatio = true;
     bool m_json = false;
+    bool m_useCache = true;
     double m_minSizeKb = 0;
     double m_maxSizeMb = 100000;
     QStringList m_only;

@@ -93,12 +93,16 @@ Unread unreadOf(const ScanProblems &problems)
         problems.count(ScanProblems::LinkOutsideRoots)};
 }
 
-void printJson(
-    qint64 scannedFiles, double seconds, const QList<OutputGroup> &groups, const Unread &unread)
+// cachedKeys: content keys the scan took from the key cache instead of reading files;
+// negative when the groups come from no scan (a saved project).
+void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &groups,
+    const Unread &unread, qint64 cachedKeys)
 {
     std::FILE *out = stdout;
     std::fprintf(out, "{\"scannedFiles\": %lld, \"seconds\": %.3f,",
         static_cast<long long>(scannedFiles), seconds);
+    if (cachedKeys >= 0)
+        std::fprintf(out, " \"cachedKeys\": %lld,", static_cast<long long>(cachedKeys));
     std::fprintf(out,
         " \"unreadableFolderCount\": %lld, \"unreadableFileCount\": %lld,"
         " \"linksNotFollowedCount\": %lld,",
@@ -171,10 +175,10 @@ void printUnread(const Unread &unread, const QString &summary)
 }
 
 void printGroups(const CliOptions &options, qint64 scannedFiles, double seconds,
-    const QList<OutputGroup> &groups, const Unread &unread)
+    const QList<OutputGroup> &groups, const Unread &unread, qint64 cachedKeys = -1)
 {
     if (options.json())
-        printJson(scannedFiles, seconds, groups, unread);
+        printJson(scannedFiles, seconds, groups, unread, cachedKeys);
     else
         printText(groups);
     std::fflush(stdout);
@@ -262,6 +266,8 @@ int main(int argc, char *argv[])
     }
 
     TControlUI controller;
+    if (!options.useCache())
+        controller.finder()->setCacheOptions(ContentKeyCache::Options {});
     QTimer progressTimer;
     const bool terminal = ::isatty(STDERR_FILENO) == 1;
     double percent = 0.0;
@@ -301,7 +307,8 @@ int main(int argc, char *argv[])
 
     const QList<OutputGroup> groups = collectGroups();
     const Unread unread = unreadOf(controller.problems());
-    printGroups(options, controller.scannedFileCount(), seconds, groups, unread);
+    printGroups(options, controller.scannedFileCount(), seconds, groups, unread,
+        controller.finder()->keysFromCache());
 
     int status = 0;
     if (!options.savePath().isEmpty()) {

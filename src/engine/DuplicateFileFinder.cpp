@@ -16,6 +16,7 @@
 
 #include <QCryptographicHash>
 #include <QDataStream>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -64,6 +65,15 @@ QByteArray hexKey(XXH64_hash_t digest)
     return QByteArray(text, 16);
 }
 
+#ifdef Q_OS_UNIX
+ContentKeyCache::Stamp stampOf(const struct stat &info)
+{
+    return ContentKeyCache::Stamp {quint64(info.st_dev), quint64(info.st_ino), qint64(info.st_size),
+        qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec,
+        qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec};
+}
+#endif
+
 QString folderOf(const QString &path)
 {
     const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
@@ -98,10 +108,12 @@ qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
 // shrank since the scan, or is no regular file any more) is the file asked for its size,
 // and the blocks are then chosen again from the smaller size, exactly as if it had been
 // asked first. Files that are mapped are always asked first, since a map must not reach
-// past the end. pathOf() builds the path for messages only.
+// past the end. pathOf() builds the path for messages only. With `opened`, the file is
+// asked first and its status is left there, so the caller can tell whether the file it
+// stamped earlier is the one that was read.
 template<typename PathOf>
 bool sampledKeyAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &key,
-    const PathOf &pathOf, int &error)
+    const PathOf &pathOf, int &error, struct stat *opened = nullptr)
 {
     error = 0;
     const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -128,10 +140,12 @@ bool sampledKeyAt(int dirfd, const char *name, qint64 size, int driveType, quint
             return false;
         }
         n = std::min<qint64>(info.st_size, size);
+        if (opened)
+            *opened = info;
         return true;
     };
     const bool mapped = driveType != kExternalDrive && n >= kSampledMapThreshold;
-    if (mapped && !check()) {
+    if ((mapped || opened) && !check()) {
         ::close(fd);
         return false;
     }
@@ -246,8 +260,8 @@ bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf 
 
 // Whole-content key of the file `name` relative to `dirfd`.
 template<typename NameOf>
-bool streamKeyAt(
-    int dirfd, const char *name, int driveType, quint64 &key, const NameOf &nameOf, int &error)
+bool streamKeyAt(int dirfd, const char *name, int driveType, quint64 &key, const NameOf &nameOf,
+    int &error, struct stat *opened = nullptr)
 {
     error = 0;
     const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -267,6 +281,8 @@ bool streamKeyAt(
     }
     const bool ok = streamKeyOf(fd, info.st_size, driveType, key, nameOf, error);
     ::close(fd);
+    if (opened)
+        *opened = info;
     return ok;
 }
 
@@ -542,9 +558,17 @@ void DuplicateFileFinder::processDuplicates()
             > m_table.file(m_order[b.begin]).size * b.count;
     });
 
+    m_keysFromCache.store(0);
+    if (scanMethod != scanName && m_cacheOptions.enabled) {
+        m_cache = std::make_unique<ContentKeyCache>(
+            m_cacheOptions.path.isEmpty() ? ContentKeyCache::defaultPath() : m_cacheOptions.path);
+        if (!m_cache->isOpen())
+            m_cache.reset();
+    }
     if (scanMethod != scanName)
         computeSampledKeys();
 
+    m_fullReadStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
     // Stage B, in chunks so that a stop takes effect between them.
     const qsizetype candidates = qsizetype(m_runs.size());
     const qsizetype chunk
@@ -554,6 +578,7 @@ void DuplicateFileFinder::processDuplicates()
         QtConcurrent::blockingMap(m_runs.begin() + start, m_runs.begin() + end,
             [this](const SizeRun &run) { hashGroup(run); });
     }
+    storeKeys();
     emit progressUpdated(0, isStopRequested() ? 0.0 : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
 }
@@ -616,14 +641,177 @@ void DuplicateFileFinder::computeSampledKeys()
             m_keyState[m_order[i]] = 1;
         m_wantedFiles += run.count;
     }
-    QList<quint32> folders;
-    for (quint32 f = 0; f < quint32(m_table.folderCount()); ++f) {
-        const ScanTable::Folder &folder = m_table.folder(f);
-        const auto first = m_keyState.begin() + folder.firstFile;
-        if (std::find(first, first + folder.fileCount, quint8(1)) != first + folder.fileCount)
-            folders.append(f);
+    const auto foldersToRead = [this] {
+        QList<quint32> folders;
+        for (quint32 f = 0; f < quint32(m_table.folderCount()); ++f) {
+            const ScanTable::Folder &folder = m_table.folder(f);
+            const auto first = m_keyState.begin() + folder.firstFile;
+            if (std::find(first, first + folder.fileCount, quint8(1)) != first + folder.fileCount)
+                folders.append(f);
+        }
+        return folders;
+    };
+    if (!m_cache) {
+        QtConcurrent::blockingMap(foldersToRead(), [this](quint32 folder) { keyFolder(folder); });
+        return;
     }
+    // With the cache, folders go in runs of about kCacheBatch wanted files: each run is
+    // stamped, looked up in one read, its misses read and their keys stored in one write,
+    // so the cache's part of memory stays the same however large the tree.
+    constexpr quint32 kCacheBatch = 32768;
+    const QList<quint32> folders = foldersToRead();
+    QList<quint32> batch;
+    quint32 wanted = 0;
+    for (qsizetype at = 0; at < folders.size() && !isStopRequested(); ++at) {
+        const ScanTable::Folder &folder = m_table.folder(folders[at]);
+        batch.append(folders[at]);
+        wanted += quint32(std::count(m_keyState.begin() + folder.firstFile,
+            m_keyState.begin() + folder.firstFile + folder.fileCount, quint8(1)));
+        if (wanted >= kCacheBatch || at + 1 == folders.size()) {
+            keyFoldersWithCache(batch);
+            batch.clear();
+            wanted = 0;
+        }
+    }
+    m_cachedFiles = {};
+    m_cacheEntries = {};
+}
+
+void DuplicateFileFinder::keyFoldersWithCache(const QList<quint32> &folders)
+{
+    // The stamps are taken before any file is read, and a key is stored only when its
+    // file was last modified well before that moment.
+    m_readStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    m_cachedFiles.clear();
+    for (quint32 index : folders) {
+        const ScanTable::Folder &folder = m_table.folder(index);
+        for (quint32 i = folder.firstFile; i < folder.firstFile + folder.fileCount; ++i)
+            if (m_keyState[i] == 1)
+                m_cachedFiles.push_back(i);
+    }
+    m_cacheEntries.assign(m_cachedFiles.size(), ContentKeyCache::Entry {});
+    QtConcurrent::blockingMap(folders, [this](quint32 folder) { stampFolder(folder); });
+    m_cache->lookup(m_cacheEntries);
+    takeCachedSampledKeys();
     QtConcurrent::blockingMap(folders, [this](quint32 folder) { keyFolder(folder); });
+    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
+        ContentKeyCache::Entry &entry = m_cacheEntries[slot];
+        const quint32 file = m_cachedFiles[slot];
+        if (m_keyState[file] == 2 && !(entry.found && entry.hasSampled)) {
+            entry.sampledKey = m_keys[file];
+            entry.hasSampled = true;
+            entry.fresh = true;
+        }
+    }
+    m_cache->store(m_cacheEntries, m_readStartNs);
+}
+
+void DuplicateFileFinder::stampFolder(quint32 index)
+{
+    if (isStopRequested())
+        return;
+    const ScanTable::Folder &folder = m_table.folder(index);
+    auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), folder.firstFile);
+#ifdef Q_OS_UNIX
+    const int dirfd = ::open(folder.native.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (dirfd < 0)
+        return;
+    for (; slot != m_cachedFiles.end() && *slot < folder.firstFile + folder.fileCount; ++slot) {
+        const quint32 file = *slot;
+        struct stat info
+        {
+        };
+        // A file that changed size since the walk is left to the read, which reports it.
+        if (::fstatat(dirfd, m_table.nativeName(file), &info, AT_SYMLINK_NOFOLLOW) != 0
+            || !S_ISREG(info.st_mode) || info.st_size != m_table.file(file).size)
+            continue;
+        m_cacheEntries[size_t(slot - m_cachedFiles.begin())].stamp = stampOf(info);
+    }
+    ::close(dirfd);
+#else
+    Q_UNUSED(slot)
+#endif
+}
+
+void DuplicateFileFinder::takeCachedSampledKeys()
+{
+    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
+        const ContentKeyCache::Entry &entry = m_cacheEntries[slot];
+        if (!entry.found || !entry.hasSampled)
+            continue;
+        const quint32 file = m_cachedFiles[slot];
+        m_keys[file] = entry.sampledKey;
+        m_keyState[file] = 2;
+        m_keyedFiles.fetch_add(1);
+        m_keysFromCache.fetch_add(1);
+        if (entry.hasFull && scanMethod == scanAllContent)
+            m_cachedFullKeys.emplace(file, entry.fullKey);
+    }
+}
+
+bool DuplicateFileFinder::cachedFullKey(quint32 file, quint64 &key)
+{
+    if (!m_cache)
+        return false;
+    QMutexLocker locker(&m_cacheLock);
+    const auto found = m_cachedFullKeys.find(file);
+    if (found == m_cachedFullKeys.end())
+        return false;
+    key = found->second;
+    m_keysFromCache.fetch_add(1);
+    return true;
+}
+
+void DuplicateFileFinder::noteFullKey(quint32 file, quint64 key, const ContentKeyCache::Stamp &read)
+{
+    if (!m_cache)
+        return;
+#ifdef Q_OS_UNIX
+    // The row holds both keys: the sampled one is read again from the same file and must
+    // be the one this scan used, or the file changed between the two reads.
+    const ScanTable::Folder &folder = m_table.folder(m_table.file(file).folder);
+    const QByteArray native = m_table.nativePath(file);
+    quint64 sampled = 0;
+    int error = 0;
+    struct stat opened
+    {
+    };
+    if (!sampledKeyAt(
+            AT_FDCWD, native.constData(), m_table.file(file).size, folder.driveType, sampled,
+            [this, file] { return m_table.filePath(file); }, error, &opened)
+        || sampled != m_keys[file] || !(stampOf(opened) == read))
+        return;
+    ContentKeyCache::Entry entry {read, sampled, key, true, true};
+    entry.fresh = true;
+    QMutexLocker locker(&m_cacheLock);
+    m_fullEntries.push_back(entry);
+#else
+    Q_UNUSED(file)
+    Q_UNUSED(key)
+    Q_UNUSED(read)
+#endif
+}
+
+void DuplicateFileFinder::keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read)
+{
+    const auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), file);
+    if (slot == m_cachedFiles.end() || *slot != file)
+        return;
+    QMutexLocker locker(&m_cacheLock);
+    ContentKeyCache::Stamp &stamp = m_cacheEntries[size_t(slot - m_cachedFiles.begin())].stamp;
+    // Replaced or changed between its stamp and its read: its key stands for another file.
+    if (!(stamp == read))
+        stamp.size = -1;
+}
+
+void DuplicateFileFinder::storeKeys()
+{
+    if (!m_cache)
+        return;
+    m_cache->store(m_fullEntries, m_fullReadStartNs);
+    m_cache.reset();
+    m_fullEntries = {};
+    m_cachedFullKeys = {};
 }
 
 void DuplicateFileFinder::keyFolder(quint32 index)
@@ -648,16 +836,22 @@ void DuplicateFileFinder::keyFolder(quint32 index)
 #ifdef Q_OS_UNIX
             const auto pathOf = [this, i] { return m_table.filePath(i); };
             int error = 0;
+            struct stat opened
+            {
+            };
+            struct stat *read = m_cache ? &opened : nullptr;
             if (dirfd >= 0) {
                 keyed = sampledKeyAt(dirfd, m_table.nativeName(i), m_table.file(i).size,
-                    folder.driveType, key, pathOf, error);
+                    folder.driveType, key, pathOf, error, read);
             } else {
                 const QByteArray native = m_table.nativePath(i);
                 keyed = sampledKeyAt(AT_FDCWD, native.constData(), m_table.file(i).size,
-                    folder.driveType, key, pathOf, error);
+                    folder.driveType, key, pathOf, error, read);
             }
             if (!keyed)
                 noteUnread(i, error);
+            else if (read)
+                keepOnlyIfStamped(i, stampOf(opened));
 #else
             const QByteArray hex
                 = calculateFileHash(m_table.filePath(i), m_table.file(i).size, folder.driveType);
@@ -813,13 +1007,19 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
                     const int driveType = m_table.folder(m_table.file(file).folder).driveType;
                     quint64 key = 0;
 #ifdef Q_OS_UNIX
-                    const QByteArray native = m_table.nativePath(file);
-                    int error = 0;
-                    if (!streamKeyAt(
-                            AT_FDCWD, native.constData(), driveType, key,
-                            [this, file] { return m_table.fileName(file); }, error)) {
-                        noteUnread(file, error);
-                        continue;
+                    if (!cachedFullKey(file, key)) {
+                        const QByteArray native = m_table.nativePath(file);
+                        int error = 0;
+                        struct stat opened
+                        {
+                        };
+                        if (!streamKeyAt(
+                                AT_FDCWD, native.constData(), driveType, key,
+                                [this, file] { return m_table.fileName(file); }, error, &opened)) {
+                            noteUnread(file, error);
+                            continue;
+                        }
+                        noteFullKey(file, key, stampOf(opened));
                     }
 #else
                     const QByteArray hex = streamHash(m_table.filePath(file), driveType);

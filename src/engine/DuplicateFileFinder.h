@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/ContentKeyCache.h"
 #include "engine/FileMeta.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
 
 #include <atomic>
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include <QByteArray>
@@ -60,6 +63,10 @@ public:
     void setRoots(const QStringList &roots) { m_roots = roots; }
     // Where files that cannot be read or have vanished are counted; may be null.
     void setProblems(ScanProblems *problems) { m_problems = problems; }
+    // Whether (and where) keys of earlier scans are reused; off unless set.
+    void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
+    // Keys the last scan took from the cache instead of reading the file.
+    qint64 keysFromCache() const { return m_keysFromCache.load(); }
 
     void requestStop() { stopRequested.store(1); }
     bool isStopRequested() const { return stopRequested.load() != 0; }
@@ -103,6 +110,16 @@ private:
     // whole path); hashGroup then only compares them.
     void computeSampledKeys();
     void keyFolder(quint32 folder);
+    // The cache's part: the stamps of the wanted files of a folder, before any is read.
+    void keyFoldersWithCache(const QList<quint32> &folders);
+    void stampFolder(quint32 folder);
+    void takeCachedSampledKeys();
+    // The cached whole-content key of a file whose stamp matched; false when there is none.
+    bool cachedFullKey(quint32 file, quint64 &key);
+    // A whole-content key just read, with the status of the file it was read from.
+    void noteFullKey(quint32 file, quint64 key, const ContentKeyCache::Stamp &read);
+    void keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read);
+    void storeKeys();
     void hashGroup(const SizeRun &run);
     void reportProgress(bool force);
     // Counts a file that could not be read (error: its errno; 0 for an empty file, which
@@ -172,6 +189,21 @@ private:
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
     QHash<QByteArray, QStringList> m_signatureTable;
+    // The key cache of the running scan. The sampled keys go through it one run of
+    // folders at a time: an entry per wanted file of the run (m_cachedFiles, ascending file
+    // indices, gives each entry's file). The whole-content keys found in it wait in
+    // m_cachedFullKeys, those read in m_fullEntries; the pool threads use both under
+    // m_cacheLock.
+    ContentKeyCache::Options m_cacheOptions;
+    std::unique_ptr<ContentKeyCache> m_cache;
+    std::vector<quint32> m_cachedFiles;
+    std::vector<ContentKeyCache::Entry> m_cacheEntries;
+    std::unordered_map<quint32, quint64> m_cachedFullKeys;
+    std::vector<ContentKeyCache::Entry> m_fullEntries;
+    QMutex m_cacheLock;
+    qint64 m_readStartNs = 0;
+    qint64 m_fullReadStartNs = 0;
+    std::atomic<qint64> m_keysFromCache {0};
     // Group key of every file group touched by a folder with duplicates.
     QSet<QString> m_folderGroupKeys;
 };

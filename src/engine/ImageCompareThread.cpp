@@ -3,8 +3,8 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
-#include "engine/TReadImage.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/TReadImage.h"
 
 #include <algorithm>
 #include <cmath>
@@ -274,7 +274,20 @@ double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) c
 void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups)
 {
     const int n = int(images.size());
-    QList<QPair<int, int>> links;
+    // The links are joined as they are found (union by index, halved paths) instead of
+    // being listed: at a low pass mark nearly every pair passes, and a list of them would
+    // grow with the square of the pictures. parent and linked are shared by the pool's
+    // tasks under m_linkMutex.
+    std::vector<int> parent(size_t(std::max(n, 0)));
+    std::iota(parent.begin(), parent.end(), 0);
+    std::vector<char> linked(size_t(std::max(n, 0)), 0);
+    const auto root = [&parent](int k) {
+        while (parent[size_t(k)] != k) {
+            parent[size_t(k)] = parent[size_t(parent[size_t(k)])];
+            k = parent[size_t(k)];
+        }
+        return k;
+    };
     // similarity of image j, packed with the index i that wrote it: the value kept is the
     // one of the largest i, which is what a sequential run in index order leaves behind,
     // so that the result does not depend on the order in which the pool runs the tasks.
@@ -320,7 +333,8 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
         const bool aHash = hasBits[size_t(i)];
         const bool aEarlier = earlier[size_t(i)];
         const quint64 aBits = bits[size_t(i)];
-        QList<QPair<int, int>> local;
+        // At most one entry per later picture: bounded by the pictures, not the pairs.
+        std::vector<int> local;
         for (int j = i + 1; j < n; ++j) {
             if (isCancelled())
                 break;
@@ -351,11 +365,19 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
             quint64 current = written[size_t(j)].load();
             while (current < packed && !written[size_t(j)].compare_exchange_weak(current, packed)) {
             }
-            local.append(qMakePair(i, j));
+            local.push_back(j);
         }
-        if (!local.isEmpty()) {
+        if (!local.empty()) {
             QMutexLocker locker(&m_linkMutex);
-            links.append(local);
+            linked[size_t(i)] = 1;
+            for (int j : local) {
+                linked[size_t(j)] = 1;
+                const int a = root(i);
+                const int b = root(j);
+                // The smaller index stays the root: a group is known by its first picture.
+                if (a != b)
+                    parent[size_t(std::max(a, b))] = std::min(a, b);
+            }
         }
         finishedIndexes.fetch_add(1);
     });
@@ -365,36 +387,23 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
             images[j].similarity = qint32(packed & 0xffffffffu);
     }
 
-    // The pool appends the links in whatever order its tasks finish; sorted, the groups
-    // and the order of their members come out the same on every run.
-    std::sort(links.begin(), links.end());
-    std::vector<std::vector<int>> adjacency(size_t(std::max(n, 0)));
-    for (const auto &link : std::as_const(links)) {
-        adjacency[size_t(link.first)].push_back(link.second);
-        adjacency[size_t(link.second)].push_back(link.first);
-    }
-    std::vector<char> placed(size_t(std::max(n, 0)), 0);
-    for (int start = 0; start < n; ++start) {
-        if (placed[size_t(start)] || adjacency[size_t(start)].empty())
+    // Groups in the order of their first picture, members in index order before the sort
+    // by similarity: the same on every run, whatever order the pool ran the tasks in.
+    std::vector<int> groupOf(size_t(std::max(n, 0)), -1);
+    const qsizetype firstNew = groups.size();
+    for (int k = 0; k < n; ++k) {
+        if (!linked[size_t(k)])
             continue;
-        QList<ImageData> group;
-        std::vector<int> stack {start};
-        placed[size_t(start)] = 1;
-        while (!stack.empty()) {
-            const int k = stack.back();
-            stack.pop_back();
-            group.append(images.at(k));
-            for (int next : adjacency[size_t(k)]) {
-                if (!placed[size_t(next)]) {
-                    placed[size_t(next)] = 1;
-                    stack.push_back(next);
-                }
-            }
+        int &group = groupOf[size_t(root(k))];
+        if (group < 0) {
+            group = int(groups.size());
+            groups.append(QList<ImageData>());
         }
-        std::stable_sort(group.begin(), group.end(),
-            [](const ImageData &x, const ImageData &y) { return x.similarity > y.similarity; });
-        groups.append(group);
+        groups[group].append(images.at(k));
     }
+    for (auto group = groups.begin() + firstNew; group != groups.end(); ++group)
+        std::stable_sort(group->begin(), group->end(),
+            [](const ImageData &x, const ImageData &y) { return x.similarity > y.similarity; });
 
     emit progressChanged(3, 100);
     if (m_measure == MeasurePHash)

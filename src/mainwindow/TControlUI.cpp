@@ -50,6 +50,8 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
         Qt::QueuedConnection);
     m_scanner.setProblems(&m_problems);
     m_finder.setProblems(&m_problems);
+    // Scans of the program reuse the keys of earlier ones; the command line can say no.
+    m_finder.setCacheOptions(ContentKeyCache::Options {true, {}});
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &TControlUI::onTimerTick);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFIgnoreListWidget.h"
 
+#include "engine/ContentKeyCache.h"
 #include "preferences/DroppedPaths.h"
 #include "preferences/PreferenceRanges.h"
 #include "ui_IgnoreList.h"
@@ -8,7 +9,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QStyle>
 
@@ -78,7 +83,34 @@ DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
     });
     connect(ui->chkIgnoreSystemHidden, &QCheckBox::toggled, this,
         [this](bool on) { m_preferences.setHideSystemFile(on); });
+
+    // The key cache is no setting: clearing it acts at once, whatever the dialog's answer.
+    auto *cacheRow = new QHBoxLayout;
+    m_cacheSize = new QLabel(this);
+    m_cacheSize->setObjectName(QStringLiteral("lblKeyCacheSize"));
+    m_clearCache = new QPushButton(this);
+    m_clearCache->setObjectName(QStringLiteral("btnClearKeyCache"));
+    cacheRow->addWidget(m_cacheSize, 1);
+    cacheRow->addWidget(m_clearCache);
+    ui->verticalLayout->addLayout(cacheRow);
+    connect(m_clearCache, &QPushButton::clicked, this, [this] {
+        if (!ContentKeyCache::clear(ContentKeyCache::defaultPath()))
+            QMessageBox::warning(this, tr("Clear cache"),
+                tr("The cache is in use by a running scan. Try again when it has ended."));
+        showCacheSize();
+    });
     refresh();
+}
+
+void DFIgnoreListWidget::showCacheSize()
+{
+    if (!m_cacheSize)
+        return;
+    const qint64 size = ContentKeyCache::sizeOnDisk(ContentKeyCache::defaultPath());
+    m_cacheSize->setText(
+        tr("Content keys kept from earlier scans: %1").arg(QLocale().formattedDataSize(size, 1)));
+    m_clearCache->setText(tr("Clear cache"));
+    m_clearCache->setEnabled(size > 0);
 }
 
 DFIgnoreListWidget::~DFIgnoreListWidget() = default;
@@ -126,6 +158,7 @@ void DFIgnoreListWidget::refresh()
     showFormatMode(ignoreMode);
     ui->chkIgnoreSystemHidden->setChecked(m_preferences.HideSystemFile());
     m_filling = false;
+    showCacheSize();
 }
 
 void DFIgnoreListWidget::showFormatMode(bool ignoreMode)

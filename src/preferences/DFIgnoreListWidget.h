@@ -7,12 +7,16 @@
 
 #include <QWidget>
 
+class QLabel;
+class QPushButton;
+
 namespace Ui {
 class IgnoreList;
 }
 
 // Tab "General" of the preferences dialog: removal method and its folder, size bounds,
-// the ignore list, the extension lists and the hidden-file switch. Edits a private copy
+// the ignore list, the extension lists, the hidden-file switch, and the size of the key
+// cache with a button that clears it. Edits a private copy
 // of the common settings; the dialog takes the copy over on OK.
 class DFIgnoreListWidget : public QWidget
 {
@@ -51,8 +55,11 @@ private:
     void updateListButtons();
     void showFormatMode(bool ignoreMode);
     void showMoveFolder();
+    void showCacheSize();
 
     std::unique_ptr<Ui::IgnoreList> ui;
+    QLabel *m_cacheSize = nullptr;
+    QPushButton *m_clearCache = nullptr;
     DFIgnoreListPreferences m_preferences;
     // Set while refresh() puts values into the controls, so that they are not written
     // back half-filled.

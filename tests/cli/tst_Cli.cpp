@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CliRunner.h"
 #include "ReportGroups.h"
+#include "TestEnvironment.h"
+#include "engine/ContentKeyCache.h"
 #include "engine/ScanTree.h"
 
 #include <fcntl.h>
@@ -12,6 +14,9 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
+
+// The scans' key cache goes to a temporary data folder, never the user's.
+static TestEnvironment environment;
 
 class TestCli : public QObject
 {
@@ -25,6 +30,8 @@ private slots:
     void jsonReport_data();
     void jsonReport();
     void savesProject();
+    void cacheKeepsGroups_data();
+    void cacheKeepsGroups();
 
 private:
     QTemporaryDir m_dir;
@@ -221,6 +228,53 @@ void TestCli::savesProject()
     const QByteArray text = ScanTree::read(project);
     QVERIFY(text.contains("A/x.bin"));
     QVERIFY(text.contains("B/y.txt"));
+}
+
+void TestCli::cacheKeepsGroups_data()
+{
+    QTest::addColumn<QString>("method");
+    QTest::newRow("sampled") << "sampled";
+    QTest::newRow("full") << "full";
+}
+
+void TestCli::cacheKeepsGroups()
+{
+    QFETCH(QString, method);
+    // The benchmark tree with every trap (near copies that only a whole read tells apart,
+    // block edges, odd names), aged past the window in which keys are not kept.
+    static QTemporaryDir dir;
+    const QString tree = dir.filePath("tree");
+    if (!QFileInfo::exists(tree)) {
+        QCOMPARE(QProcess::execute("python3",
+                     {qEnvironmentVariable("VELTRINE_TEST_SHARED") + "/bench/make_tree.py",
+                         "--preset", "small", "-q", tree}),
+            0);
+        QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
+    }
+    const QStringList scan {"scan", "--json", "--select", "none", "--method", method, tree};
+    const CliRun reference = runCli(scan + QStringList {"--no-cache"});
+    QCOMPARE(reference.exitCode, 0);
+    QCOMPARE(QJsonDocument::fromJson(reference.out).object().value("cachedKeys").toInt(), 0);
+    const QStringList expected = reportGroups(reference.out, tree, false);
+    QVERIFY(expected.size() > 100);
+    // Two processes fill one cache at the same time; a third takes its keys from it.
+    QProcess first;
+    QProcess second;
+    for (QProcess *process : {&first, &second})
+        process->start(QStringLiteral(VELTRINE_CLI_PATH), scan);
+    for (QProcess *process : {&first, &second}) {
+        QVERIFY(process->waitForFinished(120000));
+        QCOMPARE(process->exitCode(), 0);
+        QCOMPARE(reportGroups(process->readAllStandardOutput(), tree, false), expected);
+    }
+    QVERIFY(ContentKeyCache::sizeOnDisk(ContentKeyCache::defaultPath()) > 0);
+    QVERIFY(!QFileInfo::exists(ContentKeyCache::setAsidePath(ContentKeyCache::defaultPath())));
+    const CliRun cached = runCli(scan);
+    QCOMPARE(cached.exitCode, 0);
+    QCOMPARE(reportGroups(cached.out, tree, false), expected);
+    // What the two wrote is there: the third takes the keys of the tree's 900 or so
+    // candidates from it.
+    QVERIFY(QJsonDocument::fromJson(cached.out).object().value("cachedKeys").toInt() > 800);
 }
 
 QTEST_GUILESS_MAIN(TestCli)

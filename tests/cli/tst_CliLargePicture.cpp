@@ -7,6 +7,7 @@
 // with the large one, which shows the large one was really decoded and hashed.
 #include "LogText.h"
 #include "ReportGroups.h"
+#include "TestEnvironment.h"
 #include "engine/ScanTree.h"
 
 #include <algorithm>
@@ -178,12 +179,16 @@ ChildRun runMeasured(const QStringList &arguments, const QString &folder)
 
 } // namespace
 
+// The scans' key cache goes to a temporary data folder, never the user's.
+static TestEnvironment environment;
+
 class TestCliLargePicture : public QObject
 {
     Q_OBJECT
 private slots:
     void withoutFullSizeBuffer_data();
     void withoutFullSizeBuffer();
+    void everyPairPassingInBoundedMemory();
 };
 
 void TestCliLargePicture::withoutFullSizeBuffer_data()
@@ -245,6 +250,32 @@ void TestCliLargePicture::withoutFullSizeBuffer()
         static_cast<long long>(fullBufferKiB));
     QVERIFY2(
         growthKiB < fullBufferKiB / 4, qPrintable(QStringLiteral("grew by %1 KiB").arg(growthKiB)));
+}
+
+void TestCliLargePicture::everyPairPassingInBoundedMemory()
+{
+    // 2,000 small pictures, each of its own size (so none is a copy of another). At the
+    // lowest pass mark every one of the two million pairs passes with the hash measure.
+    QTemporaryDir dir;
+    const QString root = dir.path() + "/pictures";
+    QVERIFY(QDir().mkpath(root));
+    const int count = 2000;
+    for (int k = 0; k < count; ++k)
+        QVERIFY(writePicture(QString("%1/p%2.png").arg(root).arg(k), 40 + k % 50, 30 + k / 50));
+    const QStringList options {"scan", "--json", "--algorithm", "phash", "--no-features",
+        "--any-ratio", "--no-cache", "--select", "none", "--threshold"};
+    const ChildRun none = runMeasured(options + QStringList {"100", root}, dir.path());
+    const ChildRun every = runMeasured(options + QStringList {"1", root}, dir.path());
+    QCOMPARE(none.exitCode, 0);
+    QCOMPARE(every.exitCode, 0);
+    const QStringList groups = reportGroups(every.out, root, false);
+    QCOMPARE(groups.size(), 1);
+    QCOMPARE(groups.first().count(','), count - 1);
+    // A list of the passing pairs alone would take 16 MB.
+    const qint64 growthKiB = every.peakKiB - none.peakKiB;
+    qInfo("peak %lld KiB linking every pair, %lld KiB linking none",
+        static_cast<long long>(every.peakKiB), static_cast<long long>(none.peakKiB));
+    QVERIFY2(growthKiB < 6 * 1024, qPrintable(QStringLiteral("grew by %1 KiB").arg(growthKiB)));
 }
 
 QTEST_GUILESS_MAIN(TestCliLargePicture)

@@ -4,6 +4,7 @@
 // different aspect ratio, plus an unrelated scene.
 #include "CliRunner.h"
 #include "ReportGroups.h"
+#include "TestEnvironment.h"
 #include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 
@@ -15,6 +16,9 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
+
+// The scans' key cache goes to a temporary data folder, never the user's.
+static TestEnvironment environment;
 
 class TestCliSimilar : public QObject
 {

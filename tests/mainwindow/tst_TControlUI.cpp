@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "TestEnvironment.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "mainwindow/TControlUI.h"
@@ -13,6 +14,9 @@ const QJsonObject kCommon {{"IgnoreSystemHidden", true}};
 const QJsonObject kSimilarOff {{"hasSimilar", false}};
 
 } // namespace
+
+// The scans' key cache goes to a temporary data folder, never the user's.
+static TestEnvironment environment;
 
 class TestControlUI : public QObject
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DialogAnswerer.h"
 #include "TestEnvironment.h"
+#include "engine/ContentKeyCache.h"
 #include "engine/ScanTree.h"
 #include "preferences/DFGeneralWidget.h"
 #include "preferences/DFGenernalPreferences.h"
@@ -52,6 +53,7 @@ private slots:
     void okKeepsWhatOthersWrote();
     void dropAddsPaths_data();
     void dropAddsPaths();
+    void clearingTheKeyCache();
 
 private:
     void run(const QString &steps);
@@ -492,6 +494,35 @@ void TestDFPreferencesDialog::dropAddsPaths()
         actual << QString(it.key()).remove(root) + '=' + QString::number(it.value());
     QCOMPARE(actual, entries);
     QCOMPARE(boxes.texts, texts);
+}
+
+void TestDFPreferencesDialog::clearingTheKeyCache()
+{
+    const QString path = ContentKeyCache::defaultPath();
+    std::vector<ContentKeyCache::Entry> stored;
+    for (quint64 inode = 1; inode <= 2000; ++inode) {
+        stored.push_back(ContentKeyCache::Entry {{1, inode, 3, 4, 5}, 6, 7, true, true});
+        stored.back().fresh = true;
+    }
+    const ContentKeyCache::Entry entry = stored.front();
+    ContentKeyCache(path).store(stored, ContentKeyCache::kRacyNs * 2);
+    const qint64 before = ContentKeyCache::sizeOnDisk(path);
+    QVERIFY(before > 0);
+
+    DFIgnoreListWidget widget;
+    auto *size = widget.findChild<QLabel *>("lblKeyCacheSize");
+    auto *clear = widget.findChild<QAbstractButton *>("btnClearKeyCache");
+    QVERIFY(size && clear);
+    QVERIFY(size->text().endsWith(QLocale().formattedDataSize(before, 1)));
+    QVERIFY(clear->isEnabled());
+    clear->click();
+
+    std::vector<ContentKeyCache::Entry> entries {ContentKeyCache::Entry {entry.stamp}};
+    ContentKeyCache(path).lookup(entries);
+    QVERIFY(!entries[0].found);
+    QVERIFY(ContentKeyCache::sizeOnDisk(path) < before);
+    QVERIFY(
+        size->text().endsWith(QLocale().formattedDataSize(ContentKeyCache::sizeOnDisk(path), 1)));
 }
 
 QTEST_MAIN(TestDFPreferencesDialog)

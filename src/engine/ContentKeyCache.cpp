@@ -1,0 +1,439 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ContentKeyCache.h"
+
+#include "app/DataDirectory.h"
+#include "app/TLogger.h"
+
+#include <algorithm>
+#include <sqlite3.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+#define XXH_STATIC_LINKING_ONLY
+#include <xxhash.h>
+
+namespace {
+
+// "VKC1" in the file header: a file without it was not written by this program.
+constexpr int kApplicationId = 0x564B4331;
+constexpr int kSchemaVersion = 1;
+constexpr int kBusyMs = 5000;
+constexpr int kSampledFlag = 1;
+constexpr int kFullFlag = 2;
+const char *const kSuffixes[] = {"", "-wal", "-shm"};
+
+qint32 today()
+{
+    return qint32(QDateTime::currentSecsSinceEpoch() / 86400);
+}
+
+// Every field that decides what a row says; a row whose digest differs was damaged.
+qint64 rowCheck(const ContentKeyCache::Stamp &stamp, quint64 sampled, quint64 full, int flags)
+{
+    const quint64 fields[] = {stamp.device, stamp.inode, quint64(stamp.size),
+        quint64(stamp.modifiedNs), quint64(stamp.changedNs), sampled, full, quint64(flags)};
+    return qint64(XXH3_64bits(fields, sizeof fields));
+}
+
+bool isDamage(int code)
+{
+    const int primary = code & 0xFF;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB || primary == SQLITE_FORMAT;
+}
+
+} // namespace
+
+QString ContentKeyCache::defaultPath()
+{
+    return DataDirectory::base() + QStringLiteral("content-keys.sqlite");
+}
+
+QString ContentKeyCache::setAsidePath(const QString &path)
+{
+    return path + QStringLiteral(".set-aside");
+}
+
+qint64 ContentKeyCache::sizeOnDisk(const QString &path)
+{
+    qint64 total = 0;
+    for (const char *suffix : {"", "-wal"})
+        total += QFileInfo(path + QLatin1String(suffix)).size();
+    return total;
+}
+
+bool ContentKeyCache::clear(const QString &path)
+{
+    if (!QFileInfo::exists(path))
+        return true;
+    ContentKeyCache cache(path);
+    if (!cache.isOpen() || !cache.exec("DELETE FROM keys"))
+        return false;
+    // The file shrinks only when no other process reads it at the moment; the keys are
+    // gone in any case.
+    cache.exec("PRAGMA wal_checkpoint(TRUNCATE)");
+    cache.exec("VACUUM");
+    return true;
+}
+
+ContentKeyCache::ContentKeyCache(const QString &path) : m_path(path)
+{
+    open();
+}
+
+ContentKeyCache::~ContentKeyCache()
+{
+    close();
+}
+
+bool ContentKeyCache::exec(const char *sql)
+{
+    const int code = sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr);
+    if (code == SQLITE_OK)
+        return true;
+    splog_d(QStringLiteral("[ContentKeyCache]: %1: %2")
+                .arg(QLatin1String(sql), QString::fromUtf8(sqlite3_errmsg(m_db))));
+    if (isDamage(code))
+        reject("damaged");
+    return false;
+}
+
+void ContentKeyCache::close()
+{
+    sqlite3_finalize(m_select);
+    m_select = nullptr;
+    sqlite3_close_v2(m_db);
+    m_db = nullptr;
+}
+
+bool ContentKeyCache::open()
+{
+    ++m_generation;
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    if (sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_db,
+            SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr)
+        != SQLITE_OK) {
+        splog_d(QStringLiteral("[ContentKeyCache]: cannot open %1").arg(m_path));
+        close();
+        return false;
+    }
+    sqlite3_extended_result_codes(m_db, 1);
+    sqlite3_busy_timeout(m_db, kBusyMs);
+    // A cache lost with the last commit before a power cut costs only reads: the log is
+    // not flushed at every commit.
+    sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
+    return prepareSchema();
+}
+
+bool ContentKeyCache::prepareSchema()
+{
+    // The switch to the write-ahead log takes an exclusive lock without waiting for a
+    // busy one, so a second process starting at the same moment tries again.
+    int code = SQLITE_BUSY;
+    for (int attempt = 0; attempt < 50 && (code & 0xFF) == SQLITE_BUSY; ++attempt) {
+        if (attempt)
+            QThread::msleep(20);
+        code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    }
+    if (code != SQLITE_OK) {
+        if (isDamage(code))
+            reject("not a database");
+        else
+            close();
+        return m_db != nullptr;
+    }
+    const auto pragma = [this](const char *sql, int &value) {
+        sqlite3_stmt *statement = nullptr;
+        int result = sqlite3_prepare_v2(m_db, sql, -1, &statement, nullptr);
+        if (result == SQLITE_OK) {
+            result = sqlite3_step(statement);
+            value = result == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
+            result = result == SQLITE_ROW ? SQLITE_OK : result;
+        }
+        sqlite3_finalize(statement);
+        return result;
+    };
+    // Read and, for a new file, written in one write transaction: two processes creating
+    // the cache at once must not both lay out its tables.
+    const int generation = m_generation;
+    if (!exec("BEGIN IMMEDIATE")) {
+        // Busy past the wait: this scan does without. Damaged: exec() started anew.
+        if (generation == m_generation)
+            close();
+        return m_db != nullptr;
+    }
+    int id = 0;
+    int version = 0;
+    int tables = 0;
+    code = pragma("PRAGMA application_id", id);
+    if (code == SQLITE_OK)
+        code = pragma("PRAGMA user_version", version);
+    if (code == SQLITE_OK)
+        code = pragma("SELECT count(*) FROM sqlite_master", tables);
+    if (code != SQLITE_OK) {
+        exec("ROLLBACK");
+        // Only damage sets the file aside; a passing read error leaves it for the next scan.
+        if (m_db && isDamage(code))
+            reject("damaged");
+        else
+            close();
+        return m_db != nullptr;
+    }
+    if (id == 0 && version == 0 && tables == 0) {
+        const bool created = exec("CREATE TABLE keys(device INTEGER NOT NULL, inode INTEGER NOT "
+                                  "NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime "
+                                  "INTEGER NOT NULL, sampled INTEGER NOT NULL, full INTEGER NOT "
+                                  "NULL, flags INTEGER NOT NULL, seen INTEGER NOT NULL, "
+                                  "checksum INTEGER NOT NULL, PRIMARY KEY(device, inode)) "
+                                  "WITHOUT ROWID")
+            && exec(QByteArray("PRAGMA application_id=" + QByteArray::number(kApplicationId))
+                        .constData())
+            && exec(
+                QByteArray("PRAGMA user_version=" + QByteArray::number(kSchemaVersion)).constData())
+            && exec("COMMIT");
+        if (!created) {
+            if (m_db)
+                exec("ROLLBACK");
+            close();
+            return false;
+        }
+    } else {
+        exec("ROLLBACK");
+        if (id != kApplicationId) {
+            reject("not a cache of this program");
+            return m_db != nullptr;
+        }
+        if (version != kSchemaVersion) {
+            reject(version > kSchemaVersion ? "written by a newer version" : "old layout");
+            return m_db != nullptr;
+        }
+    }
+    if (!m_db)
+        return false;
+    code = sqlite3_prepare_v3(m_db,
+        "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum FROM keys WHERE "
+        "device = ? AND inode = ?",
+        -1, SQLITE_PREPARE_PERSISTENT, &m_select, nullptr);
+    if (code != SQLITE_OK) {
+        reject("no key table");
+        return m_db != nullptr;
+    }
+    return true;
+}
+
+void ContentKeyCache::reject(const char *why)
+{
+    close();
+    if (m_setAside)
+        return; // A file just created and still refused: do without a cache this time.
+    m_setAside = true;
+    splog_d(QStringLiteral("[ContentKeyCache]: %1 is %2; set aside and started anew.")
+                .arg(m_path, QLatin1String(why)));
+    const QString aside = setAsidePath(m_path);
+    for (const char *suffix : kSuffixes) {
+        const QString from = m_path + QLatin1String(suffix);
+        const QString to = aside + QLatin1String(suffix);
+        QFile::remove(to);
+        if (QFileInfo::exists(from) && !QFile::rename(from, to))
+            QFile::remove(from);
+    }
+    // A file that can neither be moved nor removed is never opened again by this object.
+    if (!QFileInfo::exists(m_path))
+        open();
+}
+
+// Entries in the table's own order (signed, as SQLite compares), so that look-ups and
+// writes walk the tree forwards instead of jumping about it.
+std::vector<quint32> ContentKeyCache::tableOrder(const std::vector<Entry> &entries)
+{
+    std::vector<quint32> order;
+    order.reserve(entries.size());
+    for (quint32 i = 0; i < quint32(entries.size()); ++i)
+        if (entries[i].stamp.size >= 0)
+            order.push_back(i);
+    std::sort(order.begin(), order.end(), [&entries](quint32 a, quint32 b) {
+        const Stamp &x = entries[a].stamp;
+        const Stamp &y = entries[b].stamp;
+        return qint64(x.device) != qint64(y.device) ? qint64(x.device) < qint64(y.device)
+                                                    : qint64(x.inode) < qint64(y.inode);
+    });
+    return order;
+}
+
+void ContentKeyCache::lookup(std::vector<Entry> &entries)
+{
+    if (!m_db || entries.empty())
+        return;
+    for (Entry &entry : entries)
+        entry.found = false;
+    const std::vector<quint32> order = tableOrder(entries);
+    // One snapshot for the whole batch: no lock is taken per row.
+    if (order.empty() || !exec("BEGIN"))
+        return;
+    // When the batch asks for a good part of the table, one pass over the table in key
+    // order costs less than a search per file.
+    int pages = 0;
+    {
+        sqlite3_stmt *count = nullptr;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA page_count", -1, &count, nullptr) == SQLITE_OK
+            && sqlite3_step(count) == SQLITE_ROW)
+            pages = sqlite3_column_int(count, 0);
+        sqlite3_finalize(count);
+    }
+    constexpr qint64 kRowsPerPage = 50;
+    sqlite3_stmt *statement = m_select;
+    const bool scan = qint64(pages) * kRowsPerPage <= qint64(order.size()) * 4;
+    if (scan
+        && sqlite3_prepare_v2(m_db,
+               "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum, device, inode "
+               "FROM keys ORDER BY device, inode",
+               -1, &statement, nullptr)
+            != SQLITE_OK) {
+        sqlite3_finalize(statement);
+        statement = m_select;
+    }
+    const bool scanning = statement != m_select;
+    bool damaged = false;
+    int code = SQLITE_OK;
+    size_t next = 0;
+    // Takes the row under the statement for entries[order[at]], whose key it has.
+    const auto take = [&](size_t at) {
+        Entry &entry = entries[order[at]];
+        Stamp stored = entry.stamp;
+        stored.size = sqlite3_column_int64(statement, 0);
+        stored.modifiedNs = sqlite3_column_int64(statement, 1);
+        stored.changedNs = sqlite3_column_int64(statement, 2);
+        const quint64 sampled = quint64(sqlite3_column_int64(statement, 3));
+        const quint64 full = quint64(sqlite3_column_int64(statement, 4));
+        const int flags = sqlite3_column_int(statement, 5);
+        if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(statement, 7)) {
+            damaged = true;
+        } else if (stored == entry.stamp) {
+            entry.found = true;
+            entry.seenDay = qint32(sqlite3_column_int(statement, 6));
+            entry.hasSampled = flags & kSampledFlag;
+            entry.sampledKey = entry.hasSampled ? sampled : 0;
+            entry.hasFull = flags & kFullFlag;
+            entry.fullKey = entry.hasFull ? full : 0;
+        }
+    };
+    if (scanning) {
+        while (!damaged && next < order.size() && (code = sqlite3_step(statement)) == SQLITE_ROW) {
+            const qint64 device = sqlite3_column_int64(statement, 8);
+            const qint64 inode = sqlite3_column_int64(statement, 9);
+            const auto before = [&](size_t at) {
+                const Stamp &stamp = entries[order[at]].stamp;
+                return qint64(stamp.device) < device
+                    || (qint64(stamp.device) == device && qint64(stamp.inode) < inode);
+            };
+            while (next < order.size() && before(next))
+                ++next;
+            if (next < order.size() && qint64(entries[order[next]].stamp.device) == device
+                && qint64(entries[order[next]].stamp.inode) == inode)
+                take(next++);
+        }
+        sqlite3_finalize(statement);
+    } else {
+        for (; next < order.size() && !damaged; ++next) {
+            const Stamp &stamp = entries[order[next]].stamp;
+            sqlite3_bind_int64(statement, 1, sqlite3_int64(stamp.device));
+            sqlite3_bind_int64(statement, 2, sqlite3_int64(stamp.inode));
+            code = sqlite3_step(statement);
+            if (code == SQLITE_ROW)
+                take(next);
+            sqlite3_reset(statement);
+            if (code != SQLITE_ROW && code != SQLITE_DONE)
+                break;
+        }
+    }
+    if (code != SQLITE_ROW && code != SQLITE_DONE && code != SQLITE_OK) {
+        damaged = isDamage(code);
+        splog_d(QStringLiteral("[ContentKeyCache]: look-up failed: %1")
+                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+    }
+    exec("COMMIT");
+    if (damaged || !m_db) {
+        for (Entry &entry : entries)
+            entry = Entry {entry.stamp};
+        if (m_db)
+            reject("damaged");
+    }
+}
+
+void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
+{
+    if (!m_db)
+        return;
+    const qint32 day = today();
+    std::vector<quint32> rows = tableOrder(entries);
+    rows.erase(std::remove_if(rows.begin(), rows.end(),
+                   [&](quint32 index) {
+                       const Entry &entry = entries[index];
+                       return !(entry.hasSampled || entry.hasFull)
+                           || (!entry.fresh && (!entry.found || entry.seenDay >= day))
+                           || readNs - std::max(entry.stamp.modifiedNs, entry.stamp.changedNs)
+                           < kRacyNs;
+                   }),
+        rows.end());
+    // Nothing new: a scan of an unchanged tree writes nothing (and the pruning ran the day
+    // its entries were written).
+    if (rows.empty())
+        return;
+    sqlite3_stmt *insert = nullptr;
+    if (sqlite3_prepare_v2(m_db,
+            "INSERT OR REPLACE INTO keys(device, inode, size, mtime, ctime, sampled, full, "
+            "flags, seen, checksum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+            -1, &insert, nullptr)
+        != SQLITE_OK)
+        return;
+    // A write lock from the start: a read that turns into a write cannot wait for it.
+    if (!exec("BEGIN IMMEDIATE")) {
+        sqlite3_finalize(insert);
+        return;
+    }
+    bool failed = false;
+    bool damaged = false;
+    for (quint32 index : rows) {
+        const Entry &entry = entries[index];
+        const int flags = (entry.hasSampled ? kSampledFlag : 0) | (entry.hasFull ? kFullFlag : 0);
+        const quint64 sampled = entry.hasSampled ? entry.sampledKey : 0;
+        const quint64 full = entry.hasFull ? entry.fullKey : 0;
+        sqlite3_bind_int64(insert, 1, sqlite3_int64(entry.stamp.device));
+        sqlite3_bind_int64(insert, 2, sqlite3_int64(entry.stamp.inode));
+        sqlite3_bind_int64(insert, 3, entry.stamp.size);
+        sqlite3_bind_int64(insert, 4, entry.stamp.modifiedNs);
+        sqlite3_bind_int64(insert, 5, entry.stamp.changedNs);
+        sqlite3_bind_int64(insert, 6, sqlite3_int64(sampled));
+        sqlite3_bind_int64(insert, 7, sqlite3_int64(full));
+        sqlite3_bind_int(insert, 8, flags);
+        sqlite3_bind_int(insert, 9, day);
+        sqlite3_bind_int64(insert, 10, rowCheck(entry.stamp, sampled, full, flags));
+        const int code = sqlite3_step(insert);
+        sqlite3_reset(insert);
+        if (code != SQLITE_DONE) {
+            splog_d(QStringLiteral("[ContentKeyCache]: store failed: %1")
+                        .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+            failed = true;
+            damaged = isDamage(code);
+            break;
+        }
+    }
+    sqlite3_finalize(insert);
+    if (damaged) {
+        exec("ROLLBACK");
+        reject("damaged");
+        return;
+    }
+    // One pass over the table (no index on the day: it would cost every write more).
+    const QByteArray prune
+        = QByteArray("DELETE FROM keys WHERE seen < ") + QByteArray::number(day - kKeepDays);
+    if (failed || !exec(prune.constData())) {
+        if (m_db)
+            exec("ROLLBACK");
+        return;
+    }
+    exec("COMMIT");
+}

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include <QString>
+#include <QtGlobal>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// Content keys of files read by earlier scans, kept in an SQLite file in the data folder so
+// that a second scan of an unchanged tree reads nothing again. An entry stands only for the
+// exact file it was computed from: same device and inode, same size, and the same
+// modification and change times to the nanosecond (the change time cannot be set back, so
+// an edit hidden behind a restored modification time still misses). Every row carries its
+// own check digest; a file that is no cache of ours, has a newer layout, or fails a check
+// is renamed aside and a new one started: a cache can only spare reads, never decide a
+// group. Several processes may use one file at once (write-ahead log, busy wait).
+// One object belongs to one thread.
+class ContentKeyCache
+{
+public:
+    // How a scan uses the cache.
+    struct Options
+    {
+        bool enabled = false;
+        // Empty: defaultPath().
+        QString path;
+    };
+
+    struct Stamp
+    {
+        quint64 device = 0;
+        quint64 inode = 0;
+        qint64 size = -1;
+        qint64 modifiedNs = 0;
+        qint64 changedNs = 0;
+
+        bool operator==(const Stamp &other) const
+        {
+            return device == other.device && inode == other.inode && size == other.size
+                && modifiedNs == other.modifiedNs && changedNs == other.changedNs;
+        }
+    };
+
+    // One file of a batch. lookup() fills the keys of a matching entry; store() writes the
+    // keys the entry has.
+    struct Entry
+    {
+        Stamp stamp;
+        quint64 sampledKey = 0;
+        quint64 fullKey = 0;
+        bool hasSampled = false;
+        bool hasFull = false;
+        // Set by lookup(): an entry with this exact stamp was found, last seen on seenDay.
+        bool found = false;
+        qint32 seenDay = 0;
+        // Set by the caller when it computed a key the cache did not give.
+        bool fresh = false;
+    };
+
+    // A file modified or changed this recently before it was read may be written again
+    // within the file system's time step without any time stamp moving.
+    static constexpr qint64 kRacyNs = 2'000'000'000LL;
+    // Entries of files not seen by any scan for this long are dropped.
+    static constexpr int kKeepDays = 90;
+
+    static QString defaultPath();
+    // Where a rejected cache file is moved: beside it, under this suffix.
+    static QString setAsidePath(const QString &path);
+    // The cache file with its write-ahead log, in bytes.
+    static qint64 sizeOnDisk(const QString &path);
+    // Empties the cache and gives its room back, through the same locks as every scan;
+    // false when it could not (a scan of another process kept it busy).
+    static bool clear(const QString &path);
+
+    explicit ContentKeyCache(const QString &path);
+    ~ContentKeyCache();
+    ContentKeyCache(const ContentKeyCache &) = delete;
+    ContentKeyCache &operator=(const ContentKeyCache &) = delete;
+
+    bool isOpen() const { return m_db != nullptr; }
+    // Whether this object had to set a cache file aside.
+    bool setAside() const { return m_setAside; }
+
+    // Fills every entry whose exact stamp is stored, in one read transaction. A damaged
+    // cache is set aside and leaves every entry unfound.
+    void lookup(std::vector<Entry> &entries);
+    // Writes the entries with a key (unless they were modified within kRacyNs of readNs,
+    // the time their reading began) and marks found ones as seen today, in one write
+    // transaction; then drops entries not seen for kKeepDays. Failure leaves the cache as
+    // it was.
+    void store(const std::vector<Entry> &entries, qint64 readNs);
+
+private:
+    bool open();
+    bool prepareSchema();
+    void close();
+    // Renames the file (and its log) aside and starts a new one.
+    void reject(const char *why);
+    bool exec(const char *sql);
+    static std::vector<quint32> tableOrder(const std::vector<Entry> &entries);
+
+    QString m_path;
+    sqlite3 *m_db = nullptr;
+    sqlite3_stmt *m_select = nullptr;
+    bool m_setAside = false;
+    // Counts the files opened, so that a caller can tell whether a failure started anew.
+    int m_generation = 0;
+};

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScanTree.h"
+#include "engine/ContentKeyCache.h"
+#include "engine/DuplicateFileFinder.h"
+#include "engine/TFileData.h"
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+namespace {
+
+// a and b are copies; c differs from them outside the three sampled blocks only, so the
+// full mode tells it apart by its whole-content key alone.
+const QByteArray kCopy = ScanTree::pattern(30000, 7);
+QByteArray trapContent()
+{
+    QByteArray trap = kCopy;
+    trap[20000] = char(trap[20000] ^ 1);
+    return trap;
+}
+
+void writeTree(const QString &root)
+{
+    ScanTree::write(root, "a.bin", kCopy);
+    ScanTree::write(root, "b.bin", kCopy);
+    ScanTree::write(root, "c.bin", trapContent());
+}
+
+// Full-mode groups of the tree (names sorted), and how many keys came from the cache.
+QList<QStringList> scan(const QString &root, const QString &cachePath, qint64 *fromCache = nullptr)
+{
+    TFileData::instance()->clear();
+    DuplicateFileFinder::SizeTable table;
+    QStringList all;
+    QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const qint64 size = QFileInfo(path).size();
+        table[size].append(FileMeta {size, path, 0});
+        all.append(path);
+    }
+    DuplicateFileFinder finder;
+    finder.applyConfig(
+        {{"scanMethod", DuplicateFileFinder::scanAllContent}, {"duplicateSelectHint", 8}});
+    finder.setCacheOptions({true, cachePath});
+    finder.setInput(table, all);
+    finder.start();
+    finder.wait();
+    if (fromCache)
+        *fromCache = finder.keysFromCache();
+    QList<QStringList> groups;
+    for (QStringList group : TFileData::instance()->groups()) {
+        for (QString &path : group)
+            path = path.mid(root.size() + 1);
+        group.sort();
+        groups.append(group);
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
+void setModified(const QString &path, const timespec &when)
+{
+    const timespec times[2] = {when, when};
+    QVERIFY(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) == 0);
+}
+
+timespec modifiedOf(const QString &path)
+{
+    struct stat info
+    {
+    };
+    ::stat(QFile::encodeName(path).constData(), &info);
+    return info.st_mtim;
+}
+
+bool runSql(const QString &database, const char *sql)
+{
+    sqlite3 *db = nullptr;
+    bool ok = sqlite3_open(QFile::encodeName(database).constData(), &db) == SQLITE_OK
+        && sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+    sqlite3_close(db);
+    return ok;
+}
+
+} // namespace
+
+class TestContentKeyCache : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void stampDecides_data();
+    void stampDecides();
+    void changedFilesReadAgain_data();
+    void changedFilesReadAgain();
+    void rejectedCacheSetAside_data();
+    void rejectedCacheSetAside();
+    void largeTreeInRuns();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestContentKeyCache::initTestCase()
+{
+    for (const char *row : {"unchanged", "rewritten", "replaced", "racy"})
+        writeTree(m_dir.filePath(QLatin1String(row)));
+    for (const char *row : {"not a database", "foreign database", "newer layout", "damaged row"})
+        writeTree(m_dir.filePath(QLatin1String(row)));
+    // More candidates than one run of folders takes, in 170 folders of 200 files: 17,000
+    // pairs of one size.
+    for (int k = 0; k < 34000; ++k)
+        ScanTree::write(m_dir.filePath("large"), QString("d%1/f%2").arg(k / 200).arg(k),
+            QByteArray::number(100000000 + k / 2));
+    // Files younger than the racy window are never stored; the trees must age past it.
+    QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
+}
+
+void TestContentKeyCache::stampDecides_data()
+{
+    QTest::addColumn<int>("field");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<int>("batch");
+    // A batch of one is searched for; a batch of most of the table is merged with it.
+    for (int batch : {1, 400}) {
+        QTest::addRow("same stamp, batch %d", batch) << -1 << true << batch;
+        QTest::addRow("other device, batch %d", batch) << 0 << false << batch;
+        QTest::addRow("other inode, batch %d", batch) << 1 << false << batch;
+        QTest::addRow("other size, batch %d", batch) << 2 << false << batch;
+        QTest::addRow("other modification time, batch %d", batch) << 3 << false << batch;
+        QTest::addRow("other change time, batch %d", batch) << 4 << false << batch;
+    }
+}
+
+void TestContentKeyCache::stampDecides()
+{
+    QFETCH(int, field);
+    QFETCH(bool, found);
+    QFETCH(int, batch);
+    const QString path = m_dir.filePath(QString("stamps-%1.sqlite").arg(batch));
+    // Neighbours in key order on both sides of the entry looked at.
+    std::vector<ContentKeyCache::Entry> stored;
+    for (int i = 0; i < 400; ++i) {
+        ContentKeyCache::Stamp stamp {
+            5, quint64(i), 4096, 1'000'000'000'123LL, 1'000'000'000'456LL};
+        stored.push_back(ContentKeyCache::Entry {stamp, quint64(i), quint64(1000 + i), true, true});
+        stored.back().fresh = true;
+    }
+    if (!QFileInfo::exists(path))
+        ContentKeyCache(path).store(stored, stored[0].stamp.changedNs + ContentKeyCache::kRacyNs);
+    ContentKeyCache::Stamp stamp = stored[200].stamp;
+    qint64 *fields[] = {reinterpret_cast<qint64 *>(&stamp.device),
+        reinterpret_cast<qint64 *>(&stamp.inode), &stamp.size, &stamp.modifiedNs, &stamp.changedNs};
+    if (field >= 0)
+        *fields[field] += field == 1 ? 1000 : 1;
+    std::vector<ContentKeyCache::Entry> entries;
+    for (int i = 400 - batch; i < 400; ++i)
+        entries.push_back(
+            ContentKeyCache::Entry {i == 200 || batch == 1 ? stamp : stored[i].stamp});
+    ContentKeyCache cache(path);
+    cache.lookup(entries);
+    const ContentKeyCache::Entry &looked = entries[batch == 1 ? 0 : 200];
+    QCOMPARE(looked.found, found);
+    QCOMPARE(looked.fullKey, quint64(found ? 1200 : 0));
+    QCOMPARE(std::count_if(entries.begin(), entries.end(),
+                 [](const ContentKeyCache::Entry &entry) { return entry.found; }),
+        qsizetype(batch - 1 + found));
+}
+
+void TestContentKeyCache::changedFilesReadAgain_data()
+{
+    QTest::addColumn<QString>("row");
+    QTest::addColumn<QList<QStringList>>("groups");
+    QTest::addColumn<qint64>("fromCache");
+    // Sampled and full key of each file not read again.
+    QTest::newRow("unchanged") << "unchanged" << QList<QStringList> {{"a.bin", "b.bin"}}
+                               << qint64(6);
+    // b now holds the trap's content: trusting its old keys would keep it with a.
+    const QList<QStringList> withTrap {{"b.bin", "c.bin"}};
+    QTest::newRow("rewritten, same size, time put back") << "rewritten" << withTrap << qint64(4);
+    QTest::newRow("replaced by another file") << "replaced" << withTrap << qint64(4);
+    QTest::newRow("modified within the racy window")
+        << "racy" << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(4);
+}
+
+void TestContentKeyCache::changedFilesReadAgain()
+{
+    QFETCH(QString, row);
+    QFETCH(QList<QStringList>, groups);
+    QFETCH(qint64, fromCache);
+    const QString root = m_dir.filePath(row);
+    const QString b = root + "/b.bin";
+    const QString cache = m_dir.filePath(row + ".sqlite");
+    if (row == "racy")
+        ScanTree::write(root, "b.bin", kCopy);
+    QCOMPARE(scan(root, cache), (QList<QStringList> {{"a.bin", "b.bin"}}));
+    const timespec before = modifiedOf(b);
+    if (row == "rewritten") {
+        // Only the whole-content key can see this edit, and only the change time shows it.
+        ScanTree::write(root, "b.bin", trapContent());
+        setModified(b, before);
+    } else if (row == "replaced") {
+        ScanTree::write(root, "new.tmp", trapContent());
+        setModified(root + "/new.tmp", before);
+        QVERIFY(QFile::remove(b) && QFile::rename(root + "/new.tmp", b));
+    }
+    qint64 taken = -1;
+    QCOMPARE(scan(root, cache, &taken), groups);
+    QCOMPARE(taken, fromCache);
+}
+
+void TestContentKeyCache::rejectedCacheSetAside_data()
+{
+    QTest::addColumn<QString>("row");
+    QTest::newRow("not a database") << "not a database";
+    QTest::newRow("foreign database") << "foreign database";
+    QTest::newRow("newer layout") << "newer layout";
+    QTest::newRow("damaged row") << "damaged row";
+}
+
+void TestContentKeyCache::rejectedCacheSetAside()
+{
+    QFETCH(QString, row);
+    const QString root = m_dir.filePath(row);
+    const QString cache = m_dir.filePath(row + ".sqlite");
+    const QList<QStringList> expected {{"a.bin", "b.bin"}};
+    if (row == "not a database") {
+        ScanTree::write(m_dir.path(), row + ".sqlite", QByteArray(8192, 'x'));
+    } else if (row == "foreign database") {
+        QVERIFY(runSql(cache, "CREATE TABLE keys(device, inode); PRAGMA user_version=1"));
+    } else {
+        QCOMPARE(scan(root, cache), expected);
+        // Damage that, if believed, would join the trap to the copies.
+        QVERIFY(runSql(cache,
+            row == "newer layout" ? "PRAGMA user_version=2"
+                                  : "UPDATE keys SET full = (SELECT full FROM keys WHERE full != "
+                                    "0 LIMIT 1), sampled = (SELECT sampled FROM keys LIMIT 1)"));
+    }
+    qint64 taken = -1;
+    QCOMPARE(scan(root, cache, &taken), expected);
+    QCOMPARE(taken, 0);
+    QVERIFY(QFile::exists(ContentKeyCache::setAsidePath(cache)));
+    // The new cache works.
+    QCOMPARE(scan(root, cache, &taken), expected);
+    QCOMPARE(taken, 6);
+}
+
+void TestContentKeyCache::largeTreeInRuns()
+{
+    const QString root = m_dir.filePath("large");
+    const QString cache = m_dir.filePath("large.sqlite");
+    const QList<QStringList> first = scan(root, cache);
+    QCOMPARE(first.size(), 17000);
+    qint64 taken = 0;
+    QCOMPARE(scan(root, cache, &taken), first);
+    QCOMPARE(taken, 34000);
+}
+
+QTEST_GUILESS_MAIN(TestContentKeyCache)
+#include "tst_ContentKeyCache.moc"
