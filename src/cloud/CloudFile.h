@@ -10,8 +10,8 @@ struct CloudFile
     // "remote:folder/name", the form rclone and the result pages use.
     QString path;
     qint64 size = -1;
-    // The modification time as the service sent it (ISO 8601).
-    QString modTime;
+    // Milliseconds since the epoch, UTC.
+    qint64 modTime = 0;
     // Shared between the files of one type.
     QString mimeType;
     // The raw bytes of the service's hash of kind hashType; empty when it has none.

@@ -16,8 +16,13 @@ const CloudService *CloudService::byType(int cloudType)
 {
     static const CloudService local {
         kLocalFolder, QStringLiteral("Local folder"), QStringLiteral("local")};
+    static const CloudService unhashed {kLocalFolderWithoutHashes,
+        QStringLiteral("Local folder without hashes"), QStringLiteral("chunker"),
+        QJsonObject {{"remote", "/"}, {"hash_type", "none"}}};
     if (cloudType == kLocalFolder)
         return &local;
+    if (cloudType == kLocalFolderWithoutHashes)
+        return &unhashed;
     for (const CloudService &service : offered())
         if (service.cloudType == cloudType)
             return &service;

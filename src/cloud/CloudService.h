@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QJsonObject>
 #include <QList>
 #include <QString>
 
@@ -10,11 +11,15 @@ struct CloudService
     int cloudType = 0;
     QString name;
     QString backend;
+    // Settings of the remote beyond the sign-in.
+    QJsonObject parameters;
 
     // The services offered in the add menu.
     static const QList<CloudService> &offered();
-    // Any known type, the offered ones and a plain local folder behind the same
-    // remote-control path, which the tests use in place of a real account.
+    // Any known type: the offered ones, and two made of local folders behind the same
+    // remote-control path, which the tests use in place of real accounts: one that keeps
+    // hashes and one that keeps none.
     static const CloudService *byType(int cloudType);
     static constexpr int kLocalFolder = 99;
+    static constexpr int kLocalFolderWithoutHashes = 98;
 };

@@ -7,6 +7,7 @@
 #include "cloud/CloudService.h"
 #include "cloud/RcloneClient.h"
 #include "engine/TFileData.h"
+#include "fileops/ContentHash.h"
 #include "fileops/DeleteResult.h"
 #include "fileops/RemovalJournal.h"
 
@@ -14,9 +15,14 @@
 #include <memory>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
+#include <QFutureWatcher>
 #include <QJsonArray>
+#include <QStorageInfo>
 #include <QTimer>
+#include <QtConcurrent/QtConcurrentRun>
 
 namespace {
 
@@ -26,7 +32,7 @@ const QStringList &preferredHashes()
 {
     static const QStringList kinds {QStringLiteral("md5"), QStringLiteral("sha1"),
         QStringLiteral("dropbox"), QStringLiteral("quickxor"), QStringLiteral("sha256"),
-        QStringLiteral("whirlpool"), QStringLiteral("crc32")};
+        QStringLiteral("crc32")};
     return kinds;
 }
 
@@ -39,6 +45,15 @@ QString chooseHash(const QJsonArray &offered)
 }
 
 constexpr qint64 kCountStep = 1000;
+// What a download must leave free on the disk of the download folder.
+constexpr qint64 kDiskReserve = 256LL << 20;
+// The kind of hash computed here from a downloaded copy, after the service's kinds.
+const QString kDownloadedHash = QStringLiteral("xxh128");
+
+QString hashName(int kind)
+{
+    return kind < preferredHashes().size() ? preferredHashes().at(kind) : kDownloadedHash;
+}
 
 } // namespace
 
@@ -53,6 +68,8 @@ KvCloudObject::KvCloudObject(QObject *parent)
     : QObject(parent), m_process(new RcloneProcess(this)), m_client(new RcloneClient(this))
 {
     qRegisterMetaType<DelParams>();
+    qRegisterMetaType<CloudFolderInfo>();
+    qRegisterMetaType<QList<CloudFolderInfo>>();
     initialization(DataDirectory::base());
     connect(m_process, &RcloneProcess::died, this, [this](const QString &reason) {
         m_client->abortAll();
@@ -118,7 +135,7 @@ bool KvCloudObject::start_authorization(const QString &account, int cloudType, i
         return false;
     }
     m_client->call(QStringLiteral("config/create"),
-        {{"name", account}, {"type", service->backend}, {"parameters", QJsonObject()}},
+        {{"name", account}, {"type", service->backend}, {"parameters", service->parameters}},
         [this, account, cloudType](const QJsonObject &answer, const QString &error) {
             const QString failure
                 = error.isEmpty() ? answer.value(QLatin1String("Error")).toString() : error;
@@ -126,10 +143,53 @@ bool KvCloudObject::start_authorization(const QString &account, int cloudType, i
                 emit onAuthorizedFailed(failure);
                 return;
             }
+            m_account = account;
             emit onAuthorizedCompleted(true);
             emit onAuthorizedSuccess(account, cloudType);
         });
     return true;
+}
+
+void KvCloudObject::init_traversal_folder()
+{
+    ++m_folderSession;
+}
+
+void KvCloudObject::end_traversal_folders()
+{
+    ++m_folderSession;
+}
+
+void KvCloudObject::start_traversal_folders(int cloudType, const QString &folderId)
+{
+    Q_UNUSED(cloudType)
+    const QString folder
+        = folderId == QLatin1String("root") ? m_account + QLatin1Char(':') : folderId;
+    if (const QString problem = ensureStarted(); !problem.isEmpty() || m_account.isEmpty()) {
+        const QString reason
+            = problem.isEmpty() ? QStringLiteral("No account is signed in.") : problem;
+        QTimer::singleShot(0, this, [this, reason] { emit onAuthorizedFailed(reason); });
+        return;
+    }
+    const quint64 session = m_folderSession;
+    auto folders = std::make_shared<QList<CloudFolderInfo>>();
+    m_client->list(
+        {{"fs", folder}, {"remote", QString()}, {"opt", QJsonObject {{"dirsOnly", true}}}},
+        [folders, folder](const QJsonObject &entry) {
+            folders->append({CloudPath::join(folder, entry.value(QLatin1String("Path")).toString()),
+                entry.value(QLatin1String("Name")).toString(), true});
+        },
+        [this, folders, folderId, session](const QJsonObject &, const QString &error) {
+            if (session != m_folderSession)
+                return;
+            if (!error.isEmpty()) {
+                emit onAuthorizedFailed(error);
+                return;
+            }
+            std::sort(folders->begin(), folders->end(),
+                [](const CloudFolderInfo &a, const CloudFolderInfo &b) { return a.name < b.name; });
+            emit onFindedFolders(*folders, folderId);
+        });
 }
 
 QString KvCloudObject::get_download_dir() const
@@ -183,10 +243,12 @@ void KvCloudObject::start_traversal_files(const QList<QString> &folders, int bud
     if (m_scanning)
         return;
     m_scanning = true;
+    m_downloadsPlanned = false;
     m_folders = folders;
     m_folderIndex = 0;
     m_scanned = 0;
     m_listed.clear();
+    m_mimeIndex.clear();
     m_mimeTypes.clear();
     {
         QWriteLocker lock(&m_filesLock);
@@ -211,10 +273,11 @@ void KvCloudObject::listFolder()
         return;
     }
     const QString folder = m_folders.at(m_folderIndex);
+    const quint16 folderIndex = quint16(m_folderIndex);
     // The hash kind is the service's, asked once per folder: folders of one scan may lie
     // on remotes of different kinds.
     m_client->call(QStringLiteral("operations/fsinfo"), {{"fs", folder}},
-        [this, folder](const QJsonObject &info, const QString &error) {
+        [this, folder, folderIndex](const QJsonObject &info, const QString &error) {
             if (!error.isEmpty()) {
                 finishScan(true, QStringLiteral("%1: %2").arg(folder, error));
                 return;
@@ -230,8 +293,8 @@ void KvCloudObject::listFolder()
             }
             m_client->list(
                 {{"fs", folder}, {"remote", QString()}, {"opt", options}},
-                [this, folder, hashType](
-                    const QJsonObject &entry) { addEntry(folder, hashType, entry); },
+                [this, folderIndex, kind = int(preferredHashes().indexOf(hashType))](
+                    const QJsonObject &entry) { addEntry(folderIndex, kind, entry); },
                 [this, folder](const QJsonObject &, const QString &listError) {
                     if (!listError.isEmpty()) {
                         finishScan(true, QStringLiteral("%1: %2").arg(folder, listError));
@@ -245,8 +308,7 @@ void KvCloudObject::listFolder()
         });
 }
 
-void KvCloudObject::addEntry(
-    const QString &folder, const QString &hashType, const QJsonObject &entry)
+void KvCloudObject::addEntry(quint16 folder, int hashType, const QJsonObject &entry)
 {
     if (!m_scanning || entry.value(QLatin1String("IsDir")).toBool())
         return;
@@ -257,66 +319,78 @@ void KvCloudObject::addEntry(
     const qint64 size = entry.value(QLatin1String("Size")).toInteger(-1);
     if (!accepted(relative, size))
         return;
-    CloudFile file;
-    file.path = CloudPath::join(folder, relative);
+    ListedFile file;
+    file.relativePath = relative.toUtf8();
     file.size = size;
-    file.modTime = entry.value(QLatin1String("ModTime")).toString();
+    file.folder = folder;
+    file.modTime = ListedFile::parseTime(entry.value(QLatin1String("ModTime")).toString());
     const QString mime = entry.value(QLatin1String("MimeType")).toString();
-    auto known = m_mimeTypes.constFind(mime);
-    if (known == m_mimeTypes.constEnd())
-        known = m_mimeTypes.insert(mime, mime);
-    file.mimeType = known.value();
-    if (!hashType.isEmpty()) {
-        file.hash = QByteArray::fromHex(
-            entry.value(QLatin1String("Hashes")).toObject().value(hashType).toString().toLatin1());
-        if (!file.hash.isEmpty())
-            file.hashType = hashType;
+    auto known = m_mimeIndex.constFind(mime);
+    if (known == m_mimeIndex.constEnd() && m_mimeTypes.size() < 0xFFFF) {
+        known = m_mimeIndex.insert(mime, quint16(m_mimeTypes.size()));
+        m_mimeTypes.append(mime);
     }
-    m_listed.append(std::move(file));
+    file.mimeType = known == m_mimeIndex.constEnd() ? 0 : known.value();
+    if (hashType >= 0)
+        file.setHash(entry.value(QLatin1String("Hashes"))
+                         .toObject()
+                         .value(preferredHashes().at(hashType))
+                         .toString(),
+            quint8(hashType));
+    m_listed.push_back(std::move(file));
 }
 
 void KvCloudObject::groupFiles()
 {
     // Files the service gave no hash for cannot be compared without downloading them.
     const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
-        [](const CloudFile &file) { return !file.hash.isEmpty(); });
+        [](const ListedFile &file) { return file.hashLength > 0; });
     const qsizetype notCompared = m_listed.end() - unhashed;
     if (notCompared > 0)
         emit logMessage(
             QStringLiteral("%1 files without a hash were not compared").arg(notCompared));
     m_listed.erase(unhashed, m_listed.end());
-    std::sort(m_listed.begin(), m_listed.end(), [](const CloudFile &a, const CloudFile &b) {
+    const auto sameContent = [](const ListedFile &a, const ListedFile &b) {
+        return a.size == b.size && a.hashType == b.hashType && a.hashBytes() == b.hashBytes();
+    };
+    std::sort(m_listed.begin(), m_listed.end(), [](const ListedFile &a, const ListedFile &b) {
         if (a.size != b.size)
             return a.size < b.size;
         if (a.hashType != b.hashType)
             return a.hashType < b.hashType;
-        if (a.hash != b.hash)
-            return a.hash < b.hash;
-        return a.path < b.path;
+        const int order = a.hashBytes().compare(b.hashBytes());
+        if (order != 0)
+            return order < 0;
+        return a.folder != b.folder ? a.folder < b.folder : a.relativePath < b.relativePath;
     });
     QHash<QString, QList<QString>> groups;
     QHash<QString, CloudFile> members;
     qint64 duplicateBytes = 0;
-    for (qsizetype begin = 0; begin < m_listed.size();) {
-        qsizetype end = begin + 1;
-        const CloudFile &first = m_listed.at(begin);
-        while (end < m_listed.size() && m_listed.at(end).size == first.size
-            && m_listed.at(end).hash == first.hash && m_listed.at(end).hashType == first.hashType)
+    for (auto begin = m_listed.cbegin(); begin != m_listed.cend();) {
+        auto end = begin + 1;
+        while (end != m_listed.cend() && sameContent(*end, *begin))
             ++end;
         if (end - begin > 1) {
             QStringList paths;
-            for (qsizetype i = begin; i < end; ++i) {
-                paths.append(m_listed.at(i).path);
-                members.insert(m_listed.at(i).path, m_listed.at(i));
+            for (auto it = begin; it != end; ++it) {
+                CloudFile member;
+                member.path = CloudPath::join(
+                    m_folders.at(it->folder), QString::fromUtf8(it->relativePath));
+                member.size = it->size;
+                member.modTime = it->modTime;
+                member.mimeType = m_mimeTypes.at(it->mimeType);
+                member.hash = it->hashBytes().toByteArray();
+                member.hashType = hashName(it->hashType);
+                paths.append(member.path);
+                members.insert(member.path, member);
             }
-            duplicateBytes += first.size * (end - begin - 1);
+            duplicateBytes += begin->size * (end - begin - 1);
             groups.insert(TFileData::groupKey(paths.first()), paths);
             emit onDuplicateItemFound(int(groups.size()), duplicateBytes);
         }
         begin = end;
     }
-    m_listed.clear();
-    m_listed.squeeze();
+    std::deque<ListedFile>().swap(m_listed);
     {
         QWriteLocker lock(&m_filesLock);
         m_members = std::move(members);
@@ -324,11 +398,97 @@ void KvCloudObject::groupFiles()
     emit onFindedDuplicateItem(groups);
 }
 
+bool KvCloudObject::planDownloads()
+{
+    // Only files that share their size with another one the service gave no hash for
+    // can have a copy among them; those alone are fetched.
+    const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
+        [](const ListedFile &file) { return file.hashLength > 0; });
+    std::sort(unhashed, m_listed.end(),
+        [](const ListedFile &a, const ListedFile &b) { return a.size < b.size; });
+    m_downloads.clear();
+    m_nextDownload = 0;
+    for (auto it = unhashed; it != m_listed.end();) {
+        auto end = it + 1;
+        while (end != m_listed.end() && end->size == it->size)
+            ++end;
+        if (end - it > 1)
+            for (; it != end; ++it)
+                m_downloads.push_back(size_t(it - m_listed.begin()));
+        it = end;
+    }
+    return !m_downloads.empty();
+}
+
+void KvCloudObject::downloadNext()
+{
+    if (!m_scanning)
+        return;
+    if (m_nextDownload >= m_downloads.size()) {
+        finishScan(false);
+        return;
+    }
+    const size_t index = m_downloads.at(m_nextDownload++);
+    const ListedFile &file = m_listed.at(index);
+    const QString directory = get_download_dir();
+    QDir().mkpath(directory);
+    if (QStorageInfo(directory).bytesAvailable() < file.size + kDiskReserve) {
+        emit diskSpaceLow();
+        emit logMessage(QStringLiteral("%1 files without a hash were not compared: low disk space")
+                            .arg(m_downloads.size() - m_nextDownload + 1));
+        m_nextDownload = m_downloads.size();
+        finishScan(false);
+        return;
+    }
+    const CloudPath source = CloudPath::split(
+        CloudPath::join(m_folders.at(file.folder), QString::fromUtf8(file.relativePath)));
+    const QString name = QStringLiteral("scan-%1").arg(index);
+    const QString target = directory + name;
+    const quint64 generation = m_generation;
+    m_client->call(QStringLiteral("operations/copyfile"),
+        {{"srcFs", source.fs}, {"srcRemote", source.remote}, {"dstFs", directory},
+            {"dstRemote", name}},
+        [this, index, target, generation, source](const QJsonObject &, const QString &error) {
+            if (!error.isEmpty()) {
+                emit logMessage(QStringLiteral("%1 not compared: %2").arg(source.remote, error));
+                QFile::remove(target);
+                downloadNext();
+                return;
+            }
+            // Read off this thread: a download may be gigabytes.
+            auto *watcher = new QFutureWatcher<QByteArray>(this);
+            connect(watcher, &QFutureWatcher<QByteArray>::finished, this,
+                [this, watcher, index, target, generation] {
+                    watcher->deleteLater();
+                    QFile::remove(target);
+                    if (!m_scanning || generation != m_generation)
+                        return;
+                    const QByteArray digest = watcher->result();
+                    ListedFile &file = m_listed.at(index);
+                    if (!digest.isEmpty() && digest.size() <= ListedFile::kMaxHash) {
+                        std::copy(digest.begin(), digest.end(), file.hash.begin());
+                        file.hashLength = quint8(digest.size());
+                        file.hashType = quint8(preferredHashes().size());
+                    }
+                    downloadNext();
+                });
+            watcher->setFuture(QtConcurrent::run([target] { return ContentHash::ofFile(target); }));
+        });
+}
+
 void KvCloudObject::finishScan(bool aborted, const QString &failure)
 {
     if (!m_scanning)
         return;
+    if (!aborted && failure.isEmpty() && !m_downloadsPlanned) {
+        m_downloadsPlanned = true;
+        if (planDownloads()) {
+            downloadNext();
+            return;
+        }
+    }
     m_scanning = false;
+    ++m_generation;
     m_client->abortAll();
     if (!failure.isEmpty()) {
         splog_d(QStringLiteral("[KvCloudObject]: scan failed: %1").arg(failure));
@@ -363,7 +523,7 @@ QString KvCloudObject::getCFP(const QString &file, const QString &property) cons
     if (property == QLatin1String("mimeType"))
         return item.mimeType;
     if (property == QLatin1String("createdTime"))
-        return item.modTime;
+        return QDateTime::fromMSecsSinceEpoch(item.modTime, Qt::UTC).toString(Qt::ISODateWithMs);
     if (property == QLatin1String("name"))
         return CloudPath::split(item.path).remote;
     if (property == QLatin1String("cloudPath"))
@@ -413,7 +573,8 @@ void KvCloudObject::startRemoval(const DelParams &params, bool single)
         QTimer::singleShot(0, this, [this] { endRemoval(); });
         return;
     }
-    removeNext();
+    // Answers always come after the call has returned, even when no check needs rclone.
+    QTimer::singleShot(0, this, [this] { removeNext(); });
 }
 
 void KvCloudObject::removalFailed(const QString &file, const QString &reason, bool skipped)
@@ -443,6 +604,13 @@ void KvCloudObject::removeNext()
     if (file == params.keep || !item || !kept || item->hash.isEmpty() || item->hash != kept->hash
         || item->hashType != kept->hashType) {
         removalFailed(file, QStringLiteral("no copy of it known to stay"), true);
+        removeNext();
+        return;
+    }
+    if (item->hashType == kDownloadedHash) {
+        removalFailed(file,
+            QStringLiteral("the service keeps no hash by which the kept copy can be confirmed"),
+            true);
         removeNext();
         return;
     }

@@ -2,9 +2,14 @@
 #pragma once
 
 #include "cloud/CloudFile.h"
+#include "cloud/CloudFolderInfo.h"
 #include "cloud/DelParams.h"
+#include "cloud/ListedFile.h"
 #include "cloud/RcloneProcess.h"
 #include "fileops/RemovalJournal.h"
+
+#include <deque>
+#include <vector>
 
 #include <QHash>
 #include <QJsonObject>
@@ -16,9 +21,11 @@
 class RcloneClient;
 
 // The cloud source: lists, compares and removes files of cloud folders through an
-// rclone daemon of its own. Files are compared by the hash the service keeps, so a scan
-// downloads nothing. All calls are made on the thread the object lives on and every
-// answer comes back there as a signal; getCFP alone may be called from any thread.
+// rclone daemon of its own. Files are compared by the hash the service keeps; only
+// files it keeps none for, and only those that share their size with another, are
+// downloaded into get_download_dir() and hashed here. All calls are made on the thread the object
+// lives on and every answer comes back there as a signal; getCFP alone may be called from any
+// thread.
 class KvCloudObject : public QObject
 {
     Q_OBJECT
@@ -40,6 +47,13 @@ public:
     // in through the browser rclone opens it and waits for the user. The answer comes as
     // onAuthorizedSuccess or onAuthorizedFailed; false when it could not even start.
     bool start_authorization(const QString &account, int cloudType, int flags = 0);
+
+    // The folder chooser: the sub-folders of one folder of the signed-in account ("root"
+    // for its top), answered by onFindedFolders. Each call lists one level only.
+    void init_traversal_folder();
+    void start_traversal_folders(int cloudType, const QString &folderId);
+    void end_traversal_folders();
+    QString account() const { return m_account; }
 
     void set_common_config(const QJsonObject &config);
     void set_similar_config(const QJsonObject &config);
@@ -68,6 +82,7 @@ signals:
     void onAuthorizedSuccess(const QString &account, int cloudType);
     void onAuthorizedFailed(const QString &reason);
     void onAuthorizedCompleted(bool updated);
+    void onFindedFolders(const QList<CloudFolderInfo> &folders, const QString &parentId);
     void onFilesFetchCount(int count);
     void processChange(double percent);
     void onFindedDuplicateItem(const QHash<QString, QList<QString>> &groups);
@@ -96,9 +111,12 @@ private:
     };
 
     void listFolder();
-    void addEntry(const QString &folder, const QString &hashType, const QJsonObject &entry);
+    void addEntry(quint16 folder, int hashType, const QJsonObject &entry);
     bool accepted(const QString &relative, qint64 size) const;
     void finishScan(bool aborted, const QString &failure = {});
+    // Files without a service hash that might have copies: fetched and hashed here.
+    bool planDownloads();
+    void downloadNext();
     void groupFiles();
 
     void startRemoval(const DelParams &params, bool single);
@@ -108,6 +126,9 @@ private:
     const CloudFile *recorded(const QString &path) const;
 
     RcloneSettings m_settings;
+    QString m_account;
+    // Folder listings in flight belong to the chooser that asked; a new one drops them.
+    quint64 m_folderSession = 0;
     QString m_dataDirectory;
     QString m_journalPath;
     RcloneProcess *m_process;
@@ -125,8 +146,15 @@ private:
     int m_folderIndex = 0;
     bool m_scanning = false;
     qint64 m_scanned = 0;
-    QList<CloudFile> m_listed;
-    QHash<QString, QString> m_mimeTypes;
+    // In blocks: a listing of unknown length grows without ever being copied whole.
+    std::deque<ListedFile> m_listed;
+    std::vector<size_t> m_downloads;
+    size_t m_nextDownload = 0;
+    bool m_downloadsPlanned = false;
+    // Tells the answers of an ended scan from those of the next.
+    quint64 m_generation = 0;
+    QHash<QString, quint16> m_mimeIndex;
+    QStringList m_mimeTypes;
 
     // The members of the groups, by path, for getCFP and the removal checks.
     mutable QReadWriteLock m_filesLock;

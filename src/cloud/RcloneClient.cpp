@@ -5,6 +5,10 @@
 
 #include <memory>
 
+namespace {
+constexpr qint64 kListBuffer = 256 * 1024;
+}
+
 #include <QJsonDocument>
 #include <QJsonParseError>
 #include <QNetworkAccessManager>
@@ -78,6 +82,10 @@ void RcloneClient::list(const QJsonObject &input, Entry entry, Done done)
 {
     static const QString method = QStringLiteral("operations/list");
     QNetworkReply *reply = post(method, input);
+    // rclone writes a listing in one piece once it has it all; without a limit the
+    // network thread would hold all of it (some 300 bytes a file) before the entries are
+    // read. With one, the rest waits in rclone's socket.
+    reply->setReadBufferSize(kListBuffer);
     auto stream = std::make_shared<JsonEntryStream>(std::move(entry));
     // An error answer is small and read whole at the end; only a good one is streamed.
     const auto streaming = [reply] {

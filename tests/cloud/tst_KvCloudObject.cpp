@@ -26,6 +26,8 @@ private:
     QTemporaryDir m_data;
     // A remote of the local backend, made by the same sign-in call as a real account.
     QString m_remote = QStringLiteral("here");
+    // The same folders seen through a remote that offers no hashes.
+    QString m_plain = QStringLiteral("plain");
 
     static void writeTree(const QString &root, const TreeSpec &spec)
     {
@@ -72,6 +74,30 @@ private slots:
         QVERIFY(cloud.start_authorization(m_remote, CloudService::kLocalFolder));
         QVERIFY(success.wait(20000));
         QCOMPARE(success.first().at(1).toInt(), CloudService::kLocalFolder);
+        QVERIFY(cloud.start_authorization(m_plain, CloudService::kLocalFolderWithoutHashes));
+        QVERIFY(success.wait(20000));
+    }
+
+    void downloadsWhereServiceKeepsNoHash()
+    {
+        QTemporaryDir root;
+        writeTree(root.path(), {"a=x:5000", "b/c=x:5000", "d=y:5000", "e=z:10"});
+        KvCloudObject cloud;
+        cloud.initialization(m_data.path());
+        QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
+        QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
+        const QString folder = m_plain + ':' + root.path();
+        cloud.start_traversal_files({folder}, 20);
+        QVERIFY(done.wait(30000));
+        const Groups groups = found.first().first().value<Groups>();
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups.begin().value(), QList<QString>({folder + "/a", folder + "/b/c"}));
+        QCOMPARE(QDir(cloud.get_download_dir()).entryList(QDir::Files), QStringList());
+        // Without a hash of the service's the kept copy cannot be confirmed: nothing goes.
+        QSignalSpy complete(&cloud, &KvCloudObject::onDeletedCloudGroupComplated);
+        cloud.start_delete_group_files({"key", {folder + "/b/c"}, folder + "/a"});
+        QVERIFY(complete.wait(20000));
+        QVERIFY(QFile::exists(root.filePath("b/c")));
     }
 
     void groupsByServiceHash_data()
@@ -101,14 +127,35 @@ private slots:
         bool aborted = true;
         QCOMPARE(scan(cloud, root.path(), &aborted), expected);
         QVERIFY(!aborted);
-        // Properties come from the listing.
+        // Properties come from the listing, the time to the millisecond.
         if (!expected.isEmpty()) {
-            const QString member
-                = folder(root.path()) + QLatin1Char('/') + expected.first().first();
-            QCOMPARE(cloud.getCFP(member, "size").toLongLong(),
-                QFileInfo(root.filePath(expected.first().first())).size());
-            QVERIFY(!cloud.getCFP(member, "createdTime").isEmpty());
+            const QString relative = expected.first().first();
+            const QString member = folder(root.path()) + QLatin1Char('/') + relative;
+            const QFileInfo file(root.filePath(relative));
+            QCOMPARE(cloud.getCFP(member, "size").toLongLong(), file.size());
+            QCOMPARE(QDateTime::fromString(cloud.getCFP(member, "createdTime"), Qt::ISODateWithMs),
+                file.lastModified().toUTC());
         }
+    }
+
+    void foldersListedOneLevelAtATime()
+    {
+        QTemporaryDir root;
+        writeTree(root.path(), {"b/inner/f=x:10", "a/f=x:10", "top=x:10"});
+        KvCloudObject cloud;
+        cloud.initialization(m_data.path());
+        QSignalSpy signedIn(&cloud, &KvCloudObject::onAuthorizedSuccess);
+        QSignalSpy folders(&cloud, &KvCloudObject::onFindedFolders);
+        cloud.start_authorization(m_remote, CloudService::kLocalFolder);
+        QVERIFY(signedIn.wait(20000));
+        cloud.init_traversal_folder();
+        cloud.start_traversal_folders(CloudService::kLocalFolder, folder(root.path()));
+        QVERIFY(folders.wait(20000));
+        const auto listed = folders.first().first().value<QList<CloudFolderInfo>>();
+        QCOMPARE(folders.first().at(1).toString(), folder(root.path()));
+        QCOMPARE(listed.size(), 2);
+        QCOMPARE(listed.at(0).name, "a");
+        QCOMPARE(listed.at(1).id, folder(root.path()) + "/b");
     }
 
     void stopEndsWithAborted()
