@@ -11,6 +11,7 @@
 
 class QNetworkAccessManager;
 class QNetworkReply;
+class QTcpSocket;
 
 // The rclone daemon's remote-control calls: JSON in, JSON out, over HTTP on the loopback
 // interface. Every answer comes back on the thread this object lives on; a failure comes
@@ -40,4 +41,5 @@ private:
     QUrl m_base;
     QByteArray m_authorization;
     QList<QPointer<QNetworkReply>> m_replies;
+    QList<QPointer<QTcpSocket>> m_sockets;
 };
