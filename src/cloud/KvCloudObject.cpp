@@ -248,6 +248,7 @@ void KvCloudObject::start_traversal_files(const QList<QString> &folders, int bud
     m_folderIndex = 0;
     m_scanned = 0;
     m_listed.clear();
+    m_paths.clear();
     m_mimeIndex.clear();
     m_mimeTypes.clear();
     {
@@ -320,7 +321,7 @@ void KvCloudObject::addEntry(quint16 folder, int hashType, const QJsonObject &en
     if (!accepted(relative, size))
         return;
     ListedFile file;
-    file.relativePath = relative.toUtf8();
+    file.relativePath = m_paths.add(relative.toUtf8());
     file.size = size;
     file.folder = folder;
     file.modTime = ListedFile::parseTime(entry.value(QLatin1String("ModTime")).toString());
@@ -353,7 +354,7 @@ void KvCloudObject::groupFiles()
     const auto sameContent = [](const ListedFile &a, const ListedFile &b) {
         return a.size == b.size && a.hashType == b.hashType && a.hashBytes() == b.hashBytes();
     };
-    std::sort(m_listed.begin(), m_listed.end(), [](const ListedFile &a, const ListedFile &b) {
+    std::sort(m_listed.begin(), m_listed.end(), [this](const ListedFile &a, const ListedFile &b) {
         if (a.size != b.size)
             return a.size < b.size;
         if (a.hashType != b.hashType)
@@ -361,7 +362,9 @@ void KvCloudObject::groupFiles()
         const int order = a.hashBytes().compare(b.hashBytes());
         if (order != 0)
             return order < 0;
-        return a.folder != b.folder ? a.folder < b.folder : a.relativePath < b.relativePath;
+        return a.folder != b.folder
+            ? a.folder < b.folder
+            : m_paths.view(a.relativePath).compare(m_paths.view(b.relativePath)) < 0;
     });
     QHash<QString, QList<QString>> groups;
     QHash<QString, CloudFile> members;
@@ -375,7 +378,7 @@ void KvCloudObject::groupFiles()
             for (auto it = begin; it != end; ++it) {
                 CloudFile member;
                 member.path = CloudPath::join(
-                    m_folders.at(it->folder), QString::fromUtf8(it->relativePath));
+                    m_folders.at(it->folder), QString::fromUtf8(m_paths.view(it->relativePath)));
                 member.size = it->size;
                 member.modTime = it->modTime;
                 member.mimeType = m_mimeTypes.at(it->mimeType);
@@ -391,6 +394,7 @@ void KvCloudObject::groupFiles()
         begin = end;
     }
     std::deque<ListedFile>().swap(m_listed);
+    m_paths.clear();
     {
         QWriteLocker lock(&m_filesLock);
         m_members = std::move(members);
@@ -440,8 +444,8 @@ void KvCloudObject::downloadNext()
         finishScan(false);
         return;
     }
-    const CloudPath source = CloudPath::split(
-        CloudPath::join(m_folders.at(file.folder), QString::fromUtf8(file.relativePath)));
+    const CloudPath source = CloudPath::split(CloudPath::join(
+        m_folders.at(file.folder), QString::fromUtf8(m_paths.view(file.relativePath))));
     const QString name = QStringLiteral("scan-%1").arg(index);
     const QString target = directory + name;
     const quint64 generation = m_generation;

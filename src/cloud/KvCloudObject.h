@@ -148,6 +148,7 @@ private:
     qint64 m_scanned = 0;
     // In blocks: a listing of unknown length grows without ever being copied whole.
     std::deque<ListedFile> m_listed;
+    PathPool m_paths;
     std::vector<size_t> m_downloads;
     size_t m_nextDownload = 0;
     bool m_downloadsPlanned = false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cloud/PathPool.h"
+
 #include <array>
 
 #include <QByteArray>
@@ -15,8 +17,8 @@ struct ListedFile
     // Larger hashes are not kept; the kinds the scan asks for all fit.
     static constexpr int kMaxHash = 32;
 
-    // UTF-8, relative to its folder.
-    QByteArray relativePath;
+    // UTF-8, relative to its folder, in the scan's pool.
+    PathPool::Ref relativePath;
     qint64 size = -1;
     // Milliseconds since the epoch, UTC.
     qint64 modTime = 0;
