@@ -219,8 +219,16 @@ private slots:
         QVERIFY(lines.contains(removed ? "\"removed\"" : "\"skipped\""));
     }
 
+    void rcloneKilledMidScan_data()
+    {
+        QTest::addColumn<int>("delay");
+        QTest::newRow("while the folder is looked up") << 0;
+        QTest::newRow("while the listing runs") << 150;
+    }
+
     void rcloneKilledMidScan()
     {
+        QFETCH(int, delay);
         QTemporaryDir root;
         for (int i = 0; i < 2000; ++i)
             ScanTree::write(
@@ -231,6 +239,9 @@ private slots:
         QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
         cloud.start_traversal_files({folder(root.path())}, 20);
         QVERIFY(cloud.rcloneProcessId() > 0);
+        if (delay > 0)
+            QTest::qWait(delay);
+        QVERIFY(cloud.isScanning());
         ::kill(pid_t(cloud.rcloneProcessId()), SIGKILL);
         QVERIFY(done.wait(20000));
         QCOMPARE(done.first().first().toBool(), true);
