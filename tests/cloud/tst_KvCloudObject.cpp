@@ -16,7 +16,7 @@ static TestEnvironment environment;
 using Groups = QHash<QString, QList<QString>>;
 
 // Files as "relative path=seed:size"; a seed of 0 writes an empty file.
-using TreeSpec = QStringList;
+using TreeFiles = QStringList;
 
 class TestKvCloudObject : public QObject
 {
@@ -29,9 +29,9 @@ private:
     // The same folders seen through a remote that offers no hashes.
     QString m_plain = QStringLiteral("plain");
 
-    static void writeTree(const QString &root, const TreeSpec &spec)
+    static void writeTree(const QString &root, const TreeFiles &files)
     {
-        for (const QString &line : spec) {
+        for (const QString &line : files) {
             const QStringList parts = line.split(QLatin1Char('='));
             const QStringList content = parts.at(1).split(QLatin1Char(':'));
             const char seed = content.at(0).at(0).toLatin1();
@@ -102,23 +102,24 @@ private slots:
 
     void groupsByServiceHash_data()
     {
-        QTest::addColumn<TreeSpec>("tree");
+        QTest::addColumn<TreeFiles>("tree");
         QTest::addColumn<QList<QStringList>>("expected");
-        QTest::newRow("copies in sub-folders, full paths") << TreeSpec {
+        QTest::newRow("copies in sub-folders, full paths") << TreeFiles {
             "a=x:5000", "deep/er/b=x:5000", "c=y:5000"} << QList<QStringList> {{"a", "deep/er/b"}};
         QTest::newRow("same size, other content")
-            << TreeSpec {"a=x:4096", "b=y:4096"} << QList<QStringList> {};
+            << TreeFiles {"a=x:4096", "b=y:4096"} << QList<QStringList> {};
         QTest::newRow("empty files are not compared")
-            << TreeSpec {"a=0:0", "b=0:0"} << QList<QStringList> {};
-        QTest::newRow("three copies and a pair") << TreeSpec {"p/1=q:100", "p/2=q:100", "r/3=q:100",
-            "s=w:70000", "t/s=w:70000"} << QList<QStringList> {{"p/1", "p/2", "r/3"}, {"s", "t/s"}};
+            << TreeFiles {"a=0:0", "b=0:0"} << QList<QStringList> {};
+        QTest::newRow("three copies and a pair")
+            << TreeFiles {"p/1=q:100", "p/2=q:100", "r/3=q:100", "s=w:70000", "t/s=w:70000"}
+            << QList<QStringList> {{"p/1", "p/2", "r/3"}, {"s", "t/s"}};
         QTest::newRow("hidden files left out")
-            << TreeSpec {"a=x:10", ".h/a=x:10", ".b=x:10"} << QList<QStringList> {};
+            << TreeFiles {"a=x:10", ".h/a=x:10", ".b=x:10"} << QList<QStringList> {};
     }
 
     void groupsByServiceHash()
     {
-        QFETCH(TreeSpec, tree);
+        QFETCH(TreeFiles, tree);
         QFETCH(QList<QStringList>, expected);
         QTemporaryDir root;
         writeTree(root.path(), tree);
