@@ -5,8 +5,10 @@
 #include "engine/ScanTree.h"
 
 #include <csignal>
+#include <unistd.h>
 
 #include <QFile>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -186,6 +188,7 @@ private slots:
         QTest::newRow("kept copy gone") << "delete keep" << false;
         QTest::newRow("kept copy changed, same size") << "rewrite keep" << false;
         QTest::newRow("copy to remove changed") << "rewrite item" << false;
+        QTest::newRow("service refuses the deletion") << "lock item" << false;
     }
 
     void removalKeepsConfirmedCopy()
@@ -207,6 +210,19 @@ private slots:
             ScanTree::write(root.path(), "keep", ScanTree::pattern(9000, 'z'));
         else if (change == "rewrite item")
             ScanTree::write(root.path(), "sub/item", ScanTree::pattern(9000, 'z'));
+        // Even root cannot delete an immutable file; others cannot delete from a folder
+        // without write permission.
+        const bool root0 = ::geteuid() == 0;
+        const auto lock = [&](bool on) {
+            if (root0)
+                QProcess::execute("chattr", {on ? "+i" : "-i", itemFile});
+            else
+                QFile::setPermissions(root.filePath("sub"),
+                    on ? QFile::ReadOwner | QFile::ExeOwner
+                       : QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        };
+        if (change == "lock item")
+            lock(true);
 
         QSignalSpy complete(&cloud, &KvCloudObject::onDeletedCloudGroupComplated);
         QSignalSpy error(&cloud, &KvCloudObject::onDeletedCloudError);
@@ -215,9 +231,18 @@ private slots:
         QVERIFY(complete.wait(20000));
         QCOMPARE(QFile::exists(itemFile), !removed);
         QCOMPARE(complete.first().first().toStringList().size(), removed ? 1 : 0);
+        if (change == "lock item") {
+            lock(false);
+            QVERIFY2(error.first().at(1).toString().contains("operations/deletefile failed: "),
+                qPrintable(error.first().at(1).toString()));
+        }
         QCOMPARE(error.size(), removed ? 0 : 1);
         const QByteArray lines = ScanTree::read(journal);
-        QVERIFY(lines.contains(removed ? "\"removed\"" : "\"skipped\""));
+        // A copy kept by a check is "skipped"; one the service would not delete "failed".
+        const char *outcome = removed ? "\"removed\""
+            : change == "lock item"   ? "\"failed\""
+                                      : "\"skipped\"";
+        QVERIFY(lines.contains(outcome));
     }
 
     void rcloneKilledMidScan_data()
