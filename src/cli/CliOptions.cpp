@@ -60,6 +60,8 @@ QString CliOptions::usage()
 {
     return QStringLiteral(
         "usage: veltrine-duplicate-finder-cli scan [options] FOLDER...\n"
+        "       veltrine-duplicate-finder-cli scan [options] --cloud REMOTE:PATH... "
+        "[--rclone-config FILE]\n"
         "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
         "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
         "trash|permanent|move\n"
@@ -111,6 +113,13 @@ QString CliOptions::usage()
         "  --any-type                  also compare pictures of different file types\n"
         "  --any-ratio                 also compare pictures whose aspect ratios differ\n"
         "                              more than four times\n"
+        "  --cloud REMOTE:PATH         scan this folder of an rclone remote instead of local\n"
+        "                              folders (repeatable); files are compared by the\n"
+        "                              service's own hash, and only where it keeps none\n"
+        "                              are files of equal size downloaded and hashed\n"
+        "  --rclone-config FILE        the rclone configuration that defines the remotes\n"
+        "                              (default: the program's own in its data folder);\n"
+        "                              $VELTRINE_RCLONE names another rclone program\n"
         "  --json                      print the groups as one JSON object\n"
         "  --save FILE.dupproj         save the result as a project file\n"
         "  --log-dir DIR               write the program's log into DIR\n"
@@ -127,7 +136,8 @@ QString CliOptions::usage()
         "to its byte (as the \"surrogateescape\" error handler does) gives the exact name.\n"
         "\n"
         "exit status: 0 done, 1 bad arguments, 2 a folder does not exist, is not a\n"
-        "             folder, or none of the folders could be read, 3 the project file\n"
+        "             folder, or none of the folders could be read, or a --cloud scan\n"
+        "             could not be completed, 3 the project file\n"
         "             could not be saved or read, 4 the picture comparison could not\n"
         "             be started, 5 remove or restore skipped or failed some items\n"
         "             (each listed with its reason on standard error)\n")
@@ -396,6 +406,18 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             if (!takeValue())
                 return BadArguments;
             m_logDirectory = value;
+        } else if (name == QLatin1String("--cloud")) {
+            if (!takeValue())
+                return BadArguments;
+            if (!value.contains(QLatin1Char(':'))) {
+                m_error = QStringLiteral("--cloud needs REMOTE:PATH, not \"%1\"").arg(value);
+                return BadArguments;
+            }
+            m_cloudFolders.append(value);
+        } else if (name == QLatin1String("--rclone-config")) {
+            if (!takeValue())
+                return BadArguments;
+            m_rcloneConfig = QFileInfo(value).absoluteFilePath();
         } else {
             m_error = QStringLiteral("unknown option \"%1\"").arg(argument);
             return BadArguments;
@@ -405,7 +427,19 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
         m_error = QStringLiteral("--only and --ignore cannot be combined");
         return BadArguments;
     }
-    if (m_folders.isEmpty()) {
+    if (!m_cloudFolders.isEmpty() && !m_folders.isEmpty()) {
+        m_error = QStringLiteral("local folders and --cloud cannot be scanned together");
+        return BadArguments;
+    }
+    if (!m_rcloneConfig.isEmpty() && m_cloudFolders.isEmpty()) {
+        m_error = QStringLiteral("--rclone-config goes with --cloud only");
+        return BadArguments;
+    }
+    if (!m_cloudFolders.isEmpty() && (m_similar || m_folderGroups || m_savePath.size() > 0)) {
+        m_error = QStringLiteral("--cloud compares files only: no --similar, --folders or --save");
+        return BadArguments;
+    }
+    if (m_folders.isEmpty() && m_cloudFolders.isEmpty()) {
         m_error = QStringLiteral("no folder given");
         return BadArguments;
     }

@@ -31,6 +31,10 @@ public:
     bool dryRun() const { return m_dryRun; }
     bool allowAllCopies() const { return m_allowAllCopies; }
     QStringList folders() const { return m_folders; }
+    // scan --cloud: "remote:path" folders listed through rclone instead of local folders,
+    // and the rclone configuration that names the remotes (empty: the data folder's own).
+    QStringList cloudFolders() const { return m_cloudFolders; }
+    QString rcloneConfig() const { return m_rcloneConfig; }
     bool json() const { return m_json; }
     bool useCache() const { return m_useCache; }
     QString savePath() const { return m_savePath; }
@@ -57,6 +61,8 @@ private:
     bool m_dryRun = false;
     bool m_allowAllCopies = false;
     QStringList m_folders;
+    QStringList m_cloudFolders;
+    QString m_rcloneConfig;
     int m_method = 0;
     int m_selectHint = 2;
     bool m_selectAll = false;

@@ -7,6 +7,7 @@
 #include "cli/CliText.h"
 #include "cli/ProjectLoader.h"
 #include "cli/RemovalCommands.h"
+#include "cloud/KvCloudObject.h"
 #include "engine/FilePathCodec.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
@@ -25,6 +26,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QLoggingCategory>
 #include <QTimer>
 
@@ -201,6 +203,62 @@ int runReport(const CliOptions &options)
     return 0;
 }
 
+// scan --cloud: the folders of rclone remotes, listed and compared by the service's
+// hashes, reported like a local scan.
+int runCloudScan(const CliOptions &options)
+{
+    KvCloudObject *cloud = KvCloudObject::instance();
+    if (!options.rcloneConfig().isEmpty())
+        cloud->setRcloneSettings({QString(), options.rcloneConfig()});
+    cloud->set_common_config(options.commonConfig());
+    cloud->set_similar_config(options.similarConfig());
+    QString failure;
+    QElapsedTimer timer;
+    timer.start();
+    QEventLoop loop;
+    QObject::connect(cloud, &KvCloudObject::onTraversalFailed,
+        [&failure](const QString &reason) { failure = reason; });
+    QObject::connect(cloud, &KvCloudObject::onFindedDuplicateItem,
+        [](const QHash<QString, QList<QString>> &groups) {
+            TFileData *store = TFileData::instance();
+            for (auto it = groups.begin(); it != groups.end(); ++it)
+                store->insertGroup(it.key(), it.value());
+        });
+    QObject::connect(cloud, &KvCloudObject::onAllComplate, &loop, &QEventLoop::quit);
+    cloud->start_traversal_files(options.cloudFolders(), 20);
+    loop.exec();
+    const double seconds = timer.nsecsElapsed() / 1e9;
+    if (!failure.isEmpty()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n", lineText(failure).constData());
+        return 2;
+    }
+    QList<GroupItemAutoSelector::KeyedGroup> keyed;
+    const TFileData::Groups all = TFileData::instance()->groups();
+    for (auto it = all.begin(); it != all.end(); ++it)
+        keyed.append({it.key(), it.value()});
+    // "none" shares the hint of "all" but selects nothing.
+    const QJsonObject duplication = options.duplicationConfig();
+    const int rule = duplication.value(QStringLiteral("duplicateSelectHint")).toInt();
+    if (options.selectAll() || rule != GroupItemAutoSelector::selectAllFiles) {
+        QMap<QString, int> priorities;
+        const QJsonObject map = duplication.value(QStringLiteral("mapPriority")).toObject();
+        for (auto it = map.begin(); it != map.end(); ++it)
+            priorities.insert(it.key(), it.value().toInt());
+        GroupItemAutoSelector::autoSelectAllEx(
+            keyed, rule,
+            [cloud](const QString &entry, const QString &property) {
+                return QVariant(cloud->getCFP(entry, property));
+            },
+            priorities);
+    }
+    const QList<OutputGroup> groups = collectGroups();
+    printGroups(options, cloud->scannedFileCount(), seconds, groups, Unread());
+    if (!options.json() || ::isatty(STDERR_FILENO) != 1)
+        std::fprintf(stderr, "%d files listed, %lld groups, %.3f seconds\n",
+            cloud->scannedFileCount(), static_cast<long long>(groups.size()), seconds);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -249,6 +307,12 @@ int main(int argc, char *argv[])
             status = RemovalCommands::remove(options);
         else
             status = RemovalCommands::restore(options);
+        splog_flush_repeated();
+        shutdownLogger();
+        return status;
+    }
+    if (!options.cloudFolders().isEmpty()) {
+        const int status = runCloudScan(options);
         splog_flush_repeated();
         shutdownLogger();
         return status;

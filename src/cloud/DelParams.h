@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+#include <QStringList>
+
+// One removal request of cloud files: the copies to remove and the copy of their group
+// that stays. Every copy is removed only while the kept one still exists with the hash
+// the scan saw.
+struct DelParams
+{
+    QString groupKey;
+    QStringList files;
+    QString keep;
+};
+Q_DECLARE_METATYPE(DelParams)

@@ -1,0 +1,714 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cloud/KvCloudObject.h"
+
+#include "app/DataDirectory.h"
+#include "app/TLogger.h"
+#include "cloud/CloudPath.h"
+#include "cloud/CloudService.h"
+#include "cloud/RcloneClient.h"
+#include "engine/TFileData.h"
+#include "fileops/ContentHash.h"
+#include "fileops/DeleteResult.h"
+#include "fileops/RemovalJournal.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFutureWatcher>
+#include <QJsonArray>
+#include <QStorageInfo>
+#include <QTimer>
+#include <QtConcurrent/QtConcurrentRun>
+
+namespace {
+
+// The hash kinds in the order they are preferred when a service offers several: the
+// cheapest for the service to give that still tells contents apart.
+const QStringList &preferredHashes()
+{
+    static const QStringList kinds {QStringLiteral("md5"), QStringLiteral("sha1"),
+        QStringLiteral("dropbox"), QStringLiteral("quickxor"), QStringLiteral("sha256"),
+        QStringLiteral("crc32")};
+    return kinds;
+}
+
+QString chooseHash(const QJsonArray &offered)
+{
+    for (const QString &kind : preferredHashes())
+        if (offered.contains(kind))
+            return kind;
+    return {};
+}
+
+constexpr qint64 kCountStep = 1000;
+// What a download must leave free on the disk of the download folder.
+constexpr qint64 kDiskReserve = 256LL << 20;
+// The kind of hash computed here from a downloaded copy, after the service's kinds.
+const QString kDownloadedHash = QStringLiteral("xxh128");
+
+QString hashName(int kind)
+{
+    return kind < preferredHashes().size() ? preferredHashes().at(kind) : kDownloadedHash;
+}
+
+} // namespace
+
+KvCloudObject *KvCloudObject::instance()
+{
+    // Owned by the application, so that the daemon ends with it.
+    static KvCloudObject *object = new KvCloudObject(QCoreApplication::instance());
+    return object;
+}
+
+KvCloudObject::KvCloudObject(QObject *parent)
+    : QObject(parent), m_process(new RcloneProcess(this)), m_client(new RcloneClient(this))
+{
+    qRegisterMetaType<DelParams>();
+    qRegisterMetaType<CloudFolderInfo>();
+    qRegisterMetaType<QList<CloudFolderInfo>>();
+    initialization(DataDirectory::base());
+    connect(m_process, &RcloneProcess::died, this, [this](const QString &reason) {
+        m_client->abortAll();
+        if (m_scanning)
+            finishScan(true, reason);
+        if (m_removal) {
+            const DelParams &params = m_removal->params;
+            for (int i = m_removal->next; i < params.files.size(); ++i)
+                removalFailed(params.files.at(i), reason, false);
+            m_removal->next = int(params.files.size());
+            endRemoval();
+        }
+    });
+}
+
+KvCloudObject::~KvCloudObject()
+{
+    m_client->abortAll();
+    m_process->stop();
+    delete m_removal;
+}
+
+void KvCloudObject::initialization(const QString &dataDirectory)
+{
+    m_dataDirectory = dataDirectory.endsWith(QLatin1Char('/')) ? dataDirectory
+                                                               : dataDirectory + QLatin1Char('/');
+    m_settings.configFile = m_dataDirectory + QStringLiteral("rclone/rclone.conf");
+    m_journalPath = RemovalJournal::defaultPath();
+}
+
+void KvCloudObject::setRcloneSettings(const RcloneSettings &settings)
+{
+    if (m_process->isRunning()
+        && (settings.program != m_settings.program || settings.configFile != m_settings.configFile))
+        m_process->stop();
+    m_settings = settings;
+}
+
+QString KvCloudObject::ensureStarted()
+{
+    if (m_process->isRunning())
+        return {};
+    const QString problem = m_process->start(m_settings);
+    if (problem.isEmpty())
+        m_client->setEndpoint(m_process->baseUrl(), m_process->user(), m_process->password());
+    return problem;
+}
+
+bool KvCloudObject::start_authorization(const QString &account, int cloudType, int flags)
+{
+    Q_UNUSED(flags)
+    const CloudService *service = CloudService::byType(cloudType);
+    QString problem;
+    if (!service)
+        problem = QStringLiteral("Unknown cloud type %1.").arg(cloudType);
+    else if (account.isEmpty() || account.contains(QLatin1Char(':')))
+        problem = QStringLiteral("\"%1\" cannot name an account.").arg(account);
+    else
+        problem = ensureStarted();
+    if (!problem.isEmpty()) {
+        splog_d(QStringLiteral("[KvCloudObject]: start_authorization: %1").arg(problem));
+        QTimer::singleShot(0, this, [this, problem] { emit onAuthorizedFailed(problem); });
+        return false;
+    }
+    m_client->call(QStringLiteral("config/create"),
+        {{"name", account}, {"type", service->backend}, {"parameters", service->parameters}},
+        [this, account, cloudType](const QJsonObject &answer, const QString &error) {
+            const QString failure
+                = error.isEmpty() ? answer.value(QLatin1String("Error")).toString() : error;
+            if (!failure.isEmpty()) {
+                emit onAuthorizedFailed(failure);
+                return;
+            }
+            m_account = account;
+            emit onAuthorizedCompleted(true);
+            emit onAuthorizedSuccess(account, cloudType);
+        });
+    return true;
+}
+
+void KvCloudObject::init_traversal_folder()
+{
+    ++m_folderSession;
+}
+
+void KvCloudObject::end_traversal_folders()
+{
+    ++m_folderSession;
+}
+
+void KvCloudObject::start_traversal_folders(int cloudType, const QString &folderId)
+{
+    Q_UNUSED(cloudType)
+    const QString folder
+        = folderId == QLatin1String("root") ? m_account + QLatin1Char(':') : folderId;
+    if (const QString problem = ensureStarted(); !problem.isEmpty() || m_account.isEmpty()) {
+        const QString reason
+            = problem.isEmpty() ? QStringLiteral("No account is signed in.") : problem;
+        QTimer::singleShot(0, this, [this, reason] { emit onAuthorizedFailed(reason); });
+        return;
+    }
+    const quint64 session = m_folderSession;
+    auto folders = std::make_shared<QList<CloudFolderInfo>>();
+    m_client->list(
+        {{"fs", folder}, {"remote", QString()}, {"opt", QJsonObject {{"dirsOnly", true}}}},
+        [folders, folder](const QJsonObject &entry) {
+            folders->append({CloudPath::join(folder, entry.value(QLatin1String("Path")).toString()),
+                entry.value(QLatin1String("Name")).toString(), true});
+        },
+        [this, folders, folderId, session](const QJsonObject &, const QString &error) {
+            if (session != m_folderSession)
+                return;
+            if (!error.isEmpty()) {
+                emit onAuthorizedFailed(error);
+                return;
+            }
+            std::sort(folders->begin(), folders->end(),
+                [](const CloudFolderInfo &a, const CloudFolderInfo &b) { return a.name < b.name; });
+            emit onFindedFolders(*folders, folderId);
+        });
+}
+
+QString KvCloudObject::get_download_dir() const
+{
+    return m_dataDirectory + QStringLiteral("CloudDownload/");
+}
+
+void KvCloudObject::set_common_config(const QJsonObject &config)
+{
+    m_commonConfig = config;
+    m_minSize = qint64(config.value(QStringLiteral("MinFileSize")).toDouble(0.0)) << 10;
+    m_maxSize = qint64(config.value(QStringLiteral("MaxFileSize")).toDouble(100000.0)) << 20;
+    m_skipHidden = config.value(QStringLiteral("IgnoreSystemHidden")).toBool(true);
+    const auto list = [&config](const char *key) {
+        QStringList out;
+        for (const QJsonValue &value : config.value(QLatin1String(key)).toArray())
+            out.append(value.toString().toLower());
+        return out;
+    };
+    const bool ignoreGoverns = config.value(QStringLiteral("ScanFileType")).toInt(0) == 1;
+    m_onlyTypes = ignoreGoverns ? QStringList() : list("OnlyFileType");
+    m_ignoreTypes = ignoreGoverns ? list("IgnoreFileType") : QStringList();
+}
+
+void KvCloudObject::set_similar_config(const QJsonObject &config)
+{
+    m_similarConfig = config;
+}
+
+bool KvCloudObject::accepted(const QString &relative, qint64 size) const
+{
+    // Empty files hold nothing to compare, as in a local scan.
+    if (size <= 0 || size < m_minSize || size > m_maxSize)
+        return false;
+    if (m_skipHidden
+        && (relative.startsWith(QLatin1Char('.')) || relative.contains(QLatin1String("/."))))
+        return false;
+    if (m_onlyTypes.isEmpty() && m_ignoreTypes.isEmpty())
+        return true;
+    const qsizetype slash = relative.lastIndexOf(QLatin1Char('/'));
+    const qsizetype dot = relative.lastIndexOf(QLatin1Char('.'));
+    const QString suffix = dot > slash + 0 ? relative.mid(dot + 1).toLower() : QString();
+    if (!m_onlyTypes.isEmpty() && !m_onlyTypes.contains(suffix))
+        return false;
+    return !m_ignoreTypes.contains(suffix);
+}
+
+void KvCloudObject::start_traversal_files(const QList<QString> &folders, int budget)
+{
+    Q_UNUSED(budget)
+    if (m_scanning)
+        return;
+    m_scanning = true;
+    m_downloadsPlanned = false;
+    m_folders = folders;
+    m_folderIndex = 0;
+    m_scanned = 0;
+    m_listed.clear();
+    m_paths.clear();
+    m_mimeIndex.clear();
+    m_mimeTypes.clear();
+    {
+        QWriteLocker lock(&m_filesLock);
+        m_members.clear();
+    }
+    splog_d(QStringLiteral("[KvCloudObject]: start_traversal_files: %1").arg(folders.join(", ")));
+    const QString problem = ensureStarted();
+    if (!problem.isEmpty()) {
+        // Reported after the caller has returned, like every other end of a scan.
+        QTimer::singleShot(0, this, [this, problem] { finishScan(true, problem); });
+        return;
+    }
+    listFolder();
+}
+
+void KvCloudObject::listFolder()
+{
+    if (!m_scanning)
+        return;
+    if (m_folderIndex >= m_folders.size()) {
+        finishScan(false);
+        return;
+    }
+    const QString folder = m_folders.at(m_folderIndex);
+    const quint16 folderIndex = quint16(m_folderIndex);
+    // The hash kind is the service's, asked once per folder: folders of one scan may lie
+    // on remotes of different kinds.
+    m_client->call(QStringLiteral("operations/fsinfo"), {{"fs", folder}},
+        [this, folder, folderIndex](const QJsonObject &info, const QString &error) {
+            if (!error.isEmpty()) {
+                finishScan(true, QStringLiteral("%1: %2").arg(folder, error));
+                return;
+            }
+            const QString hashType = chooseHash(info.value(QLatin1String("Hashes")).toArray());
+            if (hashType.isEmpty())
+                emit logMessage(
+                    QStringLiteral("%1 offers no hash: its files are not compared").arg(folder));
+            QJsonObject options {{"recurse", true}, {"filesOnly", true}};
+            if (!hashType.isEmpty()) {
+                options.insert(QStringLiteral("showHash"), true);
+                options.insert(QStringLiteral("hashTypes"), QJsonArray {hashType});
+            }
+            m_client->list(
+                {{"fs", folder}, {"remote", QString()}, {"opt", options}},
+                [this, folderIndex, kind = int(preferredHashes().indexOf(hashType))](
+                    const QJsonObject &entry) { addEntry(folderIndex, kind, entry); },
+                [this, folder](const QJsonObject &, const QString &listError) {
+                    if (!listError.isEmpty()) {
+                        finishScan(true, QStringLiteral("%1: %2").arg(folder, listError));
+                        return;
+                    }
+                    ++m_folderIndex;
+                    emit onFilesFetchCount(int(m_scanned));
+                    emit processChange(100.0 * m_folderIndex / m_folders.size());
+                    listFolder();
+                });
+        });
+}
+
+void KvCloudObject::addEntry(quint16 folder, int hashType, const QJsonObject &entry)
+{
+    if (!m_scanning || entry.value(QLatin1String("IsDir")).toBool())
+        return;
+    ++m_scanned;
+    if (m_scanned % kCountStep == 0)
+        emit onFilesFetchCount(int(m_scanned));
+    const QString relative = entry.value(QLatin1String("Path")).toString();
+    const qint64 size = entry.value(QLatin1String("Size")).toInteger(-1);
+    if (!accepted(relative, size))
+        return;
+    ListedFile file;
+    file.relativePath = m_paths.add(relative.toUtf8());
+    file.size = size;
+    file.folder = folder;
+    file.modTime = ListedFile::parseTime(entry.value(QLatin1String("ModTime")).toString());
+    const QString mime = entry.value(QLatin1String("MimeType")).toString();
+    auto known = m_mimeIndex.constFind(mime);
+    if (known == m_mimeIndex.constEnd() && m_mimeTypes.size() < 0xFFFF) {
+        known = m_mimeIndex.insert(mime, quint16(m_mimeTypes.size()));
+        m_mimeTypes.append(mime);
+    }
+    file.mimeType = known == m_mimeIndex.constEnd() ? 0 : known.value();
+    if (hashType >= 0)
+        file.setHash(entry.value(QLatin1String("Hashes"))
+                         .toObject()
+                         .value(preferredHashes().at(hashType))
+                         .toString(),
+            quint8(hashType));
+    m_listed.push_back(std::move(file));
+}
+
+void KvCloudObject::groupFiles()
+{
+    // Files the service gave no hash for cannot be compared without downloading them.
+    const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
+        [](const ListedFile &file) { return file.hashLength > 0; });
+    const qsizetype notCompared = m_listed.end() - unhashed;
+    if (notCompared > 0)
+        emit logMessage(
+            QStringLiteral("%1 files without a hash were not compared").arg(notCompared));
+    m_listed.erase(unhashed, m_listed.end());
+    const auto sameContent = [](const ListedFile &a, const ListedFile &b) {
+        return a.size == b.size && a.hashType == b.hashType && a.hashBytes() == b.hashBytes();
+    };
+    std::sort(m_listed.begin(), m_listed.end(), [this](const ListedFile &a, const ListedFile &b) {
+        if (a.size != b.size)
+            return a.size < b.size;
+        if (a.hashType != b.hashType)
+            return a.hashType < b.hashType;
+        const int order = a.hashBytes().compare(b.hashBytes());
+        if (order != 0)
+            return order < 0;
+        return a.folder != b.folder
+            ? a.folder < b.folder
+            : m_paths.view(a.relativePath).compare(m_paths.view(b.relativePath)) < 0;
+    });
+    QHash<QString, QList<QString>> groups;
+    QHash<QString, CloudFile> members;
+    qint64 duplicateBytes = 0;
+    for (auto begin = m_listed.cbegin(); begin != m_listed.cend();) {
+        auto end = begin + 1;
+        while (end != m_listed.cend() && sameContent(*end, *begin))
+            ++end;
+        if (end - begin > 1) {
+            QStringList paths;
+            for (auto it = begin; it != end; ++it) {
+                CloudFile member;
+                member.path = CloudPath::join(
+                    m_folders.at(it->folder), QString::fromUtf8(m_paths.view(it->relativePath)));
+                member.size = it->size;
+                member.modTime = it->modTime;
+                member.mimeType = m_mimeTypes.at(it->mimeType);
+                member.hash = it->hashBytes().toByteArray();
+                member.hashType = hashName(it->hashType);
+                paths.append(member.path);
+                members.insert(member.path, member);
+            }
+            duplicateBytes += begin->size * (end - begin - 1);
+            groups.insert(TFileData::groupKey(paths.first()), paths);
+            emit onDuplicateItemFound(int(groups.size()), duplicateBytes);
+        }
+        begin = end;
+    }
+    std::deque<ListedFile>().swap(m_listed);
+    m_paths.clear();
+    {
+        QWriteLocker lock(&m_filesLock);
+        m_members = std::move(members);
+    }
+    emit onFindedDuplicateItem(groups);
+}
+
+bool KvCloudObject::planDownloads()
+{
+    // Only files that share their size with another one the service gave no hash for
+    // can have a copy among them; those alone are fetched.
+    const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
+        [](const ListedFile &file) { return file.hashLength > 0; });
+    std::sort(unhashed, m_listed.end(),
+        [](const ListedFile &a, const ListedFile &b) { return a.size < b.size; });
+    m_downloads.clear();
+    m_nextDownload = 0;
+    for (auto it = unhashed; it != m_listed.end();) {
+        auto end = it + 1;
+        while (end != m_listed.end() && end->size == it->size)
+            ++end;
+        if (end - it > 1)
+            for (; it != end; ++it)
+                m_downloads.push_back(size_t(it - m_listed.begin()));
+        it = end;
+    }
+    return !m_downloads.empty();
+}
+
+void KvCloudObject::downloadNext()
+{
+    if (!m_scanning)
+        return;
+    if (m_nextDownload >= m_downloads.size()) {
+        finishScan(false);
+        return;
+    }
+    const size_t index = m_downloads.at(m_nextDownload++);
+    const ListedFile &file = m_listed.at(index);
+    const QString directory = get_download_dir();
+    QDir().mkpath(directory);
+    if (QStorageInfo(directory).bytesAvailable() < file.size + kDiskReserve) {
+        emit diskSpaceLow();
+        emit logMessage(QStringLiteral("%1 files without a hash were not compared: low disk space")
+                            .arg(m_downloads.size() - m_nextDownload + 1));
+        m_nextDownload = m_downloads.size();
+        finishScan(false);
+        return;
+    }
+    const CloudPath source = CloudPath::split(CloudPath::join(
+        m_folders.at(file.folder), QString::fromUtf8(m_paths.view(file.relativePath))));
+    const QString name = QStringLiteral("scan-%1").arg(index);
+    const QString target = directory + name;
+    const quint64 generation = m_generation;
+    m_client->call(QStringLiteral("operations/copyfile"),
+        {{"srcFs", source.fs}, {"srcRemote", source.remote}, {"dstFs", directory},
+            {"dstRemote", name}},
+        [this, index, target, generation, source](const QJsonObject &, const QString &error) {
+            if (!error.isEmpty()) {
+                emit logMessage(QStringLiteral("%1 not compared: %2").arg(source.remote, error));
+                QFile::remove(target);
+                downloadNext();
+                return;
+            }
+            // Read off this thread: a download may be gigabytes.
+            auto *watcher = new QFutureWatcher<QByteArray>(this);
+            connect(watcher, &QFutureWatcher<QByteArray>::finished, this,
+                [this, watcher, index, target, generation] {
+                    watcher->deleteLater();
+                    QFile::remove(target);
+                    if (!m_scanning || generation != m_generation)
+                        return;
+                    const QByteArray digest = watcher->result();
+                    ListedFile &file = m_listed.at(index);
+                    if (!digest.isEmpty() && digest.size() <= ListedFile::kMaxHash) {
+                        std::copy(digest.begin(), digest.end(), file.hash.begin());
+                        file.hashLength = quint8(digest.size());
+                        file.hashType = quint8(preferredHashes().size());
+                    }
+                    downloadNext();
+                });
+            watcher->setFuture(QtConcurrent::run([target] { return ContentHash::ofFile(target); }));
+        });
+}
+
+void KvCloudObject::finishScan(bool aborted, const QString &failure)
+{
+    if (!m_scanning)
+        return;
+    if (!aborted && failure.isEmpty() && !m_downloadsPlanned) {
+        m_downloadsPlanned = true;
+        if (planDownloads()) {
+            downloadNext();
+            return;
+        }
+    }
+    m_scanning = false;
+    ++m_generation;
+    m_client->abortAll();
+    if (!failure.isEmpty()) {
+        splog_d(QStringLiteral("[KvCloudObject]: scan failed: %1").arg(failure));
+        emit onTraversalFailed(failure);
+    }
+    groupFiles();
+    emit onFilesFetchCount(int(m_scanned));
+    if (!aborted)
+        emit processChange(100.0);
+    splog_d(QStringLiteral("[KvCloudObject]: scan ended%1, %2 files listed")
+                .arg(aborted ? QStringLiteral(" early") : QString())
+                .arg(m_scanned));
+    emit onAllComplate(aborted);
+}
+
+void KvCloudObject::stop_all_tasks()
+{
+    stop_deleted();
+    if (m_scanning)
+        finishScan(true);
+}
+
+QString KvCloudObject::getCFP(const QString &file, const QString &property) const
+{
+    QReadLocker lock(&m_filesLock);
+    const auto found = m_members.constFind(file);
+    if (found == m_members.constEnd())
+        return {};
+    const CloudFile &item = found.value();
+    if (property == QLatin1String("size"))
+        return QString::number(item.size);
+    if (property == QLatin1String("mimeType"))
+        return item.mimeType;
+    if (property == QLatin1String("createdTime"))
+        return QDateTime::fromMSecsSinceEpoch(item.modTime, Qt::UTC).toString(Qt::ISODateWithMs);
+    if (property == QLatin1String("name"))
+        return CloudPath::split(item.path).remote;
+    if (property == QLatin1String("cloudPath"))
+        return item.path;
+    if (property == QLatin1String("hash"))
+        return item.hashType + QLatin1Char(':') + QString::fromLatin1(item.hash.toHex());
+    return {};
+}
+
+const CloudFile *KvCloudObject::recorded(const QString &path) const
+{
+    // Only called on the owning thread, the one thread that changes the table.
+    const auto found = m_members.constFind(path);
+    return found == m_members.constEnd() ? nullptr : &found.value();
+}
+
+void KvCloudObject::start_delete_one_file(const DelParams &params)
+{
+    startRemoval(params, true);
+}
+
+void KvCloudObject::start_delete_group_files(const DelParams &params)
+{
+    startRemoval(params, false);
+}
+
+void KvCloudObject::startRemoval(const DelParams &params, bool single)
+{
+    if (m_removal) {
+        emit onDeletedCloudError(
+            int(params.files.size()), QStringLiteral("Another removal is still running."));
+        return;
+    }
+    m_removal = new Removal(params, single, m_journalPath);
+    // Nothing goes unless it can be written down first.
+    if (!m_removal->journal.begin(QStringLiteral("cloud"), params.files.size())) {
+        const QString reason = QStringLiteral("The removal journal cannot be written: %1")
+                                   .arg(m_removal->journal.error());
+        delete std::exchange(m_removal, nullptr);
+        emit onDeletedCloudError(int(params.files.size()), reason);
+        return;
+    }
+    if (const QString problem = ensureStarted(); !problem.isEmpty()) {
+        for (const QString &file : params.files)
+            removalFailed(file, problem, false);
+        m_removal->next = int(params.files.size());
+        QTimer::singleShot(0, this, [this] { endRemoval(); });
+        return;
+    }
+    // Answers always come after the call has returned, even when no check needs rclone.
+    QTimer::singleShot(0, this, [this] { removeNext(); });
+}
+
+void KvCloudObject::removalFailed(const QString &file, const QString &reason, bool skipped)
+{
+    m_removal->failures.append(QStringLiteral("%1: %2").arg(file, reason));
+    DeleteResult result {file};
+    result.success = false;
+    result.errorCode = skipped ? DeleteResult::Skipped : DeleteResult::RemovalFailed;
+    result.message = skipped ? QStringLiteral("Skipped.") : QStringLiteral("Deletion failed.");
+    result.reason = reason;
+    m_removal->journal.record(QStringLiteral("cloud"), result,
+        skipped ? RemovalJournal::skipped : RemovalJournal::failed);
+}
+
+void KvCloudObject::removeNext()
+{
+    if (!m_removal)
+        return;
+    const DelParams &params = m_removal->params;
+    if (m_removal->next >= params.files.size()) {
+        endRemoval();
+        return;
+    }
+    const QString file = params.files.at(m_removal->next++);
+    const CloudFile *item = recorded(file);
+    const CloudFile *kept = recorded(params.keep);
+    if (file == params.keep || !item || !kept || item->hash.isEmpty() || item->hash != kept->hash
+        || item->hashType != kept->hashType) {
+        removalFailed(file, QStringLiteral("no copy of it known to stay"), true);
+        removeNext();
+        return;
+    }
+    if (item->hashType == kDownloadedHash) {
+        removalFailed(file,
+            QStringLiteral("the service keeps no hash by which the kept copy can be confirmed"),
+            true);
+        removeNext();
+        return;
+    }
+    const QString hashType = item->hashType;
+    const qint64 size = item->size;
+    const QByteArray hash = item->hash;
+    // Both copies are looked at again just before: the kept one must still be there with
+    // the same content, the one to go must still be what the scan saw.
+    const auto check = [this, hashType, size, hash](
+                           const QString &path, std::function<void(const QString &problem)> next) {
+        const CloudPath where = CloudPath::split(path);
+        m_client->call(QStringLiteral("operations/stat"),
+            {{"fs", where.fs}, {"remote", where.remote},
+                {"opt", QJsonObject {{"showHash", true}, {"hashTypes", QJsonArray {hashType}}}}},
+            [size, hash, hashType, next](const QJsonObject &answer, const QString &error) {
+                if (!error.isEmpty()) {
+                    next(error);
+                    return;
+                }
+                const QJsonObject found = answer.value(QLatin1String("item")).toObject();
+                if (found.isEmpty())
+                    next(QStringLiteral("it no longer exists"));
+                else if (found.value(QLatin1String("Size")).toInteger(-1) != size
+                    || QByteArray::fromHex(found.value(QLatin1String("Hashes"))
+                                               .toObject()
+                                               .value(hashType)
+                                               .toString()
+                                               .toLatin1())
+                        != hash)
+                    next(QStringLiteral("its content changed since the scan"));
+                else
+                    next({});
+            });
+    };
+    const QString keep = params.keep;
+    check(keep, [this, file, keep, check](const QString &keptProblem) {
+        if (!keptProblem.isEmpty()) {
+            removalFailed(file,
+                QStringLiteral("the kept copy %1 cannot be confirmed: %2").arg(keep, keptProblem),
+                true);
+            removeNext();
+            return;
+        }
+        check(file, [this, file](const QString &problem) {
+            if (!problem.isEmpty()) {
+                removalFailed(file, problem, true);
+                removeNext();
+                return;
+            }
+            const CloudPath where = CloudPath::split(file);
+            m_client->call(QStringLiteral("operations/deletefile"),
+                {{"fs", where.fs}, {"remote", where.remote}},
+                [this, file](const QJsonObject &, const QString &error) {
+                    if (!error.isEmpty()) {
+                        removalFailed(file, error, false);
+                    } else {
+                        m_removal->deleted.append(file);
+                        m_removal->journal.record(
+                            QStringLiteral("cloud"), DeleteResult {file}, RemovalJournal::removed);
+                        QWriteLocker lock(&m_filesLock);
+                        m_members.remove(file);
+                    }
+                    removeNext();
+                });
+        });
+    });
+}
+
+void KvCloudObject::endRemoval()
+{
+    if (!m_removal)
+        return;
+    std::unique_ptr<Removal> removal(std::exchange(m_removal, nullptr));
+    removal->journal.end();
+    splog_d(QStringLiteral("[KvCloudObject]: removed %1 of %2 cloud files")
+                .arg(removal->deleted.size())
+                .arg(removal->params.files.size()));
+    if (removal->single)
+        emit onDeletedCloudOneFileComplated(removal->deleted, removal->params);
+    else
+        emit onDeletedCloudGroupComplated(removal->deleted, removal->params);
+    if (!removal->failures.isEmpty())
+        emit onDeletedCloudError(
+            int(removal->failures.size()), removal->failures.join(QLatin1Char('\n')));
+}
+
+void KvCloudObject::stop_deleted()
+{
+    if (!m_removal)
+        return;
+    m_client->abortAll();
+    const DelParams &params = m_removal->params;
+    for (int i = m_removal->next; i < params.files.size(); ++i)
+        removalFailed(params.files.at(i), QStringLiteral("stopped before it was removed"), true);
+    m_removal->next = int(params.files.size());
+    endRemoval();
+}

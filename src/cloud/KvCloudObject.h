@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cloud/CloudFile.h"
+#include "cloud/CloudFolderInfo.h"
+#include "cloud/DelParams.h"
+#include "cloud/ListedFile.h"
+#include "cloud/RcloneProcess.h"
+#include "fileops/RemovalJournal.h"
+
+#include <deque>
+#include <vector>
+
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QObject>
+#include <QReadWriteLock>
+#include <QStringList>
+
+class RcloneClient;
+
+// The cloud source: lists, compares and removes files of cloud folders through an
+// rclone daemon of its own. Files are compared by the hash the service keeps; only
+// files it keeps none for, and only those that share their size with another, are
+// downloaded into get_download_dir() and hashed here. All calls are made on the thread the object
+// lives on and every answer comes back there as a signal; getCFP alone may be called from any
+// thread.
+class KvCloudObject : public QObject
+{
+    Q_OBJECT
+public:
+    static KvCloudObject *instance();
+    explicit KvCloudObject(QObject *parent = nullptr);
+    ~KvCloudObject() override;
+
+    // The data folder ("…/Veltrine Duplicate Finder/"): the rclone configuration and the
+    // download folder are kept inside it.
+    void initialization(const QString &dataDirectory);
+    // Another rclone program or configuration than the data folder's own.
+    void setRcloneSettings(const RcloneSettings &settings);
+    RcloneSettings rcloneSettings() const { return m_settings; }
+    // Starts the daemon when it is not running; empty, or the reason it cannot run.
+    QString ensureStarted();
+
+    // Creates the remote "account" of the service's backend; for the services that sign
+    // in through the browser rclone opens it and waits for the user. The answer comes as
+    // onAuthorizedSuccess or onAuthorizedFailed; false when it could not even start.
+    bool start_authorization(const QString &account, int cloudType, int flags = 0);
+
+    // The folder chooser: the sub-folders of one folder of the signed-in account ("root"
+    // for its top), answered by onFindedFolders. Each call lists one level only.
+    void init_traversal_folder();
+    void start_traversal_folders(int cloudType, const QString &folderId);
+    void end_traversal_folders();
+    QString account() const { return m_account; }
+
+    void set_common_config(const QJsonObject &config);
+    void set_similar_config(const QJsonObject &config);
+    // Folders are "remote:path". The number is the window's cloud budget; the listing
+    // has no use for it.
+    void start_traversal_files(const QList<QString> &folders, int budget);
+    void stop_all_tasks();
+    bool isScanning() const { return m_scanning; }
+    int scannedFileCount() const { return int(m_scanned); }
+    // The daemon's process id, 0 when it is not running.
+    qint64 rcloneProcessId() const { return m_process->isRunning() ? m_process->processId() : 0; }
+
+    QString get_download_dir() const;
+    // A property of a listed member of a group: "size", "mimeType", "createdTime",
+    // "name", "cloudPath" or "hash"; empty when unknown.
+    QString getCFP(const QString &file, const QString &property) const;
+
+    void start_delete_one_file(const DelParams &params);
+    void start_delete_group_files(const DelParams &params);
+    void stop_deleted();
+    // The journal the removals are written to (the data folder's by default).
+    void setJournalPath(const QString &path) { m_journalPath = path; }
+
+signals:
+    void logMessage(const QString &message);
+    void onAuthorizedSuccess(const QString &account, int cloudType);
+    void onAuthorizedFailed(const QString &reason);
+    void onAuthorizedCompleted(bool updated);
+    void onFindedFolders(const QList<CloudFolderInfo> &folders, const QString &parentId);
+    void onFilesFetchCount(int count);
+    void processChange(double percent);
+    void onFindedDuplicateItem(const QHash<QString, QList<QString>> &groups);
+    void onDuplicateItemFound(int count, qint64 size);
+    void diskSpaceLow();
+    void onAllComplate(bool aborted);
+    // Why a scan could not be completed (rclone missing or gone, an error of the service);
+    // followed by onAllComplate(true).
+    void onTraversalFailed(const QString &reason);
+    void onDeletedCloudGroupComplated(const QStringList &deletedFiles, const DelParams &params);
+    void onDeletedCloudOneFileComplated(const QStringList &deletedFiles, const DelParams &params);
+    void onDeletedCloudError(int failedCount, const QString &errorMsg);
+
+private:
+    struct Removal
+    {
+        Removal(const DelParams &request, bool one, const QString &journalPath)
+            : params(request), single(one), journal(journalPath)
+        { }
+        DelParams params;
+        bool single = false;
+        int next = 0;
+        QStringList deleted;
+        QStringList failures;
+        RemovalJournal journal;
+    };
+
+    void listFolder();
+    void addEntry(quint16 folder, int hashType, const QJsonObject &entry);
+    bool accepted(const QString &relative, qint64 size) const;
+    void finishScan(bool aborted, const QString &failure = {});
+    // Files without a service hash that might have copies: fetched and hashed here.
+    bool planDownloads();
+    void downloadNext();
+    void groupFiles();
+
+    void startRemoval(const DelParams &params, bool single);
+    void removeNext();
+    void endRemoval();
+    void removalFailed(const QString &file, const QString &reason, bool skipped);
+    const CloudFile *recorded(const QString &path) const;
+
+    RcloneSettings m_settings;
+    QString m_account;
+    // Folder listings in flight belong to the chooser that asked; a new one drops them.
+    quint64 m_folderSession = 0;
+    QString m_dataDirectory;
+    QString m_journalPath;
+    RcloneProcess *m_process;
+    RcloneClient *m_client;
+
+    QJsonObject m_commonConfig;
+    QJsonObject m_similarConfig;
+    qint64 m_minSize = 0;
+    qint64 m_maxSize = std::numeric_limits<qint64>::max();
+    bool m_skipHidden = true;
+    QStringList m_onlyTypes;
+    QStringList m_ignoreTypes;
+
+    QStringList m_folders;
+    int m_folderIndex = 0;
+    bool m_scanning = false;
+    qint64 m_scanned = 0;
+    // In blocks: a listing of unknown length grows without ever being copied whole.
+    std::deque<ListedFile> m_listed;
+    PathPool m_paths;
+    std::vector<size_t> m_downloads;
+    size_t m_nextDownload = 0;
+    bool m_downloadsPlanned = false;
+    // Tells the answers of an ended scan from those of the next.
+    quint64 m_generation = 0;
+    QHash<QString, quint16> m_mimeIndex;
+    QStringList m_mimeTypes;
+
+    // The members of the groups, by path, for getCFP and the removal checks.
+    mutable QReadWriteLock m_filesLock;
+    QHash<QString, CloudFile> m_members;
+
+    Removal *m_removal = nullptr;
+};
