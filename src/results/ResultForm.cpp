@@ -1081,7 +1081,7 @@ void ResultForm::onBtnDeletedClick(const QModelIndex &index)
         + QStringLiteral("onBtnDeletedClick. DeleteMode:%1. Remove Path:%2. File:%3")
               .arg(method)
               .arg(folder, path));
-    if (method == DFIgnoreListPreferences::removePermanently && !confirmRemoval(false))
+    if (method == DFIgnoreListPreferences::removePermanently && !confirmRemoval())
         return;
     const QList<DeleteResult> results = removeNow({{key, {path}}});
     const bool removed = std::any_of(results.cbegin(), results.cend(),
@@ -1159,8 +1159,7 @@ void ResultForm::onMenuDeleteGroup(const QString &key, int row, int count)
         return;
     }
     const auto [method, folder] = removalMethod();
-    if ((m_isCloud || method == DFIgnoreListPreferences::removePermanently)
-        && !confirmRemoval(false))
+    if ((m_isCloud || method == DFIgnoreListPreferences::removePermanently) && !confirmRemoval())
         return;
     splog_d(kTag
         + QStringLiteral("onMenuDeleteGroup. DeleteMode:%1. Remove Path:%2. files:[%3]")
@@ -1188,9 +1187,8 @@ QPair<int, QString> ResultForm::removalMethod() const
         method, method == DFIgnoreListPreferences::moveToFolder ? prefs->TrashFolder() : QString()};
 }
 
-bool ResultForm::confirmRemoval(bool batch)
+bool ResultForm::confirmRemoval()
 {
-    Q_UNUSED(batch)
     const int method = removalMethod().first;
     QString question;
     if (m_isCloud)
@@ -1246,7 +1244,7 @@ void ResultForm::on_btn_delete_clicked()
         QMessageBox::warning(this, tr("Warning"), tr("No Selected Files!"));
         return;
     }
-    if (!confirmRemoval(true))
+    if (!confirmRemoval())
         return;
     bool allowAllCopies = false;
     if (removesEveryCopy(TFileData::instance()->groups(), selection)) {

@@ -169,7 +169,8 @@ private:
     void removeGroupFromViews(const QString &key);
     QModelIndex currentGroupIndex() const;
     QPair<int, QString> removalMethod() const;
-    bool confirmRemoval(bool batch);
+    // The question of the current method; true when the removal may go on.
+    bool confirmRemoval();
     // Runs a removal of the given selection on the GUI thread (one file, one group).
     QList<DeleteResult> removeNow(const QHash<QString, QStringList> &selection);
     void startBatch(const QHash<QString, QStringList> &selection, bool allowAllCopies);

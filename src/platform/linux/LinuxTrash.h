@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// The desktop trash as the freedesktop.org trash specification lays it out, so that any
+// The desktop trash in the freedesktop.org layout that desktops share, so that any
 // file manager can list and restore what the program put there: the item in "files/",
 // a "NAME.trashinfo" in "info/" with its original Path (percent-encoded bytes) and
 // DeletionDate. Items on the home file system go to $XDG_DATA_HOME/Trash; items on other
