@@ -76,12 +76,18 @@ KvCloudObject::KvCloudObject(QObject *parent)
         if (m_scanning)
             finishScan(true, reason);
         if (m_removal) {
-            const DelParams &params = m_removal->params;
-            for (int i = m_removal->next; i < params.files.size(); ++i)
-                removalFailed(params.files.at(i), reason, false);
-            m_removal->next = int(params.files.size());
+            failRest(reason, false);
             endRemoval();
         }
+    });
+    m_scanTimer = new QTimer(this);
+    m_scanTimer->setInterval(1000);
+    connect(m_scanTimer, &QTimer::timeout, this, [this] {
+        const qint64 seconds = m_scanClock.elapsed() / 1000;
+        emit onUpdateTimer(QStringLiteral("%1:%2:%3")
+                               .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
+                               .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
+                               .arg(seconds % 60, 2, 10, QLatin1Char('0')));
     });
 }
 
@@ -243,8 +249,12 @@ void KvCloudObject::start_traversal_files(const QList<QString> &folders, int bud
     if (m_scanning)
         return;
     m_scanning = true;
+    m_scanClock.start();
+    m_scanTimer->start();
     m_downloadsPlanned = false;
-    m_folders = folders;
+    // A folder inside another chosen one would be listed twice, and each of its files
+    // would then look like a copy of itself.
+    m_folders = CloudPath::outermost(folders);
     m_folderIndex = 0;
     m_scanned = 0;
     m_listed.clear();
@@ -492,6 +502,7 @@ void KvCloudObject::finishScan(bool aborted, const QString &failure)
         }
     }
     m_scanning = false;
+    m_scanTimer->stop();
     ++m_generation;
     m_client->abortAll();
     if (!failure.isEmpty()) {
@@ -546,39 +557,51 @@ const CloudFile *KvCloudObject::recorded(const QString &path) const
 
 void KvCloudObject::start_delete_one_file(const DelParams &params)
 {
-    startRemoval(params, true);
+    startRemoval({params}, true);
 }
 
 void KvCloudObject::start_delete_group_files(const DelParams &params)
 {
-    startRemoval(params, false);
+    startRemoval({params}, false);
 }
 
-void KvCloudObject::startRemoval(const DelParams &params, bool single)
+void KvCloudObject::start_delete_all_files(const QList<DelParams> &groups)
 {
+    startRemoval(groups, false);
+}
+
+void KvCloudObject::startRemoval(const QList<DelParams> &groups, bool single)
+{
+    qsizetype count = 0;
+    for (const DelParams &group : groups)
+        count += group.files.size();
     if (m_removal) {
-        emit onDeletedCloudError(
-            int(params.files.size()), QStringLiteral("Another removal is still running."));
+        emit onDeletedCloudError(int(count), QStringLiteral("Another removal is still running."));
         return;
     }
-    m_removal = new Removal(params, single, m_journalPath);
+    m_removal = new Removal(groups, single, m_journalPath);
     // Nothing goes unless it can be written down first.
-    if (!m_removal->journal.begin(QStringLiteral("cloud"), params.files.size())) {
+    if (!m_removal->journal.begin(QStringLiteral("cloud"), count)) {
         const QString reason = QStringLiteral("The removal journal cannot be written: %1")
                                    .arg(m_removal->journal.error());
         delete std::exchange(m_removal, nullptr);
-        emit onDeletedCloudError(int(params.files.size()), reason);
+        emit onDeletedCloudError(int(count), reason);
         return;
     }
     if (const QString problem = ensureStarted(); !problem.isEmpty()) {
-        for (const QString &file : params.files)
-            removalFailed(file, problem, false);
-        m_removal->next = int(params.files.size());
+        failRest(problem, false);
         QTimer::singleShot(0, this, [this] { endRemoval(); });
         return;
     }
     // Answers always come after the call has returned, even when no check needs rclone.
     QTimer::singleShot(0, this, [this] { removeNext(); });
+}
+
+void KvCloudObject::failRest(const QString &reason, bool skipped)
+{
+    for (; !m_removal->done(); ++m_removal->groupIndex, m_removal->next = 0)
+        for (; m_removal->next < m_removal->group().files.size(); ++m_removal->next)
+            removalFailed(m_removal->group().files.at(m_removal->next), reason, skipped);
 }
 
 void KvCloudObject::removalFailed(const QString &file, const QString &reason, bool skipped)
@@ -589,6 +612,7 @@ void KvCloudObject::removalFailed(const QString &file, const QString &reason, bo
     result.errorCode = skipped ? DeleteResult::Skipped : DeleteResult::RemovalFailed;
     result.message = skipped ? QStringLiteral("Skipped.") : QStringLiteral("Deletion failed.");
     result.reason = reason;
+    m_removal->results.append(result);
     m_removal->journal.record(QStringLiteral("cloud"), result,
         skipped ? RemovalJournal::skipped : RemovalJournal::failed);
 }
@@ -597,12 +621,19 @@ void KvCloudObject::removeNext()
 {
     if (!m_removal)
         return;
-    const DelParams &params = m_removal->params;
-    if (m_removal->next >= params.files.size()) {
+    if (m_removal->handled > 0)
+        emit deleteProgress(m_removal->handled, m_removal->total);
+    while (!m_removal->done() && m_removal->next >= m_removal->group().files.size()) {
+        ++m_removal->groupIndex;
+        m_removal->next = 0;
+    }
+    if (m_removal->done()) {
         endRemoval();
         return;
     }
+    const DelParams &params = m_removal->group();
     const QString file = params.files.at(m_removal->next++);
+    ++m_removal->handled;
     const CloudFile *item = recorded(file);
     const CloudFile *kept = recorded(params.keep);
     if (file == params.keep || !item || !kept || item->hash.isEmpty() || item->hash != kept->hash
@@ -672,6 +703,7 @@ void KvCloudObject::removeNext()
                         removalFailed(file, error, false);
                     } else {
                         m_removal->deleted.append(file);
+                        m_removal->results.append(DeleteResult {file});
                         m_removal->journal.record(
                             QStringLiteral("cloud"), DeleteResult {file}, RemovalJournal::removed);
                         QWriteLocker lock(&m_filesLock);
@@ -689,13 +721,20 @@ void KvCloudObject::endRemoval()
         return;
     std::unique_ptr<Removal> removal(std::exchange(m_removal, nullptr));
     removal->journal.end();
+    m_lastResults = removal->results;
     splog_d(QStringLiteral("[KvCloudObject]: removed %1 of %2 cloud files")
                 .arg(removal->deleted.size())
-                .arg(removal->params.files.size()));
+                .arg(removal->total));
+    DelParams asked = removal->groups.value(0);
+    if (removal->groups.size() > 1) {
+        asked = DelParams();
+        for (const DelParams &group : std::as_const(removal->groups))
+            asked.files << group.files;
+    }
     if (removal->single)
-        emit onDeletedCloudOneFileComplated(removal->deleted, removal->params);
+        emit onDeletedCloudOneFileComplated(removal->deleted, asked);
     else
-        emit onDeletedCloudGroupComplated(removal->deleted, removal->params);
+        emit onDeletedCloudGroupComplated(removal->deleted, asked);
     if (!removal->failures.isEmpty())
         emit onDeletedCloudError(
             int(removal->failures.size()), removal->failures.join(QLatin1Char('\n')));
@@ -706,9 +745,6 @@ void KvCloudObject::stop_deleted()
     if (!m_removal)
         return;
     m_client->abortAll();
-    const DelParams &params = m_removal->params;
-    for (int i = m_removal->next; i < params.files.size(); ++i)
-        removalFailed(params.files.at(i), QStringLiteral("stopped before it was removed"), true);
-    m_removal->next = int(params.files.size());
+    failRest(QStringLiteral("stopped before it was removed"), true);
     endRemoval();
 }

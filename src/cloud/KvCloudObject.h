@@ -6,17 +6,20 @@
 #include "cloud/DelParams.h"
 #include "cloud/ListedFile.h"
 #include "cloud/RcloneProcess.h"
+#include "fileops/DeleteResult.h"
 #include "fileops/RemovalJournal.h"
 
 #include <deque>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QObject>
 #include <QReadWriteLock>
 #include <QStringList>
+#include <QTimer>
 
 class RcloneClient;
 
@@ -73,7 +76,13 @@ public:
 
     void start_delete_one_file(const DelParams &params);
     void start_delete_group_files(const DelParams &params);
+    // Several groups in one run: one journal batch, one deleteProgress count, and one
+    // onDeletedCloudGroupComplated whose parameters hold every file asked for.
+    void start_delete_all_files(const QList<DelParams> &groups);
     void stop_deleted();
+    bool isDeleting() const { return m_removal != nullptr; }
+    // What happened to each file of the last removal, in the order asked; for the summary.
+    QList<DeleteResult> lastRemovalResults() const { return m_lastResults; }
     // The journal the removals are written to (the data folder's by default).
     void setJournalPath(const QString &path) { m_journalPath = path; }
 
@@ -95,18 +104,30 @@ signals:
     void onDeletedCloudGroupComplated(const QStringList &deletedFiles, const DelParams &params);
     void onDeletedCloudOneFileComplated(const QStringList &deletedFiles, const DelParams &params);
     void onDeletedCloudError(int failedCount, const QString &errorMsg);
+    void deleteProgress(int done, int total);
+    // The time since the scan started, "hh:mm:ss", once a second while it runs.
+    void onUpdateTimer(const QString &elapsed);
 
 private:
     struct Removal
     {
-        Removal(const DelParams &request, bool one, const QString &journalPath)
-            : params(request), single(one), journal(journalPath)
-        { }
-        DelParams params;
+        Removal(const QList<DelParams> &requests, bool one, const QString &journalPath)
+            : groups(requests), single(one), journal(journalPath)
+        {
+            for (const DelParams &group : groups)
+                total += int(group.files.size());
+        }
+        const DelParams &group() const { return groups.at(groupIndex); }
+        bool done() const { return groupIndex >= groups.size(); }
+        QList<DelParams> groups;
         bool single = false;
+        int groupIndex = 0;
         int next = 0;
+        int total = 0;
+        int handled = 0;
         QStringList deleted;
         QStringList failures;
+        QList<DeleteResult> results;
         RemovalJournal journal;
     };
 
@@ -119,7 +140,9 @@ private:
     void downloadNext();
     void groupFiles();
 
-    void startRemoval(const DelParams &params, bool single);
+    void startRemoval(const QList<DelParams> &groups, bool single);
+    // The files not yet handled, all failed for one reason (rclone gone, stopped).
+    void failRest(const QString &reason, bool skipped);
     void removeNext();
     void endRemoval();
     void removalFailed(const QString &file, const QString &reason, bool skipped);
@@ -162,4 +185,7 @@ private:
     QHash<QString, CloudFile> m_members;
 
     Removal *m_removal = nullptr;
+    QList<DeleteResult> m_lastResults;
+    QElapsedTimer m_scanClock;
+    QTimer *m_scanTimer;
 };

@@ -9,6 +9,7 @@
 #include <QHostAddress>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
@@ -73,6 +74,20 @@ QString RcloneProcess::resolvedProgram(const QString &program)
         return program;
     const QString fromEnvironment = qEnvironmentVariable("VELTRINE_RCLONE");
     return fromEnvironment.isEmpty() ? QStringLiteral("rclone") : fromEnvironment;
+}
+
+QString RcloneProcess::whyUnavailable(const QString &program)
+{
+    const QString resolved = resolvedProgram(program);
+    const QFileInfo info(resolved);
+    const bool found = info.isAbsolute() ? info.isExecutable()
+                                         : !QStandardPaths::findExecutable(resolved).isEmpty();
+    if (found)
+        return {};
+    return QStringLiteral("Cloud drives are reached through the program rclone, which was not "
+                          "found (\"%1\"). Install rclone (on Debian: apt install rclone) and "
+                          "try again.")
+        .arg(resolved);
 }
 
 QString RcloneProcess::checkVersion(const QString &program)

@@ -42,6 +42,9 @@ public:
     QByteArray password() const { return m_password; }
     qint64 processId() const { return m_process.processId(); }
     static QString resolvedProgram(const QString &program);
+    // Empty when the program can be found; else why not, in words a user can act on.
+    // Cheap: nothing is started.
+    static QString whyUnavailable(const QString &program = {});
 
 signals:
     // The daemon ended without being asked to.

@@ -8,6 +8,10 @@
 #include "app/LanguageSetup.h"
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
+#include "cloud/CloudService.h"
+#include "cloud/KvCloudObject.h"
+#include "cloud/RcloneProcess.h"
+#include "engine/GroupItemAutoSelector.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalJournal.h"
@@ -15,10 +19,13 @@
 #include "mainwindow/DailyRunReport.h"
 #include "mainwindow/EnvironmentLog.h"
 #include "mainwindow/ScanRootList.h"
+#include "mainwindow/TCloudFolderDialog.h"
 #include "mainwindow/TControlUI.h"
+#include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFPreferencesDialog.h"
+#include "preferences/DFSelectionPreferences.h"
 #include "results/CListViewDelegate.h"
 #include "results/TImageModel.h"
 #include "widgets/CRotateLabel.h"
@@ -105,6 +112,7 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
     buildUi();
     buildMenus();
     connectController();
+    connectCloud();
     connect(qApp, &QCoreApplication::aboutToQuit, this, [] {
         splog_d(kTag + QStringLiteral("Application is about to quit, start clean cache."));
         TFileData::instance()->clear();
@@ -387,17 +395,26 @@ void MainWindow::buildMenus()
     local->setObjectName(QStringLiteral("action_local"));
     connect(local, &QAction::triggered, this, &MainWindow::on_local_menu_add_clicked);
     m_addMenu->addSeparator();
-    const QList<QPair<QString, QString>> clouds {
-        {QStringLiteral("Google Drive"), QStringLiteral("googledrive.png")},
-        {QStringLiteral("OneDrive"), QStringLiteral("onedrive.png")},
-        {QStringLiteral("Google Photos"), QStringLiteral("google_photos.png")},
-        {QStringLiteral("Dropbox"), QStringLiteral("dropbox.png")}};
-    for (const auto &cloud : clouds) {
-        QAction *action = m_addMenu->addAction(
-            QIcon(QStringLiteral(":/resource/") + cloud.second), cloud.first);
-        action->setData(cloud.first);
+    m_addMenu->setToolTipsVisible(true);
+    QList<QAction *> cloudActions;
+    for (const int type : {1, 7, 5, 2}) {
+        const CloudService *service = CloudService::byType(type);
+        QAction *action
+            = m_addMenu->addAction(QIcon(TCloudFolderDialog::smallIcon(type)), service->name);
+        action->setObjectName(QStringLiteral("action_cloud_%1").arg(type));
+        action->setData(type);
         connect(action, &QAction::triggered, this, &MainWindow::on_cloud_menu_clicked);
+        cloudActions << action;
     }
+    // Without rclone the cloud entries say so where the user looks for them.
+    connect(m_addMenu, &QMenu::aboutToShow, this, [cloudActions] {
+        const QString missing = RcloneProcess::whyUnavailable();
+        for (QAction *action : cloudActions) {
+            const QString name = CloudService::byType(action->data().toInt())->name;
+            action->setText(missing.isEmpty() ? name : tr("%1 (needs rclone)").arg(name));
+            action->setToolTip(missing);
+        }
+    });
 
     m_systemMenu = new QMenu(this);
     m_systemMenu->setObjectName(QStringLiteral("menu_system"));
@@ -605,6 +622,13 @@ void MainWindow::deleteSelectPath(const QModelIndex &index)
         return;
     const QString folder = index.data(Qt::UserRole).toString();
     m_folders.removeAll(folder);
+    m_cloudFolders.removeAll(folder);
+    if (m_cloudMode && m_cloudFolders.isEmpty()) {
+        // The last cloud folder gone: local folders may come again.
+        m_cloudMode = false;
+        m_cloudAccount.clear();
+        TControlUI::instance()->setCloudMode(false);
+    }
     m_pathModel->removeRow(index.row());
     splog_d(kTag + QStringLiteral("Remove a directory :%1").arg(folder));
     refreshCountLabel();
@@ -630,26 +654,129 @@ void MainWindow::on_local_menu_add_clicked()
 void MainWindow::on_cloud_menu_clicked()
 {
     const auto *action = qobject_cast<QAction *>(sender());
-    const QString cloudType = action ? action->data().toString() : QString();
-    if (!m_folders.isEmpty()) {
-        QMessageBox::information(this, tr("Note"),
+    const int cloudType = action ? action->data().toInt() : 0;
+    const CloudService *service = CloudService::byType(cloudType);
+    if (!service)
+        return;
+    if (!m_folders.isEmpty() && !m_cloudMode) {
+        QMessageBox::information(this, tr("info"),
             tr("After adding local directories, cloud accounts can no "
                "longer be added."));
         return;
     }
-    emit cloudSourceRequested(cloudType);
+    if (!m_cloudFolders.isEmpty() && cloudType != m_cloudType) {
+        QMessageBox::information(
+            this, tr("info"), tr("Multiple cloud accounts cannot be scanned at the same time."));
+        return;
+    }
+    if (const QString missing = RcloneProcess::whyUnavailable(); !missing.isEmpty()) {
+        QMessageBox::warning(this, service->name, missing);
+        return;
+    }
+    // One remote per service, named after it; a signed-in one goes straight to its folders.
+    const QString account = QString(service->name).remove(QLatin1Char(' '));
+    KvCloudObject *cloud = KvCloudObject::instance();
+    if (cloud->account() == account && m_cloudType == cloudType) {
+        showSelectFolderDialog(account, cloudType);
+        return;
+    }
+    splog_d(kTag + QStringLiteral("Sign in to %1").arg(service->name));
+    m_signingIn = true;
+    // Starting rclone takes a moment the first time.
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    cloud->start_authorization(account, cloudType);
+    QApplication::restoreOverrideCursor();
 }
 
-void MainWindow::setCloudSelection(const QString &account, const QStringList &folders)
+void MainWindow::showSelectFolderDialog(const QString &account, int cloudType)
 {
-    if (!m_folders.isEmpty())
+    m_signingIn = false;
+    if (m_state != StateReady)
         return;
-    m_cloudMode = !folders.isEmpty();
+    if (!m_folders.isEmpty() && !m_cloudMode) {
+        QMessageBox::information(this, tr("info"),
+            tr("After adding local directories, cloud accounts can no "
+               "longer be added."));
+        return;
+    }
+    if (!m_cloudFolders.isEmpty() && (account != m_cloudAccount || cloudType != m_cloudType)) {
+        splog_d(kTag + QStringLiteral("Second cloud account refused: %1").arg(account));
+        QMessageBox::information(
+            this, tr("info"), tr("Multiple cloud accounts cannot be scanned at the same time."));
+        return;
+    }
+    TCloudFolderDialog dialog(account, cloudType, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QList<CloudFolderInfo> chosen = dialog.selectedFolders();
+    if (chosen.isEmpty())
+        return;
+    // Cloud folders replace whatever local ones there were.
+    m_folders.clear();
+    if (m_cloudFolders.isEmpty())
+        m_pathModel->removeRows(0, m_pathModel->rowCount());
     m_cloudAccount = account;
-    m_cloudFolders = folders;
-    TControlUI::instance()->setCloudMode(m_cloudMode);
+    m_cloudType = cloudType;
+    m_cloudMode = true;
+    TControlUI::instance()->setCloudMode(true);
+    for (const CloudFolderInfo &folder : chosen)
+        addCloudRow(folder);
     refreshCountLabel();
     setPushButtonEnable();
+    updateFolderPageView();
+}
+
+void MainWindow::addCloudRow(const CloudFolderInfo &folder)
+{
+    if (m_cloudFolders.contains(folder.id))
+        return;
+    splog_d(kTag + QStringLiteral("Add a cloud directory :%1").arg(folder.id));
+    m_cloudFolders << folder.id;
+    auto *item
+        = new QStandardItem(QIcon(QStringLiteral(":/resource/cloudfolder128.png")), folder.id);
+    item->setToolTip(folder.id);
+    item->setData(folder.id, Qt::UserRole);
+    m_pathModel->appendRow(item);
+    m_pathView->setCurrentIndex(m_pathModel->index(m_pathModel->rowCount() - 1, 0));
+}
+
+void MainWindow::connectCloud()
+{
+    KvCloudObject *cloud = KvCloudObject::instance();
+    cloud->initialization(DataDirectory::base());
+    connect(cloud, &KvCloudObject::logMessage, this, [](const QString &message) {
+        splog_d(QStringLiteral("[KvCloudObject]:%1.").arg(message));
+    });
+    connect(cloud, &KvCloudObject::onAuthorizedCompleted, this, [](bool updated) {
+        splog_d(QStringLiteral("[KvCloudObject]:onAuthorizedCompleted. update:%1").arg(updated));
+    });
+    connect(cloud, &KvCloudObject::onAuthorizedFailed, this, [this](const QString &error) {
+        splog_d(QStringLiteral("[KvCloudObject]:onAuthorizedFailed. error:%1").arg(error));
+        // A sign-in from the add menu that failed; the folder chooser reports its own.
+        if (std::exchange(m_signingIn, false))
+            QMessageBox::warning(this, tr("Sign-in Failed"),
+                tr("The cloud account could not be signed in.\n\n%1").arg(error));
+    });
+    connect(cloud, &KvCloudObject::onFilesFetchCount, this, &MainWindow::filesCountChange);
+    connect(cloud, &KvCloudObject::processChange, this, &MainWindow::onProcessChange);
+    connect(cloud, &KvCloudObject::onFindedDuplicateItem, this,
+        [this](const QHash<QString, QList<QString>> &groups) {
+            splog_d(QStringLiteral("[KvCloudObject]:onFindedDuplicateItem.dupItmes.size=%1")
+                        .arg(groups.size()));
+            m_cloudGroups = groups;
+        });
+    connect(cloud, &KvCloudObject::diskSpaceLow, this, [this] {
+        splog_d(QStringLiteral("[KvCloudObject]:diskSpaceLow.********************"));
+        QMessageBox::warning(this, tr("Insufficient System Disk Space"),
+            tr("Thumbnail download was not completed. This may affect similar image detection "
+               "results. Please free up some disk space and try again."));
+    });
+    connect(cloud, &KvCloudObject::onAllComplate, this, &MainWindow::allCloudThreadComplated);
+    connect(cloud, &KvCloudObject::onDuplicateItemFound, this, &MainWindow::onItemFound);
+    connect(cloud, &KvCloudObject::onAuthorizedSuccess, this, &MainWindow::showSelectFolderDialog);
+    connect(cloud, &KvCloudObject::onUpdateTimer, this, &MainWindow::onUpdateTimer);
+    connect(cloud, &KvCloudObject::onTraversalFailed, this,
+        [this](const QString &reason) { m_cloudFailure = reason; });
 }
 
 void MainWindow::on_btn_pre_clicked()
@@ -720,9 +847,10 @@ void MainWindow::on_btnAdd_clicked()
         m_addMenu->popup(m_btnAdd->mapToGlobal(QPoint(0, m_btnAdd->height())));
         break;
     case StateScanning:
-        // A cloud scan is stopped by the cloud source, which listens to stopTask.
-        emit stopTask();
-        if (!m_cloudMode)
+        // A stopped scan ends with what it found so far.
+        if (m_cloudMode)
+            KvCloudObject::instance()->stop_all_tasks();
+        else
             TControlUI::instance()->stop();
         setStatus(StateFinished);
         break;
@@ -742,7 +870,9 @@ void MainWindow::on_btnAdd_clicked()
         m_folders.clear();
         m_cloudFolders.clear();
         m_cloudAccount.clear();
+        m_cloudType = 0;
         m_cloudMode = false;
+        TControlUI::instance()->setCloudMode(false);
         m_projectPath.clear();
         m_resultKind = ResultsFound;
         m_localScan = false;
@@ -766,19 +896,42 @@ void MainWindow::on_btn_scan_clicked()
         return;
     }
     if (m_cloudMode) {
-        // The cloud source starts its own traversal once it is wired in.
-        if (m_cloudFolders.isEmpty())
-            return;
-        m_localScan = false;
-        clearScanProblems();
-        m_pages->setCurrentIndex(1);
-        setStatus(StateScanning);
-        emit cloudScanRequested(m_cloudFolders, m_cloudInteger);
+        if (!m_cloudFolders.isEmpty())
+            startCloudScan();
         return;
     }
     if (m_folders.isEmpty())
         return;
     startLocalScan();
+}
+
+void MainWindow::startCloudScan()
+{
+    DFPreferences *preferences = DFPreferences::instance();
+    KvCloudObject *cloud = KvCloudObject::instance();
+    m_localScan = false;
+    clearScanProblems();
+    m_projectPath.clear();
+    m_resultKind = ResultsFound;
+    m_cloudGroups.clear();
+    m_cloudFailure.clear();
+    TFileData::instance()->clear();
+    m_filesScanned = 0;
+    m_ring->setValue(0);
+    m_labProgress->setText(QStringLiteral("0.00%"));
+    m_labFileNumber->setText(QStringLiteral("0"));
+    m_labFindNumber->setText(QStringLiteral("0"));
+    m_labFindSize->setText(TImageModel::sizeText(0));
+    m_labFindTime->setText(QStringLiteral("00:00:00"));
+    m_pages->setCurrentIndex(1);
+    setStatus(StateScanning);
+    splog_d(
+        kTag + QStringLiteral("Cloud scan of %1").arg(m_cloudFolders.join(QStringLiteral(", "))));
+    cloud->set_common_config(preferences->ignoreListPreferences()->toJson());
+    cloud->set_similar_config(preferences->generalPreferences()->toJson());
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    cloud->start_traversal_files(m_cloudFolders, m_cloudInteger);
+    QApplication::restoreOverrideCursor();
 }
 
 void MainWindow::startLocalScan()
@@ -948,10 +1101,35 @@ void MainWindow::allThreadComplate()
 
 void MainWindow::allCloudThreadComplated(bool isAbort)
 {
-    splog_d(kTag
-        + QStringLiteral("Cloud scan ended%1.")
-              .arg(isAbort ? QStringLiteral(" (stopped)") : QString()));
+    TFileData *store = TFileData::instance();
+    store->clear();
+    QList<GroupItemAutoSelector::KeyedGroup> groups;
+    for (auto it = m_cloudGroups.cbegin(); it != m_cloudGroups.cend(); ++it) {
+        store->insertGroup(it.key(), it.value());
+        groups.append({it.key(), it.value()});
+    }
+    m_cloudGroups.clear();
+    DFSelectionPreferences *selection = DFPreferences::instance()->selectionPreferences();
+    const int rule = int(selection->selectDuplicate());
+    if (rule != 8) {
+        KvCloudObject *cloud = KvCloudObject::instance();
+        GroupItemAutoSelector::autoSelectAllEx(
+            groups, rule,
+            [cloud](const QString &entry, const QString &name) {
+                return QVariant(cloud->getCFP(entry, name));
+            },
+            selection->mapPriority());
+    }
     allThreadComplate();
+    if (const QString failure = std::exchange(m_cloudFailure, QString()); !failure.isEmpty()) {
+        QMessageBox::warning(this, tr("Cloud Scan Failed"),
+            tr("The cloud scan could not be completed: %1").arg(failure));
+    } else if (isAbort) {
+        splog_d(QStringLiteral("[MainWindows]: allCloudThreadComplated isAbort."));
+        QMessageBox::information(this, tr("info"),
+            tr("Thumbnail download was not completed. This may affect similar image detection "
+               "results. "));
+    }
 }
 
 void MainWindow::openResultPage()
@@ -961,7 +1139,8 @@ void MainWindow::openResultPage()
     if (!m_resultPage) {
         // The main window hides while the results show; the program must not quit then.
         QApplication::setQuitOnLastWindowClosed(false);
-        m_resultPage = new ResultForm(nullptr, m_cloudMode);
+        m_resultPage = new ResultForm(
+            nullptr, m_cloudMode, m_cloudMode ? KvCloudObject::instance() : nullptr);
         m_resultPage->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_resultPage, &ResultForm::updateWindows, this, &MainWindow::onResultWindowClose);
         connect(m_resultPage, &ResultForm::problemDetailsRequested, this,
@@ -1243,6 +1422,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
             }
         }
     }
+    if (m_cloudMode)
+        KvCloudObject::instance()->stop_all_tasks();
     TControlUI::instance()->stop();
     event->accept();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cloud/CloudFolderInfo.h"
 #include "results/ResultForm.h"
 #include "widgets/ProblemListDialog.h"
 
@@ -70,9 +71,9 @@ public:
     // counts are 0.
     static QString unreadableText(qint64 folders, qint64 files);
     void setStatus(int state);
-    // The cloud account and folders chosen by the cloud source; local folders exclude them.
-    void setCloudSelection(const QString &account, const QStringList &folders);
     bool isCloudMode() const { return m_cloudMode; }
+    QStringList cloudFolders() const { return m_cloudFolders; }
+    QString cloudAccount() const { return m_cloudAccount; }
 
 public slots:
     void on_btnAdd_clicked();
@@ -91,6 +92,8 @@ public slots:
     void onUpdateTimer(const QString &time);
     void allThreadComplate();
     void allCloudThreadComplated(bool isAbort);
+    // The chooser of the account's folders, after a sign-in.
+    void showSelectFolderDialog(const QString &account, int cloudType);
     void onResultWindowClose(bool update);
     void onProjectOpenComplated(int flag, int files, qint64 size);
     void onOpenProjectProcess(double cur, double total);
@@ -105,13 +108,7 @@ public slots:
     void showProblemDetails(QWidget *over = nullptr);
 
 signals:
-    void stopTask();
     void retranslateSignal();
-    // A cloud entry of the add menu was chosen (cloud type as the menu names it).
-    void cloudSourceRequested(const QString &cloudType);
-    // Scan pressed with cloud folders chosen: the cloud source runs the traversal and
-    // ends it through allCloudThreadComplated.
-    void cloudScanRequested(const QStringList &folders, int cloudInteger);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -129,6 +126,10 @@ private:
     QWidget *buildNoResultPage();
     void buildMenus();
     void connectController();
+    void connectCloud();
+    void startCloudScan();
+    // One row of the folder list for a chosen cloud folder.
+    void addCloudRow(const CloudFolderInfo &folder);
     void refreshCountLabel();
     void updateFolderPageView();
     void startLocalScan();
@@ -157,6 +158,12 @@ private:
     QStringList m_folders;
     QStringList m_cloudFolders;
     QString m_cloudAccount;
+    int m_cloudType = 0;
+    // Set from a pick in the add menu until its sign-in answers.
+    bool m_signingIn = false;
+    // The groups of the running cloud scan, and why it failed if it did.
+    QHash<QString, QList<QString>> m_cloudGroups;
+    QString m_cloudFailure;
     int m_cloudInteger = 20;
     QStringList m_lastScanRoots;
     QString m_projectPath;

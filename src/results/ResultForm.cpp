@@ -9,6 +9,7 @@
 #include "app/LanguageSetup.h"
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
+#include "cloud/KvCloudObject.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalCheck.h"
@@ -170,6 +171,15 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
         if (!m_memberWatcher.isCanceled())
             showMembers(m_members);
     });
+    if (m_isCloud && m_cloud) {
+        connect(m_cloud, &KvCloudObject::onDeletedCloudGroupComplated, this,
+            [this](const QStringList &deleted) { onCloudRemovalDone(deleted); });
+        connect(m_cloud, &KvCloudObject::onDeletedCloudOneFileComplated, this,
+            [this](const QStringList &deleted) { onCloudRemovalDone(deleted); });
+        connect(
+            m_cloud, &KvCloudObject::onDeletedCloudError, this, &ResultForm::onDeletedCloudError);
+        connect(m_cloud, &KvCloudObject::deleteProgress, this, &ResultForm::onItemFileDeleted);
+    }
     initUI();
     initMenu();
     initDelButtonMenu();
@@ -788,9 +798,9 @@ void ResultForm::loadGroupMembers(const GroupItem &group)
             // hides them.
             member.similarity = isSimilarEntry(member.entry) ? similarityOf(member.entry) : 100;
             if (isCloud) {
-                const QString id = QFileInfo(member.path).completeBaseName();
-                auto property = [cloud, &id](const char *name) {
-                    return TImageModel::cloudProperty(cloud, id, QString::fromLatin1(name));
+                auto property = [cloud, &member](const char *name) {
+                    return TImageModel::cloudProperty(
+                        cloud, member.path, QString::fromLatin1(name));
                 };
                 member.name = property("name").toString();
                 member.size = property("size").toLongLong();
@@ -915,8 +925,8 @@ void ResultForm::applySelectionRule(int rule)
     CloudPropertyReader reader;
     if (m_isCloud) {
         KvCloudObject *cloud = m_cloud;
-        reader = [cloud](const QString &id, const QString &name) {
-            return TImageModel::cloudProperty(cloud, id, name);
+        reader = [cloud](const QString &entry, const QString &name) {
+            return TImageModel::cloudProperty(cloud, entry, name);
         };
     }
     GroupItemAutoSelector::autoSelectAllEx(
@@ -1022,9 +1032,8 @@ void ResultForm::onBtnOpenFinderClick(const QModelIndex &index)
         return;
     const QString path = index.data(TImageModel::FilePathRole).toString();
     if (m_isCloud) {
-        const QString link = TImageModel::cloudProperty(
-            m_cloud, QFileInfo(path).completeBaseName(), QStringLiteral("webViewLink"))
-                                 .toString();
+        const QString link
+            = TImageModel::cloudProperty(m_cloud, path, QStringLiteral("webViewLink")).toString();
         if (link.isEmpty()) {
             splog_d(
                 kTag + QStringLiteral("onBtnOpenFinderClick. webLink is empty. file:%1").arg(path));
@@ -1081,6 +1090,10 @@ void ResultForm::onBtnDeletedClick(const QModelIndex &index)
         + QStringLiteral("onBtnDeletedClick. DeleteMode:%1. Remove Path:%2. File:%3")
               .arg(method)
               .arg(folder, path));
+    if (m_isCloud) {
+        startCloudRemoval({{key, {path}}}, CloudOne);
+        return;
+    }
     if (method == DFIgnoreListPreferences::removePermanently && !confirmRemoval())
         return;
     const QList<DeleteResult> results = removeNow({{key, {path}}});
@@ -1109,14 +1122,9 @@ void ResultForm::onMenuIgnoreGroup(const QString &key, int row, int count)
     DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
     QStringList ignored = prefs->IgnorePathFile();
     for (const QString &member : std::as_const(members)) {
-        const QString entry = m_isCloud
+        const QString entry = m_isCloud && m_cloud
             ? QStringLiteral("%1:%2:%3")
-                  .arg(TImageModel::cloudProperty(m_cloud, QString(), QStringLiteral("account"))
-                           .toString(),
-                      QFileInfo(member).completeBaseName(),
-                      TImageModel::cloudProperty(m_cloud, QFileInfo(member).completeBaseName(),
-                          QStringLiteral("cloudPath"))
-                          .toString())
+                  .arg(m_cloud->account(), QFileInfo(member).completeBaseName(), member)
             : member;
         if (!ignored.contains(entry))
             ignored << entry;
@@ -1165,6 +1173,10 @@ void ResultForm::onMenuDeleteGroup(const QString &key, int row, int count)
         + QStringLiteral("onMenuDeleteGroup. DeleteMode:%1. Remove Path:%2. files:[%3]")
               .arg(method)
               .arg(folder, selected.join(QLatin1Char(','))));
+    if (m_isCloud) {
+        startCloudRemoval({{key, selected}}, CloudGroup);
+        return;
+    }
     const QList<DeleteResult> results = removeNow({{key, selected}});
     QStringList removed, failed;
     for (const DeleteResult &result : results)
@@ -1246,6 +1258,12 @@ void ResultForm::on_btn_delete_clicked()
     }
     if (!confirmRemoval())
         return;
+    if (m_isCloud) {
+        // A cloud group always keeps a copy: the service's copies cannot be compared
+        // again once they are gone.
+        startCloudRemoval(selection, CloudBatch);
+        return;
+    }
     bool allowAllCopies = false;
     if (removesEveryCopy(TFileData::instance()->groups(), selection)) {
         // Losing the last copy is never the default answer.
@@ -1417,6 +1435,9 @@ void ResultForm::finishRemoval(const QHash<QString, QStringList> &files,
 
 QString ResultForm::failureText(const DeleteResult &result, int method)
 {
+    // The cloud source words its reasons itself, the service's words included.
+    if (method == kCloudRemoval)
+        return result.reason.isEmpty() ? tr("The cloud service did not remove it.") : result.reason;
     if (result.errorCode == DeleteResult::Skipped) {
         // The checks give their reasons in the journal's words; the user reads them here.
         if (result.reason == RemovalCheck::changedSinceScan)
@@ -1482,8 +1503,134 @@ qint64 ResultForm::removedBytes(const QList<DeleteResult> &results)
 
 void ResultForm::showRemovalSummary(const QList<DeleteResult> &results, int method)
 {
-    RemovalSummaryDialog dialog(results, method, removedBytes(results), this);
+    qint64 bytes = 0;
+    if (method == kCloudRemoval) {
+        for (const DeleteResult &result : results)
+            if (result.success && result.errorCode == DeleteResult::NoError)
+                bytes += m_cloudSizes.value(result.path);
+    } else {
+        bytes = removedBytes(results);
+    }
+    RemovalSummaryDialog dialog(results, method, bytes, this);
     dialog.exec();
+}
+
+void ResultForm::startCloudRemoval(const QHash<QString, QStringList> &selection, CloudRemoval kind)
+{
+    if (!m_cloud)
+        return;
+    TFileData *store = TFileData::instance();
+    QList<DelParams> requests;
+    qsizetype count = 0;
+    m_cloudKeys.clear();
+    m_cloudSizes.clear();
+    for (auto it = selection.cbegin(); it != selection.cend(); ++it) {
+        QStringList members = store->group(it.key());
+        stripSimilarTag(members);
+        QSet<QString> chosen;
+        for (const QString &entry : it.value())
+            chosen.insert(stripSimilarTag(entry));
+        DelParams request;
+        request.groupKey = it.key();
+        // The first copy not chosen stays; with every copy chosen, the first one.
+        for (const QString &member : std::as_const(members))
+            if (!chosen.contains(member)) {
+                request.keep = member;
+                break;
+            }
+        if (request.keep.isEmpty() && !members.isEmpty())
+            request.keep = members.first();
+        for (const QString &member : std::as_const(members)) {
+            if (!chosen.contains(member) || member == request.keep)
+                continue;
+            request.files << member;
+            m_cloudKeys.insert(member, it.key());
+            m_cloudSizes.insert(member,
+                TImageModel::cloudProperty(m_cloud, member, QStringLiteral("size")).toLongLong());
+        }
+        count += request.files.size();
+        if (!request.files.isEmpty())
+            requests << request;
+    }
+    if (requests.isEmpty()) {
+        QMessageBox::warning(this, tr("Delete Failed"),
+            tr("Nothing was removed: every selected file is the last copy of its group."));
+        return;
+    }
+    m_cloudRemoval = kind;
+    m_batchMethod = kCloudRemoval;
+    setDeletionMarker(1);
+    ui->btn_delete->setEnabled(false);
+    if (kind == CloudOne) {
+        m_cloud->start_delete_one_file(requests.first());
+        return;
+    }
+    if (kind == CloudGroup) {
+        m_cloud->start_delete_group_files(requests.first());
+        return;
+    }
+    splog_d(kTag
+        + QStringLiteral("on_btn_delete_clicked. DeleteMode:cloud. files.count:[%1]").arg(count));
+    m_progress = new CustomProgressDialog(tr("Removing files"), this);
+    m_progress->setWindowModality(Qt::ApplicationModal);
+    m_progress->setText(tr("Removing the selected files…"));
+    m_progress->setProgress(0, double(count));
+    connect(m_progress, &CustomProgressDialog::canceled, m_cloud, &KvCloudObject::stop_deleted);
+    m_cloud->start_delete_all_files(requests);
+    QTimer::singleShot(200, m_progress.data(), [this, progress = m_progress] {
+        if (progress && progress == m_progress)
+            progress->show();
+    });
+}
+
+void ResultForm::onCloudRemovalDone(const QStringList &deleted)
+{
+    const CloudRemoval kind = std::exchange(m_cloudRemoval, NoCloudRemoval);
+    if (kind == NoCloudRemoval)
+        return;
+    setDeletionMarker(0);
+    if (m_progress) {
+        m_progress->finish();
+        m_progress->deleteLater();
+        m_progress.clear();
+    }
+    QHash<QString, QStringList> removed;
+    for (const QString &path : deleted)
+        removed[m_cloudKeys.value(path)] << path;
+    const QList<DeleteResult> results = m_cloud->lastRemovalResults();
+    splog_d(kTag
+        + QStringLiteral("Cloud removal ended: %1 of %2 removed.")
+              .arg(deleted.size())
+              .arg(results.size()));
+    const bool failed = deleted.size() < results.size();
+    finishRemoval(removed, {}, results, kind == CloudBatch || (kind == CloudGroup && failed));
+    if (kind == CloudOne && failed) {
+        const DeleteResult first = results.isEmpty() ? DeleteResult() : results.first();
+        QMessageBox::warning(this, tr("Delete Failed"),
+            tr("Failed to delete the file: %1").arg(failureText(first, kCloudRemoval)));
+    }
+}
+
+void ResultForm::onDeletedCloudError(int failedCount, const QString &errorMsg)
+{
+    splog_d(
+        kTag + QStringLiteral("onDeletedCloudError. failed:%1. %2").arg(failedCount).arg(errorMsg));
+    // Failures of a removal that ended are in its summary; this is a removal refused
+    // before anything was tried.
+    if (failedCount <= 0 || m_cloudRemoval == NoCloudRemoval)
+        return;
+    m_cloudRemoval = NoCloudRemoval;
+    setDeletionMarker(0);
+    if (m_progress) {
+        m_progress->finish();
+        m_progress->deleteLater();
+        m_progress.clear();
+    }
+    updateSelectedAndSize();
+    const QString text
+        = QStringLiteral("%1 %2. ").arg(tr("Failed to delete the files. "), errorMsg);
+    QTimer::singleShot(
+        100, this, [this, text] { QMessageBox::warning(this, tr("Delete Failed"), text); });
 }
 
 // ----------------------------------------------------------------------------- chart

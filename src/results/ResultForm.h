@@ -69,7 +69,7 @@ public:
     int viewMode() const { return m_viewMode; }
     int showFilter() const { return m_showFilter; }
     SelectionTotals totals() const { return m_totals; }
-    bool isRemoving() const { return m_worker != nullptr; }
+    bool isRemoving() const { return m_worker != nullptr || m_cloudRemoval != NoCloudRemoval; }
     QMenu *selectionMenu() const { return m_selectMenu; }
     QMenu *filterMenu() const { return m_filterMenu; }
     QMenu *deleteMenu() const { return m_deleteMenu; }
@@ -87,6 +87,8 @@ public:
     // Kept for the overview button that the page does not show; logs only.
     void on_btn_over_clicked();
 
+    // The removal "method" of cloud files: the service's own trash, where it has one.
+    static constexpr int kCloudRemoval = 100;
     // Reason words shown for a removal that did not happen.
     static QString failureText(const DeleteResult &result, int method);
     // Bytes the removed items of a removal held, as the scan saw them.
@@ -179,6 +181,12 @@ private:
         bool showSummary);
     void setDeletionMarker(int value);
     void showRemovalSummary(const QList<DeleteResult> &results, int method);
+    enum CloudRemoval { NoCloudRemoval, CloudOne, CloudGroup, CloudBatch };
+    // Hands the selection to the cloud source, group by group with the copy that stays;
+    // the answer comes back through onCloudRemovalDone.
+    void startCloudRemoval(const QHash<QString, QStringList> &selection, CloudRemoval kind);
+    void onCloudRemovalDone(const QStringList &deleted);
+    void onDeletedCloudError(int failedCount, const QString &errorMsg);
     void onGroupContextMenu(const QPoint &pos);
     void onMemberContextMenu(const QPoint &pos);
     void retranslate();
@@ -239,5 +247,9 @@ private:
     RemovalJournal *m_journal = nullptr;
     int m_batchMethod = 0;
     std::shared_ptr<QList<DeleteResult>> m_batchResults;
+    CloudRemoval m_cloudRemoval = NoCloudRemoval;
+    // The group and the listed size of each cloud file under removal.
+    QHash<QString, QString> m_cloudKeys;
+    QHash<QString, qint64> m_cloudSizes;
     QList<DeleteResult> m_lastRemoval;
 };

@@ -43,9 +43,8 @@ QFuture<SelectionTotals> SelectionTotals::start(const QHash<QString, QStringList
         part.count = int(paths.size());
         for (const QString &path : paths) {
             if (isCloud)
-                part.bytes += TImageModel::cloudProperty(
-                    cloud, QFileInfo(path).completeBaseName(), QStringLiteral("size"))
-                                  .toLongLong();
+                part.bytes
+                    += TImageModel::cloudProperty(cloud, path, QStringLiteral("size")).toLongLong();
             else if (const auto stamp = stamps.constFind(stripSimilarTag(path));
                      stamp != stamps.cend() && stamp->isValid())
                 part.bytes += stamp->size;

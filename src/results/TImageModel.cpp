@@ -2,6 +2,7 @@
 #include "results/TImageModel.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "cloud/KvCloudObject.h"
 #include "engine/ImageLoadTask.h"
 #include "engine/TFileData.h"
 
@@ -18,12 +19,6 @@
 #include <QtConcurrent>
 
 namespace {
-
-TImageModel::CloudPropertyGetter &cloudGetter()
-{
-    static TImageModel::CloudPropertyGetter getter;
-    return getter;
-}
 
 struct GroupSource
 {
@@ -43,17 +38,13 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
     item.firstFile = item.files.isEmpty() ? QString() : item.files.first();
     item.selectedCount = int(source.selected.value(key).size());
     if (source.isCloud) {
-        const QString id = QFileInfo(item.firstFile).fileName();
-        const auto &getter = cloudGetter();
-        if (getter) {
-            item.name = getter(source.cloud, id, QStringLiteral("name")).toString();
-            item.totalSize
-                = getter(source.cloud, id, QStringLiteral("size")).toLongLong() * item.count;
-            item.type = categoryOfMimeType(
-                getter(source.cloud, id, QStringLiteral("mimeType")).toString());
-        } else {
-            item.name = id;
-        }
+        const auto property = [&](const char *name) {
+            return TImageModel::cloudProperty(
+                source.cloud, item.firstFile, QString::fromLatin1(name));
+        };
+        item.name = property("name").toString();
+        item.totalSize = property("size").toLongLong() * item.count;
+        item.type = categoryOfMimeType(property("mimeType").toString());
         return item;
     }
     // Members of a similar-picture group carry their similarity after the path.
@@ -75,20 +66,12 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
 
 } // namespace
 
-void TImageModel::setCloudPropertyGetter(CloudPropertyGetter getter)
+QVariant TImageModel::cloudProperty(KvCloudObject *cloud, const QString &entry, const QString &name)
 {
-    cloudGetter() = std::move(getter);
-}
-
-const TImageModel::CloudPropertyGetter &TImageModel::cloudPropertyGetter()
-{
-    return cloudGetter();
-}
-
-QVariant TImageModel::cloudProperty(KvCloudObject *cloud, const QString &id, const QString &name)
-{
-    const auto &getter = cloudGetter();
-    return getter ? getter(cloud, id, name) : QVariant();
+    if (!cloud)
+        return {};
+    const QString value = cloud->getCFP(stripSimilarTag(entry), name);
+    return value.isEmpty() ? QVariant() : QVariant(value);
 }
 
 TImageModel::TImageModel(DataModel mode, int thumbnailCacheSize)

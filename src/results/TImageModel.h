@@ -59,16 +59,9 @@ public:
 
     static constexpr int kPathNameMode = 20;
 
-    // Reads one property of a cloud item (id, property name). Installed by the cloud
-    // source, which owns the cloud library's interface.
-    using CloudPropertyGetter
-        = std::function<QVariant(KvCloudObject *, const QString &, const QString &)>;
-    static void setCloudPropertyGetter(CloudPropertyGetter getter);
-    // The installed getter, empty until the cloud source installs one; every reader of
-    // cloud items goes through it so one installation serves them all.
-    static const CloudPropertyGetter &cloudPropertyGetter();
-    // One property through the installed getter; empty when no cloud source is set up.
-    static QVariant cloudProperty(KvCloudObject *cloud, const QString &id, const QString &name);
+    // One property of a listed cloud file (its path as the group holds it, similar tag
+    // and all); empty without a cloud source or for a file it does not know.
+    static QVariant cloudProperty(KvCloudObject *cloud, const QString &entry, const QString &name);
 
     TImageModel(DataModel mode, int thumbnailCacheSize);
     ~TImageModel() override;

@@ -65,15 +65,13 @@ StatResult localGroupStats(const QStringList &members)
     return result;
 }
 
-StatResult cloudGroupStats(const QStringList &members, KvCloudObject *cloud,
-    const TImageModel::CloudPropertyGetter &getter)
+StatResult cloudGroupStats(const QStringList &members, KvCloudObject *cloud)
 {
     StatResult result;
-    // Without the cloud source's getter nothing about the items is known.
-    if (members.isEmpty() || !getter)
+    if (members.isEmpty())
         return result;
-    const auto property = [&](const QString &entry, const QString &name) {
-        return getter(cloud, QFileInfo(stripSimilarTag(entry)).completeBaseName(), name);
+    const auto property = [cloud](const QString &entry, const QString &name) {
+        return TImageModel::cloudProperty(cloud, entry, name);
     };
     const int category
         = categoryOfMimeType(property(members.first(), QStringLiteral("mimeType")).toString());
@@ -104,7 +102,7 @@ TPieChart::TPieChart(QObject *parent) : QObject(parent)
 
 TPieChart::~TPieChart()
 {
-    // The run may still call the cloud getter with a cloud object its owner is about
+    // The run may still read the properties of a cloud object its owner is about
     // to free.
     QMutexLocker locker(&m_mutex);
     m_future.cancel();
@@ -128,11 +126,8 @@ void TPieChart::start(
     for (auto it = groups.cbegin(); it != groups.cend(); ++it)
         m_groups.append(it.value());
 
-    // A copy of the getter, so installing another one meanwhile cannot race the run.
-    const TImageModel::CloudPropertyGetter getter
-        = isCloud ? TImageModel::cloudPropertyGetter() : TImageModel::CloudPropertyGetter();
-    const auto map = [cloud, isCloud, getter](const QStringList &members) {
-        return isCloud ? cloudGroupStats(members, cloud, getter) : localGroupStats(members);
+    const auto map = [cloud, isCloud](const QStringList &members) {
+        return isCloud ? cloudGroupStats(members, cloud) : localGroupStats(members);
     };
     m_watcher = new QFutureWatcher<StatResult>(this);
     connect(m_watcher, &QFutureWatcherBase::finished, this,

@@ -41,8 +41,8 @@ public:
     explicit TPieChart(QObject *parent = nullptr);
     ~TPieChart() override;
 
-    // groups: key -> member entries. A cloud run reads sizes and MIME types through
-    // TImageModel's cloud property getter, from the pool's threads.
+    // groups: key -> member entries. A cloud run reads sizes and MIME types from the
+    // cloud source's listing, from the pool's threads.
     void start(const QHash<QString, QList<QString>> &groups, KvCloudObject *cloud, bool isCloud);
     bool isRunning() const;
     // Blocks until the current run is over; its figures still come through statsReady.

@@ -64,7 +64,6 @@ private slots:
     void roundButtonFitsEveryLanguage_data();
     void roundButtonFitsEveryLanguage();
     void abnormalExitNoticeOnce();
-    void cloudAndLocalExclusive();
     void settingsRefusedWhileScanning();
     void settingsOutsideRangesStopTheScan();
 
@@ -542,34 +541,6 @@ void tst_MainWindow::abnormalExitNoticeOnce()
         QTest::qWait(200);
     }
     QCOMPARE(titles.size(), 1);
-}
-
-void tst_MainWindow::cloudAndLocalExclusive()
-{
-    m_window->setCloudSelection(QStringLiteral("someone@example.org"), {QStringLiteral("root-id")});
-    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("someone@example.org"));
-    QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
-    DialogAnswerer boxes;
-    const QStringList &texts = boxes.texts;
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
-    dropOnWindow(&data);
-    QCOMPARE(texts,
-        QStringList {QStringLiteral("After adding cloud accounts and directories, "
-                                    "local directories can no longer be added.")});
-    QVERIFY(m_window->folders().isEmpty());
-
-    QSignalSpy cloudScan(m_window, &MainWindow::cloudScanRequested);
-    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
-    QCOMPARE(cloudScan.count(), 1);
-    QCOMPARE(cloudScan.at(0).at(0).toStringList(), QStringList {QStringLiteral("root-id")});
-    QCOMPARE(cloudScan.at(0).at(1).toInt(), 20);
-    QCOMPARE(m_window->state(), 2);
-    QSignalSpy stop(m_window, &MainWindow::stopTask);
-    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
-    QCOMPARE(stop.count(), 1);
-    QCOMPARE(m_window->state(), 4);
-    TControlUI::instance()->setCloudMode(false);
 }
 
 void tst_MainWindow::settingsRefusedWhileScanning()
