@@ -28,6 +28,7 @@ public:
     QTreeWidget *tree() const { return m_tree; }
     // The folders asked of the cloud source so far.
     int listingsAsked() const { return m_listingsAsked; }
+    bool isLoading() const { return m_pending > 0; }
 
     // The service's icons: small for menus and the tree, large for the folder list.
     static QString smallIcon(int cloudType);

@@ -107,7 +107,7 @@ void tst_CloudSources::chooseWhenShown(const QStringList &path)
         QTreeWidgetItem *item = dialog->tree()->topLevelItem(0);
         const auto openAndWait = [&] {
             item->setExpanded(true);
-            return QTest::qWaitFor([&] { return item->childCount() > 0; }, 20000);
+            return QTest::qWaitFor([&] { return !dialog->isLoading(); }, 20000);
         };
         for (const QString &name : path) {
             if (!openAndWait()) {
