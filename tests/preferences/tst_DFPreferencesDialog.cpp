@@ -227,6 +227,13 @@ void TestDFPreferencesDialog::cancelLeavesFileUntouched()
     QVERIFY(m_store->selectionPreferences()->mapPriority().isEmpty());
 }
 
+static void refusalRow(const char *tag, const char *steps, bool scanRunning, const char *text,
+    const char *control, const char *shown)
+{
+    QTest::newRow(tag) << QString(steps) << scanRunning << QString(text) << QString(control)
+                       << QString(shown);
+}
+
 void TestDFPreferencesDialog::refusalKeepsEdits_data()
 {
     QTest::addColumn<QString>("steps");
@@ -235,38 +242,24 @@ void TestDFPreferencesDialog::refusalKeepsEdits_data()
     // The control whose edit must survive the refusal, and the value it must show.
     QTest::addColumn<QString>("control");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("minimum equal to maximum")
-        << "sbMinimumFileSize=1024;sbMaximumFileSize=1;btnOK" << false
-        << "The maximum file size cannot be less than the minimum file size."
-        << "sbMinimumFileSize"
-        << "1024";
-    QTest::newRow("empty move folder")
-        << "sbMinimumFileSize=1023;sbMaximumFileSize=1;rbMoveToFolder;btnOK" << false
-        << "Please select the folder where the deleted files will be moved to."
-        << "sbMinimumFileSize"
-        << "1023";
-    QTest::newRow("folder added twice")
-        << "folder:/data/a;folder:/data/a" << false << "The folder has been added."
-        << "cell:0"
-        << "1";
-    QTest::newRow("priority not a number")
-        << "folder:/data/a;cell:0=abc" << false << "abc is not a number."
-        << "cell:0"
-        << "1";
-    QTest::newRow("priority of another folder")
-        << "folder:/data/a;folder:/data/b;cell:1=1" << false << "1 is added."
-        << "cell:1"
-        << "2";
-    QTest::newRow("OK during a scan")
-        << "hsSimilarity=90;btnOK" << true
-        << "You cannot change settings of preferences while the scan is in progress."
-        << "hsSimilarity"
-        << "90";
-    QTest::newRow("Default during a scan")
-        << "hsSimilarity=90;btnDefault" << true
-        << "You cannot change settings of preferences while the scan is in progress."
-        << "hsSimilarity"
-        << "90";
+    const char *duringScan
+        = "You cannot change settings of preferences while the scan is in progress.";
+    refusalRow("minimum equal to maximum", "sbMinimumFileSize=1024;sbMaximumFileSize=1;btnOK",
+        false, "The maximum file size cannot be less than the minimum file size.",
+        "sbMinimumFileSize", "1024");
+    refusalRow("empty move folder",
+        "sbMinimumFileSize=1023;sbMaximumFileSize=1;rbMoveToFolder;btnOK", false,
+        "Please select the folder where the deleted files will be moved to.", "sbMinimumFileSize",
+        "1023");
+    refusalRow("folder added twice", "folder:/data/a;folder:/data/a", false,
+        "The folder has been added.", "cell:0", "1");
+    refusalRow("priority not a number", "folder:/data/a;cell:0=abc", false, "abc is not a number.",
+        "cell:0", "1");
+    refusalRow("priority of another folder", "folder:/data/a;folder:/data/b;cell:1=1", false,
+        "1 is added.", "cell:1", "2");
+    refusalRow("OK during a scan", "hsSimilarity=90;btnOK", true, duringScan, "hsSimilarity", "90");
+    refusalRow("Default during a scan", "hsSimilarity=90;btnDefault", true, duringScan,
+        "hsSimilarity", "90");
 }
 
 void TestDFPreferencesDialog::refusalKeepsEdits()
