@@ -4,7 +4,6 @@
 #include "engine/ScanTree.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
-#include "fileops/RemovalRestorer.h"
 #include "fileops/TFileDeleter.h"
 #include "fileops/TImageDeleteWorker.h"
 
@@ -98,7 +97,6 @@ private slots:
     void folders();
     void cancelKeepsTheRestSelected();
     void trashEntryRestorable();
-    void restorePutsBatchBack();
 
 private:
     QTemporaryDir m_home;
@@ -368,31 +366,6 @@ void TestTImageDeleteWorker::trashEntryRestorable()
     QVERIFY(QRegularExpression("\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n")
                 .match(QString::fromLatin1(info))
                 .hasMatch());
-}
-
-void TestTImageDeleteWorker::restorePutsBatchBack()
-{
-    QTemporaryDir journalDir;
-    for (int method : {int(TFileDeleter::moveToTrash), int(TFileDeleter::moveToFolder)}) {
-        Pair pair(method);
-        const QByteArray bytes = ScanTree::read(pair.item);
-        RemovalJournal journal(journalDir.path() + "/journal.jsonl");
-        QVERIFY(journal.begin(RemovalJournal::methodName(method), 1));
-        TImageDeleteWorker worker(pair.request);
-        worker.setJournal(&journal);
-        worker.doDelete();
-        journal.end();
-        QVERIFY(!QFileInfo::exists(pair.item));
-
-        QList<DeleteResult> restored;
-        RemovalRestorer restorer(journal);
-        QVERIFY(restorer.restoreLastBatch(restored));
-        QCOMPARE(restored.size(), 1);
-        QVERIFY2(restored.first().success, qPrintable(restored.first().reason));
-        QCOMPARE(ScanTree::read(pair.item), bytes);
-        // Undone batches are not restored twice.
-        QVERIFY(!RemovalRestorer(journal).restoreLastBatch(restored));
-    }
 }
 
 QTEST_GUILESS_MAIN(TestTImageDeleteWorker)
