@@ -119,10 +119,10 @@ void TestTImageDeleteWorker::faults_data()
     const int move = TFileDeleter::moveToFolder;
     for (int method : {trash, permanent, move}) {
         const QByteArray name = RemovalJournal::methodName(method).toLatin1();
-        QTest::newRow("nothing changed, " + name) << int(NoFault) << method << "removed"
-                                                  << "";
-        QTest::newRow("read-only file, " + name) << int(ReadOnlyItem) << method << "removed"
-                                                 << "";
+        QTest::newRow("nothing changed, " + name)
+            << int(NoFault) << method << "removed" << QString();
+        QTest::newRow("read-only file, " + name)
+            << int(ReadOnlyItem) << method << "removed" << QString();
     }
     QTest::newRow("size changed") << int(SizeChanged) << permanent << "skipped"
                                   << RemovalCheck::changedSinceScan;
@@ -141,19 +141,14 @@ void TestTImageDeleteWorker::faults_data()
         << int(KeptCopyIsLinkToItem) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
     QTest::newRow("item hard-linked to the kept copy")
         << int(HardLinkedToKeptCopy) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
-    QTest::newRow("item vanished") << int(ItemVanished) << permanent << "removed"
-                                   << "";
+    QTest::newRow("item vanished") << int(ItemVanished) << permanent << "removed" << QString();
     QTest::newRow("both members selected: the first stays")
-        << int(BothSelected) << permanent << "removed"
-        << "";
+        << int(BothSelected) << permanent << "removed" << QString();
     QTest::newRow("whole group selected, allowed")
-        << int(BothSelectedAllowed) << permanent << "removed"
-        << "";
+        << int(BothSelectedAllowed) << permanent << "removed" << QString();
     QTest::newRow("similar pictures: tagged entries")
-        << int(SimilarPictures) << permanent << "removed"
-        << "";
-    QTest::newRow("move: name taken") << int(MoveNameTaken) << move << "removed"
-                                      << "";
+        << int(SimilarPictures) << permanent << "removed" << QString();
+    QTest::newRow("move: name taken") << int(MoveNameTaken) << move << "removed" << QString();
     // Permission bits do not stop the superuser; the unprivileged run covers this row.
     if (::geteuid() != 0)
         QTest::newRow("file in a read-only folder") << int(ReadOnlyFolder) << permanent << "failed"
