@@ -3,14 +3,15 @@
 
 #include "app/LanguageSetup.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QSize>
 #include <QTest>
 #include <QWidget>
 
 // What the screenshot drivers share: the languages and window sizes they cover, the
-// switch of language and the saving of one picture.
+// switch of language, the program's style and the saving of one picture.
 namespace ScreenshotSupport {
 
 struct Language
@@ -45,6 +46,20 @@ inline void useLanguage(int index)
     LanguageSetup::setupLanguage(index);
     QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
     QCoreApplication::installTranslator(&LanguageSetup::qtTranslator());
+}
+
+// The program's own style sheet, so that the pictures show what the user sees.
+inline void useProgramStyle(QApplication &app)
+{
+    QFile style(QStringLiteral(":resource/Style.qss"));
+    if (style.open(QIODevice::ReadOnly))
+        app.setStyleSheet(QString::fromUtf8(style.readAll()));
+}
+
+// The folder given as the first argument, else the current one.
+inline QString outputFolder(int argc, char *argv[])
+{
+    return argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath();
 }
 
 } // namespace ScreenshotSupport

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "EnvelopeReceiver.h"
+#include "HttpReceiver.h"
 #include "TestEnvironment.h"
 #include "app/CrashReporter.h"
 #include "app/FeatureReporter.h"
@@ -33,7 +33,7 @@ private:
         options.systemCrashReporter = false;
         QCOMPARE(CrashReporter::init(options), 0);
     }
-    static QString dsnFor(const EnvelopeReceiver &receiver)
+    static QString dsnFor(const HttpReceiver &receiver)
     {
         return QString("http://0123456789abcdef0123456789abcdef@127.0.0.1:%1/1234567890123456")
             .arg(receiver.port());
@@ -66,7 +66,7 @@ private slots:
 
     void nothingIsSentWithoutADsn()
     {
-        EnvelopeReceiver receiver;
+        HttpReceiver receiver;
         initReporter(QString());
         QVERIFY(reportFeature("Deleted_Except", "first"));
         CrashReporter::sendPending();
@@ -78,7 +78,7 @@ private slots:
 
     void refusedEnvelopesStayOnDisk()
     {
-        EnvelopeReceiver receiver(500);
+        HttpReceiver receiver(500);
         initReporter(dsnFor(receiver));
         CrashReporter::sendPending();
         QVERIFY(CrashReporter::flush(10000));
@@ -89,7 +89,7 @@ private slots:
 
     void pendingReportsAndEventsReachTheReceiver()
     {
-        EnvelopeReceiver receiver;
+        HttpReceiver receiver;
         initReporter(dsnFor(receiver));
         CrashReporter::sendPending();
         QVERIFY(CrashReporter::flush(10000));
@@ -110,7 +110,7 @@ private slots:
 
     void aFeatureIsReportedThreeTimesAtMost()
     {
-        EnvelopeReceiver receiver;
+        HttpReceiver receiver;
         initReporter(dsnFor(receiver));
         for (const char *message : {"a", "b", "c"})
             QVERIFY(reportFeature("Incomplete_scan", message));

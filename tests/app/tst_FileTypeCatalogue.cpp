@@ -78,20 +78,15 @@ private slots:
     {
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("stripped");
-        QTest::newRow("tagged") << "abc_simlar_12"
-                                << "abc";
-        QTest::newRow("path") << "/p/q r.jpg_simlar_100"
-                              << "/p/q r.jpg";
-        QTest::newRow("no digits") << "abc_simlar_"
-                                   << "abc_simlar_";
-        QTest::newRow("trailing letter") << "abc_simlar_1x"
-                                         << "abc_simlar_1x";
-        QTest::newRow("plain") << "/a/b.jpg"
-                               << "/a/b.jpg";
-        QTest::newRow("tag twice keeps first") << "a_simlar_1_simlar_2"
-                                               << "a_simlar_1";
-        QTest::newRow("case-sensitive") << "abc_SIMLAR_3"
-                                        << "abc_SIMLAR_3";
+        const char *const rows[][3]
+            = {{"tagged", "abc_simlar_12", "abc"}, {"path", "/p/q r.jpg_simlar_100", "/p/q r.jpg"},
+                {"no digits", "abc_simlar_", "abc_simlar_"},
+                {"trailing letter", "abc_simlar_1x", "abc_simlar_1x"},
+                {"plain", "/a/b.jpg", "/a/b.jpg"},
+                {"tag twice keeps first", "a_simlar_1_simlar_2", "a_simlar_1"},
+                {"case-sensitive", "abc_SIMLAR_3", "abc_SIMLAR_3"}};
+        for (const auto &row : rows)
+            QTest::newRow(row[0]) << QString(row[1]) << QString(row[2]);
     }
     void stripSimilarTag()
     {

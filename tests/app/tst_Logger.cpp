@@ -49,12 +49,10 @@ private slots:
     {
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("written");
-        QTest::newRow("line breaks") << "[A]: one\ntwo\r\nthree"
-                                     << "[A]: one two three";
-        QTest::newRow("tabs and runs") << "\t[A]:\t a   b \t"
-                                       << "[A]: a b";
+        QTest::newRow("line breaks") << "[A]: one\ntwo\r\nthree" << QString("[A]: one two three");
+        QTest::newRow("tabs and runs") << "\t[A]:\t a   b \t" << QString("[A]: a b");
         QTest::newRow("unicode") << "[A]: Bilder  \u00e9t\u00e9 \u5199\u771f"
-                                 << "[A]: Bilder \u00e9t\u00e9 \u5199\u771f";
+                                 << QString("[A]: Bilder \u00e9t\u00e9 \u5199\u771f");
     }
     void whiteSpaceIsCollapsed()
     {

@@ -14,41 +14,12 @@ class TestCliRemove : public QObject
 {
     Q_OBJECT
 private slots:
-    void badArguments_data();
-    void badArguments();
     void scanSaveRemoveRestore_data();
     void scanSaveRemoveRestore();
 
 private:
     TestEnvironment m_environment;
 };
-
-void TestCliRemove::badArguments_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QByteArray>("message");
-    QTest::newRow("no method") << QStringList {"remove", "p.dupproj"} << 1
-                               << QByteArray("--method");
-    QTest::newRow("unknown method")
-        << QStringList {"remove", "p.dupproj", "--method", "shred"} << 1 << QByteArray("shred");
-    QTest::newRow("move without a folder")
-        << QStringList {"remove", "p.dupproj", "--method", "move"} << 1 << QByteArray("--to");
-    QTest::newRow("folder without move") << QStringList {"remove", "p.dupproj", "--method", "trash",
-        "--to", "/tmp"} << 1 << QByteArray("--to goes with");
-    QTest::newRow("project missing") << QStringList {"remove", "/no/such.dupproj", "--method",
-        "trash"} << 3 << QByteArray("no such project");
-}
-
-void TestCliRemove::badArguments()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, exitCode);
-    QFETCH(QByteArray, message);
-    const CliRun run = runCli(arguments);
-    QCOMPARE(run.exitCode, exitCode);
-    QVERIFY2(run.err.contains(message), run.err.constData());
-}
 
 void TestCliRemove::scanSaveRemoveRestore_data()
 {

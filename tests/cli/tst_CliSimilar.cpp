@@ -25,8 +25,6 @@ class TestCliSimilar : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void badValues_data();
-    void badValues();
     void similarGroups_data();
     void similarGroups();
     void savesSimilarGroups();
@@ -56,34 +54,6 @@ void TestCliSimilar::initTestCase()
     QVERIFY(fixtures::writeBytes(m_root + "/a.png", fixtures::encode(scene, ".png")));
     QVERIFY(fixtures::writeBytes(m_root + "/a_wide.jpg", fixtures::encode(stretched, ".jpg", q92)));
     QVERIFY(fixtures::writeBytes(m_root + "/b.jpg", fixtures::encode(other, ".jpg", q92)));
-}
-
-void TestCliSimilar::badValues_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("threshold above 100") << QStringList {"--threshold", "101"};
-    QTest::newRow("threshold below 0") << QStringList {"--threshold", "-1"};
-    // A pass mark of 0 would link every pair of pictures.
-    QTest::newRow("threshold 0") << QStringList {"--threshold", "0"};
-    QTest::newRow("features beyond the re-check's range") << QStringList {"--features", "100"};
-    QTest::newRow("threshold not a number") << QStringList {"--threshold", "high"};
-    QTest::newRow("threshold inline") << QStringList {"--threshold=150"};
-    QTest::newRow("threshold without value") << QStringList {"--threshold"};
-    QTest::newRow("unknown algorithm") << QStringList {"--algorithm", "orb"};
-    QTest::newRow("algorithm in capitals") << QStringList {"--algorithm", "PHASH"};
-    QTest::newRow("features above 100") << QStringList {"--features", "100.5"};
-    QTest::newRow("features not a number") << QStringList {"--features", "nan"};
-    QTest::newRow("switch given a value") << QStringList {"--any-type=yes"};
-}
-
-void TestCliSimilar::badValues()
-{
-    QFETCH(QStringList, options);
-    // The folder comes first so that an option left without its value is the last word.
-    const CliRun run = runCli(QStringList {"scan", m_root} + options);
-    QCOMPARE(run.exitCode, 1);
-    QVERIFY(run.err.contains("usage: veltrine-duplicate-finder-cli scan"));
-    QVERIFY(run.out.isEmpty());
 }
 
 void TestCliSimilar::similarGroups_data()

@@ -35,6 +35,13 @@ CloudPropertyReader readerOver(const PropertyTable &table)
     };
 }
 
+void keyedRow(const char *tag, const Numbers &bytes, const Numbers &ages, const Sizes &pictures,
+    int rule, const Indices &selected, bool tagged = false, const char *format = "png")
+{
+    QTest::newRow(tag) << bytes << ages << pictures << QString(format) << tagged << rule
+                       << selected;
+}
+
 } // namespace
 
 class TestGroupItemAutoSelector : public QObject
@@ -179,14 +186,6 @@ private slots:
         QCOMPARE(Selector::select(paths, 3, priorities), pick(paths, selected));
     }
 
-    void priorityValues()
-    {
-        const QMap<QString, int> priorities {{"D:/Photos", 1}, {"D:/Photos/Keep", 5}};
-        QCOMPARE(Selector::priorityOf("D:/Photos/Keep/a.jpg", priorities), 5);
-        QCOMPARE(Selector::priorityOf("D:/Photos/b.jpg", priorities), 1);
-        QCOMPARE(Selector::priorityOf("C:/elsewhere/c.jpg", priorities), 0);
-    }
-
     void priorityWithoutMapIsFilenameRule_data()
     {
         QTest::addColumn<QStringList>("paths");
@@ -213,58 +212,35 @@ private slots:
         QTest::addColumn<Indices>("selected");
         const Numbers same3 {20, 20, 20};
         const Numbers ages3 {10, 300, 50};
-        const Numbers equalAges3 {100, 100, 100};
-        const QString png = QStringLiteral("png");
-        QTest::newRow("newest rule keeps oldest")
-            << same3 << ages3 << Sizes {} << png << false << 0 << Indices {0, 2};
-        QTest::newRow("oldest rule keeps newest")
-            << same3 << ages3 << Sizes {} << png << false << 1 << Indices {1, 2};
-        QTest::newRow("equal dates, newest rule keeps last")
-            << same3 << equalAges3 << Sizes {} << png << false << 0 << Indices {0, 1};
-        QTest::newRow("equal dates, oldest rule keeps first")
-            << same3 << equalAges3 << Sizes {} << png << false << 1 << Indices {1, 2};
-        QTest::newRow("equal sizes, high-quality keeps last")
-            << same3 << equalAges3 << Sizes {} << png << false << 6 << Indices {0, 1};
-        QTest::newRow("equal sizes, low-quality keeps first")
-            << same3 << equalAges3 << Sizes {} << png << false << 7 << Indices {1, 2};
-        QTest::newRow("low-quality keeps first largest")
-            << Numbers {10, 30, 30} << equalAges3 << Sizes {} << png << false << 7
-            << Indices {0, 2};
-        QTest::newRow("high-quality keeps smallest")
-            << Numbers {10, 30, 30} << equalAges3 << Sizes {} << png << false << 6
-            << Indices {1, 2};
-        QTest::newRow("empty file is smallest")
-            << Numbers {5, 0} << Numbers {1, 1} << Sizes {} << png << false << 6 << Indices {0};
-        QTest::newRow("unreadable pictures count as 1, low-resolution")
-            << same3 << equalAges3 << Sizes {QSize(), QSize(), QSize(2, 2)} << png << false << 5
-            << Indices {0, 1};
-        QTest::newRow("unreadable pictures count as 1, high-resolution")
-            << same3 << equalAges3 << Sizes {QSize(), QSize(), QSize(2, 2)} << png << false << 4
-            << Indices {1, 2};
-        QTest::newRow("high-resolution keeps smallest picture")
-            << same3 << equalAges3 << Sizes {QSize(4, 3), QSize(2, 2), QSize(8, 8)} << png << false
-            << 4 << Indices {0, 2};
-        QTest::newRow("low-resolution keeps largest picture")
-            << same3 << equalAges3 << Sizes {QSize(4, 3), QSize(2, 2), QSize(8, 8)} << png << false
-            << 5 << Indices {0, 1};
-        QTest::newRow("pixel count, not width")
-            << Numbers {1, 1} << Numbers {1, 1} << Sizes {QSize(10, 1), QSize(3, 4)} << png << false
-            << 5 << Indices {0};
-        QTest::newRow("equal pictures, high-resolution keeps last")
-            << Numbers {1, 1} << Numbers {1, 1} << Sizes {QSize(3, 3), QSize(3, 3)} << png << false
-            << 4 << Indices {0};
-        QTest::newRow("equal pictures, low-resolution keeps first")
-            << Numbers {1, 1} << Numbers {1, 1} << Sizes {QSize(3, 3), QSize(3, 3)} << png << false
-            << 5 << Indices {1};
-        QTest::newRow("jpeg headers")
-            << Numbers {1, 1} << Numbers {1, 1} << Sizes {QSize(16, 16), QSize(64, 48)}
-            << QString("jpg") << false << 5 << Indices {0};
-        QTest::newRow("similar entries read through their path")
-            << Numbers {10, 30, 30} << equalAges3 << Sizes {} << png << true << 7 << Indices {0, 2};
-        QTest::newRow("similar entries, dates")
-            << same3 << ages3 << Sizes {} << png << true << 1 << Indices {1, 2};
-        QTest::newRow("group of one")
-            << Numbers {5} << Numbers {1} << Sizes {} << png << false << 6 << Indices {};
+        const Numbers equal3 {100, 100, 100};
+        const Numbers sizes3 {10, 30, 30};
+        const Numbers one2 {1, 1};
+        const Sizes mixed3 {QSize(4, 3), QSize(2, 2), QSize(8, 8)};
+        const Sizes unreadable3 {QSize(), QSize(), QSize(2, 2)};
+        keyedRow("newest rule keeps oldest", same3, ages3, {}, 0, {0, 2});
+        keyedRow("oldest rule keeps newest", same3, ages3, {}, 1, {1, 2});
+        keyedRow("equal dates, newest rule keeps last", same3, equal3, {}, 0, {0, 1});
+        keyedRow("equal dates, oldest rule keeps first", same3, equal3, {}, 1, {1, 2});
+        keyedRow("equal sizes, high-quality keeps last", same3, equal3, {}, 6, {0, 1});
+        keyedRow("equal sizes, low-quality keeps first", same3, equal3, {}, 7, {1, 2});
+        keyedRow("low-quality keeps first largest", sizes3, equal3, {}, 7, {0, 2});
+        keyedRow("high-quality keeps smallest", sizes3, equal3, {}, 6, {1, 2});
+        keyedRow("empty file is smallest", {5, 0}, one2, {}, 6, {0});
+        keyedRow("unreadable pictures count as 1, low-resolution", same3, equal3, unreadable3, 5,
+            {0, 1});
+        keyedRow("unreadable pictures count as 1, high-resolution", same3, equal3, unreadable3, 4,
+            {1, 2});
+        keyedRow("high-resolution keeps smallest picture", same3, equal3, mixed3, 4, {0, 2});
+        keyedRow("low-resolution keeps largest picture", same3, equal3, mixed3, 5, {0, 1});
+        keyedRow("pixel count, not width", one2, one2, {QSize(10, 1), QSize(3, 4)}, 5, {0});
+        keyedRow("equal pictures, high-resolution keeps last", one2, one2,
+            {QSize(3, 3), QSize(3, 3)}, 4, {0});
+        keyedRow("equal pictures, low-resolution keeps first", one2, one2,
+            {QSize(3, 3), QSize(3, 3)}, 5, {1});
+        keyedRow("jpeg headers", one2, one2, {QSize(16, 16), QSize(64, 48)}, 5, {0}, false, "jpg");
+        keyedRow("similar entries read through their path", sizes3, equal3, {}, 7, {0, 2}, true);
+        keyedRow("similar entries, dates", same3, ages3, {}, 1, {1, 2}, true);
+        keyedRow("group of one", {5}, {1}, {}, 6, {});
     }
     void keyedRules()
     {
@@ -283,13 +259,6 @@ private slots:
             entries.append(tagged ? path + QStringLiteral("_simlar_%1").arg(90 + i) : path);
         }
         QCOMPARE(Selector::selectGroup(entries, rule), pick(entries, selected));
-    }
-
-    void pictureSizeFromHeader()
-    {
-        const QString path = makeFile(0, 0, QSize(37, 21), true, QStringLiteral("png"));
-        QCOMPARE(Selector::pictureSize(path), qMakePair(37, 21));
-        QCOMPARE(Selector::pictureSize(m_dir.filePath("missing.png")), qMakePair(-1, -1));
     }
 
     // HEIC has no Qt image plug-in here; its size comes from the container's header.

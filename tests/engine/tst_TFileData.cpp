@@ -13,14 +13,6 @@ private:
 private slots:
     void init() { store()->clear(); }
 
-    void groupKeyIsUpperMd5OfUtf8()
-    {
-        QCOMPARE(
-            TFileData::groupKey("/a/b.jpg"), QStringLiteral("13B7CF79C88A1E69C00837221AB2EA93"));
-        QCOMPARE(TFileData::groupKey(QString::fromUtf8("/\xc3\xa9t\xc3\xa9.png")),
-            QStringLiteral("1B92C67F503F1273099BC7D9C3597B4E"));
-    }
-
     void updateSelected_data()
     {
         QTest::addColumn<QStringList>("initial"); // empty: nothing selected yet

@@ -84,54 +84,57 @@ private slots:
     void pseudoFileSystemsNotEntered();
     void hardLinksReportedOnce();
     void undecodableNameStillOpens();
-    void plainModeAppliesNoFilter();
     void stopMidWalkFinishesOnce();
     void unreadable_data();
     void unreadable();
 };
 
+static void filterRow(
+    const char *tag, const QJsonObject &config, const QStringList &expected, qint64 mode = 1)
+{
+    QTest::newRow(tag) << config << expected << mode;
+}
+
 void TestFileScanner::filters_data()
 {
     QTest::addColumn<QJsonObject>("config");
     QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<qint64>("mode"); // 0: the plain walk of folder comparison
 
     // The tree every row scans (see filters()).
     const QStringList everything {
         "a.txt", "b.JPG", "big.bin", "kib.bin", "noext", "sub/c.txt", "Skip/d.txt"};
-    QTest::newRow("defaults: hidden skipped, everything else") << QJsonObject {} << everything;
-    QTest::newRow("hidden included")
-        << QJsonObject {{"IgnoreSystemHidden", false}}
-        << QStringList {".dot/e.txt", ".hidden.txt", "a.txt", "b.JPG", "big.bin", "kib.bin",
-               "noext", "sub/c.txt", "Skip/d.txt"};
+    const QStringList withHidden = QStringList {".dot/e.txt", ".hidden.txt"} + everything;
+    filterRow("defaults: hidden skipped, everything else", {}, everything);
+    filterRow("hidden included", {{"IgnoreSystemHidden", false}}, withHidden);
     // 1 KiB minimum: kib.bin (exactly 1,024 bytes) stays, the tiny files go.
-    QTest::newRow("minimum in KiB, inclusive")
-        << QJsonObject {{"MinFileSize", 1}} << QStringList {"big.bin", "kib.bin"};
+    filterRow("minimum in KiB, inclusive", {{"MinFileSize", 1}}, {"big.bin", "kib.bin"});
     // 1 MiB maximum: big.bin (exactly 1,048,576 bytes) stays.
-    QTest::newRow("maximum in MiB, inclusive") << QJsonObject {{"MaxFileSize", 1}} << everything;
-    QTest::newRow("maximum below the big file")
-        << QJsonObject {{"MinFileSize", 1.9}, {"MaxFileSize", 0.99}} << QStringList {};
-    QTest::newRow("only list, suffix lower-cased, no-dot file skipped") << QJsonObject {
-        {"OnlyFileType", QJsonArray {"jpg", "bin"}}} << QStringList {"b.JPG", "big.bin", "kib.bin"};
-    QTest::newRow("ignore list has no effect in only mode")
-        << QJsonObject {{"ScanFileType", 0}, {"IgnoreFileType", QJsonArray {"txt"}}} << everything;
-    QTest::newRow("ignore list governs when ScanFileType > 0")
-        << QJsonObject {{"ScanFileType", 1}, {"IgnoreFileType", QJsonArray {"txt"}},
-               {"OnlyFileType", QJsonArray {"bin"}}}
-        << QStringList {"b.JPG", "big.bin", "kib.bin", "noext"};
-    QTest::newRow("ignored folder in other letter case")
-        << QJsonObject {{"IgnorePathFile", QJsonArray {"@ROOT@/skip"}}}
-        << QStringList {"a.txt", "b.JPG", "big.bin", "kib.bin", "noext", "sub/c.txt"};
-    QTest::newRow("ignored file") << QJsonObject {{"IgnorePathFile", QJsonArray {"@ROOT@/A.TXT"}}}
-                                  << QStringList {"b.JPG", "big.bin", "kib.bin", "noext",
-                                         "sub/c.txt", "Skip/d.txt"};
-    QTest::newRow("root itself ignored")
-        << QJsonObject {{"IgnorePathFile", QJsonArray {"@ROOT@"}}} << QStringList {};
+    filterRow("maximum in MiB, inclusive", {{"MaxFileSize", 1}}, everything);
+    filterRow("maximum below the big file", {{"MinFileSize", 1.9}, {"MaxFileSize", 0.99}}, {});
+    filterRow("only list, suffix lower-cased, no-dot file skipped",
+        {{"OnlyFileType", QJsonArray {"jpg", "bin"}}}, {"b.JPG", "big.bin", "kib.bin"});
+    filterRow("ignore list has no effect in only mode",
+        {{"ScanFileType", 0}, {"IgnoreFileType", QJsonArray {"txt"}}}, everything);
+    filterRow("ignore list governs when ScanFileType > 0",
+        {{"ScanFileType", 1}, {"IgnoreFileType", QJsonArray {"txt"}},
+            {"OnlyFileType", QJsonArray {"bin"}}},
+        {"b.JPG", "big.bin", "kib.bin", "noext"});
+    filterRow("ignored folder in other letter case",
+        {{"IgnorePathFile", QJsonArray {"@ROOT@/skip"}}},
+        {"a.txt", "b.JPG", "big.bin", "kib.bin", "noext", "sub/c.txt"});
+    filterRow("ignored file", {{"IgnorePathFile", QJsonArray {"@ROOT@/A.TXT"}}},
+        {"b.JPG", "big.bin", "kib.bin", "noext", "sub/c.txt", "Skip/d.txt"});
+    filterRow("root itself ignored", {{"IgnorePathFile", QJsonArray {"@ROOT@"}}}, {});
+    filterRow("plain walk applies no filter",
+        {{"MinFileSize", 10}, {"OnlyFileType", QJsonArray {"jpg"}}}, withHidden, 0);
 }
 
 void TestFileScanner::filters()
 {
     QFETCH(QJsonObject, config);
     QFETCH(QStringList, expected);
+    QFETCH(qint64, mode);
     QTemporaryDir dir;
     const QString root = QFileInfo(dir.path()).canonicalFilePath();
     ScanTree::write(root, "a.txt", "aaa");
@@ -152,13 +155,15 @@ void TestFileScanner::filters()
 
     TFileScanner scanner;
     scanner.applyConfig(config);
+    scanner.setScanMode(mode);
     const ScanOutcome outcome = runScan(scanner, {root});
     QCOMPARE(outcome.finished, 1);
     QStringList want = expected;
     want.sort();
     QCOMPARE(relative(outcome.files, root), want);
     QCOMPARE(outcome.perFileSignals, outcome.files);
-    if (expected.isEmpty() && config.value("IgnorePathFile").toArray().contains(QJsonValue(root)))
+    // The plain walk reports no folders; nor does a scan whose root is ignored.
+    if (mode == 0 || config.value("IgnorePathFile").toArray().contains(QJsonValue(root)))
         QVERIFY(outcome.folders.isEmpty());
 }
 
@@ -261,20 +266,6 @@ void TestFileScanner::undecodableNameStillOpens()
     QCOMPARE(outcome.files.size(), 1);
     QVERIFY(FilePathCodec::hasEscapedBytes(outcome.files.first()));
     QCOMPARE(FilePathCodec::encode(outcome.files.first()), name);
-}
-
-void TestFileScanner::plainModeAppliesNoFilter()
-{
-    QTemporaryDir dir;
-    const QString root = QFileInfo(dir.path()).canonicalFilePath();
-    ScanTree::write(root, ".hidden", "h");
-    ScanTree::write(root, "x/tiny.txt", "t");
-    TFileScanner scanner;
-    scanner.applyConfig({{"MinFileSize", 10}, {"OnlyFileType", QJsonArray {"jpg"}}});
-    scanner.setScanMode(0);
-    const ScanOutcome outcome = runScan(scanner, {root});
-    QCOMPARE(relative(outcome.files, root), (QStringList {".hidden", "x/tiny.txt"}));
-    QVERIFY(outcome.folders.isEmpty());
 }
 
 void TestFileScanner::stopMidWalkFinishesOnce()

@@ -4,7 +4,6 @@
 #include "engine/ScanTree.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
-#include "fileops/RemovalRestorer.h"
 #include "fileops/TFileDeleter.h"
 #include "fileops/TImageDeleteWorker.h"
 
@@ -26,6 +25,7 @@ enum Fault {
     TimeChanged,
     ContentChanged,
     KeptCopyDeleted,
+    KeptCopyRemovedByAnotherGroup,
     KeptCopyIsLinkToItem,
     HardLinkedToKeptCopy,
     ItemVanished,
@@ -95,10 +95,8 @@ private slots:
     void faults();
     void folders_data();
     void folders();
-    void keptCopyRemovedByAnotherGroup();
     void cancelKeepsTheRestSelected();
     void trashEntryRestorable();
-    void restorePutsBatchBack();
 
 private:
     QTemporaryDir m_home;
@@ -121,10 +119,10 @@ void TestTImageDeleteWorker::faults_data()
     const int move = TFileDeleter::moveToFolder;
     for (int method : {trash, permanent, move}) {
         const QByteArray name = RemovalJournal::methodName(method).toLatin1();
-        QTest::newRow("nothing changed, " + name) << int(NoFault) << method << "removed"
-                                                  << "";
-        QTest::newRow("read-only file, " + name) << int(ReadOnlyItem) << method << "removed"
-                                                 << "";
+        QTest::newRow("nothing changed, " + name)
+            << int(NoFault) << method << "removed" << QString();
+        QTest::newRow("read-only file, " + name)
+            << int(ReadOnlyItem) << method << "removed" << QString();
     }
     QTest::newRow("size changed") << int(SizeChanged) << permanent << "skipped"
                                   << RemovalCheck::changedSinceScan;
@@ -134,23 +132,23 @@ void TestTImageDeleteWorker::faults_data()
         << int(ContentChanged) << permanent << "skipped" << RemovalCheck::contentDiffers;
     QTest::newRow("kept copy deleted")
         << int(KeptCopyDeleted) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
+    // The kept copy is selected in a group of similar pictures of the same batch: removing
+    // both would leave only a picture that merely looks alike.
+    QTest::newRow("kept copy removed by another group")
+        << int(KeptCopyRemovedByAnotherGroup) << permanent << "skipped"
+        << RemovalCheck::noKeptCopyLeft;
     QTest::newRow("kept copy replaced by a link to the item")
         << int(KeptCopyIsLinkToItem) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
     QTest::newRow("item hard-linked to the kept copy")
         << int(HardLinkedToKeptCopy) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
-    QTest::newRow("item vanished") << int(ItemVanished) << permanent << "removed"
-                                   << "";
+    QTest::newRow("item vanished") << int(ItemVanished) << permanent << "removed" << QString();
     QTest::newRow("both members selected: the first stays")
-        << int(BothSelected) << permanent << "removed"
-        << "";
+        << int(BothSelected) << permanent << "removed" << QString();
     QTest::newRow("whole group selected, allowed")
-        << int(BothSelectedAllowed) << permanent << "removed"
-        << "";
+        << int(BothSelectedAllowed) << permanent << "removed" << QString();
     QTest::newRow("similar pictures: tagged entries")
-        << int(SimilarPictures) << permanent << "removed"
-        << "";
-    QTest::newRow("move: name taken") << int(MoveNameTaken) << move << "removed"
-                                      << "";
+        << int(SimilarPictures) << permanent << "removed" << QString();
+    QTest::newRow("move: name taken") << int(MoveNameTaken) << move << "removed" << QString();
     // Permission bits do not stop the superuser; the unprivileged run covers this row.
     if (::geteuid() != 0)
         QTest::newRow("file in a read-only folder") << int(ReadOnlyFolder) << permanent << "failed"
@@ -167,6 +165,7 @@ void TestTImageDeleteWorker::faults()
     QVERIFY(pair.request.stamps.value(pair.item).hasContentKey);
     const QByteArray keptBytes = ScanTree::read(pair.kept);
     QString taken;
+    QString look;
     switch (fault) {
     case SizeChanged:
         ScanTree::write(pair.dir.path(), "b/x.bin", keptBytes + "more");
@@ -183,6 +182,11 @@ void TestTImageDeleteWorker::faults()
     }
     case KeptCopyDeleted:
         QFile::remove(pair.kept);
+        break;
+    case KeptCopyRemovedByAnotherGroup:
+        look = ScanTree::write(pair.dir.path(), "c/look.bin", "a similar picture");
+        pair.request.groups.insert("S", {pair.kept + "_simlar_100", look + "_simlar_90"});
+        pair.request.selected.insert("S", {pair.kept});
         break;
     case KeptCopyIsLinkToItem:
         QFile::remove(pair.kept);
@@ -237,8 +241,9 @@ void TestTImageDeleteWorker::faults()
     QCOMPARE(QFileInfo::exists(pair.item), outcome != "removed");
     // A skipped or failed item keeps its selection.
     QCOMPARE(remaining.value("G").contains(pair.item), outcome != "removed");
-    // The kept copy is never touched, unless every copy was allowed to go.
-    if (fault == BothSelectedAllowed) {
+    // The kept copy is never touched, unless every copy was allowed to go or another group
+    // selected it.
+    if (fault == BothSelectedAllowed || fault == KeptCopyRemovedByAnotherGroup) {
         QVERIFY(!QFileInfo::exists(pair.kept));
     } else if (fault != KeptCopyDeleted) {
         QVERIFY(QFileInfo::exists(pair.kept));
@@ -247,6 +252,8 @@ void TestTImageDeleteWorker::faults()
     }
     if (fault == BothSelected)
         QCOMPARE(results.first().reason, TImageDeleteWorker::keptLastCopy);
+    if (!look.isEmpty())
+        QVERIFY(QFileInfo::exists(look));
     if (method == TFileDeleter::moveToFolder && outcome == "removed") {
         // A move never replaces: the taken name keeps its file, the item gets a free one.
         const QString expected = pair.request.targetFolder
@@ -298,23 +305,6 @@ void TestTImageDeleteWorker::folders()
         QVERIFY(QFileInfo::exists(target + "/F (2)/sub/.two"));
         QCOMPARE(ScanTree::read(target + "/F/occupant.txt"), QByteArray("stays"));
     }
-}
-
-void TestTImageDeleteWorker::keptCopyRemovedByAnotherGroup()
-{
-    // x2's kept copy x1 is selected in a group of similar pictures of the same batch:
-    // removing both would leave only a picture that merely looks alike.
-    Pair pair(TFileDeleter::removePermanently);
-    const QString look = ScanTree::write(pair.dir.path(), "c/look.bin", "a similar picture");
-    pair.request.groups.insert("S", {pair.kept + "_simlar_100", look + "_simlar_90"});
-    pair.request.selected.insert("S", {pair.kept});
-    const QList<DeleteResult> results = pair.run();
-    QVERIFY(!QFileInfo::exists(pair.kept));
-    QVERIFY(QFileInfo::exists(pair.item));
-    QVERIFY(QFileInfo::exists(look));
-    for (const DeleteResult &result : results)
-        if (result.path == pair.item)
-            QCOMPARE(result.reason, RemovalCheck::noKeptCopyLeft);
 }
 
 void TestTImageDeleteWorker::cancelKeepsTheRestSelected()
@@ -371,31 +361,6 @@ void TestTImageDeleteWorker::trashEntryRestorable()
     QVERIFY(QRegularExpression("\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n")
                 .match(QString::fromLatin1(info))
                 .hasMatch());
-}
-
-void TestTImageDeleteWorker::restorePutsBatchBack()
-{
-    QTemporaryDir journalDir;
-    for (int method : {int(TFileDeleter::moveToTrash), int(TFileDeleter::moveToFolder)}) {
-        Pair pair(method);
-        const QByteArray bytes = ScanTree::read(pair.item);
-        RemovalJournal journal(journalDir.path() + "/journal.jsonl");
-        QVERIFY(journal.begin(RemovalJournal::methodName(method), 1));
-        TImageDeleteWorker worker(pair.request);
-        worker.setJournal(&journal);
-        worker.doDelete();
-        journal.end();
-        QVERIFY(!QFileInfo::exists(pair.item));
-
-        QList<DeleteResult> restored;
-        RemovalRestorer restorer(journal);
-        QVERIFY(restorer.restoreLastBatch(restored));
-        QCOMPARE(restored.size(), 1);
-        QVERIFY2(restored.first().success, qPrintable(restored.first().reason));
-        QCOMPARE(ScanTree::read(pair.item), bytes);
-        // Undone batches are not restored twice.
-        QVERIFY(!RemovalRestorer(journal).restoreLastBatch(restored));
-    }
 }
 
 QTEST_GUILESS_MAIN(TestTImageDeleteWorker)

@@ -7,6 +7,7 @@
 #include "ScreenshotSupport.h"
 #include "app/LanguageSetup.h"
 #include "engine/ScanProblems.h"
+#include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
 #include "preferences/DFIgnoreListPreferences.h"
@@ -172,10 +173,8 @@ void fillSettings(const QString &root)
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    const QString out = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath();
-    QFile style(QStringLiteral(":resource/Style.qss"));
-    if (style.open(QIODevice::ReadOnly))
-        app.setStyleSheet(QString::fromUtf8(style.readAll()));
+    const QString out = outputFolder(argc, argv);
+    useProgramStyle(app);
 
     QTemporaryDir tree;
     for (const char *name : {"Photos", "Documents", "Music archive",
@@ -211,13 +210,9 @@ int main(int argc, char *argv[])
     MainWindow window({QStringLiteral("program")});
     window.show();
     (void)QTest::qWaitForWindowExposed(&window);
-    const QString a = QDir(tree.path()).filePath(QStringLiteral("Photos/beach.jpg"));
-    const QString b = QDir(tree.path()).filePath(QStringLiteral("Documents/beach.jpg"));
-    for (const QString &path : {a, b}) {
-        QFile file(path);
-        file.open(QIODevice::WriteOnly);
-        file.write(QByteArray(250000, 'x'));
-    }
+    const QByteArray bytes(250000, 'x');
+    const QString a = ScanTree::write(tree.path(), QStringLiteral("Photos/beach.jpg"), bytes);
+    const QString b = ScanTree::write(tree.path(), QStringLiteral("Documents/beach.jpg"), bytes);
     TFileData::instance()->insertGroup(TFileData::groupKey(a), {a, b});
     window.allThreadComplate();
     if (window.resultPage())

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ScanTree.h"
 #include "mainwindow/ScanRootList.h"
 
-#include <QDir>
-#include <QFile>
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
@@ -40,39 +39,22 @@ void tst_ScanRootList::pruneNested()
     QCOMPARE(ScanRootList::pruneNested(roots), kept);
 }
 
+// The window's drop tests cover folders, files and missing paths; these are the drops that
+// never come from a local file manager.
 void tst_ScanRootList::droppedFolders()
 {
     QTemporaryDir dir;
-    QDir(dir.path()).mkpath(QStringLiteral("folder"));
-    const QString file = dir.filePath(QStringLiteral("file.txt"));
-    QFile(file).open(QIODevice::WriteOnly);
-    const QString folder = dir.filePath(QStringLiteral("folder"));
-
-    // A drop of a file enters, so that the window can say it is not a folder; a drop of
-    // nothing that exists does not.
-    QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(file), QUrl::fromLocalFile(dir.filePath("missing"))});
-    QVERIFY(ScanRootList::acceptsDrag(&files));
-    QVERIFY(ScanRootList::droppedFolders(&files).isEmpty());
+    const QString file = ScanTree::write(dir.path(), QStringLiteral("file.txt"), "x");
     const ScanRootList::SortedPaths sorted
-        = ScanRootList::sortPaths(ScanRootList::droppedPaths(&files));
+        = ScanRootList::sortPaths({file, dir.filePath(QStringLiteral("missing"))});
     QCOMPARE(sorted.files, QStringList {file});
-    QCOMPARE(sorted.missing, QStringList {dir.filePath("missing")});
-    QMimeData missing;
-    missing.setUrls({QUrl::fromLocalFile(dir.filePath("missing"))});
-    QVERIFY(!ScanRootList::acceptsDrag(&missing));
+    QCOMPARE(sorted.missing, QStringList {dir.filePath(QStringLiteral("missing"))});
 
     QMimeData remote;
     remote.setUrls({QUrl(QStringLiteral("https://example.org/folder/"))});
     QVERIFY(!ScanRootList::acceptsDrag(&remote));
-
-    QMimeData mixed;
-    mixed.setUrls({QUrl::fromLocalFile(file), QUrl::fromLocalFile(folder)});
-    QVERIFY(ScanRootList::acceptsDrag(&mixed));
-    QCOMPARE(ScanRootList::droppedFolders(&mixed), QStringList {folder});
-
     QMimeData text;
-    text.setText(folder);
+    text.setText(dir.path());
     QVERIFY(!ScanRootList::acceptsDrag(&text));
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "HttpReceiver.h"
 #include "TestEnvironment.h"
 #include "app/AppIdentity.h"
+#include "engine/ScanTree.h"
 #include "mainwindow/DailyRunReport.h"
 #include "mainwindow/EnvironmentLog.h"
 
@@ -10,46 +12,10 @@
 #include <QJsonObject>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 
 static TestEnvironment environment;
-
-// A one-request HTTP server: keeps the request and answers with the given status.
-class OneShotServer : public QTcpServer
-{
-public:
-    explicit OneShotServer(int status) : m_status(status)
-    {
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket *socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                m_request += socket->readAll();
-                const int headerEnd = int(m_request.indexOf("\r\n\r\n"));
-                if (headerEnd < 0)
-                    return;
-                const QByteArray header = m_request.left(headerEnd).toLower();
-                const int at = int(header.indexOf("content-length:"));
-                const int length
-                    = at < 0 ? 0 : header.mid(at + 15).split('\r').first().trimmed().toInt();
-                if (m_request.size() < headerEnd + 4 + length)
-                    return;
-                socket->write(QByteArray("HTTP/1.1 ") + QByteArray::number(m_status)
-                    + " X\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
-                socket->disconnectFromHost();
-            });
-        });
-        listen(QHostAddress::LocalHost);
-    }
-    QByteArray request() const { return m_request; }
-    QByteArray body() const { return m_request.mid(m_request.indexOf("\r\n\r\n") + 4); }
-
-private:
-    int m_status;
-    QByteArray m_request;
-};
 
 class tst_StartupServices : public QObject
 {
@@ -58,8 +24,8 @@ private slots:
     void init();
     void cpuAndMemory_data();
     void cpuAndMemory();
+    void reportSentOncePerDay_data();
     void reportSentOncePerDay();
-    void reportFailureKeepsDateOpen();
     void reportNeedsConfiguration();
 };
 
@@ -101,12 +67,8 @@ void tst_StartupServices::cpuAndMemory()
     const QString cpuPath = dir.filePath(QStringLiteral("cpuinfo"));
     const QString memPath = dir.filePath(QStringLiteral("meminfo"));
     if (!cpuinfo.isEmpty()) {
-        QFile c(cpuPath);
-        QVERIFY(c.open(QIODevice::WriteOnly));
-        c.write(cpuinfo);
-        QFile m(memPath);
-        QVERIFY(m.open(QIODevice::WriteOnly));
-        m.write(meminfo);
+        ScanTree::write(dir.path(), QStringLiteral("cpuinfo"), cpuinfo);
+        ScanTree::write(dir.path(), QStringLiteral("meminfo"), meminfo);
     }
     const QString name = EnvironmentLog::cpuName(cpuPath);
     // Without a readable file the architecture stands in for the name.
@@ -117,21 +79,33 @@ void tst_StartupServices::cpuAndMemory()
     QCOMPARE(memory.usedPercent, used);
 }
 
+void tst_StartupServices::reportSentOncePerDay_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("accepted") << 204 << true;
+    QTest::newRow("refused: the day stays open") << 500 << false;
+}
+
 void tst_StartupServices::reportSentOncePerDay()
 {
-    OneShotServer server(204);
+    QFETCH(int, status);
+    QFETCH(bool, accepted);
+    HttpReceiver server(status);
     DailyRunReport report(QStringLiteral("G-ABCDEFGHIJ"), QStringLiteral("secret"));
-    report.setEndpoint(QStringLiteral("http://127.0.0.1:%1/mp/collect").arg(server.serverPort()));
+    report.setEndpoint(QStringLiteral("http://127.0.0.1:%1/mp/collect").arg(server.port()));
     QSignalSpy finished(&report, &DailyRunReport::finished);
     const QDate day(2026, 3, 14);
     QVERIFY(report.sendIfDue(day));
     QVERIFY(finished.wait(10000));
-    QCOMPARE(finished.at(0).at(0).toBool(), true);
+    QCOMPARE(finished.at(0).at(0).toBool(), accepted);
 
-    QVERIFY(server.request().startsWith(
-        "POST /mp/collect?measurement_id=G-ABCDEFGHIJ&api_secret=secret"));
-    QVERIFY(server.request().toLower().contains("content-type: application/json"));
-    const QJsonObject body = QJsonDocument::fromJson(server.body()).object();
+    QCOMPARE(server.requests.size(), 1);
+    const HttpReceiver::Request request = server.requests.first();
+    QVERIFY(
+        request.head.startsWith("POST /mp/collect?measurement_id=G-ABCDEFGHIJ&api_secret=secret"));
+    QVERIFY(request.head.toLower().contains("content-type: application/json"));
+    const QJsonObject body = QJsonDocument::fromJson(request.body).object();
     const QString client = body.value(QStringLiteral("client_id")).toString();
     QCOMPARE(client.size(), 36);
     QVERIFY(!client.contains(QLatin1Char('{')));
@@ -146,23 +120,12 @@ void tst_StartupServices::reportSentOncePerDay()
     QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
     QCOMPARE(settings.value(QStringLiteral("ClientID")).toString(), client);
     QCOMPARE(settings.value(QStringLiteral("LastRunSuccessDate")).toString(),
-        QStringLiteral("2026-03-14"));
-    // Same day: nothing goes out; the next day it does, with the same client id.
-    QVERIFY(!report.sendIfDue(day));
-    QCOMPARE(report.clientId(), client);
-}
-
-void tst_StartupServices::reportFailureKeepsDateOpen()
-{
-    OneShotServer server(500);
-    DailyRunReport report(QStringLiteral("G-ABCDEFGHIJ"), QStringLiteral("secret"));
-    report.setEndpoint(QStringLiteral("http://127.0.0.1:%1/mp/collect").arg(server.serverPort()));
-    QSignalSpy finished(&report, &DailyRunReport::finished);
-    QVERIFY(report.sendIfDue(QDate(2026, 3, 15)));
-    QVERIFY(finished.wait(10000));
-    QCOMPARE(finished.at(0).at(0).toBool(), false);
-    QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
-    QVERIFY(settings.value(QStringLiteral("LastRunSuccessDate")).toString().isEmpty());
+        accepted ? QStringLiteral("2026-03-14") : QString());
+    if (accepted) {
+        // Same day: nothing goes out.
+        QVERIFY(!report.sendIfDue(day));
+        QCOMPARE(report.clientId(), client);
+    }
 }
 
 void tst_StartupServices::reportNeedsConfiguration()

@@ -108,10 +108,7 @@ void TestControlUI::refusesValuesOutsideRanges_data()
         << QJsonObject {{"MinFileSize", 1024}, {"MaxFileSize", 1}} << kSimilarOff
         << "The minimum file size 1024 KB is not below the maximum file size 1 MB, so no file "
            "would be scanned.";
-    // A pass mark of 0 links every pair of pictures.
-    QTest::newRow("similarity 0") << kCommon
-                                  << QJsonObject {{"hasSimilar", true}, {"SimilarityValue", 0}}
-                                  << "The similarity threshold 0% is outside 1% to 100%.";
+    // (A similarity of 0 is refused through the window's scan button.)
     QTest::newRow("features beyond the re-check's range")
         << kCommon << QJsonObject {{"hasSimilar", true}, {"FeaturesValue", 100}}
         << "The feature similarity threshold 100% is outside 20% to 60%.";

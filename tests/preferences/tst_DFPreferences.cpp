@@ -52,7 +52,6 @@ private slots:
     void priorityMapRoundTrip();
     void loadKeepsDefaultsOrConverts_data();
     void loadKeepsDefaultsOrConverts();
-    void similarityValueRoundTrip();
     void damagedFileLoadsRepairedAndScans();
     void snapshotKeys_data();
     void snapshotKeys();
@@ -139,6 +138,12 @@ void TestDFPreferences::priorityMapRoundTrip()
     QVERIFY(DFPreferences(path).selectionPreferences()->mapPriority().isEmpty());
 }
 
+static void loadRow(const char *tag, const QByteArray &ini, const char *group, const char *property,
+    const QVariant &expected)
+{
+    QTest::newRow(tag) << ini << QString(group) << QString(property) << expected;
+}
+
 void TestDFPreferences::loadKeepsDefaultsOrConverts_data()
 {
     QTest::addColumn<QByteArray>("ini");
@@ -147,79 +152,48 @@ void TestDFPreferences::loadKeepsDefaultsOrConverts_data()
     QTest::addColumn<QVariant>("expected");
 
     const QByteArray noCommon = "[Duplicate_files]\nscanMethod=1\n";
-    QTest::newRow("no Common: max size") << noCommon << "common"
-                                         << "MaxFileSize" << QVariant(100000);
-    QTest::newRow("no Common: min size") << noCommon << "common"
-                                         << "MinFileSize" << QVariant(0);
-    QTest::newRow("no Common: hide system") << noCommon << "common"
-                                            << "HideSystemFile" << QVariant(true);
-    QTest::newRow("no Common: removal") << noCommon << "common"
-                                        << "RemovealMethod" << QVariant(0);
-    QTest::newRow("empty file: similarity") << QByteArray() << "similar"
-                                            << "SimilarityValue" << QVariant(55);
-    QTest::newRow("empty file: scan priority") << QByteArray() << "similar"
-                                               << "scanPriority" << QVariant(1);
-    QTest::newRow("other group read") << noCommon << "duplicate"
-                                      << "scanMethod" << QVariant(1);
-    QTest::newRow("int not a number keeps default")
-        << QByteArray("[Common]\nThreadCount=many\n") << "common"
-        << "ThreadCount" << QVariant(std::max(2, QThread::idealThreadCount()));
-    QTest::newRow("enum not a number keeps default")
-        << QByteArray("[Duplicate_files]\nselectDuplicate=x\n") << "duplicate"
-        << "selectDuplicate" << QVariant(2);
-    QTest::newRow("enum beyond its values keeps default")
-        << QByteArray("[Common]\nRemovealMethod=7\n") << "common"
-        << "RemovealMethod" << QVariant(0);
-    QTest::newRow("bool neither true nor false keeps default")
-        << QByteArray("[Similar_images]\nhasSimilar=perhaps\n") << "similar"
-        << "hasSimilar" << QVariant(true);
-    QTest::newRow("enum value") << QByteArray("[Similar_images]\nalgorithmHint=2\n") << "similar"
-                                << "algorithmHint" << QVariant(2);
-    QTest::newRow("size not a number keeps default")
-        << QByteArray("[Common]\nMaxFileSize=big\n") << "common"
-        << "MaxFileSize" << QVariant(100000);
+    loadRow("no Common: default", noCommon, "common", "MaxFileSize", 100000);
+    loadRow("other group read", noCommon, "duplicate", "scanMethod", 1);
+    loadRow("empty file: default", QByteArray(), "similar", "SimilarityValue", 55);
+    loadRow("int not a number keeps default", "[Common]\nThreadCount=many\n", "common",
+        "ThreadCount", std::max(2, QThread::idealThreadCount()));
+    loadRow("enum not a number keeps default", "[Duplicate_files]\nselectDuplicate=x\n",
+        "duplicate", "selectDuplicate", 2);
+    loadRow("enum beyond its values keeps default", "[Common]\nRemovealMethod=7\n", "common",
+        "RemovealMethod", 0);
+    loadRow("bool neither true nor false keeps default", "[Similar_images]\nhasSimilar=perhaps\n",
+        "similar", "hasSimilar", true);
+    loadRow("enum value", "[Similar_images]\nalgorithmHint=2\n", "similar", "algorithmHint", 2);
+    loadRow("size not a number keeps default", "[Common]\nMaxFileSize=big\n", "common",
+        "MaxFileSize", 100000);
     // Shifted to bytes, this maximum overflows and no file would pass.
-    QTest::newRow("size overflowing bytes clamped")
-        << QByteArray("[Common]\nMaxFileSize=9000000000000\n") << "common"
-        << "MaxFileSize" << QVariant(100000);
-    QTest::newRow("size beyond 64 bits clamped")
-        << QByteArray("[Common]\nMaxFileSize=99999999999999999999999\n") << "common"
-        << "MaxFileSize" << QVariant(100000);
-    QTest::newRow("negative size clamped") << QByteArray("[Common]\nMinFileSize=-3\n") << "common"
-                                           << "MinFileSize" << QVariant(0);
-    QTest::newRow("minimum not below maximum: minimum reset")
-        << QByteArray("[Common]\nMinFileSize=2048\nMaxFileSize=2\n") << "common"
-        << "MinFileSize" << QVariant(0);
+    loadRow("size overflowing bytes clamped", "[Common]\nMaxFileSize=9000000000000\n", "common",
+        "MaxFileSize", 100000);
+    loadRow("size beyond 64 bits clamped", "[Common]\nMaxFileSize=99999999999999999999999\n",
+        "common", "MaxFileSize", 100000);
+    loadRow("negative size clamped", "[Common]\nMinFileSize=-3\n", "common", "MinFileSize", 0);
+    loadRow("minimum not below maximum: minimum reset",
+        "[Common]\nMinFileSize=2048\nMaxFileSize=2\n", "common", "MinFileSize", 0);
     // A pass mark of 0 or below links every pair of pictures.
-    QTest::newRow("similarity 0 clamped")
-        << QByteArray("[Similar_images]\nSimilarityValue=0\n") << "similar"
-        << "SimilarityValue" << QVariant(1);
-    QTest::newRow("similarity with decimals truncated")
-        << QByteArray("[Similar_images]\nSimilarityValue=72.9\n") << "similar"
-        << "SimilarityValue" << QVariant(72);
-    QTest::newRow("features clamped")
-        << QByteArray("[Similar_images]\nFeaturesValue=95\n") << "similar"
-        << "FeaturesValue" << QVariant(60);
-    QTest::newRow("aspect limit clamped")
-        << QByteArray("[Similar_images]\nimageMinSize=0\n") << "similar"
-        << "imageMinSize" << QVariant(1);
-    QTest::newRow("folder with an unquoted comma")
-        << QByteArray("[Common]\nTrashFolder=/home/me/a, b\n") << "common"
-        << "TrashFolder" << QVariant(QStringLiteral("/home/me/a, b"));
-    QTest::newRow("bool false") << QByteArray("[Common]\nHideSystemFile=false\n") << "common"
-                                << "HideSystemFile" << QVariant(false);
-    QTest::newRow("deletion marker") << QByteArray("[Common]\ndeleteException=1\n") << "common"
-                                     << "deleteException" << QVariant(1);
-    QTest::newRow("single list item") << QByteArray("[Common]\nIgnoreFileType=jpg\n") << "common"
-                                      << "IgnoreFileType" << QVariant(QStringList {"jpg"});
-    QTest::newRow("list with comma in item")
-        << QByteArray("[Common]\nIgnorePathFile=/a, \"/b,c\"\n") << "common"
-        << "IgnorePathFile" << QVariant(QStringList {"/a", "/b,c"});
-    QTest::newRow("absent list") << QByteArray("[Common]\nThreadCount=3\n") << "common"
-                                 << "OnlyFileType" << QVariant(QStringList());
-    QTest::newRow("priority key not a number")
-        << QByteArray("[map]\nfirst=D:/x\n3=D:/y\n") << "duplicate"
-        << "mapPriority" << QVariant::fromValue(PriorityMap {{"D:/x", 0}, {"D:/y", 3}});
+    loadRow("similarity 0 clamped", "[Similar_images]\nSimilarityValue=0\n", "similar",
+        "SimilarityValue", 1);
+    loadRow("similarity with decimals truncated", "[Similar_images]\nSimilarityValue=72.9\n",
+        "similar", "SimilarityValue", 72);
+    loadRow(
+        "features clamped", "[Similar_images]\nFeaturesValue=95\n", "similar", "FeaturesValue", 60);
+    loadRow(
+        "aspect limit clamped", "[Similar_images]\nimageMinSize=0\n", "similar", "imageMinSize", 1);
+    loadRow("folder with an unquoted comma", "[Common]\nTrashFolder=/home/me/a, b\n", "common",
+        "TrashFolder", QStringLiteral("/home/me/a, b"));
+    loadRow("bool false", "[Common]\nHideSystemFile=false\n", "common", "HideSystemFile", false);
+    loadRow("deletion marker", "[Common]\ndeleteException=1\n", "common", "deleteException", 1);
+    loadRow("single list item", "[Common]\nIgnoreFileType=jpg\n", "common", "IgnoreFileType",
+        QStringList {"jpg"});
+    loadRow("list with comma in item", "[Common]\nIgnorePathFile=/a, \"/b,c\"\n", "common",
+        "IgnorePathFile", QStringList {"/a", "/b,c"});
+    loadRow("absent list", "[Common]\nThreadCount=3\n", "common", "OnlyFileType", QStringList());
+    loadRow("priority key not a number", "[map]\nfirst=D:/x\n3=D:/y\n", "duplicate", "mapPriority",
+        QVariant::fromValue(PriorityMap {{"D:/x", 0}, {"D:/y", 3}}));
 }
 
 void TestDFPreferences::loadKeepsDefaultsOrConverts()
@@ -251,19 +225,6 @@ void TestDFPreferences::loadKeepsDefaultsOrConverts()
     default:
         QCOMPARE(actual.value<PriorityMap>(), expected.value<PriorityMap>());
     }
-}
-
-void TestDFPreferences::similarityValueRoundTrip()
-{
-    const QString path = m_dir.filePath("similarity.cfg");
-    {
-        DFPreferences store(path);
-        QCOMPARE(store.generalPreferences()->SimilarityValue(), 55);
-        QVERIFY(store.generalPreferences()->setProperty("SimilarityValue", 72));
-        store.save();
-    }
-    QVERIFY(ScanTree::read(path).contains("\nSimilarityValue=72\n"));
-    QCOMPARE(DFPreferences(path).generalPreferences()->property("SimilarityValue").toInt(), 72);
 }
 
 void TestDFPreferences::damagedFileLoadsRepairedAndScans()

@@ -42,7 +42,6 @@ private slots:
     void cleanup();
     void controlWritesItsKey_data();
     void controlWritesItsKey();
-    void defaultRestoresAndKeeps_data();
     void defaultRestoresAndKeeps();
     void cancelLeavesFileUntouched();
     void refusalKeepsEdits_data();
@@ -117,87 +116,44 @@ void TestDFPreferencesDialog::run(const QString &steps)
     }
 }
 
+static void keyRow(const char *tag, const char *steps, const char *key, const char *expected)
+{
+    QTest::newRow(tag) << QString(steps) << QString(key) << QString(expected);
+}
+
 void TestDFPreferencesDialog::controlWritesItsKey_data()
 {
     QTest::addColumn<QString>("steps");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("remove permanently") << "rbRemovePermanently"
-                                        << "Common/RemovealMethod"
-                                        << "1";
-    QTest::newRow("move folder typed") << "rbMoveToFolder;lineEdit=/srv/moved"
-                                       << "Common/TrashFolder"
-                                       << "/srv/moved";
-    QTest::newRow("move method") << "rbMoveToFolder;lineEdit=/srv/moved"
-                                 << "Common/RemovealMethod"
-                                 << "2";
-    QTest::newRow("minimum size") << "sbMinimumFileSize=512"
-                                  << "Common/MinFileSize"
-                                  << "512";
-    QTest::newRow("maximum size") << "sbMaximumFileSize=2048"
-                                  << "Common/MaxFileSize"
-                                  << "2048";
+    keyRow("remove permanently", "rbRemovePermanently", "Common/RemovealMethod", "1");
+    keyRow("move folder typed", "rbMoveToFolder;lineEdit=/srv/moved", "Common/TrashFolder",
+        "/srv/moved");
+    keyRow("move method", "rbMoveToFolder;lineEdit=/srv/moved", "Common/RemovealMethod", "2");
+    keyRow("minimum size", "sbMinimumFileSize=512", "Common/MinFileSize", "512");
+    keyRow("maximum size", "sbMaximumFileSize=2048", "Common/MaxFileSize", "2048");
     // The validator lets neither a dot nor a blank in, and empty entries are dropped.
-    QTest::newRow("ignored formats") << "radBtnUgnore;linEditIgnore=t x.t,,avi"
-                                     << "Common/IgnoreFileType"
-                                     << "txt,avi";
-    QTest::newRow("ignore mode") << "radBtnUgnore"
-                                 << "Common/ScanFileType"
-                                 << "1";
-    QTest::newRow("only formats") << "linEditOnly=jpg,png"
-                                  << "Common/OnlyFileType"
-                                  << "jpg,png";
-    QTest::newRow("hidden files") << "chkIgnoreSystemHidden"
-                                  << "Common/HideSystemFile"
-                                  << "false";
-    QTest::newRow("whole content") << "rbAllFileContent"
-                                   << "Duplicate_files/scanMethod"
-                                   << "2";
-    QTest::newRow("by name") << "rbFileName"
-                             << "Duplicate_files/scanMethod"
-                             << "1";
-    QTest::newRow("newest") << "rbSelectionNewest"
-                            << "Duplicate_files/selectDuplicate"
-                            << "0";
-    QTest::newRow("priority rule") << "rbSelectionPriority"
-                                   << "Duplicate_files/selectDuplicate"
-                                   << "3";
-    QTest::newRow("priority folders") << "folder:/data/a;folder:/data/b;cell:1=7"
-                                      << "map/7"
-                                      << "/data/b";
-    QTest::newRow("folder groups") << "chkScanDupDir"
-                                   << "Duplicate_files/scanDupDirectory"
-                                   << "true";
-    QTest::newRow("similar off") << "chkEnableSimilar"
-                                 << "Similar_images/hasSimilar"
-                                 << "false";
-    QTest::newRow("phash") << "rbPhash"
-                           << "Similar_images/algorithmHint"
-                           << "2";
-    QTest::newRow("similarity") << "hsSimilarity=80"
-                                << "Similar_images/SimilarityValue"
-                                << "80";
-    QTest::newRow("features") << "hsFeatures=30"
-                              << "Similar_images/FeaturesValue"
-                              << "30";
-    QTest::newRow("features off") << "chkFeatures"
-                                  << "Similar_images/isAddFeatures"
-                                  << "false";
-    QTest::newRow("any type") << "chkImageType"
-                              << "Similar_images/isImageType"
-                              << "false";
-    QTest::newRow("any ratio") << "chkImageWH"
-                               << "Similar_images/isImageSize"
-                               << "false";
-    QTest::newRow("ratio limit") << "sbImageWH=7"
-                                 << "Similar_images/imageMinSize"
-                                 << "7";
-    QTest::newRow("select similar") << "chkSelectedSimilar"
-                                    << "Similar_images/selectedSimilar"
-                                    << "true";
-    QTest::newRow("similar rule") << "chkSelectedSimilar;rbLowQuality"
-                                  << "Similar_images/selectionHint"
-                                  << "7";
+    keyRow("ignored formats", "radBtnUgnore;linEditIgnore=t x.t,,avi", "Common/IgnoreFileType",
+        "txt,avi");
+    keyRow("ignore mode", "radBtnUgnore", "Common/ScanFileType", "1");
+    keyRow("only formats", "linEditOnly=jpg,png", "Common/OnlyFileType", "jpg,png");
+    keyRow("hidden files", "chkIgnoreSystemHidden", "Common/HideSystemFile", "false");
+    keyRow("whole content", "rbAllFileContent", "Duplicate_files/scanMethod", "2");
+    keyRow("by name", "rbFileName", "Duplicate_files/scanMethod", "1");
+    keyRow("newest", "rbSelectionNewest", "Duplicate_files/selectDuplicate", "0");
+    keyRow("priority rule", "rbSelectionPriority", "Duplicate_files/selectDuplicate", "3");
+    keyRow("priority folders", "folder:/data/a;folder:/data/b;cell:1=7", "map/7", "/data/b");
+    keyRow("folder groups", "chkScanDupDir", "Duplicate_files/scanDupDirectory", "true");
+    keyRow("similar off", "chkEnableSimilar", "Similar_images/hasSimilar", "false");
+    keyRow("phash", "rbPhash", "Similar_images/algorithmHint", "2");
+    keyRow("similarity", "hsSimilarity=80", "Similar_images/SimilarityValue", "80");
+    keyRow("features", "hsFeatures=30", "Similar_images/FeaturesValue", "30");
+    keyRow("features off", "chkFeatures", "Similar_images/isAddFeatures", "false");
+    keyRow("any type", "chkImageType", "Similar_images/isImageType", "false");
+    keyRow("any ratio", "chkImageWH", "Similar_images/isImageSize", "false");
+    keyRow("ratio limit", "sbImageWH=7", "Similar_images/imageMinSize", "7");
+    keyRow("select similar", "chkSelectedSimilar", "Similar_images/selectedSimilar", "true");
+    keyRow("similar rule", "chkSelectedSimilar;rbLowQuality", "Similar_images/selectionHint", "7");
 }
 
 void TestDFPreferencesDialog::controlWritesItsKey()
@@ -210,61 +166,8 @@ void TestDFPreferencesDialog::controlWritesItsKey()
     QCOMPARE(stored(key), expected);
 }
 
-void TestDFPreferencesDialog::defaultRestoresAndKeeps_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("expected");
-    const QString threads = QString::number(std::max(2, QThread::idealThreadCount()));
-    QTest::newRow("removal method") << "Common/RemovealMethod"
-                                    << "0";
-    QTest::newRow("minimum size") << "Common/MinFileSize"
-                                  << "0";
-    QTest::newRow("maximum size") << "Common/MaxFileSize"
-                                  << "100000";
-    QTest::newRow("hidden files") << "Common/HideSystemFile"
-                                  << "true";
-    QTest::newRow("format mode") << "Common/ScanFileType"
-                                 << "0";
-    QTest::newRow("threads") << "Common/ThreadCount" << threads;
-    QTest::newRow("scan method") << "Duplicate_files/scanMethod"
-                                 << "0";
-    QTest::newRow("duplicate rule") << "Duplicate_files/selectDuplicate"
-                                    << "2";
-    QTest::newRow("folder groups") << "Duplicate_files/scanDupDirectory"
-                                   << "false";
-    QTest::newRow("similar on") << "Similar_images/hasSimilar"
-                                << "true";
-    QTest::newRow("similarity") << "Similar_images/SimilarityValue"
-                                << "55";
-    QTest::newRow("features") << "Similar_images/FeaturesValue"
-                              << "50";
-    QTest::newRow("select similar") << "Similar_images/selectedSimilar"
-                                    << "false";
-    QTest::newRow("similar rule") << "Similar_images/selectionHint"
-                                  << "2";
-    QTest::newRow("scan priority") << "Similar_images/scanPriority"
-                                   << "1";
-    QTest::newRow("ratio limit") << "Similar_images/imageMinSize"
-                                 << "4";
-    QTest::newRow("ratio filter") << "Similar_images/isImageSize"
-                                  << "true";
-    // What the user collected stays.
-    QTest::newRow("kept: ignore list") << "Common/IgnorePathFile"
-                                       << "/skip/me";
-    QTest::newRow("kept: formats") << "Common/IgnoreFileType"
-                                   << "tmp";
-    QTest::newRow("kept: move folder") << "Common/TrashFolder"
-                                       << "/srv/moved";
-    QTest::newRow("kept: algorithm") << "Similar_images/algorithmHint"
-                                     << "2";
-    QTest::newRow("kept: priorities") << "map/4"
-                                      << "/data/a";
-}
-
 void TestDFPreferencesDialog::defaultRestoresAndKeeps()
 {
-    QFETCH(QString, key);
-    QFETCH(QString, expected);
     DFIgnoreListPreferences *common = m_store->ignoreListPreferences();
     common->setRemovealMethod(DFIgnoreListPreferences::moveToFolder);
     common->setTrashFolder(QStringLiteral("/srv/moved"));
@@ -296,7 +199,21 @@ void TestDFPreferencesDialog::defaultRestoresAndKeeps()
     // Written at once, and the dialog stays open.
     run(QStringLiteral("btnDefault"));
     QVERIFY(m_dialog->isVisible());
-    QCOMPARE(stored(key), expected);
+    // Every setting is back at what a new store writes, except what the user collected.
+    const QString defaultsPath = m_dir.filePath(QStringLiteral("defaults.cfg"));
+    DFPreferences(defaultsPath).save();
+    const QSettings defaults(defaultsPath, QSettings::IniFormat);
+    const QSettings now(m_path, QSettings::IniFormat);
+    const QStringList kept {"Common/IgnorePathFile", "Common/IgnoreFileType", "Common/TrashFolder",
+        "Similar_images/algorithmHint"};
+    for (const QString &key : defaults.allKeys())
+        if (!kept.contains(key))
+            QVERIFY2(now.value(key) == defaults.value(key), qPrintable(key));
+    QCOMPARE(stored("Common/IgnorePathFile"), QStringLiteral("/skip/me"));
+    QCOMPARE(stored("Common/IgnoreFileType"), QStringLiteral("tmp"));
+    QCOMPARE(stored("Common/TrashFolder"), QStringLiteral("/srv/moved"));
+    QCOMPARE(stored("Similar_images/algorithmHint"), QStringLiteral("2"));
+    QCOMPARE(stored("map/4"), QStringLiteral("/data/a"));
 }
 
 void TestDFPreferencesDialog::cancelLeavesFileUntouched()
@@ -310,6 +227,13 @@ void TestDFPreferencesDialog::cancelLeavesFileUntouched()
     QVERIFY(m_store->selectionPreferences()->mapPriority().isEmpty());
 }
 
+static void refusalRow(const char *tag, const char *steps, bool scanRunning, const char *text,
+    const char *control, const char *shown)
+{
+    QTest::newRow(tag) << QString(steps) << scanRunning << QString(text) << QString(control)
+                       << QString(shown);
+}
+
 void TestDFPreferencesDialog::refusalKeepsEdits_data()
 {
     QTest::addColumn<QString>("steps");
@@ -318,38 +242,24 @@ void TestDFPreferencesDialog::refusalKeepsEdits_data()
     // The control whose edit must survive the refusal, and the value it must show.
     QTest::addColumn<QString>("control");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("minimum equal to maximum")
-        << "sbMinimumFileSize=1024;sbMaximumFileSize=1;btnOK" << false
-        << "The maximum file size cannot be less than the minimum file size."
-        << "sbMinimumFileSize"
-        << "1024";
-    QTest::newRow("empty move folder")
-        << "sbMinimumFileSize=1023;sbMaximumFileSize=1;rbMoveToFolder;btnOK" << false
-        << "Please select the folder where the deleted files will be moved to."
-        << "sbMinimumFileSize"
-        << "1023";
-    QTest::newRow("folder added twice")
-        << "folder:/data/a;folder:/data/a" << false << "The folder has been added."
-        << "cell:0"
-        << "1";
-    QTest::newRow("priority not a number")
-        << "folder:/data/a;cell:0=abc" << false << "abc is not a number."
-        << "cell:0"
-        << "1";
-    QTest::newRow("priority of another folder")
-        << "folder:/data/a;folder:/data/b;cell:1=1" << false << "1 is added."
-        << "cell:1"
-        << "2";
-    QTest::newRow("OK during a scan")
-        << "hsSimilarity=90;btnOK" << true
-        << "You cannot change settings of preferences while the scan is in progress."
-        << "hsSimilarity"
-        << "90";
-    QTest::newRow("Default during a scan")
-        << "hsSimilarity=90;btnDefault" << true
-        << "You cannot change settings of preferences while the scan is in progress."
-        << "hsSimilarity"
-        << "90";
+    const char *duringScan
+        = "You cannot change settings of preferences while the scan is in progress.";
+    refusalRow("minimum equal to maximum", "sbMinimumFileSize=1024;sbMaximumFileSize=1;btnOK",
+        false, "The maximum file size cannot be less than the minimum file size.",
+        "sbMinimumFileSize", "1024");
+    refusalRow("empty move folder",
+        "sbMinimumFileSize=1023;sbMaximumFileSize=1;rbMoveToFolder;btnOK", false,
+        "Please select the folder where the deleted files will be moved to.", "sbMinimumFileSize",
+        "1023");
+    refusalRow("folder added twice", "folder:/data/a;folder:/data/a", false,
+        "The folder has been added.", "cell:0", "1");
+    refusalRow("priority not a number", "folder:/data/a;cell:0=abc", false, "abc is not a number.",
+        "cell:0", "1");
+    refusalRow("priority of another folder", "folder:/data/a;folder:/data/b;cell:1=1", false,
+        "1 is added.", "cell:1", "2");
+    refusalRow("OK during a scan", "hsSimilarity=90;btnOK", true, duringScan, "hsSimilarity", "90");
+    refusalRow("Default during a scan", "hsSimilarity=90;btnDefault", true, duringScan,
+        "hsSimilarity", "90");
 }
 
 void TestDFPreferencesDialog::refusalKeepsEdits()

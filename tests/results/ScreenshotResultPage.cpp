@@ -7,6 +7,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
@@ -68,21 +69,11 @@ QByteArray photo(int seed, int width = 1200, int height = 800)
     return bytes;
 }
 
-QString write(const QString &root, const QString &relative, const QByteArray &data)
-{
-    const QString path = QDir(root).filePath(relative);
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(data);
-    return path;
-}
-
 void group(const QString &root, const QStringList &relatives, const QByteArray &data)
 {
     QStringList paths;
     for (const QString &relative : relatives)
-        paths << write(root, relative, data);
+        paths << ScanTree::write(root, relative, data);
     TFileData::instance()->insertGroup(TFileData::groupKey(paths.first()), paths);
 }
 
@@ -104,7 +95,7 @@ void fillResults(const QString &root)
     // Near matches of one photo, as the picture comparison tags them.
     QStringList similar;
     for (int i = 0; i < 3; ++i)
-        similar << write(root, QStringLiteral("Pictures/Edits/sunset-%1.jpg").arg(i),
+        similar << ScanTree::write(root, QStringLiteral("Pictures/Edits/sunset-%1.jpg").arg(i),
                        photo(40, 1200 - i * 200, 800 - i * 130))
                 + kSimilarTag + QStringLiteral("_%1").arg(100 - i * 7);
     TFileData::instance()->insertGroup(TFileData::groupKey(similar.first()) + kSimilarTag, similar);
@@ -246,10 +237,8 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    const QString out = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath();
-    QFile style(QStringLiteral(":resource/Style.qss"));
-    if (style.open(QIODevice::ReadOnly))
-        app.setStyleSheet(QString::fromUtf8(style.readAll()));
+    const QString out = outputFolder(argc, argv);
+    useProgramStyle(app);
     QTemporaryDir root;
     useLanguage(1);
     for (const QSize &size : kSizes)

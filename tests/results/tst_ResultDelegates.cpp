@@ -20,7 +20,6 @@ private slots:
     void iconClick();
     void checkBoxToggles();
     void doubleClickIsSwallowed();
-    void pressedIconShrinks();
     void listDeleteHitArea_data();
     void listDeleteHitArea();
 
@@ -134,17 +133,6 @@ void tst_ResultDelegates::doubleClickIsSwallowed()
     // However the events of a double click arrive, the box toggles at most once.
     QVERIFY(selected.count() <= 1);
     QCOMPARE(m_model->index(2, 0).data(Qt::CheckStateRole).toInt(), selected.count() ? 2 : 0);
-}
-
-void tst_ResultDelegates::pressedIconShrinks()
-{
-    const QRect cell(100, 40, 100, 30);
-    const QRect normal = m_delegate->iconRect(cell, false);
-    const QRect pressed = m_delegate->iconRect(cell, true);
-    QCOMPARE(normal.size(), QSize(20, 20));
-    QCOMPARE(pressed.size(), QSize(18, 18));
-    QCOMPARE(normal.center(), cell.center());
-    QVERIFY(qAbs(pressed.center().x() - cell.center().x()) <= 1);
 }
 
 void tst_ResultDelegates::listDeleteHitArea_data()

@@ -7,7 +7,6 @@
 #include "results/TImageModel.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QRandomGenerator>
 #include <QScrollBar>
@@ -39,7 +38,6 @@ private:
     ImageItem item(const QString &name, int similarity = 0) const;
     QList<ImageItem> slowItems(int count) const;
     void show(const QList<ImageItem> &items);
-    static void waitLoaded(PicturePreviewPane *pane);
     static QString detail(PicturePreviewPane *pane, const char *name);
 
     QTemporaryDir *m_dir = nullptr;
@@ -90,11 +88,6 @@ void tst_TImageListView::show(const QList<ImageItem> &items)
     m_view->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_view));
     m_view->setCurrentIndex(m_model->index(0, 0));
-}
-
-void tst_TImageListView::waitLoaded(PicturePreviewPane *pane)
-{
-    QTRY_VERIFY(!pane->isLoading());
 }
 
 QString tst_TImageListView::detail(PicturePreviewPane *pane, const char *name)
@@ -197,11 +190,11 @@ void tst_TImageListView::enterOpensSideBySidePreview()
     PicturePreviewDialog *preview = m_view->preview();
     QVERIFY(preview);
     QVERIFY(QTest::qWaitForWindowExposed(preview));
-    waitLoaded(preview->chosenPane());
+    QTRY_VERIFY(!preview->chosenPane()->isLoading());
     QCOMPARE(detail(preview->chosenPane(), "lab_previewResolution"), chosenResolution);
     QVERIFY(preview->chosenPane()->canvas()->hasPicture());
     for (const QString &resolution : otherResolutions) {
-        waitLoaded(preview->otherPane());
+        QTRY_VERIFY(!preview->otherPane()->isLoading());
         QCOMPARE(detail(preview->otherPane(), "lab_previewResolution"), resolution);
         QVERIFY(preview->otherRow() != start);
         QTest::keyClick(preview, Qt::Key_Right);
@@ -250,7 +243,7 @@ void tst_TImageListView::previewOfFilesWithoutPicture()
     show({item(name), item(QStringLiteral("a.png"))});
     m_view->openPreview(m_model->index(0, 0));
     PicturePreviewPane *pane = m_view->preview()->chosenPane();
-    waitLoaded(pane);
+    QTRY_VERIFY(!pane->isLoading());
     QVERIFY(!pane->canvas()->hasPicture());
     QCOMPARE(pane->canvas()->message(), message);
     QCOMPARE(detail(pane, "lab_previewResolution"), resolution);
@@ -363,13 +356,11 @@ void tst_TImageListView::repaintDoesNotWaitForLoads()
     QTRY_VERIFY(
         m_model->hasThumbnail(m_model->index(0, 0).data(TImageModel::FilePathRole).toString()));
     QTRY_COMPARE(m_model->pendingLoadCount(), 0);
-    // Loads left queued, as by a fast scroll, before the view cancels them.
+    // Loads left queued, as by a fast scroll, before the view cancels them. A repaint that
+    // waited for them would find the queue drained when it returns.
     for (int row = 0; row < 200; ++row)
         m_model->data(m_model->index(row, 0), TImageModel::ThumbnailRole);
-    QElapsedTimer clock;
-    clock.start();
     m_view->viewport()->repaint();
-    QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
     QVERIFY(m_model->pendingLoadCount() > 100);
 }
 

@@ -5,10 +5,9 @@
 #include <QTcpSocket>
 
 // A minimal HTTP receiver on 127.0.0.1 that records every request and answers each
-// with a fixed status.
-class EnvelopeReceiver : public QObject
+// with a fixed status: the crash reports' and the daily run report's far end.
+class HttpReceiver : public QObject
 {
-    Q_OBJECT
 public:
     struct Request
     {
@@ -16,7 +15,7 @@ public:
         QByteArray body;
     };
 
-    explicit EnvelopeReceiver(int status = 200) : m_status(status)
+    explicit HttpReceiver(int status = 200) : m_status(status)
     {
         m_server.listen(QHostAddress::LocalHost);
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
@@ -46,8 +45,10 @@ private:
             return;
         requests.append({head, buffer.mid(end + 4, length)});
         m_buffers.remove(socket);
-        socket->write("HTTP/1.1 " + QByteArray::number(m_status)
-            + " X\r\nContent-Length: 2\r\nConnection: close\r\n\r\n{}");
+        // 204 carries no body.
+        const QByteArray body = m_status == 204 ? QByteArray() : QByteArray("{}");
+        socket->write("HTTP/1.1 " + QByteArray::number(m_status) + " X\r\nContent-Length: "
+            + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body);
         socket->disconnectFromHost();
     }
 
