@@ -218,6 +218,13 @@ void KvCloudObject::set_common_config(const QJsonObject &config)
     const bool ignoreGoverns = config.value(QStringLiteral("ScanFileType")).toInt(0) == 1;
     m_onlyTypes = ignoreGoverns ? QStringList() : list("OnlyFileType");
     m_ignoreTypes = ignoreGoverns ? list("IgnoreFileType") : QStringList();
+    // The result page enters an ignored cloud file as "account:name:remote:path".
+    m_ignoredFiles.clear();
+    for (const QJsonValue &value : config.value(QLatin1String("IgnorePathFile")).toArray()) {
+        const QString entry = value.toString();
+        if (entry.count(QLatin1Char(':')) >= 3)
+            m_ignoredFiles.insert(entry.section(QLatin1Char(':'), 2));
+    }
 }
 
 void KvCloudObject::set_similar_config(const QJsonObject &config)
@@ -329,6 +336,9 @@ void KvCloudObject::addEntry(quint16 folder, int hashType, const QJsonObject &en
     const QString relative = entry.value(QLatin1String("Path")).toString();
     const qint64 size = entry.value(QLatin1String("Size")).toInteger(-1);
     if (!accepted(relative, size))
+        return;
+    if (!m_ignoredFiles.isEmpty()
+        && m_ignoredFiles.contains(CloudPath::join(m_folders.at(folder), relative)))
         return;
     ListedFile file;
     file.relativePath = m_paths.add(relative.toUtf8());

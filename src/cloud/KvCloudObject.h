@@ -18,6 +18,7 @@
 #include <QList>
 #include <QObject>
 #include <QReadWriteLock>
+#include <QSet>
 #include <QStringList>
 #include <QTimer>
 
@@ -164,6 +165,7 @@ private:
     bool m_skipHidden = true;
     QStringList m_onlyTypes;
     QStringList m_ignoreTypes;
+    QSet<QString> m_ignoredFiles;
 
     QStringList m_folders;
     int m_folderIndex = 0;

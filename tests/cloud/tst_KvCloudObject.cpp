@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <QJsonArray>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -139,6 +140,28 @@ private slots:
             QCOMPARE(QDateTime::fromString(cloud.getCFP(member, "createdTime"), Qt::ISODateWithMs),
                 file.lastModified().toUTC());
         }
+    }
+
+    void nestedFoldersAndIgnoredFiles()
+    {
+        // A folder chosen inside another is listed once (its files are no copies of
+        // themselves), and a file the user ignored stays out.
+        QTemporaryDir root;
+        writeTree(root.path(), {"a=x:900", "p/b=x:900", "p/c=x:900"});
+        KvCloudObject cloud;
+        cloud.initialization(m_data.path());
+        const QString top = folder(root.path());
+        cloud.set_common_config(
+            {{"IgnorePathFile", QJsonArray {QStringLiteral("here:c:%1/p/c").arg(top)}}});
+        QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
+        QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
+        cloud.start_traversal_files({top + "/p/", top}, 20);
+        QVERIFY(done.wait(20000));
+        const Groups groups = found.last().first().value<Groups>();
+        QCOMPARE(groups.size(), 1);
+        QStringList members = groups.begin().value();
+        members.sort();
+        QCOMPARE(members, QStringList({top + "/a", top + "/p/b"}));
     }
 
     void foldersListedOneLevelAtATime()
