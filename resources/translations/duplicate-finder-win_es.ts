@@ -17,48 +17,49 @@
 <context>
     <name>DFIgnoreListWidget</name>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="158"/>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="199"/>
         <source>Error</source>
         <translation>Error</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="192"/>
         <source>The maximum file size cannot be less than the minimum file size.</source>
         <translation>El tamaño máximo de archivo no puede ser menor que el tamaño mínimo.</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="167"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="200"/>
         <source>Please select the folder where the deleted files will be moved to.</source>
         <translation>Seleccione la carpeta a la que se moverán los archivos eliminados.</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="221"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="254"/>
         <source>Select folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="231"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="264"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="239"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="272"/>
         <source>All Files (*.*)</source>
         <translation>Todos los archivos (*.*)</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="242"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="275"/>
         <source>All Files (*)</source>
         <translation>Todos los archivos (*)</translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="245"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="278"/>
         <source>Select Files</source>
         <translation>Seleccionar archivos</translation>
     </message>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="98"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="112"/>
         <source>Clear cache</source>
         <translation>Vaciar caché</translation>
     </message>
@@ -345,124 +346,129 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="334"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
         <source>Files scanned</source>
         <translation>Archivos analizados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Duplicates found</source>
         <translation>Duplicados encontrados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="336"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Size of duplicates</source>
         <translation>Tamaño de los duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="337"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Progress</source>
         <translation>Progreso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="338"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Elapsed time</source>
         <translation>Tiempo transcurrido</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="386"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
         <source>Local Computer</source>
         <translation>Equipo local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="409"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <source>%1 (needs rclone)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
         <source>User Guide</source>
         <translation>Guía del usuario</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="410"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
         <source>Product FAQ</source>
         <translation>Preguntas frecuentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="411"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
         <source>Feedback and Support</source>
         <translation>Comentarios y soporte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="412"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Check for Updates</source>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="413"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1141"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1161"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
         <source>Show Log in Explorer</source>
         <translation>Mostrar registro en el explorador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Show Results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="470"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
         <source>Scan</source>
         <translation>Analizar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="483"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
         <source>Stop</source>
         <translation>Detener</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="491"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="497"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
         <source>New Scan</source>
         <translation>Nuevo análisis</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="502"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
         <source>Show results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>«%1» es un archivo, no una carpeta. Solo se pueden analizar carpetas: añada en su lugar la carpeta que lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="563"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>No se encontró «%1». Puede que se haya movido o eliminado.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="566"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>No se añadió %n elemento porque no es una carpeta:</numerusform>
@@ -470,18 +476,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="568"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="618"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="635"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="701"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1108"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1227"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="589"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n carpeta añadida</numerusform>
@@ -489,28 +494,66 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="619"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="702"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Después de añadir cuentas y carpetas en la nube, ya no se pueden añadir carpetas locales.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="623"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="636"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <source>info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Después de añadir carpetas locales, ya no se pueden añadir cuentas en la nube.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="840"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <source>Multiple cloud accounts cannot be scanned at the same time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <source>Sign-in Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <source>The cloud account could not be signed in.
+
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <source>Insufficient System Disk Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
         <source>%1 and %2 could not be read.</source>
         <translation>No se pudieron leer %1 y %2.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n carpeta</numerusform>
@@ -518,7 +561,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n archivo</numerusform>
@@ -526,7 +569,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="843"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>No se pudo leer %n carpeta.</numerusform>
@@ -534,7 +577,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="845"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>No se pudo leer %n archivo.</numerusform>
@@ -542,27 +585,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="866"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
         <source>Folders that could not be read</source>
         <translation>Carpetas que no se pudieron leer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
         <source>Files that could not be read</source>
         <translation>Archivos que no se pudieron leer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Enlaces no seguidos porque llevan fuera de las carpetas elegidas</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="870"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
         <source>System folders not entered</source>
         <translation>Carpetas del sistema no exploradas</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>No se siguió %n enlace que lleva fuera de las carpetas elegidas.</numerusform>
@@ -570,96 +613,111 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="885"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
         <source>Details</source>
         <translation>Detalles</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="894"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>The chosen folder could not be read.</source>
         <translation>No se pudo leer la carpeta elegida.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="895"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
         <source>The chosen folders could not be read.</source>
         <translation>No se pudieron leer las carpetas elegidas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="897"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Compruebe que todavía existe y que tiene permiso para abrirla.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="898"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Compruebe que todavía existen y que tiene permiso para abrirlas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="917"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1015"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1068"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
         <source>Open File</source>
         <translation>Abrir archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="918"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>«%1» es una carpeta, no un archivo de proyecto. Para analizarla, añádala con el botón +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>El archivo de proyecto «%1» no existe.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1028"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1067"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <source>Cloud Scan Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <source>The cloud scan could not be completed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
         <source>Save File</source>
         <translation>Guardar archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Los resultados del análisis de la nube no se pueden guardar.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1109"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1228"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Los resultados del análisis actual no se han guardado. ¿Desea guardar el archivo?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1142"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versión %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1162"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>El nuevo idioma se aplicará la próxima vez que se inicie el programa.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1217"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Se detectó un cierre anómalo durante la última eliminación</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1212"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Elementos procesados antes de la interrupción: %1 de %2.&lt;br&gt;El registro de eliminaciones indica cada uno y adónde fue:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1203"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Open Data Folder</source>
         <translation>Abrir carpeta de datos</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
         <source>Error</source>
         <translation>Error</translation>
     </message>
@@ -899,55 +957,55 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="225"/>
-        <location filename="../../src/results/ResultForm.cpp" line="590"/>
+        <location filename="../../src/results/ResultForm.cpp" line="619"/>
         <source>All</source>
         <translation>Todos</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="238"/>
         <location filename="../../src/results/ResultForm.ui" line="716"/>
-        <location filename="../../src/results/ResultForm.cpp" line="72"/>
+        <location filename="../../src/results/ResultForm.cpp" line="73"/>
         <source>Images</source>
         <translation>Imágenes</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="251"/>
         <location filename="../../src/results/ResultForm.ui" line="759"/>
-        <location filename="../../src/results/ResultForm.cpp" line="74"/>
+        <location filename="../../src/results/ResultForm.cpp" line="75"/>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="264"/>
         <location filename="../../src/results/ResultForm.ui" line="802"/>
-        <location filename="../../src/results/ResultForm.cpp" line="76"/>
+        <location filename="../../src/results/ResultForm.cpp" line="77"/>
         <source>Music</source>
         <translation>Música</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="277"/>
         <location filename="../../src/results/ResultForm.ui" line="845"/>
-        <location filename="../../src/results/ResultForm.cpp" line="78"/>
+        <location filename="../../src/results/ResultForm.cpp" line="79"/>
         <source>Videos</source>
         <translation>Vídeos</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="290"/>
         <location filename="../../src/results/ResultForm.ui" line="888"/>
-        <location filename="../../src/results/ResultForm.cpp" line="80"/>
+        <location filename="../../src/results/ResultForm.cpp" line="81"/>
         <source>Folders</source>
         <translation>Carpetas</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="303"/>
-        <location filename="../../src/results/ResultForm.cpp" line="82"/>
+        <location filename="../../src/results/ResultForm.cpp" line="83"/>
         <source>Packages</source>
         <translation>Paquetes</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="316"/>
         <location filename="../../src/results/ResultForm.ui" line="931"/>
-        <location filename="../../src/results/ResultForm.cpp" line="84"/>
+        <location filename="../../src/results/ResultForm.cpp" line="85"/>
         <source>Others</source>
         <translation>Otros</translation>
     </message>
@@ -1007,120 +1065,120 @@
         <translation>Eliminar seleccionados</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="124"/>
+        <location filename="../../src/results/ResultForm.cpp" line="125"/>
         <source>If it keeps happening, write to &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</source>
         <translation>Si el problema persiste, escriba a &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="127"/>
+        <location filename="../../src/results/ResultForm.cpp" line="128"/>
         <source>If it keeps happening, please send us the log files from &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</source>
         <translation>Si el problema persiste, envíenos los archivos de registro de &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="304"/>
+        <location filename="../../src/results/ResultForm.cpp" line="332"/>
         <source>Select by Filename</source>
         <translation>Seleccionar por nombre de archivo</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="305"/>
+        <location filename="../../src/results/ResultForm.cpp" line="333"/>
         <source>Select by Priority</source>
         <translation>Seleccionar por prioridad</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="306"/>
+        <location filename="../../src/results/ResultForm.cpp" line="334"/>
         <source>Select Newest</source>
         <translation>Seleccionar los más recientes</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="307"/>
+        <location filename="../../src/results/ResultForm.cpp" line="335"/>
         <source>Select Oldest</source>
         <translation>Seleccionar los más antiguos</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="308"/>
+        <location filename="../../src/results/ResultForm.cpp" line="336"/>
         <source>Select high-quality</source>
         <translation>Seleccionar alta calidad</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="309"/>
+        <location filename="../../src/results/ResultForm.cpp" line="337"/>
         <source>Select low-quality</source>
         <translation>Seleccionar baja calidad</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="310"/>
+        <location filename="../../src/results/ResultForm.cpp" line="338"/>
         <source>Select high-resolution</source>
         <translation>Seleccionar alta resolución</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="311"/>
+        <location filename="../../src/results/ResultForm.cpp" line="339"/>
         <source>Select low-resolution</source>
         <translation>Seleccionar baja resolución</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="312"/>
+        <location filename="../../src/results/ResultForm.cpp" line="340"/>
         <source>Select All</source>
         <translation>Seleccionar todo</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="313"/>
+        <location filename="../../src/results/ResultForm.cpp" line="341"/>
         <source>Deselect</source>
         <translation>Anular selección</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="330"/>
+        <location filename="../../src/results/ResultForm.cpp" line="358"/>
         <source>Show Only Duplicate Files</source>
         <translation>Mostrar solo archivos duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="331"/>
+        <location filename="../../src/results/ResultForm.cpp" line="359"/>
         <source>Show Only Selected Files</source>
         <translation>Mostrar solo archivos seleccionados</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="332"/>
+        <location filename="../../src/results/ResultForm.cpp" line="360"/>
         <source>Show All Files</source>
         <translation>Mostrar todos los archivos</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="352"/>
+        <location filename="../../src/results/ResultForm.cpp" line="380"/>
         <source>Similarity</source>
         <translation>Similitud</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="386"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1598"/>
+        <location filename="../../src/results/ResultForm.cpp" line="414"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
         <source>Move to Recycle Bin</source>
         <translation>Mover a la Papelera de reciclaje</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="387"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1599"/>
+        <location filename="../../src/results/ResultForm.cpp" line="415"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
         <source>Remove permanently</source>
         <translation>Eliminar permanentemente</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="388"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1600"/>
+        <location filename="../../src/results/ResultForm.cpp" line="416"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Folder</source>
         <translation>Mover a una carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="423"/>
+        <location filename="../../src/results/ResultForm.cpp" line="451"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <location filename="../../src/results/ResultForm.cpp" line="502"/>
         <source>Loading Data</source>
         <translation>Cargando datos</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <location filename="../../src/results/ResultForm.cpp" line="502"/>
         <source>Data is still loading, please wait...</source>
         <translation>Los datos aún se están cargando; espere...</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/results/ResultForm.cpp" line="606"/>
+        <location filename="../../src/results/ResultForm.cpp" line="635"/>
         <source>%n group(s)</source>
         <translation>
             <numerusform>%n grupo</numerusform>
@@ -1128,17 +1186,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="608"/>
+        <location filename="../../src/results/ResultForm.cpp" line="637"/>
         <source>loading…</source>
         <translation>cargando…</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="812"/>
+        <location filename="../../src/results/ResultForm.cpp" line="841"/>
         <source>%1% similar</source>
         <translation>%1&#xa0;% de similitud</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/results/ResultForm.cpp" line="824"/>
+        <location filename="../../src/results/ResultForm.cpp" line="853"/>
         <source>%1 · %n copies · %2</source>
         <translation>
             <numerusform>%1 · %n copia · %2</numerusform>
@@ -1146,95 +1204,99 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="938"/>
+        <location filename="../../src/results/ResultForm.cpp" line="972"/>
         <source>Ignore Group</source>
         <translation>Ignorar grupo</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="940"/>
+        <location filename="../../src/results/ResultForm.cpp" line="974"/>
         <source>Remove Selected Files of This Group</source>
         <translation>Eliminar los archivos seleccionados de este grupo</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="956"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <location filename="../../src/results/ResultForm.cpp" line="990"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1050"/>
         <source>Show in Folder</source>
         <translation>Mostrar en la carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="957"/>
+        <location filename="../../src/results/ResultForm.cpp" line="991"/>
         <source>Hide from Results</source>
         <translation>Ocultar de los resultados</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="959"/>
+        <location filename="../../src/results/ResultForm.cpp" line="993"/>
         <source>Remove This File</source>
         <translation>Eliminar este archivo</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1041"/>
         <source>Open Link Failed</source>
         <translation>No se pudo abrir el enlace</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1041"/>
         <source>Failed to get the web link for the file.</source>
         <translation>No se pudo obtener el enlace web del archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1413"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1050"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1456"/>
         <source>The file was not found.</source>
         <translation>No se encontró el archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1069"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1252"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1106"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1292"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Delete Failed</source>
         <translation>Error al eliminar</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1070"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1107"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
         <source>Failed to delete the file: %1</source>
         <translation>No se pudo eliminar el archivo: %1</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1166"/>
         <source>No selected</source>
         <translation>Sin selección</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1166"/>
         <source>The current group has no selected files.</source>
         <translation>El grupo actual no tiene archivos seleccionados.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1173"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1207"/>
         <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
         <translation>Los archivos seleccionados se moverán a la papelera de la unidad en la nube; los que sean demasiado grandes podrían eliminarse permanentemente. ¿Seguro que desea eliminarlos?</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1177"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1211"/>
         <source>The selected files will be permanently deleted, are you sure to delete?</source>
         <translation>Los archivos seleccionados se eliminarán permanentemente. ¿Seguro que desea eliminarlos?</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1179"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1213"/>
         <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
         <translation>Los archivos seleccionados se moverán a la Papelera de reciclaje; los que sean demasiado grandes podrían eliminarse permanentemente. ¿Seguro que desea eliminarlos?</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1256"/>
         <source>Warning</source>
         <translation>Advertencia</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1256"/>
         <source>No Selected Files!</source>
         <translation>¡No hay archivos seleccionados!</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1231"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1271"/>
         <source>In some groups every copy is selected, so nothing of them would be kept.
 
 Remove every copy of those files too? With &quot;No&quot; one copy of each stays.</source>
@@ -1243,92 +1305,109 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 ¿Eliminar también todas las copias de esos archivos? Con «No» se conserva una copia de cada uno.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1253"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1293"/>
         <source>Nothing was removed: the removal record %1 cannot be written (%2).</source>
         <translation>No se eliminó nada: no se puede escribir el registro de eliminaciones %1 (%2).</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1266"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1306"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
         <source>Removing files</source>
         <translation>Eliminando archivos</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1268"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1308"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing the selected files…</source>
         <translation>Eliminando los archivos seleccionados…</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1345"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1385"/>
         <source>the removal record cannot be written: %1</source>
         <translation>no se puede escribir el registro de eliminaciones: %1</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1401"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1440"/>
+        <source>The cloud service did not remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1444"/>
         <source>The file changed after the scan.</source>
         <translation>El archivo cambió después del análisis.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1403"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1446"/>
         <source>No other copy of it would be left.</source>
         <translation>No quedaría ninguna otra copia.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1405"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1448"/>
         <source>Its content no longer matches the copy that stays.</source>
         <translation>Su contenido ya no coincide con la copia que se conserva.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1407"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1450"/>
         <source>Not everything in it has a copy in the folder that stays.</source>
         <translation>No todo su contenido tiene copia en la carpeta que se conserva.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1409"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1452"/>
         <source>Every copy of its group was selected; this one stays.</source>
         <translation>Se seleccionaron todas las copias del grupo; esta se conserva.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1416"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1459"/>
         <source>The item is not a file.</source>
         <translation>El elemento no es un archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1418"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1461"/>
         <source>The item is not a directory.</source>
         <translation>El elemento no es una carpeta.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1420"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1463"/>
         <source>Failed to move the file.</source>
         <translation>No se pudo mover el archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1426"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1469"/>
         <source>Permission denied. Please check the file&apos;s access rights.</source>
         <translation>Permiso denegado. Compruebe los permisos de acceso del archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1428"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1471"/>
         <source>The file is currently in use and cannot be deleted.</source>
         <translation>El archivo está en uso y no se puede eliminar.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1430"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1473"/>
         <source>Failed to move the file to the recycle bin.</source>
         <translation>No se pudo mover el archivo a la Papelera de reciclaje.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1433"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1476"/>
         <source>An unknown error occurred while deleting the file.</source>
         <translation>Se produjo un error desconocido al eliminar el archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1526"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <source>Nothing was removed: every selected file is the last copy of its group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <source>Failed to delete the files. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
         <source>Incomplete scan</source>
         <translation>Análisis incompleto</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1527"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Este análisis no pudo completar la comparación de imágenes por falta de &lt;br&gt;memoria y espacio en disco. Elimine archivos duplicados&lt;br&gt;o seleccione menos carpetas e inténtelo de nuevo. Asegúrese de disponer de al menos &lt;br&gt;1 GB de memoria y 1 GB de espacio libre en la unidad del sistema. &lt;br&gt;</translation>
     </message>
@@ -1440,6 +1519,47 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     </message>
 </context>
 <context>
+    <name>TCloudFolderDialog</name>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <source>Select Folder</source>
+        <translation type="unfinished">Seleccionar carpeta</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <source>Add</source>
+        <translation type="unfinished">Añadir</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <source>Network Request Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <source>The network request failed. Please log in again to re-authorize your account.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <source>Loading folders…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <source>%n folder(s) chosen</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TImageItemDelegate</name>
     <message>
         <location filename="../../src/results/TImageItemDelegate.cpp" line="204"/>
@@ -1466,22 +1586,22 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         </translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <location filename="../../src/results/TImageModel.cpp" line="149"/>
         <source>File</source>
         <translation>Archivo</translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <location filename="../../src/results/TImageModel.cpp" line="149"/>
         <source>Name</source>
         <translation>Nombre</translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="168"/>
+        <location filename="../../src/results/TImageModel.cpp" line="151"/>
         <source>Size</source>
         <translation>Tamaño</translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="170"/>
+        <location filename="../../src/results/TImageModel.cpp" line="153"/>
         <source>Modified</source>
         <translation>Modificado</translation>
     </message>
@@ -1532,32 +1652,32 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 <context>
     <name>TPieChart</name>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="194"/>
+        <location filename="../../src/results/TPieChart.cpp" line="189"/>
         <source>Images</source>
         <translation>Imágenes</translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="196"/>
+        <location filename="../../src/results/TPieChart.cpp" line="191"/>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="198"/>
+        <location filename="../../src/results/TPieChart.cpp" line="193"/>
         <source>Musics</source>
         <translation>Música</translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="200"/>
+        <location filename="../../src/results/TPieChart.cpp" line="195"/>
         <source>Videos</source>
         <translation>Vídeos</translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="202"/>
+        <location filename="../../src/results/TPieChart.cpp" line="197"/>
         <source>Folder</source>
         <translation>Carpetas</translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="204"/>
+        <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>Otros</translation>
     </message>

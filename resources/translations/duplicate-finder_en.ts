@@ -17,48 +17,49 @@
 <context>
     <name>DFIgnoreListWidget</name>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="158"/>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="166"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="199"/>
         <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="159"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="192"/>
         <source>The maximum file size cannot be less than the minimum file size.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="167"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="200"/>
         <source>Please select the folder where the deleted files will be moved to.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="221"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="254"/>
         <source>Select folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="231"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="264"/>
         <source>Select Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="239"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="272"/>
         <source>All Files (*.*)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="242"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="275"/>
         <source>All Files (*)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="245"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="278"/>
         <source>Select Files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="98"/>
+        <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="112"/>
         <source>Clear cache</source>
         <translation type="unfinished"></translation>
     </message>
@@ -345,124 +346,129 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="334"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
         <source>Files scanned</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="335"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Duplicates found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="336"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Size of duplicates</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="337"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Progress</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="338"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Elapsed time</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="386"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
         <source>Local Computer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="409"/>
-        <source>User Guide</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="410"/>
-        <source>Product FAQ</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="411"/>
-        <source>Feedback and Support</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="412"/>
-        <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="413"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1141"/>
-        <source>About</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1161"/>
-        <source>Language</source>
+        <source>%1 (needs rclone)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
-        <source>Show Log in Explorer</source>
+        <source>User Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <source>Product FAQ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
+        <source>Feedback and Support</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
-        <source>Open Project</source>
+        <source>Check for Updates</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
-        <source>Save Project</source>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
+        <source>About</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
+        <source>Show Log in Explorer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
+        <source>Open Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
+        <source>Save Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Show Results</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="470"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
         <source>Scan</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="483"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
         <source>Stop</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="491"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
         <source>Continue</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="497"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
         <source>New Scan</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="502"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
         <source>Show results</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="559"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="563"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="566"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>%n item was not added because it is not a folder:</numerusform>
@@ -470,18 +476,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="568"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="618"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="635"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="701"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1108"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1227"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
         <source>Note</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="589"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n folder added</numerusform>
@@ -489,28 +494,66 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="619"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="702"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="623"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
         <source>Select Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="636"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <source>info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="840"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <source>Multiple cloud accounts cannot be scanned at the same time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <source>Sign-in Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <source>The cloud account could not be signed in.
+
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <source>Insufficient System Disk Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
         <source>%1 and %2 could not be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n folder</numerusform>
@@ -518,7 +561,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="841"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n file</numerusform>
@@ -526,7 +569,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="843"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>%n folder could not be read.</numerusform>
@@ -534,7 +577,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="845"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>%n file could not be read.</numerusform>
@@ -542,27 +585,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="866"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
         <source>Folders that could not be read</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="867"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
         <source>Files that could not be read</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="868"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="870"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
         <source>System folders not entered</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="878"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>%n link leading outside the chosen folders was not followed.</numerusform>
@@ -570,96 +613,111 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="885"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
         <source>Details</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="894"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>The chosen folder could not be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="895"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
         <source>The chosen folders could not be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="897"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="898"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="917"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1015"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1068"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
         <source>Open File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="918"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="921"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1028"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1067"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <source>Cloud Scan Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <source>The cloud scan could not be completed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
         <source>Save File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1081"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1109"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1228"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1142"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1162"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1217"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1212"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1203"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Open Data Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="791"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
         <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
@@ -899,55 +957,55 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="225"/>
-        <location filename="../../src/results/ResultForm.cpp" line="590"/>
+        <location filename="../../src/results/ResultForm.cpp" line="619"/>
         <source>All</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="238"/>
         <location filename="../../src/results/ResultForm.ui" line="716"/>
-        <location filename="../../src/results/ResultForm.cpp" line="72"/>
+        <location filename="../../src/results/ResultForm.cpp" line="73"/>
         <source>Images</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="251"/>
         <location filename="../../src/results/ResultForm.ui" line="759"/>
-        <location filename="../../src/results/ResultForm.cpp" line="74"/>
+        <location filename="../../src/results/ResultForm.cpp" line="75"/>
         <source>Documents</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="264"/>
         <location filename="../../src/results/ResultForm.ui" line="802"/>
-        <location filename="../../src/results/ResultForm.cpp" line="76"/>
+        <location filename="../../src/results/ResultForm.cpp" line="77"/>
         <source>Music</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="277"/>
         <location filename="../../src/results/ResultForm.ui" line="845"/>
-        <location filename="../../src/results/ResultForm.cpp" line="78"/>
+        <location filename="../../src/results/ResultForm.cpp" line="79"/>
         <source>Videos</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="290"/>
         <location filename="../../src/results/ResultForm.ui" line="888"/>
-        <location filename="../../src/results/ResultForm.cpp" line="80"/>
+        <location filename="../../src/results/ResultForm.cpp" line="81"/>
         <source>Folders</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="303"/>
-        <location filename="../../src/results/ResultForm.cpp" line="82"/>
+        <location filename="../../src/results/ResultForm.cpp" line="83"/>
         <source>Packages</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="316"/>
         <location filename="../../src/results/ResultForm.ui" line="931"/>
-        <location filename="../../src/results/ResultForm.cpp" line="84"/>
+        <location filename="../../src/results/ResultForm.cpp" line="85"/>
         <source>Others</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1007,120 +1065,120 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="124"/>
+        <location filename="../../src/results/ResultForm.cpp" line="125"/>
         <source>If it keeps happening, write to &lt;a href=&quot;mailto:%1&quot;&gt;%1&lt;/a&gt;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="127"/>
+        <location filename="../../src/results/ResultForm.cpp" line="128"/>
         <source>If it keeps happening, please send us the log files from &lt;a href=&quot;%1&quot;&gt;%2&lt;/a&gt;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="304"/>
+        <location filename="../../src/results/ResultForm.cpp" line="332"/>
         <source>Select by Filename</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="305"/>
+        <location filename="../../src/results/ResultForm.cpp" line="333"/>
         <source>Select by Priority</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="306"/>
+        <location filename="../../src/results/ResultForm.cpp" line="334"/>
         <source>Select Newest</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="307"/>
+        <location filename="../../src/results/ResultForm.cpp" line="335"/>
         <source>Select Oldest</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="308"/>
+        <location filename="../../src/results/ResultForm.cpp" line="336"/>
         <source>Select high-quality</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="309"/>
+        <location filename="../../src/results/ResultForm.cpp" line="337"/>
         <source>Select low-quality</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="310"/>
+        <location filename="../../src/results/ResultForm.cpp" line="338"/>
         <source>Select high-resolution</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="311"/>
+        <location filename="../../src/results/ResultForm.cpp" line="339"/>
         <source>Select low-resolution</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="312"/>
+        <location filename="../../src/results/ResultForm.cpp" line="340"/>
         <source>Select All</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="313"/>
+        <location filename="../../src/results/ResultForm.cpp" line="341"/>
         <source>Deselect</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="330"/>
+        <location filename="../../src/results/ResultForm.cpp" line="358"/>
         <source>Show Only Duplicate Files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="331"/>
+        <location filename="../../src/results/ResultForm.cpp" line="359"/>
         <source>Show Only Selected Files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="332"/>
+        <location filename="../../src/results/ResultForm.cpp" line="360"/>
         <source>Show All Files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="352"/>
+        <location filename="../../src/results/ResultForm.cpp" line="380"/>
         <source>Similarity</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="386"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1598"/>
+        <location filename="../../src/results/ResultForm.cpp" line="414"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
         <source>Move to Recycle Bin</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="387"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1599"/>
+        <location filename="../../src/results/ResultForm.cpp" line="415"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
         <source>Remove permanently</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="388"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1600"/>
+        <location filename="../../src/results/ResultForm.cpp" line="416"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="423"/>
+        <location filename="../../src/results/ResultForm.cpp" line="451"/>
         <source>Select Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <location filename="../../src/results/ResultForm.cpp" line="502"/>
         <source>Loading Data</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="473"/>
+        <location filename="../../src/results/ResultForm.cpp" line="502"/>
         <source>Data is still loading, please wait...</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/results/ResultForm.cpp" line="606"/>
+        <location filename="../../src/results/ResultForm.cpp" line="635"/>
         <source>%n group(s)</source>
         <translation>
             <numerusform>%n group</numerusform>
@@ -1128,17 +1186,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="608"/>
+        <location filename="../../src/results/ResultForm.cpp" line="637"/>
         <source>loading…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="812"/>
+        <location filename="../../src/results/ResultForm.cpp" line="841"/>
         <source>%1% similar</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/results/ResultForm.cpp" line="824"/>
+        <location filename="../../src/results/ResultForm.cpp" line="853"/>
         <source>%1 · %n copies · %2</source>
         <translation>
             <numerusform>%1 · %n copy · %2</numerusform>
@@ -1146,187 +1204,208 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="938"/>
+        <location filename="../../src/results/ResultForm.cpp" line="972"/>
         <source>Ignore Group</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="940"/>
+        <location filename="../../src/results/ResultForm.cpp" line="974"/>
         <source>Remove Selected Files of This Group</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="956"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
+        <location filename="../../src/results/ResultForm.cpp" line="990"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1050"/>
         <source>Show in Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="957"/>
+        <location filename="../../src/results/ResultForm.cpp" line="991"/>
         <source>Hide from Results</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="959"/>
+        <location filename="../../src/results/ResultForm.cpp" line="993"/>
         <source>Remove This File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1041"/>
         <source>Open Link Failed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1008"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1041"/>
         <source>Failed to get the web link for the file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1017"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1413"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1050"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1456"/>
         <source>The file was not found.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1069"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1252"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1106"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1292"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Delete Failed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1070"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1107"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
         <source>Failed to delete the file: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1166"/>
         <source>No selected</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1134"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1166"/>
         <source>The current group has no selected files.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1173"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1207"/>
         <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1177"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1211"/>
         <source>The selected files will be permanently deleted, are you sure to delete?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1179"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1213"/>
         <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1256"/>
         <source>Warning</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1222"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1256"/>
         <source>No Selected Files!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1231"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1271"/>
         <source>In some groups every copy is selected, so nothing of them would be kept.
 
 Remove every copy of those files too? With &quot;No&quot; one copy of each stays.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1253"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1293"/>
         <source>Nothing was removed: the removal record %1 cannot be written (%2).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1266"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1306"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
         <source>Removing files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1268"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1308"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing the selected files…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1345"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1385"/>
         <source>the removal record cannot be written: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1401"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1440"/>
+        <source>The cloud service did not remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1444"/>
         <source>The file changed after the scan.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1403"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1446"/>
         <source>No other copy of it would be left.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1405"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1448"/>
         <source>Its content no longer matches the copy that stays.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1407"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1450"/>
         <source>Not everything in it has a copy in the folder that stays.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1409"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1452"/>
         <source>Every copy of its group was selected; this one stays.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1416"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1459"/>
         <source>The item is not a file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1418"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1461"/>
         <source>The item is not a directory.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1420"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1463"/>
         <source>Failed to move the file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1426"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1469"/>
         <source>Permission denied. Please check the file&apos;s access rights.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1428"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1471"/>
         <source>The file is currently in use and cannot be deleted.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1430"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1473"/>
         <source>Failed to move the file to the recycle bin.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1433"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1476"/>
         <source>An unknown error occurred while deleting the file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1526"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <source>Nothing was removed: every selected file is the last copy of its group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <source>Failed to delete the files. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
         <source>Incomplete scan</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1527"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1438,6 +1517,47 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     </message>
 </context>
 <context>
+    <name>TCloudFolderDialog</name>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <source>Select Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <source>Network Request Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <source>The network request failed. Please log in again to re-authorize your account.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <source>Loading folders…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <source>%n folder(s) chosen</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TImageItemDelegate</name>
     <message>
         <location filename="../../src/results/TImageItemDelegate.cpp" line="204"/>
@@ -1464,22 +1584,22 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         </translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <location filename="../../src/results/TImageModel.cpp" line="149"/>
         <source>File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="166"/>
+        <location filename="../../src/results/TImageModel.cpp" line="149"/>
         <source>Name</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="168"/>
+        <location filename="../../src/results/TImageModel.cpp" line="151"/>
         <source>Size</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TImageModel.cpp" line="170"/>
+        <location filename="../../src/results/TImageModel.cpp" line="153"/>
         <source>Modified</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1530,32 +1650,32 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 <context>
     <name>TPieChart</name>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="194"/>
+        <location filename="../../src/results/TPieChart.cpp" line="189"/>
         <source>Images</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="196"/>
+        <location filename="../../src/results/TPieChart.cpp" line="191"/>
         <source>Documents</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="198"/>
+        <location filename="../../src/results/TPieChart.cpp" line="193"/>
         <source>Musics</source>
         <translation>Music</translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="200"/>
+        <location filename="../../src/results/TPieChart.cpp" line="195"/>
         <source>Videos</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="202"/>
+        <location filename="../../src/results/TPieChart.cpp" line="197"/>
         <source>Folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../../src/results/TPieChart.cpp" line="204"/>
+        <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation type="unfinished"></translation>
     </message>
