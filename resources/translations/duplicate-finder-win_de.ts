@@ -378,7 +378,7 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
         <source>%1 (needs rclone)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (benötigt rclone)</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
@@ -511,7 +511,7 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
         <source>info</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
@@ -523,29 +523,31 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Cloud-Konten können nicht gleichzeitig gescannt werden.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
         <source>Sign-in Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anmeldung beim Cloud-Konto ist fehlgeschlagen.
+
+%1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
         <source>Insufficient System Disk Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenig Speicherplatz auf dem Systemlaufwerk</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Herunterladen der Miniaturen wurde nicht abgeschlossen. Dies kann die Ergebnisse der Suche nach ähnlichen Bildern beeinträchtigen. Bitte geben Sie Speicherplatz frei und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
@@ -657,17 +659,17 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
         <source>Cloud Scan Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud-Scan fehlgeschlagen</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
         <source>The cloud scan could not be completed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Cloud-Scan konnte nicht abgeschlossen werden: %1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
-        <translation type="unfinished"></translation>
+        <translation>Das Herunterladen der Miniaturen wurde nicht abgeschlossen. Dies kann die Ergebnisse der Suche nach ähnlichen Bildern beeinträchtigen. </translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
@@ -1329,7 +1331,7 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1440"/>
         <source>The cloud service did not remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Cloud-Dienst hat die Datei nicht entfernt.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1444"/>
@@ -1394,12 +1396,12 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1557"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts entfernt: Jede ausgewählte Datei ist die letzte Kopie ihrer Gruppe.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1631"/>
         <source>Failed to delete the files. </source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien konnten nicht gelöscht werden. </translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1695"/>
@@ -1523,39 +1525,39 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
         <source>Select Folder</source>
-        <translation type="unfinished">Ordner auswählen</translation>
+        <translation>Ordner auswählen</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Markieren Sie die Ordner in %1, die gescannt werden sollen. Ein markierter Ordner schließt alles ein, was er enthält.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
         <source>Add</source>
-        <translation type="unfinished">Hinzufügen</translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
         <source>Network Request Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler bei der Netzwerkanfrage</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Netzwerkanfrage ist fehlgeschlagen. Bitte melden Sie sich erneut an, um Ihr Konto neu zu autorisieren.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>Loading folders…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner werden geladen…</translation>
     </message>
     <message numerus="yes">
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>%n folder(s) chosen</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Ordner ausgewählt</numerusform>
+            <numerusform>%n Ordner ausgewählt</numerusform>
         </translation>
     </message>
 </context>

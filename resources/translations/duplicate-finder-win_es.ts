@@ -378,7 +378,7 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
         <source>%1 (needs rclone)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (requiere rclone)</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
@@ -511,7 +511,7 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
         <source>info</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
@@ -523,29 +523,31 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden analizar varias cuentas en la nube a la vez.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
         <source>Sign-in Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al iniciar sesión</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo iniciar sesión en la cuenta en la nube.
+
+%1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
         <source>Insufficient System Disk Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio insuficiente en la unidad del sistema</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga de las miniaturas no se completó. Esto puede afectar a los resultados de la detección de imágenes similares. Libere espacio en disco e inténtelo de nuevo.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
@@ -657,17 +659,17 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
         <source>Cloud Scan Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en el análisis de la nube</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
         <source>The cloud scan could not be completed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo completar el análisis de la nube: %1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga de las miniaturas no se completó. Esto puede afectar a los resultados de la detección de imágenes similares. </translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
@@ -1329,7 +1331,7 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1440"/>
         <source>The cloud service did not remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio en la nube no eliminó el archivo.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1444"/>
@@ -1394,12 +1396,12 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1557"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se eliminó nada: cada archivo seleccionado es la última copia de su grupo.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1631"/>
         <source>Failed to delete the files. </source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron eliminar los archivos. </translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1695"/>
@@ -1523,39 +1525,39 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
         <source>Select Folder</source>
-        <translation type="unfinished">Seleccionar carpeta</translation>
+        <translation>Seleccionar carpeta</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque las carpetas que desea analizar en %1. Una carpeta marcada incluye todo su contenido.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
         <source>Add</source>
-        <translation type="unfinished">Añadir</translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
         <source>Network Request Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la solicitud de red</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>La solicitud de red falló. Vuelva a iniciar sesión para autorizar de nuevo su cuenta.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>Loading folders…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando carpetas…</translation>
     </message>
     <message numerus="yes">
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>%n folder(s) chosen</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n carpeta seleccionada</numerusform>
+            <numerusform>%n carpetas seleccionadas</numerusform>
         </translation>
     </message>
 </context>

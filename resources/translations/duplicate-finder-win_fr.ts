@@ -378,7 +378,7 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
         <source>%1 (needs rclone)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nécessite rclone)</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
@@ -511,7 +511,7 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
         <source>info</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
@@ -523,29 +523,31 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs comptes cloud ne peuvent pas être analysés en même temps.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
         <source>Sign-in Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la connexion</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter au compte cloud.
+
+%1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
         <source>Insufficient System Disk Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace insuffisant sur le lecteur système</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement des miniatures n&apos;a pas abouti. Cela peut affecter les résultats de la détection des images similaires. Libérez de l&apos;espace disque, puis réessayez.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
@@ -657,17 +659,17 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
         <source>Cloud Scan Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l&apos;analyse du cloud</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
         <source>The cloud scan could not be completed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;analyse du cloud n&apos;a pas pu être terminée : %1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement des miniatures n&apos;a pas abouti. Cela peut affecter les résultats de la détection des images similaires. </translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
@@ -1329,7 +1331,7 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1440"/>
         <source>The cloud service did not remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service cloud n&apos;a pas supprimé le fichier.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1444"/>
@@ -1394,12 +1396,12 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1557"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n&apos;a été supprimé : chaque fichier sélectionné est la dernière copie de son groupe.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1631"/>
         <source>Failed to delete the files. </source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer les fichiers. </translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1695"/>
@@ -1523,39 +1525,39 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
         <source>Select Folder</source>
-        <translation type="unfinished">Sélectionner un dossier</translation>
+        <translation>Sélectionner un dossier</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez les dossiers à analyser dans %1. Un dossier coché inclut tout ce qu&apos;il contient.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
         <source>Add</source>
-        <translation type="unfinished">Ajouter</translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
         <source>Network Request Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de requête réseau</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>La requête réseau a échoué. Reconnectez-vous pour autoriser à nouveau votre compte.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>Loading folders…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des dossiers…</translation>
     </message>
     <message numerus="yes">
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>%n folder(s) chosen</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n dossier sélectionné</numerusform>
+            <numerusform>%n dossiers sélectionnés</numerusform>
         </translation>
     </message>
 </context>

@@ -378,7 +378,7 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
         <source>%1 (needs rclone)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (richiede rclone)</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
@@ -511,7 +511,7 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
         <source>info</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
@@ -523,29 +523,31 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile scansionare più account cloud contemporaneamente.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
         <source>Sign-in Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Accesso non riuscito</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile accedere all&apos;account cloud.
+
+%1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
         <source>Insufficient System Disk Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio insufficiente sull&apos;unità di sistema</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il download delle miniature non è stato completato. Questo può influire sui risultati del rilevamento delle immagini simili. Libera spazio su disco e riprova.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
@@ -657,17 +659,17 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
         <source>Cloud Scan Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Scansione cloud non riuscita</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
         <source>The cloud scan could not be completed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile completare la scansione cloud: %1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
-        <translation type="unfinished"></translation>
+        <translation>Il download delle miniature non è stato completato. Questo può influire sui risultati del rilevamento delle immagini simili. </translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
@@ -1329,7 +1331,7 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1440"/>
         <source>The cloud service did not remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il servizio cloud non ha rimosso il file.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1444"/>
@@ -1394,12 +1396,12 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1557"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato rimosso nulla: ogni file selezionato è l&apos;ultima copia del suo gruppo.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1631"/>
         <source>Failed to delete the files. </source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile eliminare i file. </translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1695"/>
@@ -1523,39 +1525,39 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
         <source>Select Folder</source>
-        <translation type="unfinished">Seleziona cartella</translation>
+        <translation>Seleziona cartella</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona le cartelle da scansionare in %1. Una cartella selezionata include tutto il suo contenuto.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
         <source>Add</source>
-        <translation type="unfinished">Aggiungi</translation>
+        <translation>Aggiungi</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
         <source>Network Request Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore nella richiesta di rete</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>La richiesta di rete non è riuscita. Accedi di nuovo per autorizzare nuovamente il tuo account.</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>Loading folders…</source>
-        <translation type="unfinished"></translation>
+        <translation>Caricamento delle cartelle…</translation>
     </message>
     <message numerus="yes">
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>%n folder(s) chosen</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cartella selezionata</numerusform>
+            <numerusform>%n cartelle selezionate</numerusform>
         </translation>
     </message>
 </context>

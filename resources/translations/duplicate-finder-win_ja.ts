@@ -378,7 +378,7 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
         <source>%1 (needs rclone)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (rclone が必要)</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
@@ -509,7 +509,7 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
         <source>info</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
@@ -521,29 +521,31 @@
         <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>複数のクラウドアカウントを同時にスキャンすることはできません。</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
         <source>Sign-in Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>サインインに失敗しました</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>クラウドアカウントにサインインできませんでした。
+
+%1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
         <source>Insufficient System Disk Space</source>
-        <translation type="unfinished"></translation>
+        <translation>システムドライブの空き容量が不足しています</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>サムネイルのダウンロードが完了しませんでした。類似画像の検出結果に影響する可能性があります。ディスクの空き容量を増やしてから、もう一度お試しください。</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
@@ -650,17 +652,17 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
         <source>Cloud Scan Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>クラウドのスキャンに失敗しました</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
         <source>The cloud scan could not be completed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>クラウドのスキャンを完了できませんでした: %1</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
-        <translation type="unfinished"></translation>
+        <translation>サムネイルのダウンロードが完了しませんでした。類似画像の検出結果に影響する可能性があります。 </translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
@@ -1317,7 +1319,7 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1440"/>
         <source>The cloud service did not remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>クラウドサービスによって削除されませんでした。</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1444"/>
@@ -1382,12 +1384,12 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1557"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>何も削除していません: 選択したファイルはすべて、それぞれのグループの最後のコピーです。</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1631"/>
         <source>Failed to delete the files. </source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを削除できませんでした。 </translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1695"/>
@@ -1511,38 +1513,38 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
         <source>Select Folder</source>
-        <translation type="unfinished">フォルダーを選択</translation>
+        <translation>フォルダーを選択</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 でスキャンするフォルダーにチェックを付けてください。チェックしたフォルダーには、その中のすべてが含まれます。</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
         <source>Add</source>
-        <translation type="unfinished">追加</translation>
+        <translation>追加</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
         <source>Network Request Error</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク要求エラー</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク要求に失敗しました。もう一度サインインして、アカウントを再認証してください。</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>Loading folders…</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを読み込んでいます…</translation>
     </message>
     <message numerus="yes">
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>%n folder(s) chosen</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 個のフォルダーを選択済み</numerusform>
         </translation>
     </message>
 </context>
