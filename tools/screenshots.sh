@@ -1,8 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Saves a screenshot of each page of the main window, each tab of the settings dialog and
-# every state of the result page under Xvfb (with "settings", the settings dialog only):
-#   tools/screenshots.sh <build dir> <output dir> [settings]
+# every state of the result page under Xvfb (with "settings" the settings dialog only, with
+# "cloud" the cloud folder chooser only):
+#   tools/screenshots.sh <build dir> <output dir> [settings|cloud]
 # The pages are filled with sample values by the driver program;
 # see tests/mainwindow/ScreenshotPages.cpp and tests/results/ScreenshotResultPage.cpp.
 set -eu

@@ -1551,9 +1551,9 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message numerus="yes">
         <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
         <source>%n folder(s) chosen</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n folder chosen</numerusform>
+            <numerusform>%n folders chosen</numerusform>
         </translation>
     </message>
 </context>

@@ -42,22 +42,6 @@ QString TCloudFolderDialog::smallIcon(int cloudType)
     }
 }
 
-QString TCloudFolderDialog::largeIcon(int cloudType)
-{
-    switch (cloudType) {
-    case 1:
-        return QStringLiteral(":/resource/googledrive100.png");
-    case 2:
-        return QStringLiteral(":/resource/dropbox100.png");
-    case 5:
-        return QStringLiteral(":/resource/google_photo100.png");
-    case 7:
-        return QStringLiteral(":/resource/onedrive100.png");
-    default:
-        return {};
-    }
-}
-
 TCloudFolderDialog::TCloudFolderDialog(const QString &account, int cloudType, QWidget *parent)
     : QDialog(parent), m_account(account), m_cloudType(cloudType)
 {

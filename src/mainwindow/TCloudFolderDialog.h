@@ -30,9 +30,8 @@ public:
     int listingsAsked() const { return m_listingsAsked; }
     bool isLoading() const { return m_pending > 0; }
 
-    // The service's icons: small for menus and the tree, large for the folder list.
+    // The service's icon in the add menu and at the top of the tree; empty for none.
     static QString smallIcon(int cloudType);
-    static QString largeIcon(int cloudType);
 
 private:
     void onFindedFolders(const QList<CloudFolderInfo> &folders, const QString &parentId);

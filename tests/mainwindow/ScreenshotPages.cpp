@@ -6,10 +6,13 @@
 // the real rendering.
 #include "ScreenshotSupport.h"
 #include "app/LanguageSetup.h"
+#include "cloud/CloudService.h"
+#include "cloud/KvCloudObject.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
+#include "mainwindow/TCloudFolderDialog.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFPreferencesDialog.h"
@@ -23,10 +26,13 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
 
 namespace {
 
@@ -152,6 +158,65 @@ void shootSettings(const Language &language, const QSize &size, const QString &o
     }
 }
 
+// The cloud folder chooser over the window, and the window with the chosen folders; the
+// "drive" is a local folder behind the same rclone calls as a real account.
+void shootCloud(const QString &out)
+{
+    QTemporaryDir drive;
+    for (const char *name : {"Photos/2019 Summer", "Photos/2020 Wedding", "Photos/Phone backup",
+             "Documents/Taxes", "Documents/Letters", "Music", "Shared with me"})
+        QDir(drive.path()).mkpath(QString::fromLatin1(name));
+    // rclone starts here, so the drive's top is this folder.
+    QDir::setCurrent(drive.path());
+    KvCloudObject *cloud = KvCloudObject::instance();
+    QSignalSpy signedIn(cloud, &KvCloudObject::onAuthorizedSuccess);
+    cloud->start_authorization(QStringLiteral("GoogleDrive"), CloudService::kLocalFolder);
+    if (!signedIn.wait(20000))
+        return;
+    for (const QSize &size : kSizes) {
+        const QString prefix = namePrefix(kLanguages[0], size);
+        MainWindow window({QStringLiteral("program")});
+        window.resize(size);
+        window.show();
+        (void)QTest::qWaitForWindowExposed(&window);
+        QTimer::singleShot(100, &window, [&window, &out, &prefix] {
+            auto *dialog = qobject_cast<TCloudFolderDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            const auto loaded = [dialog] {
+                return QTest::qWaitFor([dialog] { return !dialog->isLoading(); }, 10000);
+            };
+            loaded();
+            QTreeWidgetItem *root = dialog->tree()->topLevelItem(0);
+            for (int i = 0; i < root->childCount(); ++i) {
+                QTreeWidgetItem *folder = root->child(i);
+                if (folder->text(0) == QLatin1String("Photos")) {
+                    folder->setExpanded(true);
+                    loaded();
+                    folder->setCheckState(0, Qt::Checked);
+                    folder->child(1)->setCheckState(0, Qt::Unchecked);
+                } else if (folder->text(0) == QLatin1String("Documents")) {
+                    folder->setCheckState(0, Qt::Checked);
+                }
+            }
+            QTest::qWait(100);
+            save(dialog, out, prefix + QStringLiteral("cloud-1-chooser"));
+            QPixmap screen = window.grab();
+            const QPixmap face = dialog->grab();
+            QPainter painter(&screen);
+            painter.fillRect(screen.rect(), QColor(0, 0, 0, 60));
+            painter.drawPixmap(
+                (screen.width() - face.width()) / 2, (screen.height() - face.height()) / 2, face);
+            painter.end();
+            screen.save(
+                QDir(out).filePath(prefix + QStringLiteral("cloud-1-chooser-on-window.png")));
+            dialog->accept();
+        });
+        window.showSelectFolderDialog(QStringLiteral("GoogleDrive"), 1);
+        save(&window, out, prefix + QStringLiteral("cloud-2-folders-added"));
+    }
+}
+
 // Settings as a user who has used the program a while has them.
 void fillSettings(const QString &root)
 {
@@ -183,7 +248,12 @@ int main(int argc, char *argv[])
         QDir(tree.path()).mkpath(QString::fromLatin1(name));
 
     fillSettings(tree.path());
-    if (argc > 2 && QString::fromLocal8Bit(argv[2]) == QLatin1String("settings")) {
+    const QString only = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    if (only == QLatin1String("cloud")) {
+        shootCloud(out);
+        return 0;
+    }
+    if (only == QLatin1String("settings")) {
         for (const Language &language : kLanguages) {
             useLanguage(language.index);
             for (const QSize &size : kSizes)
@@ -204,6 +274,8 @@ int main(int argc, char *argv[])
         }
     }
     strip.save(QDir(out).filePath(QStringLiteral("round-button-all-languages.png")));
+    useLanguage(1);
+    shootCloud(out);
 
     // A finished scan with results opens the group list.
     useLanguage(1);
