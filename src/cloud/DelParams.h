@@ -13,5 +13,8 @@ struct DelParams
     QString groupKey;
     QStringList files;
     QString keep;
+    // The files are pictures similar to the kept one, not copies of it: each must still be
+    // what the scan saw, and the kept one must still be there unchanged.
+    bool similar = false;
 };
 Q_DECLARE_METATYPE(DelParams)

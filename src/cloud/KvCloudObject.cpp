@@ -2,10 +2,12 @@
 #include "cloud/KvCloudObject.h"
 
 #include "app/DataDirectory.h"
+#include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
 #include "cloud/CloudPath.h"
 #include "cloud/CloudService.h"
 #include "cloud/RcloneClient.h"
+#include "engine/PictureStage.h"
 #include "engine/TFileData.h"
 #include "fileops/ContentHash.h"
 #include "fileops/DeleteResult.h"
@@ -230,6 +232,7 @@ void KvCloudObject::set_common_config(const QJsonObject &config)
 void KvCloudObject::set_similar_config(const QJsonObject &config)
 {
     m_similarConfig = config;
+    m_similar = config.value(QStringLiteral("hasSimilar")).toBool();
 }
 
 bool KvCloudObject::accepted(const QString &relative, qint64 size) const
@@ -256,6 +259,10 @@ void KvCloudObject::start_traversal_files(const QList<QString> &folders, int bud
     if (m_scanning)
         return;
     m_scanning = true;
+    m_picturePhase = PicturesNotStarted;
+    m_pictures.clear();
+    m_pictureCopies.clear();
+    m_groups.clear();
     m_scanClock.start();
     m_scanTimer->start();
     m_downloadsPlanned = false;
@@ -363,6 +370,22 @@ void KvCloudObject::addEntry(quint16 folder, int hashType, const QJsonObject &en
 
 void KvCloudObject::groupFiles()
 {
+    if (m_similar) {
+        for (const ListedFile &listed : std::as_const(m_listed)) {
+            const QString path = CloudPath::join(
+                m_folders.at(listed.folder), QString::fromUtf8(m_paths.view(listed.relativePath)));
+            if (!isImageFile(path))
+                continue;
+            CloudFile picture;
+            picture.path = path;
+            picture.size = listed.size;
+            picture.modTime = listed.modTime;
+            picture.mimeType = m_mimeTypes.value(listed.mimeType);
+            picture.hash = listed.hashBytes().toByteArray();
+            picture.hashType = hashName(listed.hashType);
+            m_pictures.append(picture);
+        }
+    }
     // Files the service gave no hash for cannot be compared without downloading them.
     const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
         [](const ListedFile &file) { return file.hashLength > 0; });
@@ -419,7 +442,112 @@ void KvCloudObject::groupFiles()
         QWriteLocker lock(&m_filesLock);
         m_members = std::move(members);
     }
-    emit onFindedDuplicateItem(groups);
+    m_groups = std::move(groups);
+}
+
+void KvCloudObject::fetchNextPicture()
+{
+    if (!m_scanning || m_picturePhase != PicturesFetching)
+        return;
+    if (m_nextPicture >= m_pictures.size()) {
+        comparePictures();
+        return;
+    }
+    const qsizetype index = m_nextPicture++;
+    const CloudFile &picture = m_pictures.at(index);
+    const QString directory = get_download_dir() + QStringLiteral("pictures/");
+    QDir().mkpath(directory);
+    if (QStorageInfo(directory).bytesAvailable() < picture.size + kDiskReserve) {
+        emit diskSpaceLow();
+        emit logMessage(QStringLiteral("%1 pictures were not compared: low disk space")
+                            .arg(m_pictures.size() - index));
+        m_nextPicture = m_pictures.size();
+        comparePictures();
+        return;
+    }
+    const CloudPath source = CloudPath::split(picture.path);
+    const qsizetype dot = source.remote.lastIndexOf(QLatin1Char('.'));
+    // The picture's own extension: the comparison reads the format from it.
+    const QString name = QStringLiteral("%1%2").arg(index).arg(source.remote.mid(dot));
+    const quint64 generation = m_generation;
+    m_client->call(QStringLiteral("operations/copyfile"),
+        {{"srcFs", source.fs}, {"srcRemote", source.remote}, {"dstFs", directory},
+            {"dstRemote", name}},
+        [this, index, generation, source, target = directory + name](
+            const QJsonObject &, const QString &error) {
+            if (generation != m_generation)
+                return;
+            if (error.isEmpty())
+                m_pictureCopies.insert(target, index);
+            else
+                emit logMessage(QStringLiteral("%1 not compared: %2").arg(source.remote, error));
+            emit processChange(100.0 * double(m_nextPicture) / double(m_pictures.size()));
+            fetchNextPicture();
+        });
+}
+
+void KvCloudObject::comparePictures()
+{
+    m_picturePhase = PicturesComparing;
+    m_pictureStage = m_pictureCopies.size() > 1 ? PictureStage::create(this) : nullptr;
+    if (!m_pictureStage) {
+        endPicturePhase();
+        return;
+    }
+    PictureStage::applyConfig(m_pictureStage, m_similarConfig);
+    PictureStage::setInput(m_pictureStage, {}, m_pictureCopies.keys());
+    connect(m_pictureStage, &QThread::finished, this, [this, stage = m_pictureStage] {
+        if (stage != m_pictureStage)
+            return;
+        takePictureGroups();
+        endPicturePhase();
+    });
+    m_pictureStage->start();
+}
+
+void KvCloudObject::takePictureGroups()
+{
+    // The comparison writes its groups to the result store, in terms of the local copies;
+    // they are taken out of it and named by the cloud paths.
+    TFileData *store = TFileData::instance();
+    const TFileData::Groups stored = store->groups();
+    QWriteLocker lock(&m_filesLock);
+    for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
+        QStringList members;
+        for (const QString &entry : it.value()) {
+            const QString local = stripSimilarTag(entry);
+            const auto copy = m_pictureCopies.constFind(local);
+            if (copy == m_pictureCopies.cend())
+                break;
+            const CloudFile &picture = m_pictures.at(*copy);
+            members.append(picture.path + entry.mid(local.size()));
+            m_members.insert(picture.path, picture);
+        }
+        if (members.size() != it.value().size())
+            continue;
+        store->removeGroup(it.key());
+        m_groups.insert(TFileData::groupKey(members.first()), members);
+    }
+}
+
+void KvCloudObject::endPicturePhase()
+{
+    if (m_pictureStage) {
+        PictureStage::cancel(m_pictureStage);
+        m_pictureStage->wait();
+        m_pictureStage->deleteLater();
+        m_pictureStage = nullptr;
+    }
+    for (auto it = m_pictureCopies.cbegin(); it != m_pictureCopies.cend(); ++it)
+        QFile::remove(it.key());
+    m_pictureCopies.clear();
+    m_pictures.clear();
+    if (m_picturePhase == PicturesComparing) {
+        m_picturePhase = PicturesDone;
+        finishScan(false);
+    } else {
+        m_picturePhase = PicturesDone;
+    }
 }
 
 bool KvCloudObject::planDownloads()
@@ -511,6 +639,21 @@ void KvCloudObject::finishScan(bool aborted, const QString &failure)
             return;
         }
     }
+    if (m_picturePhase == PicturesNotStarted) {
+        groupFiles();
+        m_picturePhase = PicturesDone;
+        if (!aborted && failure.isEmpty() && m_pictures.size() > 1) {
+            m_picturePhase = PicturesFetching;
+            m_nextPicture = 0;
+            fetchNextPicture();
+            return;
+        }
+        m_pictures.clear();
+    } else if (m_picturePhase != PicturesDone) {
+        // Stopped or failed while pictures were fetched or compared.
+        m_picturePhase = PicturesDone;
+        endPicturePhase();
+    }
     m_scanning = false;
     m_scanTimer->stop();
     ++m_generation;
@@ -519,7 +662,7 @@ void KvCloudObject::finishScan(bool aborted, const QString &failure)
         splog_d(QStringLiteral("[KvCloudObject]: scan failed: %1").arg(failure));
         emit onTraversalFailed(failure);
     }
-    groupFiles();
+    emit onFindedDuplicateItem(std::exchange(m_groups, {}));
     emit onFilesFetchCount(int(m_scanned));
     if (!aborted)
         emit processChange(100.0);
@@ -646,27 +789,29 @@ void KvCloudObject::removeNext()
     ++m_removal->handled;
     const CloudFile *item = recorded(file);
     const CloudFile *kept = recorded(params.keep);
-    if (file == params.keep || !item || !kept || item->hash.isEmpty() || item->hash != kept->hash
-        || item->hashType != kept->hashType) {
+    const bool sameContent
+        = item && kept && item->hash == kept->hash && item->hashType == kept->hashType;
+    if (file == params.keep || !item || !kept || item->hash.isEmpty() || kept->hash.isEmpty()
+        || (!params.similar && !sameContent)) {
         removalFailed(file, QStringLiteral("no copy of it known to stay"), true);
         removeNext();
         return;
     }
-    if (item->hashType == kDownloadedHash) {
+    if (item->hashType == kDownloadedHash || kept->hashType == kDownloadedHash) {
         removalFailed(file,
             QStringLiteral("the service keeps no hash by which the kept copy can be confirmed"),
             true);
         removeNext();
         return;
     }
-    const QString hashType = item->hashType;
-    const qint64 size = item->size;
-    const QByteArray hash = item->hash;
-    // Both copies are looked at again just before: the kept one must still be there with
-    // the same content, the one to go must still be what the scan saw.
-    const auto check = [this, hashType, size, hash](
-                           const QString &path, std::function<void(const QString &problem)> next) {
-        const CloudPath where = CloudPath::split(path);
+    // Both are looked at again just before: the kept one must still be there with the
+    // content the scan saw, and so must the one to go.
+    const auto check = [this](const CloudFile &seen,
+                           std::function<void(const QString &problem)> next) {
+        const QString hashType = seen.hashType;
+        const qint64 size = seen.size;
+        const QByteArray hash = seen.hash;
+        const CloudPath where = CloudPath::split(seen.path);
         m_client->call(QStringLiteral("operations/stat"),
             {{"fs", where.fs}, {"remote", where.remote},
                 {"opt", QJsonObject {{"showHash", true}, {"hashTypes", QJsonArray {hashType}}}}},
@@ -691,7 +836,9 @@ void KvCloudObject::removeNext()
             });
     };
     const QString keep = params.keep;
-    check(keep, [this, file, keep, check](const QString &keptProblem) {
+    const CloudFile keptSeen = *kept;
+    const CloudFile itemSeen = *item;
+    check(keptSeen, [this, file, keep, check, itemSeen](const QString &keptProblem) {
         if (!keptProblem.isEmpty()) {
             removalFailed(file,
                 QStringLiteral("the kept copy %1 cannot be confirmed: %2").arg(keep, keptProblem),
@@ -699,7 +846,7 @@ void KvCloudObject::removeNext()
             removeNext();
             return;
         }
-        check(file, [this, file](const QString &problem) {
+        check(itemSeen, [this, file](const QString &problem) {
             if (!problem.isEmpty()) {
                 removalFailed(file, problem, true);
                 removeNext();

@@ -22,6 +22,7 @@
 #include <QStringList>
 #include <QTimer>
 
+class QThread;
 class RcloneClient;
 
 // The cloud source: lists, compares and removes files of cloud folders through an
@@ -139,7 +140,14 @@ private:
     // Files without a service hash that might have copies: fetched and hashed here.
     bool planDownloads();
     void downloadNext();
+    // Groups the listing into m_groups and m_members; keeps the pictures for comparing.
     void groupFiles();
+    // The similar-picture stage: every listed picture is fetched into the download
+    // folder and compared there as a local scan compares them.
+    void fetchNextPicture();
+    void comparePictures();
+    void takePictureGroups();
+    void endPicturePhase();
 
     void startRemoval(const QList<DelParams> &groups, bool single);
     // The files not yet handled, all failed for one reason (rclone gone, stopped).
@@ -181,6 +189,16 @@ private:
     quint64 m_generation = 0;
     QHash<QString, quint16> m_mimeIndex;
     QStringList m_mimeTypes;
+
+    bool m_similar = false;
+    enum PicturePhase { PicturesNotStarted, PicturesFetching, PicturesComparing, PicturesDone };
+    PicturePhase m_picturePhase = PicturesNotStarted;
+    QList<CloudFile> m_pictures;
+    qsizetype m_nextPicture = 0;
+    // Local copy -> index into m_pictures.
+    QHash<QString, qsizetype> m_pictureCopies;
+    QThread *m_pictureStage = nullptr;
+    QHash<QString, QList<QString>> m_groups;
 
     // The members of the groups, by path, for getCFP and the removal checks.
     mutable QReadWriteLock m_filesLock;

@@ -12,6 +12,7 @@
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneProcess.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/ScanConfigCheck.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalJournal.h"
@@ -909,6 +910,14 @@ void MainWindow::startCloudScan()
 {
     DFPreferences *preferences = DFPreferences::instance();
     KvCloudObject *cloud = KvCloudObject::instance();
+    const QJsonObject common = preferences->ignoreListPreferences()->toJson();
+    const QJsonObject similar = preferences->generalPreferences()->toJson();
+    // The same guard as a local scan: values no dialog can produce do not reach the scan.
+    if (const QStringList refused = ScanConfigCheck::problems(common, similar);
+        !refused.isEmpty()) {
+        QMessageBox::warning(this, tr("Error"), refused.join(QLatin1Char('\n')));
+        return;
+    }
     m_localScan = false;
     clearScanProblems();
     m_projectPath.clear();
@@ -927,8 +936,8 @@ void MainWindow::startCloudScan()
     setStatus(StateScanning);
     splog_d(
         kTag + QStringLiteral("Cloud scan of %1").arg(m_cloudFolders.join(QStringLiteral(", "))));
-    cloud->set_common_config(preferences->ignoreListPreferences()->toJson());
-    cloud->set_similar_config(preferences->generalPreferences()->toJson());
+    cloud->set_common_config(common);
+    cloud->set_similar_config(similar);
     QApplication::setOverrideCursor(Qt::WaitCursor);
     cloud->start_traversal_files(m_cloudFolders, m_cloudInteger);
     QApplication::restoreOverrideCursor();

@@ -1526,12 +1526,14 @@ void ResultForm::startCloudRemoval(const QHash<QString, QStringList> &selection,
     m_cloudSizes.clear();
     for (auto it = selection.cbegin(); it != selection.cend(); ++it) {
         QStringList members = store->group(it.key());
+        const bool similar = std::any_of(members.cbegin(), members.cend(), isSimilarEntry);
         stripSimilarTag(members);
         QSet<QString> chosen;
         for (const QString &entry : it.value())
             chosen.insert(stripSimilarTag(entry));
         DelParams request;
         request.groupKey = it.key();
+        request.similar = similar;
         // The first copy not chosen stays; with every copy chosen, the first one.
         for (const QString &member : std::as_const(members))
             if (!chosen.contains(member)) {

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TestEnvironment.h"
+#include "app/FileTypeCatalogue.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
+#include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
+#include "preferences/DFGenernalPreferences.h"
 
 #include <csignal>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QProcess>
@@ -162,6 +166,49 @@ private slots:
         QStringList members = groups.begin().value();
         members.sort();
         QCOMPARE(members, QStringList({top + "/a", top + "/p/b"}));
+    }
+
+    void similarPicturesFetchedAndCompared()
+    {
+        // Pictures are fetched, compared as local ones are, named by their cloud paths,
+        // and one similar to the kept picture can go.
+        QTemporaryDir root;
+        const cv::Mat scene = fixtures::makeScene(640, 480, 1);
+        QVERIFY(fixtures::writeBytes(root.filePath("a.jpg"), fixtures::encode(scene, ".jpg")));
+        QVERIFY(QDir(root.path()).mkpath("sub"));
+        QVERIFY(fixtures::writeBytes(root.filePath("sub/b.jpg"),
+            fixtures::encode(scene, ".jpg", {cv::IMWRITE_JPEG_QUALITY, 60})));
+        QVERIFY(fixtures::writeBytes(
+            root.filePath("c.jpg"), fixtures::encode(fixtures::makeScene(640, 480, 2), ".jpg")));
+        KvCloudObject cloud;
+        cloud.initialization(m_data.path());
+        DFGenernalPreferences similar;
+        similar.setHasSimilar(true);
+        cloud.set_similar_config(similar.toJson());
+        QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
+        QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
+        const QString top = folder(root.path());
+        cloud.start_traversal_files({top}, 20);
+        QVERIFY(done.wait(60000));
+        QCOMPARE(done.first().first().toBool(), false);
+        const Groups groups = found.last().first().value<Groups>();
+        QCOMPARE(groups.size(), 1);
+        QStringList members = groups.begin().value();
+        QVERIFY(isSimilarEntry(members.first()));
+        stripSimilarTag(members);
+        members.sort();
+        QCOMPARE(members, QStringList({top + "/a.jpg", top + "/sub/b.jpg"}));
+        QCOMPARE(cloud.getCFP(top + "/sub/b.jpg", "size").toLongLong(),
+            QFileInfo(root.filePath("sub/b.jpg")).size());
+        QVERIFY(QDir(cloud.get_download_dir() + "pictures").isEmpty());
+
+        QSignalSpy complete(&cloud, &KvCloudObject::onDeletedCloudGroupComplated);
+        DelParams request {groups.begin().key(), {top + "/sub/b.jpg"}, top + "/a.jpg"};
+        request.similar = true;
+        cloud.start_delete_group_files(request);
+        QVERIFY(complete.wait(20000));
+        QVERIFY(!QFile::exists(root.filePath("sub/b.jpg")));
+        QVERIFY(QFile::exists(root.filePath("a.jpg")));
     }
 
     void foldersListedOneLevelAtATime()
