@@ -73,8 +73,11 @@ KvCloudObject::KvCloudObject(QObject *parent)
     qRegisterMetaType<CloudFolderInfo>();
     qRegisterMetaType<QList<CloudFolderInfo>>();
     initialization(DataDirectory::base());
+    connect(m_process, &RcloneProcess::signInLink, this, &KvCloudObject::authorizationLink);
     connect(m_process, &RcloneProcess::died, this, [this](const QString &reason) {
         m_client->abortAll();
+        if (std::exchange(m_authorizing, false))
+            emit onAuthorizedFailed(reason);
         if (m_scanning)
             finishScan(true, reason);
         if (m_removal) {
@@ -142,9 +145,13 @@ bool KvCloudObject::start_authorization(const QString &account, int cloudType, i
         QTimer::singleShot(0, this, [this, problem] { emit onAuthorizedFailed(problem); });
         return false;
     }
+    // For the services that sign in through OAuth, rclone opens the browser and the call
+    // returns once the user is through (or cancel_authorization gives up).
+    m_authorizing = true;
     m_client->call(QStringLiteral("config/create"),
         {{"name", account}, {"type", service->backend}, {"parameters", service->parameters}},
         [this, account, cloudType](const QJsonObject &answer, const QString &error) {
+            m_authorizing = false;
             const QString failure
                 = error.isEmpty() ? answer.value(QLatin1String("Error")).toString() : error;
             if (!failure.isEmpty()) {
@@ -156,6 +163,18 @@ bool KvCloudObject::start_authorization(const QString &account, int cloudType, i
             emit onAuthorizedSuccess(account, cloudType);
         });
     return true;
+}
+
+void KvCloudObject::cancel_authorization()
+{
+    if (!m_authorizing)
+        return;
+    m_authorizing = false;
+    m_client->abortAll();
+    // The daemon would go on waiting for the browser, holding the sign-in port.
+    m_process->stop();
+    splog_d(QStringLiteral("[KvCloudObject]: sign-in cancelled"));
+    emit onAuthorizedFailed(QStringLiteral("The sign-in was cancelled."));
 }
 
 void KvCloudObject::init_traversal_folder()

@@ -52,6 +52,9 @@ public:
     // in through the browser rclone opens it and waits for the user. The answer comes as
     // onAuthorizedSuccess or onAuthorizedFailed; false when it could not even start.
     bool start_authorization(const QString &account, int cloudType, int flags = 0);
+    // Gives up a sign-in that waits in the browser; it ends with onAuthorizedFailed.
+    void cancel_authorization();
+    bool isAuthorizing() const { return m_authorizing; }
 
     // The folder chooser: the sub-folders of one folder of the signed-in account ("root"
     // for its top), answered by onFindedFolders. Each call lists one level only.
@@ -93,6 +96,8 @@ signals:
     void onAuthorizedSuccess(const QString &account, int cloudType);
     void onAuthorizedFailed(const QString &reason);
     void onAuthorizedCompleted(bool updated);
+    // Where the browser sign-in waits, for when no browser window opened by itself.
+    void authorizationLink(const QUrl &link);
     void onFindedFolders(const QList<CloudFolderInfo> &folders, const QString &parentId);
     void onFilesFetchCount(int count);
     void processChange(double percent);
@@ -159,6 +164,7 @@ private:
 
     RcloneSettings m_settings;
     QString m_account;
+    bool m_authorizing = false;
     // Folder listings in flight belong to the chooser that asked; a new one drops them.
     quint64 m_folderSession = 0;
     QString m_dataDirectory;

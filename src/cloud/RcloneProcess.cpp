@@ -50,6 +50,7 @@ RcloneProcess::RcloneProcess(QObject *parent) : QObject(parent)
     // Not even a crash of the program may leave the daemon running with its port open.
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
 #endif
+    connect(&m_process, &QProcess::readyReadStandardError, this, &RcloneProcess::readErrorLines);
     connect(&m_process, &QProcess::finished, this, [this](int code, QProcess::ExitStatus) {
         if (m_stopping)
             return;
@@ -120,10 +121,31 @@ QString RcloneProcess::checkVersion(const QString &program)
     return {};
 }
 
+void RcloneProcess::readErrorLines()
+{
+    m_partialLine += m_process.readAllStandardError();
+    qsizetype end = 0;
+    while ((end = m_partialLine.indexOf('\n')) >= 0) {
+        const QString line = QString::fromUtf8(m_partialLine.left(end)).trimmed();
+        m_partialLine.remove(0, end + 1);
+        if (line.isEmpty())
+            continue;
+        m_lastLine = line;
+        // The OAuth sign-in of a remote being created tells where it waits.
+        static const QLatin1String marker("go to the following link: ");
+        if (const qsizetype at = line.indexOf(marker); at >= 0) {
+            const QUrl link(line.mid(at + marker.size()).trimmed());
+            if (link.isValid())
+                emit signInLink(link);
+        }
+    }
+}
+
 QString RcloneProcess::lastErrorLine()
 {
-    const QList<QByteArray> lines = m_process.readAllStandardError().trimmed().split('\n');
-    return QString::fromUtf8(lines.isEmpty() ? QByteArray() : lines.last().trimmed());
+    readErrorLines();
+    const QString partial = QString::fromUtf8(m_partialLine).trimmed();
+    return partial.isEmpty() ? m_lastLine : partial;
 }
 
 QString RcloneProcess::start(const RcloneSettings &settings)
@@ -136,6 +158,8 @@ QString RcloneProcess::start(const RcloneSettings &settings)
         return problem;
     }
     QDir().mkpath(QFileInfo(settings.configFile).absolutePath());
+    m_partialLine.clear();
+    m_lastLine.clear();
     m_user = randomToken();
     m_password = randomToken();
     QString problem;
@@ -151,7 +175,7 @@ QString RcloneProcess::start(const RcloneSettings &settings)
                 QStringLiteral("127.0.0.1:%1").arg(port), QStringLiteral("--rc-user"),
                 QString::fromLatin1(m_user), QStringLiteral("--rc-pass"),
                 QString::fromLatin1(m_password), QStringLiteral("--config"), settings.configFile,
-                QStringLiteral("--log-level"), QStringLiteral("ERROR")});
+                QStringLiteral("--log-level"), QStringLiteral("NOTICE")});
         if (!m_process.waitForStarted(10000))
             return QStringLiteral("rclone could not be started (%1): %2")
                 .arg(program, m_process.errorString());

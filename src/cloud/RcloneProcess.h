@@ -49,14 +49,19 @@ public:
 signals:
     // The daemon ended without being asked to.
     void died(const QString &reason);
+    // A sign-in waits in the browser at this address (for when no browser opened).
+    void signInLink(const QUrl &link);
 
 private:
     QString checkVersion(const QString &program);
     QString lastErrorLine();
+    void readErrorLines();
 
     QProcess m_process;
     QUrl m_baseUrl;
     QByteArray m_user;
     QByteArray m_password;
     bool m_stopping = false;
+    QByteArray m_partialLine;
+    QString m_lastLine;
 };

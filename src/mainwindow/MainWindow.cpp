@@ -685,13 +685,46 @@ void MainWindow::on_cloud_menu_clicked()
     m_signingIn = true;
     // Starting rclone takes a moment the first time.
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    cloud->start_authorization(account, cloudType);
+    const bool started = cloud->start_authorization(account, cloudType);
     QApplication::restoreOverrideCursor();
+    if (started && cloud->isAuthorizing())
+        showSignInBox(service->name);
+}
+
+void MainWindow::showSignInBox(const QString &service)
+{
+    closeSignInBox();
+    m_signInBox = new QMessageBox(QMessageBox::Information, tr("Sign in to %1").arg(service),
+        tr("Finish signing in to %1 in your web browser. This window goes on by itself once "
+           "you are through.")
+            .arg(service),
+        QMessageBox::Cancel, this);
+    m_signInBox->setObjectName(QStringLiteral("box_signIn"));
+    m_signInBox->setAttribute(Qt::WA_DeleteOnClose);
+    m_signInBox->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    connect(m_signInBox, &QMessageBox::rejected, this, [this] {
+        // Given up by the user: no failure to report afterwards.
+        m_signingIn = false;
+        m_signInBox.clear();
+        KvCloudObject::instance()->cancel_authorization();
+    });
+    m_signInBox->open();
+}
+
+void MainWindow::closeSignInBox()
+{
+    if (!m_signInBox)
+        return;
+    // Closed by the answer, not by the user: no cancel.
+    m_signInBox->disconnect(this);
+    m_signInBox->close();
+    m_signInBox.clear();
 }
 
 void MainWindow::showSelectFolderDialog(const QString &account, int cloudType)
 {
     m_signingIn = false;
+    closeSignInBox();
     if (m_state != StateReady)
         return;
     if (!m_folders.isEmpty() && !m_cloudMode) {
@@ -753,6 +786,7 @@ void MainWindow::connectCloud()
     });
     connect(cloud, &KvCloudObject::onAuthorizedFailed, this, [this](const QString &error) {
         splog_d(QStringLiteral("[KvCloudObject]:onAuthorizedFailed. error:%1").arg(error));
+        closeSignInBox();
         // A sign-in from the add menu that failed; the folder chooser reports its own.
         if (std::exchange(m_signingIn, false))
             QMessageBox::warning(this, tr("Sign-in Failed"),
@@ -776,6 +810,16 @@ void MainWindow::connectCloud()
     connect(cloud, &KvCloudObject::onDuplicateItemFound, this, &MainWindow::onItemFound);
     connect(cloud, &KvCloudObject::onAuthorizedSuccess, this, &MainWindow::showSelectFolderDialog);
     connect(cloud, &KvCloudObject::onUpdateTimer, this, &MainWindow::onUpdateTimer);
+    connect(cloud, &KvCloudObject::authorizationLink, this, [this](const QUrl &link) {
+        if (!m_signInBox)
+            return;
+        m_signInBox->setInformativeText(
+            tr("If no browser window opened, open <a href=\"%1\">this sign-in page</a>.")
+                .arg(link.toString().toHtmlEscaped()));
+        if (auto *label
+            = m_signInBox->findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
+            label->setOpenExternalLinks(true);
+    });
     connect(cloud, &KvCloudObject::onTraversalFailed, this,
         [this](const QString &reason) { m_cloudFailure = reason; });
 }

@@ -18,6 +18,7 @@ class QFrame;
 class QLabel;
 class QListView;
 class QMenu;
+class QMessageBox;
 class QPushButton;
 class QStackedWidget;
 class QStandardItemModel;
@@ -159,8 +160,12 @@ private:
     QStringList m_cloudFolders;
     QString m_cloudAccount;
     int m_cloudType = 0;
-    // Set from a pick in the add menu until its sign-in answers.
+    // Set from a pick in the add menu until its sign-in answers; the box tells the user
+    // to finish it in the browser and can give it up.
     bool m_signingIn = false;
+    QPointer<QMessageBox> m_signInBox;
+    void showSignInBox(const QString &service);
+    void closeSignInBox();
     // The groups of the running cloud scan, and why it failed if it did.
     QHash<QString, QList<QString>> m_cloudGroups;
     QString m_cloudFailure;

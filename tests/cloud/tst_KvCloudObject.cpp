@@ -211,6 +211,25 @@ private slots:
         QVERIFY(QFile::exists(root.filePath("a.jpg")));
     }
 
+    void signInLinkReported()
+    {
+        // rclone tells on its error output where a browser sign-in waits.
+        QTemporaryDir bin;
+        const QString script = bin.filePath("rclone");
+        ScanTree::write(bin.path(), "rclone",
+            "#!/bin/sh\n[ \"$1\" = rcd ] && echo 'NOTICE: If your browser does not open "
+            "automatically go to the following link: http://127.0.0.1:53682/auth?state=x' >&2\n"
+            "exec rclone \"$@\"\n");
+        QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        KvCloudObject cloud;
+        cloud.initialization(m_data.path());
+        cloud.setRcloneSettings({script, m_data.filePath("rclone/rclone.conf")});
+        QSignalSpy link(&cloud, &KvCloudObject::authorizationLink);
+        QCOMPARE(cloud.ensureStarted(), QString());
+        QTRY_COMPARE(link.size(), 1);
+        QCOMPARE(link.first().first().toUrl(), QUrl("http://127.0.0.1:53682/auth?state=x"));
+    }
+
     void foldersListedOneLevelAtATime()
     {
         QTemporaryDir root;
