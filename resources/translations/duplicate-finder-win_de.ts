@@ -346,129 +346,129 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Gescannte Dateien</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Duplicates found</source>
         <translation>Gefundene Duplikate</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Size of duplicates</source>
         <translation>Größe der Duplikate</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Progress</source>
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="347"/>
         <source>Elapsed time</source>
         <translation>Verstrichene Zeit</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="395"/>
         <source>Local Computer</source>
         <translation>Lokaler Computer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="415"/>
         <source>%1 (needs rclone)</source>
         <translation>%1 (benötigt rclone)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
         <source>User Guide</source>
         <translation>Benutzerhandbuch</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
         <source>Product FAQ</source>
         <translation>Häufige Fragen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Feedback and Support</source>
         <translation>Feedback und Support</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Check for Updates</source>
         <translation>Nach Updates suchen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1373"/>
         <source>About</source>
         <translation>Über</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="432"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1393"/>
         <source>Language</source>
         <translation>Sprache</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Show Log in Explorer</source>
         <translation>Protokoll im Explorer anzeigen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
         <source>Open Project</source>
         <translation>Projekt öffnen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Save Project</source>
         <translation>Projekt speichern</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="449"/>
         <source>Show Results</source>
         <translation>Ergebnisse anzeigen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>Scan</source>
         <translation>Scannen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="501"/>
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="509"/>
         <source>Continue</source>
         <translation>Fortsetzen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="515"/>
         <source>New Scan</source>
         <translation>Neuer Scan</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="520"/>
         <source>Show results</source>
         <translation>Ergebnisse anzeigen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="577"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>„%1“ ist eine Datei, kein Ordner. Nur Ordner können gescannt werden: Fügen Sie stattdessen den Ordner hinzu, in dem sie liegt.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="581"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>„%1“ wurde nicht gefunden. Es wurde möglicherweise verschoben oder entfernt.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="584"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>%n Element wurde nicht hinzugefügt, weil es kein Ordner ist:</numerusform>
@@ -476,17 +476,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="586"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="873"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1459"/>
         <source>Note</source>
         <translation>Hinweis</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="607"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n Ordner hinzugefügt</numerusform>
@@ -494,44 +494,54 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="644"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="874"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Nachdem Cloud-Konten und -Ordner hinzugefügt wurden, können keine lokalen Ordner mehr hinzugefügt werden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="648"/>
         <source>Select Folder</source>
         <translation>Ordner auswählen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="731"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1182"/>
         <source>info</source>
         <translation>Information</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="664"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="732"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Nachdem lokale Ordner hinzugefügt wurden, können keine Cloud-Konten mehr hinzugefügt werden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
         <translation>Mehrere Cloud-Konten können nicht gleichzeitig gescannt werden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <source>Sign in to %1</source>
+        <translation>Bei %1 anmelden</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <source>Finish signing in to %1 in your web browser. This window goes on by itself once you are through.</source>
+        <translation>Schließen Sie die Anmeldung bei %1 in Ihrem Webbrowser ab. Danach geht es hier von selbst weiter.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="792"/>
         <source>Sign-in Failed</source>
         <translation>Anmeldung fehlgeschlagen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="793"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
@@ -540,22 +550,27 @@
 %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="805"/>
         <source>Insufficient System Disk Space</source>
         <translation>Zu wenig Speicherplatz auf dem Systemlaufwerk</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="806"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
         <translation>Das Herunterladen der Miniaturen wurde nicht abgeschlossen. Dies kann die Ergebnisse der Suche nach ähnlichen Bildern beeinträchtigen. Bitte geben Sie Speicherplatz frei und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="817"/>
+        <source>If no browser window opened, open &lt;a href=&quot;%1&quot;&gt;this sign-in page&lt;/a&gt;.</source>
+        <translation>Falls sich kein Browserfenster geöffnet hat, öffnen Sie &lt;a href=&quot;%1&quot;&gt;diese Anmeldeseite&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1046"/>
         <source>%1 and %2 could not be read.</source>
         <translation>%1 und %2 konnten nicht gelesen werden.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n Ordner</numerusform>
@@ -563,7 +578,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n Datei</numerusform>
@@ -571,7 +586,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1049"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>%n Ordner konnte nicht gelesen werden.</numerusform>
@@ -579,7 +594,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>%n Datei konnte nicht gelesen werden.</numerusform>
@@ -587,27 +602,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1072"/>
         <source>Folders that could not be read</source>
         <translation>Ordner, die nicht gelesen werden konnten</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1073"/>
         <source>Files that could not be read</source>
         <translation>Dateien, die nicht gelesen werden konnten</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Nicht verfolgte Verknüpfungen, weil sie aus den gewählten Ordnern herausführen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1076"/>
         <source>System folders not entered</source>
         <translation>Nicht betretene Systemordner</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1084"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>%n Verknüpfung aus den gewählten Ordnern heraus wurde nicht verfolgt.</numerusform>
@@ -615,111 +630,112 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1091"/>
         <source>Details</source>
         <translation>Details</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1100"/>
         <source>The chosen folder could not be read.</source>
         <translation>Der gewählte Ordner konnte nicht gelesen werden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1101"/>
         <source>The chosen folders could not be read.</source>
         <translation>Die gewählten Ordner konnten nicht gelesen werden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1103"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Prüfen Sie, ob er noch vorhanden ist und ob Sie ihn öffnen dürfen.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1104"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Prüfen Sie, ob sie noch vorhanden sind und ob Sie sie öffnen dürfen.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1123"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1300"/>
         <source>Open File</source>
         <translation>Datei öffnen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1124"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>„%1“ ist ein Ordner, keine Projektdatei. Um ihn zu scannen, fügen Sie ihn mit der Schaltfläche + hinzu.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1127"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>Die Projektdatei „%1“ existiert nicht.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1178"/>
         <source>Cloud Scan Failed</source>
         <translation>Cloud-Scan fehlgeschlagen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1179"/>
         <source>The cloud scan could not be completed: %1</source>
         <translation>Der Cloud-Scan konnte nicht abgeschlossen werden: %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
         <translation>Das Herunterladen der Miniaturen wurde nicht abgeschlossen. Dies kann die Ergebnisse der Suche nach ähnlichen Bildern beeinträchtigen. </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1299"/>
         <source>Save File</source>
         <translation>Datei speichern</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Die Ergebnisse eines Cloud-Scans können nicht gespeichert werden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1460"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Die aktuellen Scanergebnisse wurden nicht gespeichert. Möchten Sie die Datei speichern?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1374"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Version %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1394"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>Die neue Sprache wird beim nächsten Start des Programms wirksam.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1449"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Unerwartetes Beenden während des letzten Löschvorgangs erkannt</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1444"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Vor dem Abbruch bearbeitete Elemente: %1 von %2.&lt;br&gt;Das Löschprotokoll führt jedes einzelne auf und wohin es ging:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1435"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Das Programm wurde während des letzten Stapel-Löschvorgangs unerwartet beendet,&lt;br&gt;möglicherweise durch Störungen einer Antivirensoftware.&lt;br&gt;&lt;br&gt;Deaktivieren Sie Ihr Antivirenprogramm vorübergehend oder fügen Sie diese Anwendung&lt;br&gt;zu seiner Ausnahmeliste hinzu, um Löschfehler oder Abstürze zu vermeiden.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
         <source>Open Data Folder</source>
         <translation>Datenordner öffnen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="962"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="997"/>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
@@ -1148,19 +1164,19 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="414"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Recycle Bin</source>
         <translation>In den Papierkorb verschieben</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="415"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1770"/>
         <source>Remove permanently</source>
         <translation>Endgültig löschen</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="416"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1771"/>
         <source>Move to Folder</source>
         <translation>In Ordner verschieben</translation>
     </message>
@@ -1250,15 +1266,15 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1106"/>
         <location filename="../../src/results/ResultForm.cpp" line="1292"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1558"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1611"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1635"/>
         <source>Delete Failed</source>
         <translation>Löschen fehlgeschlagen</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1107"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1612"/>
         <source>Failed to delete the file: %1</source>
         <translation>Die Datei konnte nicht gelöscht werden: %1</translation>
     </message>
@@ -1313,13 +1329,13 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1306"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing files</source>
         <translation>Dateien werden entfernt</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1308"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1578"/>
         <source>Removing the selected files…</source>
         <translation>Die ausgewählten Dateien werden entfernt…</translation>
     </message>
@@ -1394,22 +1410,22 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
         <translation>Beim Löschen der Datei ist ein unbekannter Fehler aufgetreten.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1559"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
         <translation>Es wurde nichts entfernt: Jede ausgewählte Datei ist die letzte Kopie ihrer Gruppe.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Failed to delete the files. </source>
         <translation>Die Dateien konnten nicht gelöscht werden. </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1697"/>
         <source>Incomplete scan</source>
         <translation>Unvollständiger Scan</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Dieser Scan konnte den Bildabgleich nicht abschließen, weil Arbeitsspeicher &lt;br&gt;und Speicherplatz nicht ausreichten. Löschen Sie doppelte Dateien&lt;br&gt;oder wählen Sie weniger Ordner aus und versuchen Sie es erneut. Sorgen Sie für mindestens &lt;br&gt;1 GB freien Arbeitsspeicher und 1 GB freien Speicherplatz auf dem Systemlaufwerk. &lt;br&gt;</translation>
     </message>
@@ -1523,37 +1539,37 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
 <context>
     <name>TCloudFolderDialog</name>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="49"/>
         <source>Select Folder</source>
         <translation>Ordner auswählen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="53"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
         <translation>Markieren Sie die Ordner in %1, die gescannt werden sollen. Ein markierter Ordner schließt alles ein, was er enthält.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Add</source>
         <translation>Hinzufügen</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="169"/>
         <source>Network Request Error</source>
         <translation>Fehler bei der Netzwerkanfrage</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="170"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
         <translation>Die Netzwerkanfrage ist fehlgeschlagen. Bitte melden Sie sich erneut an, um Ihr Konto neu zu autorisieren.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>Loading folders…</source>
         <translation>Ordner werden geladen…</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>%n folder(s) chosen</source>
         <translation>
             <numerusform>%n Ordner ausgewählt</numerusform>

@@ -346,129 +346,129 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Archivos analizados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Duplicates found</source>
         <translation>Duplicados encontrados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Size of duplicates</source>
         <translation>Tamaño de los duplicados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Progress</source>
         <translation>Progreso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="347"/>
         <source>Elapsed time</source>
         <translation>Tiempo transcurrido</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="395"/>
         <source>Local Computer</source>
         <translation>Equipo local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="415"/>
         <source>%1 (needs rclone)</source>
         <translation>%1 (requiere rclone)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
         <source>User Guide</source>
         <translation>Guía del usuario</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
         <source>Product FAQ</source>
         <translation>Preguntas frecuentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Feedback and Support</source>
         <translation>Comentarios y soporte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Check for Updates</source>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1373"/>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="432"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1393"/>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Show Log in Explorer</source>
         <translation>Mostrar registro en el explorador</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="449"/>
         <source>Show Results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>Scan</source>
         <translation>Analizar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="501"/>
         <source>Stop</source>
         <translation>Detener</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="509"/>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="515"/>
         <source>New Scan</source>
         <translation>Nuevo análisis</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="520"/>
         <source>Show results</source>
         <translation>Mostrar resultados</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="577"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>«%1» es un archivo, no una carpeta. Solo se pueden analizar carpetas: añada en su lugar la carpeta que lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="581"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>No se encontró «%1». Puede que se haya movido o eliminado.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="584"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>No se añadió %n elemento porque no es una carpeta:</numerusform>
@@ -476,17 +476,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="586"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="873"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1459"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="607"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n carpeta añadida</numerusform>
@@ -494,44 +494,54 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="644"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="874"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Después de añadir cuentas y carpetas en la nube, ya no se pueden añadir carpetas locales.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="648"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="731"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1182"/>
         <source>info</source>
         <translation>Información</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="664"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="732"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Después de añadir carpetas locales, ya no se pueden añadir cuentas en la nube.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
         <translation>No se pueden analizar varias cuentas en la nube a la vez.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <source>Sign in to %1</source>
+        <translation>Iniciar sesión en %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <source>Finish signing in to %1 in your web browser. This window goes on by itself once you are through.</source>
+        <translation>Termine de iniciar sesión en %1 en su navegador web. Esta ventana continuará sola cuando haya terminado.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="792"/>
         <source>Sign-in Failed</source>
         <translation>Error al iniciar sesión</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="793"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
@@ -540,22 +550,27 @@
 %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="805"/>
         <source>Insufficient System Disk Space</source>
         <translation>Espacio insuficiente en la unidad del sistema</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="806"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
         <translation>La descarga de las miniaturas no se completó. Esto puede afectar a los resultados de la detección de imágenes similares. Libere espacio en disco e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="817"/>
+        <source>If no browser window opened, open &lt;a href=&quot;%1&quot;&gt;this sign-in page&lt;/a&gt;.</source>
+        <translation>Si no se abrió ninguna ventana del navegador, abra &lt;a href=&quot;%1&quot;&gt;esta página de inicio de sesión&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1046"/>
         <source>%1 and %2 could not be read.</source>
         <translation>No se pudieron leer %1 y %2.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n carpeta</numerusform>
@@ -563,7 +578,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n archivo</numerusform>
@@ -571,7 +586,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1049"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>No se pudo leer %n carpeta.</numerusform>
@@ -579,7 +594,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>No se pudo leer %n archivo.</numerusform>
@@ -587,27 +602,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1072"/>
         <source>Folders that could not be read</source>
         <translation>Carpetas que no se pudieron leer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1073"/>
         <source>Files that could not be read</source>
         <translation>Archivos que no se pudieron leer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Enlaces no seguidos porque llevan fuera de las carpetas elegidas</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1076"/>
         <source>System folders not entered</source>
         <translation>Carpetas del sistema no exploradas</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1084"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>No se siguió %n enlace que lleva fuera de las carpetas elegidas.</numerusform>
@@ -615,111 +630,112 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1091"/>
         <source>Details</source>
         <translation>Detalles</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1100"/>
         <source>The chosen folder could not be read.</source>
         <translation>No se pudo leer la carpeta elegida.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1101"/>
         <source>The chosen folders could not be read.</source>
         <translation>No se pudieron leer las carpetas elegidas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1103"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Compruebe que todavía existe y que tiene permiso para abrirla.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1104"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Compruebe que todavía existen y que tiene permiso para abrirlas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1123"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1300"/>
         <source>Open File</source>
         <translation>Abrir archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1124"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>«%1» es una carpeta, no un archivo de proyecto. Para analizarla, añádala con el botón +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1127"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>El archivo de proyecto «%1» no existe.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1178"/>
         <source>Cloud Scan Failed</source>
         <translation>Error en el análisis de la nube</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1179"/>
         <source>The cloud scan could not be completed: %1</source>
         <translation>No se pudo completar el análisis de la nube: %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
         <translation>La descarga de las miniaturas no se completó. Esto puede afectar a los resultados de la detección de imágenes similares. </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1299"/>
         <source>Save File</source>
         <translation>Guardar archivo</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Los resultados del análisis de la nube no se pueden guardar.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1460"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Los resultados del análisis actual no se han guardado. ¿Desea guardar el archivo?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1374"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versión %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1394"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>El nuevo idioma se aplicará la próxima vez que se inicie el programa.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1449"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Se detectó un cierre anómalo durante la última eliminación</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1444"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Elementos procesados antes de la interrupción: %1 de %2.&lt;br&gt;El registro de eliminaciones indica cada uno y adónde fue:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1435"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>El programa se cerró inesperadamente durante la última eliminación por lotes,&lt;br&gt;posiblemente por la interferencia de un antivirus.&lt;br&gt;&lt;br&gt;Desactive temporalmente el antivirus o añada esta aplicación&lt;br&gt;a su lista de permitidos para evitar errores de eliminación o bloqueos.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
         <source>Open Data Folder</source>
         <translation>Abrir carpeta de datos</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="962"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="997"/>
         <source>Error</source>
         <translation>Error</translation>
     </message>
@@ -1148,19 +1164,19 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="414"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Recycle Bin</source>
         <translation>Mover a la Papelera de reciclaje</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="415"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1770"/>
         <source>Remove permanently</source>
         <translation>Eliminar permanentemente</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="416"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1771"/>
         <source>Move to Folder</source>
         <translation>Mover a una carpeta</translation>
     </message>
@@ -1250,15 +1266,15 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1106"/>
         <location filename="../../src/results/ResultForm.cpp" line="1292"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1558"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1611"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1635"/>
         <source>Delete Failed</source>
         <translation>Error al eliminar</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1107"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1612"/>
         <source>Failed to delete the file: %1</source>
         <translation>No se pudo eliminar el archivo: %1</translation>
     </message>
@@ -1313,13 +1329,13 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1306"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing files</source>
         <translation>Eliminando archivos</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1308"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1578"/>
         <source>Removing the selected files…</source>
         <translation>Eliminando los archivos seleccionados…</translation>
     </message>
@@ -1394,22 +1410,22 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <translation>Se produjo un error desconocido al eliminar el archivo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1559"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
         <translation>No se eliminó nada: cada archivo seleccionado es la última copia de su grupo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Failed to delete the files. </source>
         <translation>No se pudieron eliminar los archivos. </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1697"/>
         <source>Incomplete scan</source>
         <translation>Análisis incompleto</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Este análisis no pudo completar la comparación de imágenes por falta de &lt;br&gt;memoria y espacio en disco. Elimine archivos duplicados&lt;br&gt;o seleccione menos carpetas e inténtelo de nuevo. Asegúrese de disponer de al menos &lt;br&gt;1 GB de memoria y 1 GB de espacio libre en la unidad del sistema. &lt;br&gt;</translation>
     </message>
@@ -1523,37 +1539,37 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 <context>
     <name>TCloudFolderDialog</name>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="49"/>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="53"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
         <translation>Marque las carpetas que desea analizar en %1. Una carpeta marcada incluye todo su contenido.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Add</source>
         <translation>Añadir</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="169"/>
         <source>Network Request Error</source>
         <translation>Error en la solicitud de red</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="170"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
         <translation>La solicitud de red falló. Vuelva a iniciar sesión para autorizar de nuevo su cuenta.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>Loading folders…</source>
         <translation>Cargando carpetas…</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>%n folder(s) chosen</source>
         <translation>
             <numerusform>%n carpeta seleccionada</numerusform>

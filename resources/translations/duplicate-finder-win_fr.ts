@@ -346,129 +346,129 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Fichiers analysés</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Duplicates found</source>
         <translation>Doublons trouvés</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Size of duplicates</source>
         <translation>Taille des doublons</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Progress</source>
         <translation>Progression</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="347"/>
         <source>Elapsed time</source>
         <translation>Temps écoulé</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="395"/>
         <source>Local Computer</source>
         <translation>Ordinateur local</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="415"/>
         <source>%1 (needs rclone)</source>
         <translation>%1 (nécessite rclone)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
         <source>User Guide</source>
         <translation>Guide de l&apos;utilisateur</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
         <source>Product FAQ</source>
         <translation>Questions fréquentes</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Feedback and Support</source>
         <translation>Commentaires et assistance</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Check for Updates</source>
         <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1373"/>
         <source>About</source>
         <translation>À propos</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="432"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1393"/>
         <source>Language</source>
         <translation>Langue</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Show Log in Explorer</source>
         <translation>Afficher le journal dans l&apos;explorateur</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
         <source>Open Project</source>
         <translation>Ouvrir un projet</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Save Project</source>
         <translation>Enregistrer le projet</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="449"/>
         <source>Show Results</source>
         <translation>Afficher les résultats</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>Scan</source>
         <translation>Analyser</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="501"/>
         <source>Stop</source>
         <translation>Arrêter</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="509"/>
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="515"/>
         <source>New Scan</source>
         <translation>Nouvelle analyse</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="520"/>
         <source>Show results</source>
         <translation>Afficher les résultats</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="577"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>« %1 » est un fichier, pas un dossier. Seuls les dossiers peuvent être analysés : ajoutez plutôt le dossier qui le contient.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="581"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>« %1 » est introuvable. Il a peut-être été déplacé ou supprimé.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="584"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>%n élément n&apos;a pas été ajouté, car ce n&apos;est pas un dossier :</numerusform>
@@ -476,17 +476,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="586"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="873"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1459"/>
         <source>Note</source>
         <translation>Remarque</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="607"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n dossier ajouté</numerusform>
@@ -494,44 +494,54 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="644"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="874"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Après l&apos;ajout de comptes et de dossiers cloud, les dossiers locaux ne peuvent plus être ajoutés.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="648"/>
         <source>Select Folder</source>
         <translation>Sélectionner un dossier</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="731"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1182"/>
         <source>info</source>
         <translation>Information</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="664"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="732"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Après l&apos;ajout de dossiers locaux, les comptes cloud ne peuvent plus être ajoutés.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
         <translation>Plusieurs comptes cloud ne peuvent pas être analysés en même temps.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <source>Sign in to %1</source>
+        <translation>Connexion à %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <source>Finish signing in to %1 in your web browser. This window goes on by itself once you are through.</source>
+        <translation>Terminez la connexion à %1 dans votre navigateur web. Cette fenêtre poursuivra d&apos;elle-même une fois que ce sera fait.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="792"/>
         <source>Sign-in Failed</source>
         <translation>Échec de la connexion</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="793"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
@@ -540,22 +550,27 @@
 %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="805"/>
         <source>Insufficient System Disk Space</source>
         <translation>Espace insuffisant sur le lecteur système</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="806"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
         <translation>Le téléchargement des miniatures n&apos;a pas abouti. Cela peut affecter les résultats de la détection des images similaires. Libérez de l&apos;espace disque, puis réessayez.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="817"/>
+        <source>If no browser window opened, open &lt;a href=&quot;%1&quot;&gt;this sign-in page&lt;/a&gt;.</source>
+        <translation>Si aucune fenêtre de navigateur ne s&apos;est ouverte, ouvrez &lt;a href=&quot;%1&quot;&gt;cette page de connexion&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1046"/>
         <source>%1 and %2 could not be read.</source>
         <translation>%1 et %2 n&apos;ont pas pu être lus.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n dossier</numerusform>
@@ -563,7 +578,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n fichier</numerusform>
@@ -571,7 +586,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1049"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>%n dossier n&apos;a pas pu être lu.</numerusform>
@@ -579,7 +594,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>%n fichier n&apos;a pas pu être lu.</numerusform>
@@ -587,27 +602,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1072"/>
         <source>Folders that could not be read</source>
         <translation>Dossiers qui n&apos;ont pas pu être lus</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1073"/>
         <source>Files that could not be read</source>
         <translation>Fichiers qui n&apos;ont pas pu être lus</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Liens non suivis, car ils mènent hors des dossiers choisis</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1076"/>
         <source>System folders not entered</source>
         <translation>Dossiers système non parcourus</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1084"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>%n lien menant hors des dossiers choisis n&apos;a pas été suivi.</numerusform>
@@ -615,111 +630,112 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1091"/>
         <source>Details</source>
         <translation>Détails</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1100"/>
         <source>The chosen folder could not be read.</source>
         <translation>Le dossier choisi n&apos;a pas pu être lu.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1101"/>
         <source>The chosen folders could not be read.</source>
         <translation>Les dossiers choisis n&apos;ont pas pu être lus.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1103"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Vérifiez qu&apos;il existe toujours et que vous avez le droit de l&apos;ouvrir.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1104"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Vérifiez qu&apos;ils existent toujours et que vous avez le droit de les ouvrir.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1123"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1300"/>
         <source>Open File</source>
         <translation>Ouvrir un fichier</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1124"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>« %1 » est un dossier, pas un fichier de projet. Pour l&apos;analyser, ajoutez-le avec le bouton +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1127"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>Le fichier de projet « %1 » n&apos;existe pas.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1178"/>
         <source>Cloud Scan Failed</source>
         <translation>Échec de l&apos;analyse du cloud</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1179"/>
         <source>The cloud scan could not be completed: %1</source>
         <translation>L&apos;analyse du cloud n&apos;a pas pu être terminée : %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
         <translation>Le téléchargement des miniatures n&apos;a pas abouti. Cela peut affecter les résultats de la détection des images similaires. </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1299"/>
         <source>Save File</source>
         <translation>Enregistrer le fichier</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>Les résultats de l&apos;analyse du cloud ne peuvent pas être enregistrés.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1460"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>Les résultats de l&apos;analyse actuelle n&apos;ont pas été enregistrés. Voulez-vous enregistrer le fichier ?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1374"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Version %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1394"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>La nouvelle langue sera appliquée au prochain démarrage du programme.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1449"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Fermeture anormale détectée lors de la dernière suppression</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1444"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Éléments traités avant l’interruption : %1 sur %2.&lt;br&gt;Le journal des suppressions indique chacun d’eux et où il est allé :&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1435"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Le programme s&apos;est fermé de façon inattendue lors de la dernière suppression par lot,&lt;br&gt;peut-être à cause d&apos;un logiciel antivirus.&lt;br&gt;&lt;br&gt;Désactivez temporairement votre antivirus ou ajoutez cette application&lt;br&gt;à sa liste blanche pour éviter les échecs de suppression ou les plantages.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
         <source>Open Data Folder</source>
         <translation>Ouvrir le dossier de données</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="962"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="997"/>
         <source>Error</source>
         <translation>Erreur</translation>
     </message>
@@ -1148,19 +1164,19 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="414"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Recycle Bin</source>
         <translation>Déplacer vers la Corbeille</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="415"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1770"/>
         <source>Remove permanently</source>
         <translation>Supprimer définitivement</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="416"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1771"/>
         <source>Move to Folder</source>
         <translation>Déplacer vers un dossier</translation>
     </message>
@@ -1250,15 +1266,15 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1106"/>
         <location filename="../../src/results/ResultForm.cpp" line="1292"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1558"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1611"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1635"/>
         <source>Delete Failed</source>
         <translation>Échec de la suppression</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1107"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1612"/>
         <source>Failed to delete the file: %1</source>
         <translation>Impossible de supprimer le fichier : %1</translation>
     </message>
@@ -1313,13 +1329,13 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1306"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing files</source>
         <translation>Suppression des fichiers</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1308"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1578"/>
         <source>Removing the selected files…</source>
         <translation>Suppression des fichiers sélectionnés…</translation>
     </message>
@@ -1394,22 +1410,22 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
         <translation>Une erreur inconnue s&apos;est produite lors de la suppression du fichier.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1559"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
         <translation>Rien n&apos;a été supprimé : chaque fichier sélectionné est la dernière copie de son groupe.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Failed to delete the files. </source>
         <translation>Impossible de supprimer les fichiers. </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1697"/>
         <source>Incomplete scan</source>
         <translation>Analyse incomplète</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Cette analyse n&apos;a pas pu terminer la comparaison des images par manque &lt;br&gt;de mémoire et d&apos;espace disque. Supprimez des doublons&lt;br&gt;ou sélectionnez moins de dossiers, puis réessayez. Vérifiez qu&apos;au moins 1 Go de &lt;br&gt;mémoire et 1 Go d&apos;espace libre sont disponibles sur le lecteur système. &lt;br&gt;</translation>
     </message>
@@ -1523,37 +1539,37 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
 <context>
     <name>TCloudFolderDialog</name>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="49"/>
         <source>Select Folder</source>
         <translation>Sélectionner un dossier</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="53"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
         <translation>Cochez les dossiers à analyser dans %1. Un dossier coché inclut tout ce qu&apos;il contient.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Add</source>
         <translation>Ajouter</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="169"/>
         <source>Network Request Error</source>
         <translation>Erreur de requête réseau</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="170"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
         <translation>La requête réseau a échoué. Reconnectez-vous pour autoriser à nouveau votre compte.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>Loading folders…</source>
         <translation>Chargement des dossiers…</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>%n folder(s) chosen</source>
         <translation>
             <numerusform>%n dossier sélectionné</numerusform>

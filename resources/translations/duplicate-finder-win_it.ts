@@ -346,129 +346,129 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>File analizzati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Duplicates found</source>
         <translation>Duplicati trovati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Size of duplicates</source>
         <translation>Dimensione dei duplicati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Progress</source>
         <translation>Avanzamento</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="347"/>
         <source>Elapsed time</source>
         <translation>Tempo trascorso</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="395"/>
         <source>Local Computer</source>
         <translation>Computer locale</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="415"/>
         <source>%1 (needs rclone)</source>
         <translation>%1 (richiede rclone)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
         <source>User Guide</source>
         <translation>Guida utente</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
         <source>Product FAQ</source>
         <translation>Domande frequenti</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Feedback and Support</source>
         <translation>Feedback e supporto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Check for Updates</source>
         <translation>Verifica aggiornamenti</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1373"/>
         <source>About</source>
         <translation>Informazioni</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="432"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1393"/>
         <source>Language</source>
         <translation>Lingua</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Show Log in Explorer</source>
         <translation>Mostra log in Esplora risorse</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
         <source>Open Project</source>
         <translation>Apri progetto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Save Project</source>
         <translation>Salva progetto</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="449"/>
         <source>Show Results</source>
         <translation>Mostra risultati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>Scan</source>
         <translation>Scansiona</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="501"/>
         <source>Stop</source>
         <translation>Interrompi</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="509"/>
         <source>Continue</source>
         <translation>Continua</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="515"/>
         <source>New Scan</source>
         <translation>Nuova scansione</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="520"/>
         <source>Show results</source>
         <translation>Mostra risultati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="577"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>&quot;%1&quot; è un file, non una cartella. Si possono analizzare solo cartelle: aggiungi invece la cartella che lo contiene.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="581"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>Impossibile trovare &quot;%1&quot;. Potrebbe essere stato spostato o rimosso.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="584"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>%n elemento non è stato aggiunto perché non è una cartella:</numerusform>
@@ -476,17 +476,17 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="586"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="873"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1459"/>
         <source>Note</source>
         <translation>Nota</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="607"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n cartella aggiunta</numerusform>
@@ -494,44 +494,54 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="644"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="874"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>Dopo aver aggiunto account e cartelle cloud, non è più possibile aggiungere cartelle locali.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="648"/>
         <source>Select Folder</source>
         <translation>Seleziona cartella</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="731"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1182"/>
         <source>info</source>
         <translation>Informazioni</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="664"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="732"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>Dopo aver aggiunto cartelle locali, non è più possibile aggiungere account cloud.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
         <translation>Non è possibile scansionare più account cloud contemporaneamente.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <source>Sign in to %1</source>
+        <translation>Accedi a %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <source>Finish signing in to %1 in your web browser. This window goes on by itself once you are through.</source>
+        <translation>Completa l&apos;accesso a %1 nel browser web. Questa finestra proseguirà da sola quando avrai finito.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="792"/>
         <source>Sign-in Failed</source>
         <translation>Accesso non riuscito</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="793"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
@@ -540,22 +550,27 @@
 %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="805"/>
         <source>Insufficient System Disk Space</source>
         <translation>Spazio insufficiente sull&apos;unità di sistema</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="806"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
         <translation>Il download delle miniature non è stato completato. Questo può influire sui risultati del rilevamento delle immagini simili. Libera spazio su disco e riprova.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="817"/>
+        <source>If no browser window opened, open &lt;a href=&quot;%1&quot;&gt;this sign-in page&lt;/a&gt;.</source>
+        <translation>Se non si è aperta alcuna finestra del browser, apri &lt;a href=&quot;%1&quot;&gt;questa pagina di accesso&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1046"/>
         <source>%1 and %2 could not be read.</source>
         <translation>Impossibile leggere %1 e %2.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n cartella</numerusform>
@@ -563,7 +578,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n file</numerusform>
@@ -571,7 +586,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1049"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>Impossibile leggere %n cartella.</numerusform>
@@ -579,7 +594,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>Impossibile leggere %n file.</numerusform>
@@ -587,27 +602,27 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1072"/>
         <source>Folders that could not be read</source>
         <translation>Cartelle che non è stato possibile leggere</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1073"/>
         <source>Files that could not be read</source>
         <translation>File che non è stato possibile leggere</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>Collegamenti non seguiti perché portano fuori dalle cartelle scelte</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1076"/>
         <source>System folders not entered</source>
         <translation>Cartelle di sistema non esplorate</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1084"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>%n collegamento che porta fuori dalle cartelle scelte non è stato seguito.</numerusform>
@@ -615,111 +630,112 @@
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1091"/>
         <source>Details</source>
         <translation>Dettagli</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1100"/>
         <source>The chosen folder could not be read.</source>
         <translation>Impossibile leggere la cartella scelta.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1101"/>
         <source>The chosen folders could not be read.</source>
         <translation>Impossibile leggere le cartelle scelte.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1103"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>Verifica che esista ancora e di avere il permesso di aprirla.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1104"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>Verifica che esistano ancora e di avere il permesso di aprirle.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1123"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1300"/>
         <source>Open File</source>
         <translation>Apri file</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1124"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>&quot;%1&quot; è una cartella, non un file di progetto. Per analizzarla, aggiungila con il pulsante +.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1127"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>Il file di progetto &quot;%1&quot; non esiste.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1178"/>
         <source>Cloud Scan Failed</source>
         <translation>Scansione cloud non riuscita</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1179"/>
         <source>The cloud scan could not be completed: %1</source>
         <translation>Impossibile completare la scansione cloud: %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
         <translation>Il download delle miniature non è stato completato. Questo può influire sui risultati del rilevamento delle immagini simili. </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1299"/>
         <source>Save File</source>
         <translation>Salva file</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>I risultati della scansione cloud non possono essere salvati.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1460"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>I risultati della scansione corrente non sono stati salvati. Salvare il file?</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1374"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;Versione %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1394"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>La nuova lingua sarà applicata al prossimo avvio del programma.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1449"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>Rilevata chiusura anomala durante l&apos;ultima eliminazione</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1444"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>Elementi elaborati prima dell’interruzione: %1 di %2.&lt;br&gt;Il registro delle eliminazioni elenca ciascuno e dove è finito:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1435"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>Il programma si è chiuso in modo imprevisto durante l&apos;ultima eliminazione in blocco,&lt;br&gt;forse a causa di un software antivirus.&lt;br&gt;&lt;br&gt;Disattivare temporaneamente l&apos;antivirus o aggiungere questa applicazione&lt;br&gt;al suo elenco di esclusioni per evitare errori di eliminazione o arresti anomali.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
         <source>Open Data Folder</source>
         <translation>Apri cartella dati</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="962"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="997"/>
         <source>Error</source>
         <translation>Errore</translation>
     </message>
@@ -1148,19 +1164,19 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="414"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Recycle Bin</source>
         <translation>Sposta nel Cestino</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="415"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1770"/>
         <source>Remove permanently</source>
         <translation>Elimina definitivamente</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="416"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1771"/>
         <source>Move to Folder</source>
         <translation>Sposta in una cartella</translation>
     </message>
@@ -1250,15 +1266,15 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1106"/>
         <location filename="../../src/results/ResultForm.cpp" line="1292"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1558"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1611"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1635"/>
         <source>Delete Failed</source>
         <translation>Eliminazione non riuscita</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1107"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1612"/>
         <source>Failed to delete the file: %1</source>
         <translation>Impossibile eliminare il file: %1</translation>
     </message>
@@ -1313,13 +1329,13 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1306"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing files</source>
         <translation>Rimozione dei file</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1308"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1578"/>
         <source>Removing the selected files…</source>
         <translation>Rimozione dei file selezionati…</translation>
     </message>
@@ -1394,22 +1410,22 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
         <translation>Si è verificato un errore sconosciuto durante l&apos;eliminazione del file.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1559"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
         <translation>Non è stato rimosso nulla: ogni file selezionato è l&apos;ultima copia del suo gruppo.</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Failed to delete the files. </source>
         <translation>Impossibile eliminare i file. </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1697"/>
         <source>Incomplete scan</source>
         <translation>Scansione incompleta</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Questa scansione non ha potuto completare il confronto delle immagini per &lt;br&gt;limiti di memoria e di spazio su disco. Elimina i file duplicati&lt;br&gt;o seleziona meno cartelle e riprova. Assicurati che siano disponibili almeno 1 GB di &lt;br&gt;memoria e 1 GB di spazio libero sull&apos;unità di sistema. &lt;br&gt;</translation>
     </message>
@@ -1523,37 +1539,37 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
 <context>
     <name>TCloudFolderDialog</name>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="49"/>
         <source>Select Folder</source>
         <translation>Seleziona cartella</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="53"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
         <translation>Seleziona le cartelle da scansionare in %1. Una cartella selezionata include tutto il suo contenuto.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Add</source>
         <translation>Aggiungi</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="169"/>
         <source>Network Request Error</source>
         <translation>Errore nella richiesta di rete</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="170"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
         <translation>La richiesta di rete non è riuscita. Accedi di nuovo per autorizzare nuovamente il tuo account.</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>Loading folders…</source>
         <translation>Caricamento delle cartelle…</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>%n folder(s) chosen</source>
         <translation>
             <numerusform>%n cartella selezionata</numerusform>

@@ -346,190 +346,200 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="342"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>スキャンしたファイル</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
         <source>Duplicates found</source>
         <translation>見つかった重複</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="344"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
         <source>Size of duplicates</source>
         <translation>重複のサイズ</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="345"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
         <source>Progress</source>
         <translation>進行状況</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="346"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="347"/>
         <source>Elapsed time</source>
         <translation>経過時間</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="394"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="395"/>
         <source>Local Computer</source>
         <translation>ローカルコンピューター</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="414"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="415"/>
         <source>%1 (needs rclone)</source>
         <translation>%1 (rclone が必要)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="426"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
         <source>User Guide</source>
         <translation>ユーザーガイド</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="427"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
         <source>Product FAQ</source>
         <translation>よくある質問</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="428"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
         <source>Feedback and Support</source>
         <translation>フィードバックとサポート</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="429"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
         <source>Check for Updates</source>
         <translation>アップデートを確認</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="430"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1320"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1373"/>
         <source>About</source>
         <translation>バージョン情報</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="431"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="432"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1393"/>
         <source>Language</source>
         <translation>言語</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="443"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Show Log in Explorer</source>
         <translation>エクスプローラーでログを表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="446"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
         <source>Open Project</source>
         <translation>プロジェクトを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
         <source>Save Project</source>
         <translation>プロジェクトを保存</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="448"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="449"/>
         <source>Show Results</source>
         <translation>結果を表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="487"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="488"/>
         <source>Scan</source>
         <translation>スキャン</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="500"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="501"/>
         <source>Stop</source>
         <translation>停止</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="508"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="509"/>
         <source>Continue</source>
         <translation>続行</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="514"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="515"/>
         <source>New Scan</source>
         <translation>新規スキャン</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="519"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="520"/>
         <source>Show results</source>
         <translation>結果を表示</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="576"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="577"/>
         <source>&quot;%1&quot; is a file, not a folder. Only folders can be scanned: add the folder that holds it instead.</source>
         <translation>「%1」はファイルであり、フォルダーではありません。スキャンできるのはフォルダーだけです。代わりにそのファイルを含むフォルダーを追加してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="580"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="581"/>
         <source>&quot;%1&quot; could not be found. It may have been moved or removed.</source>
         <translation>「%1」が見つかりません。移動または削除された可能性があります。</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="583"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="584"/>
         <source>%n item(s) were not added because they are not folders:</source>
         <translation>
             <numerusform>フォルダーではないため、%n 個の項目を追加しませんでした:</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="585"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="642"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="828"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1287"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1406"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="586"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="873"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1340"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1459"/>
         <source>Note</source>
         <translation>注意</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="606"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="607"/>
         <source>%n folder(s) added</source>
         <translation>
             <numerusform>%n 個のフォルダーを追加済み</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="643"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="829"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="644"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="874"/>
         <source>After adding cloud accounts and directories, local directories can no longer be added.</source>
         <translation>クラウドアカウントとフォルダーを追加した後は、ローカルフォルダーを追加できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="647"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="648"/>
         <source>Select Folder</source>
         <translation>フォルダーを選択</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="662"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1129"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="731"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1182"/>
         <source>info</source>
         <translation>情報</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="663"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="664"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="732"/>
         <source>After adding local directories, cloud accounts can no longer be added.</source>
         <translation>ローカルフォルダーを追加した後は、クラウドアカウントを追加できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="669"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="705"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="670"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="739"/>
         <source>Multiple cloud accounts cannot be scanned at the same time.</source>
         <translation>複数のクラウドアカウントを同時にスキャンすることはできません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="757"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="697"/>
+        <source>Sign in to %1</source>
+        <translation>%1 にサインイン</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="698"/>
+        <source>Finish signing in to %1 in your web browser. This window goes on by itself once you are through.</source>
+        <translation>Web ブラウザーで %1 へのサインインを完了してください。完了するとこのウィンドウは自動的に続行します。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="792"/>
         <source>Sign-in Failed</source>
         <translation>サインインに失敗しました</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="758"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="793"/>
         <source>The cloud account could not be signed in.
 
 %1</source>
@@ -538,181 +548,187 @@
 %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="770"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="805"/>
         <source>Insufficient System Disk Space</source>
         <translation>システムドライブの空き容量が不足しています</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="771"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="806"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. Please free up some disk space and try again.</source>
         <translation>サムネイルのダウンロードが完了しませんでした。類似画像の検出結果に影響する可能性があります。ディスクの空き容量を増やしてから、もう一度お試しください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="993"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="817"/>
+        <source>If no browser window opened, open &lt;a href=&quot;%1&quot;&gt;this sign-in page&lt;/a&gt;.</source>
+        <translation>ブラウザーのウィンドウが開かない場合は、&lt;a href=&quot;%1&quot;&gt;このサインインページ&lt;/a&gt;を開いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1046"/>
         <source>%1 and %2 could not be read.</source>
         <translation>%1と%2を読み取れませんでした。</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n folder(s)</source>
         <translation>
             <numerusform>%n 個のフォルダー</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="994"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
         <source>%n file(s)</source>
         <translation>
             <numerusform>%n 個のファイル</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="996"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1049"/>
         <source>%n folder(s) could not be read.</source>
         <translation>
             <numerusform>%n 個のフォルダーを読み取れませんでした。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="998"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>%n 個のファイルを読み取れませんでした。</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1019"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1072"/>
         <source>Folders that could not be read</source>
         <translation>読み取れなかったフォルダー</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1020"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1073"/>
         <source>Files that could not be read</source>
         <translation>読み取れなかったファイル</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1021"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
         <source>Links not followed because they lead outside the chosen folders</source>
         <translation>選択したフォルダーの外を指すため、たどらなかったリンク</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1023"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1076"/>
         <source>System folders not entered</source>
         <translation>スキャンしなかったシステムフォルダー</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1031"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1084"/>
         <source>%n link(s) leading outside the chosen folders were not followed.</source>
         <translation>
             <numerusform>選択したフォルダーの外を指す %n 個のリンクはたどりませんでした。</numerusform>
         </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1038"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1091"/>
         <source>Details</source>
         <translation>詳細</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1047"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1100"/>
         <source>The chosen folder could not be read.</source>
         <translation>選択したフォルダーを読み取れませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1048"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1101"/>
         <source>The chosen folders could not be read.</source>
         <translation>選択したフォルダーを読み取れませんでした。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1050"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1103"/>
         <source>Check that it still exists and that you are allowed to open it.</source>
         <translation>フォルダーがまだ存在し、開く権限があることを確認してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1051"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1104"/>
         <source>Check that they still exist and that you are allowed to open them.</source>
         <translation>フォルダーがまだ存在し、開く権限があることを確認してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1070"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1194"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1123"/>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="1247"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1300"/>
         <source>Open File</source>
         <translation>ファイルを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1071"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1124"/>
         <source>&quot;%1&quot; is a folder, not a project file. To scan it, add it with the + button.</source>
         <translation>「%1」はフォルダーであり、プロジェクトファイルではありません。スキャンするには + ボタンで追加してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1074"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1127"/>
         <source>The project file &quot;%1&quot; does not exist.</source>
         <translation>プロジェクトファイル「%1」は存在しません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1125"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1178"/>
         <source>Cloud Scan Failed</source>
         <translation>クラウドのスキャンに失敗しました</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1126"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1179"/>
         <source>The cloud scan could not be completed: %1</source>
         <translation>クラウドのスキャンを完了できませんでした: %1</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1130"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1183"/>
         <source>Thumbnail download was not completed. This may affect similar image detection results. </source>
         <translation>サムネイルのダウンロードが完了しませんでした。類似画像の検出結果に影響する可能性があります。 </translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1207"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1246"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1299"/>
         <source>Save File</source>
         <translation>ファイルを保存</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1260"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1313"/>
         <source>The cloud drive scan results cannot be saved.</source>
         <translation>クラウドドライブのスキャン結果は保存できません。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1288"/>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1407"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1460"/>
         <source>The current scan results have not been saved. Do you want to save the file?</source>
         <translation>現在のスキャン結果は保存されていません。ファイルを保存しますか？</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1321"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1374"/>
         <source>%1&lt;br&gt;Version %2 (%3)</source>
         <translation>%1&lt;br&gt;バージョン %2 (%3)</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1341"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1394"/>
         <source>The new language takes effect the next time the program starts.</source>
         <translation>新しい言語は次回プログラムを起動したときに有効になります。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1396"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1449"/>
         <source>Abnormal Exit Detected During Last Deletion</source>
         <translation>前回の削除中に異常終了を検出しました</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1391"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1444"/>
         <source>Items handled before it stopped: %1 of %2.&lt;br&gt;The removal journal lists each one and where it went:&lt;br&gt;%3</source>
         <translation>中断前に処理された項目: %2 件中 %1 件。&lt;br&gt;削除ジャーナルに各項目と移動先が記録されています:&lt;br&gt;%3</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="1382"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="1435"/>
         <source>The program exited unexpectedly during the last batch deletion,&lt;br&gt;possibly due to interference from antivirus software.&lt;br&gt;&lt;br&gt;Please disable your antivirus temporarily or add this application&lt;br&gt;to its whitelist to avoid deletion failures or crashes.</source>
         <translation>前回の一括削除中にプログラムが予期せず終了しました。&lt;br&gt;ウイルス対策ソフトウェアの干渉が原因の可能性があります。&lt;br&gt;&lt;br&gt;削除の失敗やクラッシュを避けるため、ウイルス対策ソフトを一時的に無効にするか、&lt;br&gt;このアプリケーションを許可リストに追加してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="445"/>
         <source>Open Data Folder</source>
         <translation>データフォルダーを開く</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/MainWindow.cpp" line="944"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="962"/>
+        <location filename="../../src/mainwindow/MainWindow.cpp" line="997"/>
         <source>Error</source>
         <translation>エラー</translation>
     </message>
@@ -1138,19 +1154,19 @@
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="414"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1767"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Recycle Bin</source>
         <translation>ごみ箱に移動</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="415"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1768"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1770"/>
         <source>Remove permanently</source>
         <translation>完全に削除</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="416"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1769"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1771"/>
         <source>Move to Folder</source>
         <translation>フォルダーに移動</translation>
     </message>
@@ -1238,15 +1254,15 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1106"/>
         <location filename="../../src/results/ResultForm.cpp" line="1292"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1556"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1609"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1558"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1611"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1635"/>
         <source>Delete Failed</source>
         <translation>削除に失敗しました</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1107"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1610"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1612"/>
         <source>Failed to delete the file: %1</source>
         <translation>ファイルを削除できませんでした: %1</translation>
     </message>
@@ -1301,13 +1317,13 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1306"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1574"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
         <source>Removing files</source>
         <translation>ファイルを削除しています</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1308"/>
-        <location filename="../../src/results/ResultForm.cpp" line="1576"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1578"/>
         <source>Removing the selected files…</source>
         <translation>選択したファイルを削除しています…</translation>
     </message>
@@ -1382,22 +1398,22 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <translation>ファイルの削除中に不明なエラーが発生しました。</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1557"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1559"/>
         <source>Nothing was removed: every selected file is the last copy of its group.</source>
         <translation>何も削除していません: 選択したファイルはすべて、それぞれのグループの最後のコピーです。</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1631"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1633"/>
         <source>Failed to delete the files. </source>
         <translation>ファイルを削除できませんでした。 </translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1695"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1697"/>
         <source>Incomplete scan</source>
         <translation>スキャンが完了していません</translation>
     </message>
     <message>
-        <location filename="../../src/results/ResultForm.cpp" line="1696"/>
+        <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>メモリとディスク容量の制限により、このスキャンでは&lt;br&gt;画像の照合を完了できませんでした。重複ファイルを削除するか、&lt;br&gt;選択するフォルダーを減らしてから、もう一度お試しください。少なくとも 1 GB の&lt;br&gt;メモリと、システムドライブに 1 GB の空き容量を確保してください。&lt;br&gt;</translation>
     </message>
@@ -1511,37 +1527,37 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 <context>
     <name>TCloudFolderDialog</name>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="65"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="49"/>
         <source>Select Folder</source>
         <translation>フォルダーを選択</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="53"/>
         <source>Check the folders to scan in %1. A checked folder includes everything inside it.</source>
         <translation>%1 でスキャンするフォルダーにチェックを付けてください。チェックしたフォルダーには、その中のすべてが含まれます。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="85"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="69"/>
         <source>Add</source>
         <translation>追加</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="185"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="169"/>
         <source>Network Request Error</source>
         <translation>ネットワーク要求エラー</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="186"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="170"/>
         <source>The network request failed. Please log in again to re-authorize your account.</source>
         <translation>ネットワーク要求に失敗しました。もう一度サインインして、アカウントを再認証してください。</translation>
     </message>
     <message>
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>Loading folders…</source>
         <translation>フォルダーを読み込んでいます…</translation>
     </message>
     <message numerus="yes">
-        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="195"/>
+        <location filename="../../src/mainwindow/TCloudFolderDialog.cpp" line="179"/>
         <source>%n folder(s) chosen</source>
         <translation>
             <numerusform>%n 個のフォルダーを選択済み</numerusform>
