@@ -17,6 +17,7 @@
 #include "preferences/DFPreferences.h"
 #include "preferences/DFPreferencesDialog.h"
 #include "preferences/DFSelectionPreferences.h"
+#include "results/ResultForm.h"
 #include "widgets/ProblemListDialog.h"
 
 #include <QApplication>
@@ -166,6 +167,12 @@ void shootCloud(const QString &out)
     for (const char *name : {"Photos/2019 Summer", "Photos/2020 Wedding", "Photos/Phone backup",
              "Documents/Taxes", "Documents/Letters", "Music", "Shared with me"})
         QDir(drive.path()).mkpath(QString::fromLatin1(name));
+    const QByteArray picture(480000, 'p');
+    const QByteArray letter(136000, 'l');
+    ScanTree::write(drive.path(), QStringLiteral("Photos/2019 Summer/IMG_2041.jpg"), picture);
+    ScanTree::write(drive.path(), QStringLiteral("Photos/Phone backup/IMG_2041.jpg"), picture);
+    ScanTree::write(drive.path(), QStringLiteral("Documents/Taxes/receipt scan.jpg"), letter);
+    ScanTree::write(drive.path(), QStringLiteral("Photos/Phone backup/receipt scan (1).jpg"), letter);
     // rclone starts here, so the drive's top is this folder.
     QDir::setCurrent(drive.path());
     KvCloudObject *cloud = KvCloudObject::instance();
@@ -214,6 +221,19 @@ void shootCloud(const QString &out)
         });
         window.showSelectFolderDialog(QStringLiteral("GoogleDrive"), 1);
         save(&window, out, prefix + QStringLiteral("cloud-2-folders-added"));
+        if (size != kSizes[0])
+            continue;
+        // The result page of a cloud scan.
+        window.setShowResultsWhenDone(true);
+        window.findChild<QPushButton *>(QStringLiteral("btn_scan"))->click();
+        if (!QTest::qWaitFor([&window] { return window.resultPage() != nullptr; }, 20000))
+            continue;
+        ResultForm *page = window.resultPage();
+        page->resize(size);
+        QTest::qWaitFor([page] { return page->isDataLoaded(); }, 10000);
+        QTest::qWait(500);
+        save(page, out, prefix + QStringLiteral("cloud-3-results"));
+        page->close();
     }
 }
 
