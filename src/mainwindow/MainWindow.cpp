@@ -962,22 +962,10 @@ void MainWindow::startCloudScan()
         QMessageBox::warning(this, tr("Error"), refused.join(QLatin1Char('\n')));
         return;
     }
-    m_localScan = false;
-    clearScanProblems();
-    m_projectPath.clear();
-    m_resultKind = ResultsFound;
     m_cloudGroups.clear();
     m_cloudFailure.clear();
     TFileData::instance()->clear();
-    m_filesScanned = 0;
-    m_ring->setValue(0);
-    m_labProgress->setText(QStringLiteral("0.00%"));
-    m_labFileNumber->setText(QStringLiteral("0"));
-    m_labFindNumber->setText(QStringLiteral("0"));
-    m_labFindSize->setText(TImageModel::sizeText(0));
-    m_labFindTime->setText(QStringLiteral("00:00:00"));
-    m_pages->setCurrentIndex(1);
-    setStatus(StateScanning);
+    showScanStarted(false);
     splog_d(
         kTag + QStringLiteral("Cloud scan of %1").arg(m_cloudFolders.join(QStringLiteral(", "))));
     cloud->set_common_config(common);
@@ -998,7 +986,12 @@ void MainWindow::startLocalScan()
         return;
     }
     m_lastScanRoots = roots;
-    m_localScan = true;
+    showScanStarted(true);
+}
+
+void MainWindow::showScanStarted(bool local)
+{
+    m_localScan = local;
     clearScanProblems();
     m_projectPath.clear();
     m_resultKind = ResultsFound;

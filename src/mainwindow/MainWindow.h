@@ -129,6 +129,8 @@ private:
     void connectController();
     void connectCloud();
     void startCloudScan();
+    // The scanning page from zero, for a scan that has just started.
+    void showScanStarted(bool local);
     // One row of the folder list for a chosen cloud folder.
     void addCloudRow(const CloudFolderInfo &folder);
     void refreshCountLabel();

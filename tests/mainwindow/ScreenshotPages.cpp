@@ -130,6 +130,19 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
     }
 }
 
+// A dialog over its window, dimmed behind it, the way it opens on the screen.
+void saveOverWindow(QWidget *dialog, QWidget *window, const QString &out, const QString &name)
+{
+    QPixmap screen = window->grab();
+    const QPixmap face = dialog->grab();
+    QPainter painter(&screen);
+    painter.fillRect(screen.rect(), QColor(0, 0, 0, 60));
+    painter.drawPixmap(
+        (screen.width() - face.width()) / 2, (screen.height() - face.height()) / 2, face);
+    painter.end();
+    screen.save(QDir(out).filePath(name + QStringLiteral("-on-window.png")));
+}
+
 // The settings dialog's three tabs, each alone and over the window of the given size, the
 // way the dialog opens on the screen.
 void shootSettings(const Language &language, const QSize &size, const QString &out)
@@ -148,14 +161,7 @@ void shootSettings(const Language &language, const QSize &size, const QString &o
         tabs->setCurrentIndex(i);
         const QString name = prefix + QStringLiteral("settings-%1").arg(i + 1);
         save(&dialog, out, name);
-        QPixmap screen = window.grab();
-        const QPixmap face = dialog.grab();
-        QPainter painter(&screen);
-        painter.fillRect(screen.rect(), QColor(0, 0, 0, 60));
-        painter.drawPixmap(
-            (screen.width() - face.width()) / 2, (screen.height() - face.height()) / 2, face);
-        painter.end();
-        screen.save(QDir(out).filePath(name + QStringLiteral("-on-window.png")));
+        saveOverWindow(&dialog, &window, out, name);
     }
 }
 
@@ -172,7 +178,8 @@ void shootCloud(const QString &out)
     ScanTree::write(drive.path(), QStringLiteral("Photos/2019 Summer/IMG_2041.jpg"), picture);
     ScanTree::write(drive.path(), QStringLiteral("Photos/Phone backup/IMG_2041.jpg"), picture);
     ScanTree::write(drive.path(), QStringLiteral("Documents/Taxes/receipt scan.jpg"), letter);
-    ScanTree::write(drive.path(), QStringLiteral("Photos/Phone backup/receipt scan (1).jpg"), letter);
+    ScanTree::write(
+        drive.path(), QStringLiteral("Photos/Phone backup/receipt scan (1).jpg"), letter);
     // rclone starts here, so the drive's top is this folder.
     QDir::setCurrent(drive.path());
     KvCloudObject *cloud = KvCloudObject::instance();
@@ -208,15 +215,7 @@ void shootCloud(const QString &out)
             }
             QTest::qWait(100);
             save(dialog, out, prefix + QStringLiteral("cloud-1-chooser"));
-            QPixmap screen = window.grab();
-            const QPixmap face = dialog->grab();
-            QPainter painter(&screen);
-            painter.fillRect(screen.rect(), QColor(0, 0, 0, 60));
-            painter.drawPixmap(
-                (screen.width() - face.width()) / 2, (screen.height() - face.height()) / 2, face);
-            painter.end();
-            screen.save(
-                QDir(out).filePath(prefix + QStringLiteral("cloud-1-chooser-on-window.png")));
+            saveOverWindow(dialog, &window, out, prefix + QStringLiteral("cloud-1-chooser"));
             dialog->accept();
         });
         window.showSelectFolderDialog(QStringLiteral("GoogleDrive"), 1);
