@@ -229,7 +229,7 @@ void shootCloud(const QString &out)
             continue;
         ResultForm *page = window.resultPage();
         page->resize(size);
-        QTest::qWaitFor([page] { return page->isDataLoaded(); }, 10000);
+        (void)QTest::qWaitFor([page] { return page->isDataLoaded(); }, 10000);
         QTest::qWait(500);
         save(page, out, prefix + QStringLiteral("cloud-3-results"));
         page->close();
