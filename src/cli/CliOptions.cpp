@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliOptions.h"
 
+#include "app/SnapshotKeys.h"
 #include "preferences/PreferenceRanges.h"
 
 #include <cmath>
@@ -449,19 +450,19 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
 QJsonObject CliOptions::commonConfig() const
 {
     return QJsonObject {
-        {"MinFileSize", m_minSizeKb},
-        {"MaxFileSize", m_maxSizeMb},
-        {"IgnoreSystemHidden", !m_includeHidden},
+        {SnapshotKeys::minFileSize, m_minSizeKb},
+        {SnapshotKeys::maxFileSize, m_maxSizeMb},
+        {SnapshotKeys::ignoreSystemHidden, !m_includeHidden},
         {"IgnoreBundle", false},
         // 0: the only-list governs; 1: the ignore list governs.
-        {"ScanFileType", m_ignore.isEmpty() ? 0 : 1},
+        {SnapshotKeys::scanFileType, m_ignore.isEmpty() ? 0 : 1},
         {"ThreadCount", std::max(2, QThread::idealThreadCount())},
         {"TrashFolder", QString()},
         {"OpenFolder", QString()},
         {"SaveFolder", QString()},
-        {"IgnorePathFile", toArray(m_ignorePaths)},
-        {"IgnoreFileType", toArray(m_ignore)},
-        {"OnlyFileType", toArray(m_only)},
+        {SnapshotKeys::ignorePathFile, toArray(m_ignorePaths)},
+        {SnapshotKeys::ignoreFileType, toArray(m_ignore)},
+        {SnapshotKeys::onlyFileType, toArray(m_only)},
     };
 }
 
@@ -471,27 +472,27 @@ QJsonObject CliOptions::duplicationConfig() const
     for (auto it = m_priorities.begin(); it != m_priorities.end(); ++it)
         priorities.insert(it.key(), it.value());
     return QJsonObject {
-        {"scanMethod", m_method},
-        {"duplicateSelectHint", m_selectHint},
+        {SnapshotKeys::scanMethod, m_method},
+        {SnapshotKeys::duplicateSelectHint, m_selectHint},
         {"similarSelectHint", m_selectHint},
-        {"scanDupDirectory", m_folderGroups},
-        {"mapPriority", priorities},
+        {SnapshotKeys::scanDupDirectory, m_folderGroups},
+        {SnapshotKeys::mapPriority, priorities},
     };
 }
 
 QJsonObject CliOptions::similarConfig() const
 {
     return QJsonObject {
-        {"hasSimilar", m_similar},
-        {"SimilarityValue", m_threshold},
-        {"FeaturesValue", m_features},
-        {"selectedSimilar", m_selectHint != 8},
-        {"scanPriority", 1},
-        {"selectionHint", m_selectHint},
-        {"algorithmHint", m_algorithm},
-        {"isAddFeatures", m_addFeatures},
-        {"isImageType", m_sameType},
-        {"isImageSize", m_sameRatio},
-        {"imageMinSize", 4},
+        {SnapshotKeys::hasSimilar, m_similar},
+        {SnapshotKeys::similarityValue, m_threshold},
+        {SnapshotKeys::featuresValue, m_features},
+        {SnapshotKeys::selectedSimilar, m_selectHint != 8},
+        {SnapshotKeys::scanPriority, 1},
+        {SnapshotKeys::selectionHint, m_selectHint},
+        {SnapshotKeys::algorithmHint, m_algorithm},
+        {SnapshotKeys::isAddFeatures, m_addFeatures},
+        {SnapshotKeys::isImageType, m_sameType},
+        {SnapshotKeys::isImageSize, m_sameRatio},
+        {SnapshotKeys::imageMinSize, 4},
     };
 }

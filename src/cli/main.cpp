@@ -2,6 +2,7 @@
 // Headless front end of the scan engine: the same controller, scanner and finder as the
 // window, configured from the command line, printing the groups as text or JSON.
 #include "app/FileTypeCatalogue.h"
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "cli/CliOptions.h"
 #include "cli/CliText.h"
@@ -238,10 +239,10 @@ int runCloudScan(const CliOptions &options)
         keyed.append({it.key(), it.value()});
     // "none" shares the hint of "all" but selects nothing.
     const QJsonObject duplication = options.duplicationConfig();
-    const int rule = duplication.value(QStringLiteral("duplicateSelectHint")).toInt();
+    const int rule = duplication.value(SnapshotKeys::duplicateSelectHint).toInt();
     if (options.selectAll() || rule != GroupItemAutoSelector::selectAllFiles) {
         QMap<QString, int> priorities;
-        const QJsonObject map = duplication.value(QStringLiteral("mapPriority")).toObject();
+        const QJsonObject map = duplication.value(SnapshotKeys::mapPriority).toObject();
         for (auto it = map.begin(); it != map.end(); ++it)
             priorities.insert(it.key(), it.value().toInt());
         GroupItemAutoSelector::autoSelectAllEx(
@@ -286,7 +287,7 @@ int main(int argc, char *argv[])
     // This build has no picture stage (it starts without loading the picture libraries):
     // a run that compares pictures continues in the full build beside it, with the same
     // arguments.
-    if (options.similarConfig().value(QStringLiteral("hasSimilar")).toBool()) {
+    if (options.similarConfig().value(SnapshotKeys::hasSimilar).toBool()) {
         const QByteArray full = QFile::encodeName(QCoreApplication::applicationDirPath()
             + QStringLiteral("/" VELTRINE_CLI_PICTURE_BUILD));
         ::execv(full.constData(), argv);

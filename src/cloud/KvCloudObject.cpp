@@ -3,6 +3,7 @@
 
 #include "app/DataDirectory.h"
 #include "app/FileTypeCatalogue.h"
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "cloud/CloudPath.h"
 #include "cloud/CloudService.h"
@@ -227,21 +228,21 @@ QString KvCloudObject::get_download_dir() const
 void KvCloudObject::set_common_config(const QJsonObject &config)
 {
     m_commonConfig = config;
-    m_minSize = qint64(config.value(QStringLiteral("MinFileSize")).toDouble(0.0)) << 10;
-    m_maxSize = qint64(config.value(QStringLiteral("MaxFileSize")).toDouble(100000.0)) << 20;
-    m_skipHidden = config.value(QStringLiteral("IgnoreSystemHidden")).toBool(true);
-    const auto list = [&config](const char *key) {
+    m_minSize = qint64(config.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
+    m_maxSize = qint64(config.value(SnapshotKeys::maxFileSize).toDouble(100000.0)) << 20;
+    m_skipHidden = config.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
+    const auto list = [&config](QLatin1String key) {
         QStringList out;
-        for (const QJsonValue &value : config.value(QLatin1String(key)).toArray())
+        for (const QJsonValue &value : config.value(key).toArray())
             out.append(value.toString().toLower());
         return out;
     };
-    const bool ignoreGoverns = config.value(QStringLiteral("ScanFileType")).toInt(0) == 1;
-    m_onlyTypes = ignoreGoverns ? QStringList() : list("OnlyFileType");
-    m_ignoreTypes = ignoreGoverns ? list("IgnoreFileType") : QStringList();
+    const bool ignoreGoverns = config.value(SnapshotKeys::scanFileType).toInt(0) == 1;
+    m_onlyTypes = ignoreGoverns ? QStringList() : list(SnapshotKeys::onlyFileType);
+    m_ignoreTypes = ignoreGoverns ? list(SnapshotKeys::ignoreFileType) : QStringList();
     // The result page enters an ignored cloud file as "account:name:remote:path".
     m_ignoredFiles.clear();
-    for (const QJsonValue &value : config.value(QLatin1String("IgnorePathFile")).toArray()) {
+    for (const QJsonValue &value : config.value(SnapshotKeys::ignorePathFile).toArray()) {
         const QString entry = value.toString();
         if (entry.count(QLatin1Char(':')) >= 3)
             m_ignoredFiles.insert(entry.section(QLatin1Char(':'), 2));
@@ -251,7 +252,7 @@ void KvCloudObject::set_common_config(const QJsonObject &config)
 void KvCloudObject::set_similar_config(const QJsonObject &config)
 {
     m_similarConfig = config;
-    m_similar = config.value(QStringLiteral("hasSimilar")).toBool();
+    m_similar = config.value(SnapshotKeys::hasSimilar).toBool();
 }
 
 bool KvCloudObject::accepted(const QString &relative, qint64 size) const

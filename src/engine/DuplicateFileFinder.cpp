@@ -2,6 +2,7 @@
 #include "engine/DuplicateFileFinder.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "engine/GroupItemAutoSelector.h"
@@ -333,17 +334,17 @@ DuplicateFileFinder::~DuplicateFileFinder()
 void DuplicateFileFinder::applyConfig(const QJsonObject &duplication)
 {
     config = duplication;
-    const QJsonValue method = duplication.value(QStringLiteral("scanMethod"));
+    const QJsonValue method = duplication.value(SnapshotKeys::scanMethod);
     if (method.isDouble())
         scanMethod = method.toInt();
-    const QJsonValue folders = duplication.value(QStringLiteral("scanDupDirectory"));
+    const QJsonValue folders = duplication.value(SnapshotKeys::scanDupDirectory);
     if (folders.isBool())
         scanDupDirectory = folders.toBool();
-    const QJsonValue hint = duplication.value(QStringLiteral("duplicateSelectHint"));
+    const QJsonValue hint = duplication.value(SnapshotKeys::duplicateSelectHint);
     if (hint.isDouble())
         duplicateSelectHint = hint.toInt();
     if (duplicateSelectHint == 3) {
-        const QJsonValue priorities = duplication.value(QStringLiteral("mapPriority"));
+        const QJsonValue priorities = duplication.value(SnapshotKeys::mapPriority);
         if (priorities.isObject()) {
             mapPriority.clear();
             const QJsonObject map = priorities.toObject();

@@ -2,6 +2,7 @@
 #include "engine/ImageCompareThread.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TReadImage.h"
@@ -60,15 +61,15 @@ void ImageCompareThread::applyConfig(const QJsonObject &config)
 {
     // The pass marks are kept as float on purpose: the percent slider values are small
     // integers and the comparisons below are made against exactly these values.
-    m_similarityValue = float(config.value(QStringLiteral("SimilarityValue")).toDouble() / 100.0);
-    m_featuresValue = float(config.value(QStringLiteral("FeaturesValue")).toDouble() / 100.0);
-    m_selectedSimilar = config.value(QStringLiteral("selectedSimilar")).toBool();
-    m_selectionHint = config.value(QStringLiteral("selectionHint")).toInt();
-    m_algorithmHint = config.value(QStringLiteral("algorithmHint")).toInt();
-    m_isAddFeatures = config.value(QStringLiteral("isAddFeatures")).toBool();
-    m_isImageType = config.value(QStringLiteral("isImageType")).toBool();
-    m_isImageSize = config.value(QStringLiteral("isImageSize")).toBool();
-    m_imageMinSize = config.value(QStringLiteral("imageMinSize")).toInt();
+    m_similarityValue = float(config.value(SnapshotKeys::similarityValue).toDouble() / 100.0);
+    m_featuresValue = float(config.value(SnapshotKeys::featuresValue).toDouble() / 100.0);
+    m_selectedSimilar = config.value(SnapshotKeys::selectedSimilar).toBool();
+    m_selectionHint = config.value(SnapshotKeys::selectionHint).toInt();
+    m_algorithmHint = config.value(SnapshotKeys::algorithmHint).toInt();
+    m_isAddFeatures = config.value(SnapshotKeys::isAddFeatures).toBool();
+    m_isImageType = config.value(SnapshotKeys::isImageType).toBool();
+    m_isImageSize = config.value(SnapshotKeys::isImageSize).toBool();
+    m_imageMinSize = config.value(SnapshotKeys::imageMinSize).toInt();
     if (m_imageMinSize >= 11)
         m_imageMinSize = 4;
     // A limit below 1 would leave no ratio interval at all; 1 compares equal ratios only.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/ScanConfigCheck.h"
 
+#include "app/SnapshotKeys.h"
 #include "preferences/PreferenceRanges.h"
 
 #include <cmath>
@@ -64,12 +65,12 @@ QStringList ScanConfigCheck::problems(const QJsonObject &common, const QJsonObje
                            .arg(maximum));
     }
     // Pass marks of a search that does not run do not matter.
-    if (similar.value(QStringLiteral("hasSimilar")).toBool(false)) {
+    if (similar.value(SnapshotKeys::hasSimilar).toBool(false)) {
         check(similar, SimilarityValue,
             QT_TRANSLATE_NOOP(
                 "ScanConfigCheck", "The similarity threshold %1% is outside %2% to %3%."),
             out);
-        if (similar.value(QStringLiteral("isAddFeatures")).toBool(true))
+        if (similar.value(SnapshotKeys::isAddFeatures).toBool(true))
             check(similar, FeaturesValue,
                 QT_TRANSLATE_NOOP("ScanConfigCheck",
                     "The feature similarity threshold %1% is outside %2% to %3%."),

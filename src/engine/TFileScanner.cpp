@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/TFileScanner.h"
 
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "platform/Platform.h"
@@ -178,22 +179,21 @@ TFileScanner::~TFileScanner()
 void TFileScanner::applyConfig(const QJsonObject &common)
 {
     config = common;
-    minSize = static_cast<qint64>(common.value(QStringLiteral("MinFileSize")).toDouble(0.0)) << 10;
-    maxSize = static_cast<qint64>(common.value(QStringLiteral("MaxFileSize")).toDouble(100000.0))
-        << 20;
-    skipHiddenSystem = common.value(QStringLiteral("IgnoreSystemHidden")).toBool(true);
-    scanFileType = common.value(QStringLiteral("ScanFileType")).toInt(0);
-    const auto readList = [&common](const char *key, QStringList &target) {
-        const QJsonValue value = common.value(QLatin1String(key));
+    minSize = static_cast<qint64>(common.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
+    maxSize = static_cast<qint64>(common.value(SnapshotKeys::maxFileSize).toDouble(100000.0)) << 20;
+    skipHiddenSystem = common.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
+    scanFileType = common.value(SnapshotKeys::scanFileType).toInt(0);
+    const auto readList = [&common](QLatin1String key, QStringList &target) {
+        const QJsonValue value = common.value(key);
         if (!value.isArray())
             return;
         target.clear();
         for (const QJsonValue &item : value.toArray())
             target.append(item.toVariant().toString());
     };
-    readList("IgnorePathFile", ignorePaths);
-    readList("IgnoreFileType", ignoreTypes);
-    readList("OnlyFileType", onlyTypes);
+    readList(SnapshotKeys::ignorePathFile, ignorePaths);
+    readList(SnapshotKeys::ignoreFileType, ignoreTypes);
+    readList(SnapshotKeys::onlyFileType, onlyTypes);
     // Exactly one of the two type lists is in force.
     if (scanFileType > 0)
         onlyTypes.clear();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mainwindow/TControlUI.h"
 
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/PictureStage.h"
 #include "engine/ScanConfigCheck.h"
@@ -141,7 +142,7 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
     m_finder.applyConfig(duplication);
     if (m_compare)
         PictureStage::applyConfig(m_compare, similar);
-    m_similarEnabled = similar.value(QStringLiteral("hasSimilar")).toBool(false);
+    m_similarEnabled = similar.value(SnapshotKeys::hasSimilar).toBool(false);
 
     splog_d(QStringLiteral("[TControlUI]: Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
     m_scanner.setRoots(roots);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFIgnoreListPreferences.h"
 
+#include "app/SnapshotKeys.h"
+
 #include <algorithm>
 
 #include <QJsonArray>
@@ -55,17 +57,17 @@ void DFIgnoreListPreferences::resetDefaults()
 QJsonObject DFIgnoreListPreferences::toJson() const
 {
     QJsonObject json;
-    json.insert(QStringLiteral("MaxFileSize"), static_cast<double>(m_maxFileSize));
-    json.insert(QStringLiteral("MinFileSize"), static_cast<double>(m_minFileSize));
-    json.insert(QStringLiteral("IgnoreSystemHidden"), m_hideSystemFile);
+    json.insert(SnapshotKeys::maxFileSize, static_cast<double>(m_maxFileSize));
+    json.insert(SnapshotKeys::minFileSize, static_cast<double>(m_minFileSize));
+    json.insert(SnapshotKeys::ignoreSystemHidden, m_hideSystemFile);
     json.insert(QStringLiteral("IgnoreBundle"), m_ignoreBundle);
-    json.insert(QStringLiteral("ScanFileType"), m_scanFileType);
+    json.insert(SnapshotKeys::scanFileType, m_scanFileType);
     json.insert(QStringLiteral("ThreadCount"), m_threadCount);
     json.insert(QStringLiteral("TrashFolder"), m_trashFolder);
     json.insert(QStringLiteral("OpenFolder"), m_openFolder);
     json.insert(QStringLiteral("SaveFolder"), m_saveFolder);
-    json.insert(QStringLiteral("IgnorePathFile"), QJsonArray::fromStringList(m_ignorePathFile));
-    json.insert(QStringLiteral("IgnoreFileType"), QJsonArray::fromStringList(m_ignoreFileType));
-    json.insert(QStringLiteral("OnlyFileType"), QJsonArray::fromStringList(m_onlyFileType));
+    json.insert(SnapshotKeys::ignorePathFile, QJsonArray::fromStringList(m_ignorePathFile));
+    json.insert(SnapshotKeys::ignoreFileType, QJsonArray::fromStringList(m_ignoreFileType));
+    json.insert(SnapshotKeys::onlyFileType, QJsonArray::fromStringList(m_onlyFileType));
     return json;
 }

@@ -2,6 +2,7 @@
 #include "preferences/DFPreferences.h"
 
 #include "app/AppIdentity.h"
+#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "platform/Platform.h"
 #include "preferences/DFGenernalPreferences.h"
@@ -32,7 +33,7 @@ const QString kCommonGroup = QStringLiteral("Common");
 const QString kDuplicateGroup = QStringLiteral("Duplicate_files");
 const QString kSimilarGroup = QStringLiteral("Similar_images");
 const QString kMapGroup = QStringLiteral("map");
-const char *const kMapProperty = "mapPriority";
+const char *const kMapProperty = SnapshotKeys::mapPriority.data();
 
 using PriorityMap = QMap<QString, qint32>;
 
@@ -42,8 +43,8 @@ std::once_flag s_mutexCreated;
 
 bool isListProperty(const QString &name)
 {
-    return name == QLatin1String("IgnorePathFile") || name == QLatin1String("IgnoreFileType")
-        || name == QLatin1String("OnlyFileType");
+    return name == SnapshotKeys::ignorePathFile || name == SnapshotKeys::ignoreFileType
+        || name == SnapshotKeys::onlyFileType;
 }
 
 // The enumerations travel through QVariant by their qualified names; registering the

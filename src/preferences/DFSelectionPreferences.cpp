@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFSelectionPreferences.h"
 
+#include "app/SnapshotKeys.h"
+
 DFSelectionPreferences::DFSelectionPreferences(QObject *parent) : QObject(parent) { }
 
 DFSelectionPreferences::DFSelectionPreferences(const DFSelectionPreferences &other)
@@ -29,10 +31,10 @@ QJsonObject DFSelectionPreferences::toJson() const
         priorities.insert(it.key(), it.value());
 
     QJsonObject json;
-    json.insert(QStringLiteral("scanMethod"), static_cast<int>(m_scanMethod));
-    json.insert(QStringLiteral("duplicateSelectHint"), static_cast<int>(m_selectDuplicate));
+    json.insert(SnapshotKeys::scanMethod, static_cast<int>(m_scanMethod));
+    json.insert(SnapshotKeys::duplicateSelectHint, static_cast<int>(m_selectDuplicate));
     json.insert(QStringLiteral("similarSelectHint"), static_cast<int>(m_similarSelectHint));
-    json.insert(QStringLiteral("scanDupDirectory"), m_scanDupDirectory);
-    json.insert(QStringLiteral("mapPriority"), priorities);
+    json.insert(SnapshotKeys::scanDupDirectory, m_scanDupDirectory);
+    json.insert(SnapshotKeys::mapPriority, priorities);
     return json;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/SnapshotKeys.h"
+
 #include <cstring>
 
 #include <QtGlobal>
@@ -26,15 +28,15 @@ struct Range
 };
 
 // Kilobytes.
-inline constexpr Range MinFileSize {"MinFileSize", 0, 10000000};
+inline constexpr Range MinFileSize {SnapshotKeys::minFileSize.data(), 0, 10000000};
 // Megabytes. The top keeps the byte count far from overflowing when shifted.
-inline constexpr Range MaxFileSize {"MaxFileSize", 1, 100000};
+inline constexpr Range MaxFileSize {SnapshotKeys::maxFileSize.data(), 1, 100000};
 // Percent. At 0 every pair of pictures would pass and all pictures would form one group.
-inline constexpr Range SimilarityValue {"SimilarityValue", 1, 100};
+inline constexpr Range SimilarityValue {SnapshotKeys::similarityValue.data(), 1, 100};
 // Percent.
-inline constexpr Range FeaturesValue {"FeaturesValue", 20, 60};
+inline constexpr Range FeaturesValue {SnapshotKeys::featuresValue.data(), 20, 60};
 // Times: how far two aspect ratios may differ.
-inline constexpr Range imageMinSize {"imageMinSize", 1, 10};
+inline constexpr Range imageMinSize {SnapshotKeys::imageMinSize.data(), 1, 10};
 
 inline constexpr Range all[]
     = {MinFileSize, MaxFileSize, SimilarityValue, FeaturesValue, imageMinSize};
