@@ -5,6 +5,7 @@
 #include "app/BuildSettings.h"
 #include "app/DataDirectory.h"
 #include "app/FeatureReporter.h"
+#include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
@@ -1149,23 +1150,32 @@ void MainWindow::allCloudThreadComplated(bool isAbort)
 {
     TFileData *store = TFileData::instance();
     store->clear();
-    QList<GroupItemAutoSelector::KeyedGroup> groups;
+    // Copies are selected by the duplicate rule, similar pictures by the picture rule, as
+    // after a local scan.
+    QList<GroupItemAutoSelector::KeyedGroup> copies;
+    QList<GroupItemAutoSelector::KeyedGroup> pictures;
     for (auto it = m_cloudGroups.cbegin(); it != m_cloudGroups.cend(); ++it) {
         store->insertGroup(it.key(), it.value());
-        groups.append({it.key(), it.value()});
+        const bool similar = std::any_of(it.value().cbegin(), it.value().cend(), isSimilarEntry);
+        (similar ? pictures : copies).append({it.key(), it.value()});
     }
     m_cloudGroups.clear();
-    DFSelectionPreferences *selection = DFPreferences::instance()->selectionPreferences();
-    const int rule = int(selection->selectDuplicate());
-    if (rule != 8) {
-        KvCloudObject *cloud = KvCloudObject::instance();
-        GroupItemAutoSelector::autoSelectAllEx(
-            groups, rule,
-            [cloud](const QString &entry, const QString &name) {
-                return QVariant(cloud->getCFP(entry, name));
-            },
-            selection->mapPriority());
-    }
+    DFPreferences *preferences = DFPreferences::instance();
+    KvCloudObject *cloud = KvCloudObject::instance();
+    const auto select
+        = [cloud, preferences](const QList<GroupItemAutoSelector::KeyedGroup> &groups, int rule) {
+              if (groups.isEmpty() || rule == 8)
+                  return;
+              GroupItemAutoSelector::autoSelectAllEx(
+                  groups, rule,
+                  [cloud](const QString &entry, const QString &name) {
+                      return QVariant(cloud->getCFP(stripSimilarTag(entry), name));
+                  },
+                  preferences->selectionPreferences()->mapPriority());
+          };
+    select(copies, int(preferences->selectionPreferences()->selectDuplicate()));
+    if (preferences->generalPreferences()->selectedSimilar())
+        select(pictures, int(preferences->generalPreferences()->selectionHint()));
     allThreadComplate();
     if (const QString failure = std::exchange(m_cloudFailure, QString()); !failure.isEmpty()) {
         QMessageBox::warning(this, tr("Cloud Scan Failed"),
