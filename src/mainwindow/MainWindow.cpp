@@ -615,7 +615,8 @@ void MainWindow::updateFolderPageView()
     m_pathView->setVisible(!empty);
     m_btnPre->setVisible(!empty);
     m_btnNext->setVisible(!empty);
-    m_dragHint->setVisible(!empty);
+    // Cloud folders take no local folders beside them, dropped or not.
+    m_dragHint->setVisible(!empty && !m_cloudMode);
 }
 
 void MainWindow::deleteSelectPath(const QModelIndex &index)
