@@ -4,12 +4,30 @@
 const QList<CloudService> &CloudService::offered()
 {
     static const QList<CloudService> services {
-        {1, QStringLiteral("Google Drive"), QStringLiteral("drive")},
-        {2, QStringLiteral("Dropbox"), QStringLiteral("dropbox")},
-        {5, QStringLiteral("Google Photos"), QStringLiteral("googlephotos")},
-        {7, QStringLiteral("OneDrive"), QStringLiteral("onedrive")},
+        {1, QStringLiteral("Google Drive"), QStringLiteral("drive"), {}, true},
+        {2, QStringLiteral("Dropbox"), QStringLiteral("dropbox"), {}, true},
+        {5, QStringLiteral("Google Photos"), QStringLiteral("googlephotos"), {}, true},
+        {7, QStringLiteral("OneDrive"), QStringLiteral("onedrive"), {}, true},
     };
     return services;
+}
+
+QUrl CloudService::webLink(const QString &folder, const QString &name) const
+{
+    const QString searched = QString::fromLatin1(QUrl::toPercentEncoding(name));
+    switch (cloudType) {
+    case 1:
+        return QUrl(QStringLiteral("https://drive.google.com/drive/search?q=") + searched);
+    case 2:
+        return QUrl(QStringLiteral("https://www.dropbox.com/home/")
+            + QString::fromLatin1(QUrl::toPercentEncoding(folder, "/")));
+    case 5:
+        return QUrl(QStringLiteral("https://photos.google.com/search/") + searched);
+    case 7:
+        return QUrl(QStringLiteral("https://onedrive.live.com/?qt=search&q=") + searched);
+    default:
+        return {};
+    }
 }
 
 const CloudService *CloudService::byType(int cloudType)

@@ -132,7 +132,6 @@ QString KvCloudObject::ensureStarted()
 
 bool KvCloudObject::start_authorization(const QString &account, int cloudType, int flags)
 {
-    Q_UNUSED(flags)
     const CloudService *service = CloudService::byType(cloudType);
     QString problem;
     if (!service)
@@ -146,24 +145,50 @@ bool KvCloudObject::start_authorization(const QString &account, int cloudType, i
         QTimer::singleShot(0, this, [this, problem] { emit onAuthorizedFailed(problem); });
         return false;
     }
-    // For the services that sign in through OAuth, rclone opens the browser and the call
-    // returns once the user is through (or cancel_authorization gives up).
+    // A remote made by an earlier run is used again as it is, unless a new sign-in is
+    // asked for (its token was refused); only then does the user see the browser again.
     m_authorizing = true;
-    m_client->call(QStringLiteral("config/create"),
-        {{"name", account}, {"type", service->backend}, {"parameters", service->parameters}},
-        [this, account, cloudType](const QJsonObject &answer, const QString &error) {
-            m_authorizing = false;
-            const QString failure
-                = error.isEmpty() ? answer.value(QLatin1String("Error")).toString() : error;
-            if (!failure.isEmpty()) {
-                emit onAuthorizedFailed(failure);
+    m_client->call(QStringLiteral("config/get"), {{"name", account}},
+        [this, account, cloudType, flags, service](
+            const QJsonObject &answer, const QString &error) {
+            const bool known = error.isEmpty()
+                && answer.value(QLatin1String("type")).toString() == service->backend
+                && (!service->signsIn
+                    || !answer.value(QLatin1String("token")).toString().isEmpty());
+            if (known && !(flags & kNewSignIn)) {
+                authorized(account, cloudType, false);
                 return;
             }
-            m_account = account;
-            emit onAuthorizedCompleted(true);
-            emit onAuthorizedSuccess(account, cloudType);
+            // For the services that sign in through OAuth, rclone opens the browser and the
+            // call returns once the user is through (or cancel_authorization gives up).
+            m_client->call(QStringLiteral("config/create"),
+                {{"name", account}, {"type", service->backend},
+                    {"parameters", service->parameters}},
+                [this, account, cloudType](const QJsonObject &created, const QString &failed) {
+                    const QString failure = failed.isEmpty()
+                        ? created.value(QLatin1String("Error")).toString()
+                        : failed;
+                    if (!failure.isEmpty()) {
+                        m_authorizing = false;
+                        emit onAuthorizedFailed(failure);
+                        return;
+                    }
+                    authorized(account, cloudType, true);
+                });
         });
     return true;
+}
+
+void KvCloudObject::authorized(const QString &account, int cloudType, bool updated)
+{
+    m_authorizing = false;
+    m_account = account;
+    {
+        QWriteLocker lock(&m_filesLock);
+        m_remoteTypes.insert(account, cloudType);
+    }
+    emit onAuthorizedCompleted(updated);
+    emit onAuthorizedSuccess(account, cloudType);
 }
 
 void KvCloudObject::cancel_authorization()
@@ -718,6 +743,15 @@ QString KvCloudObject::getCFP(const QString &file, const QString &property) cons
         return item.path;
     if (property == QLatin1String("hash"))
         return item.hashType + QLatin1Char(':') + QString::fromLatin1(item.hash.toHex());
+    if (property == QLatin1String("webViewLink")) {
+        const CloudService *service = CloudService::byType(
+            m_remoteTypes.value(item.path.left(item.path.indexOf(QLatin1Char(':')))));
+        if (!service)
+            return {};
+        const CloudPath where = CloudPath::split(item.path);
+        return service->webLink(where.fs.mid(where.fs.indexOf(QLatin1Char(':')) + 1), where.remote)
+            .toString();
+    }
     return {};
 }
 

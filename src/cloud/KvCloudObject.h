@@ -52,6 +52,8 @@ public:
     // in through the browser rclone opens it and waits for the user. The answer comes as
     // onAuthorizedSuccess or onAuthorizedFailed; false when it could not even start.
     bool start_authorization(const QString &account, int cloudType, int flags = 0);
+    // flags: sign in anew even when the account's remote exists.
+    static constexpr int kNewSignIn = 1;
     // Gives up a sign-in that waits in the browser; it ends with onAuthorizedFailed.
     void cancel_authorization();
     bool isAuthorizing() const { return m_authorizing; }
@@ -76,7 +78,7 @@ public:
 
     QString get_download_dir() const;
     // A property of a listed member of a group: "size", "mimeType", "createdTime",
-    // "name", "cloudPath" or "hash"; empty when unknown.
+    // "name", "cloudPath", "hash" or "webViewLink"; empty when unknown.
     QString getCFP(const QString &file, const QString &property) const;
 
     void start_delete_one_file(const DelParams &params);
@@ -138,6 +140,7 @@ private:
         RemovalJournal journal;
     };
 
+    void authorized(const QString &account, int cloudType, bool updated);
     void listFolder();
     void addEntry(quint16 folder, int hashType, const QJsonObject &entry);
     bool accepted(const QString &relative, qint64 size) const;
@@ -209,6 +212,8 @@ private:
     // The members of the groups, by path, for getCFP and the removal checks.
     mutable QReadWriteLock m_filesLock;
     QHash<QString, CloudFile> m_members;
+    // The service of each remote signed in during this run, for the web links.
+    QHash<QString, int> m_remoteTypes;
 
     Removal *m_removal = nullptr;
     QList<DeleteResult> m_lastResults;

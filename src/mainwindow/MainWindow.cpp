@@ -679,7 +679,8 @@ void MainWindow::on_cloud_menu_clicked()
     // One remote per service, named after it; a signed-in one goes straight to its folders.
     const QString account = QString(service->name).remove(QLatin1Char(' '));
     KvCloudObject *cloud = KvCloudObject::instance();
-    if (cloud->account() == account && m_cloudType == cloudType) {
+    const bool newSignIn = m_newSignIn.contains(cloudType);
+    if (cloud->account() == account && m_cloudType == cloudType && !newSignIn) {
         showSelectFolderDialog(account, cloudType);
         return;
     }
@@ -687,7 +688,8 @@ void MainWindow::on_cloud_menu_clicked()
     m_signingIn = true;
     // Starting rclone takes a moment the first time.
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool started = cloud->start_authorization(account, cloudType);
+    const bool started
+        = cloud->start_authorization(account, cloudType, newSignIn ? KvCloudObject::kNewSignIn : 0);
     QApplication::restoreOverrideCursor();
     if (started && cloud->isAuthorizing())
         showSignInBox(service->name);
@@ -741,9 +743,13 @@ void MainWindow::showSelectFolderDialog(const QString &account, int cloudType)
             this, tr("info"), tr("Multiple cloud accounts cannot be scanned at the same time."));
         return;
     }
+    m_newSignIn.remove(cloudType);
     TCloudFolderDialog dialog(account, cloudType, this);
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
+        if (dialog.listingFailed())
+            m_newSignIn.insert(cloudType);
         return;
+    }
     const QList<CloudFolderInfo> chosen = dialog.selectedFolders();
     if (chosen.isEmpty())
         return;

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QModelIndexList>
 #include <QPointer>
+#include <QSet>
 #include <QStringList>
 
 class CRotateLabel;
@@ -165,6 +166,8 @@ private:
     // Set from a pick in the add menu until its sign-in answers; the box tells the user
     // to finish it in the browser and can give it up.
     bool m_signingIn = false;
+    // Services whose folders could not be listed: the next pick signs in anew.
+    QSet<int> m_newSignIn;
     QPointer<QMessageBox> m_signInBox;
     void showSignInBox(const QString &service);
     void closeSignInBox();

@@ -166,6 +166,7 @@ void TCloudFolderDialog::onFindedFolders(
 void TCloudFolderDialog::onAuthorizedFailed(const QString &reason)
 {
     splog_d(QStringLiteral("[TCloudFolderDialog]: listing failed: %1").arg(reason));
+    m_listingFailed = true;
     QMessageBox::warning(this, tr("Network Request Error"),
         tr("The network request failed. Please log in again to re-authorize your account."));
     reject();

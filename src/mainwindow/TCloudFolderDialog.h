@@ -29,6 +29,8 @@ public:
     // The folders asked of the cloud source so far.
     int listingsAsked() const { return m_listingsAsked; }
     bool isLoading() const { return m_pending > 0; }
+    // Closed because the service refused a listing: the account wants a new sign-in.
+    bool listingFailed() const { return m_listingFailed; }
 
     // The service's icon in the add menu and at the top of the tree; empty for none.
     static QString smallIcon(int cloudType);
@@ -45,6 +47,7 @@ private:
     int m_cloudType = 0;
     int m_listingsAsked = 0;
     int m_pending = 0;
+    bool m_listingFailed = false;
     QTreeWidget *m_tree = nullptr;
     QLabel *m_status = nullptr;
     QDialogButtonBox *m_buttons = nullptr;

@@ -211,6 +211,22 @@ private slots:
         QVERIFY(QFile::exists(root.filePath("a.jpg")));
     }
 
+    void earlierRemoteUsedAgain()
+    {
+        // The remote made at the start is found in the configuration: no new sign-in
+        // unless one is asked for.
+        KvCloudObject cloud;
+        cloud.initialization(m_data.path());
+        QSignalSpy completed(&cloud, &KvCloudObject::onAuthorizedCompleted);
+        QVERIFY(cloud.start_authorization(m_remote, CloudService::kLocalFolder));
+        QVERIFY(completed.wait(20000));
+        QVERIFY(cloud.start_authorization(
+            m_remote, CloudService::kLocalFolder, KvCloudObject::kNewSignIn));
+        QVERIFY(completed.wait(20000));
+        QCOMPARE(completed.at(0).first().toBool(), false);
+        QCOMPARE(completed.at(1).first().toBool(), true);
+    }
+
     void signInLinkReported()
     {
         // rclone tells on its error output where a browser sign-in waits.
