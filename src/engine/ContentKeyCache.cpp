@@ -247,41 +247,62 @@ void ContentKeyCache::reject(const char *why)
 
 // Entries in the table's own order (signed, as SQLite compares), so that look-ups and
 // writes walk the tree forwards instead of jumping about it.
-std::vector<quint32> ContentKeyCache::tableOrder(const std::vector<Entry> &entries)
+std::vector<quint32> ContentKeyCache::tableOrder(
+    size_t count, const std::function<Stamp(size_t)> &stampOf)
 {
-    std::vector<quint32> order;
-    order.reserve(entries.size());
-    for (quint32 i = 0; i < quint32(entries.size()); ++i)
-        if (entries[i].stamp.size >= 0)
-            order.push_back(i);
-    std::sort(order.begin(), order.end(), [&entries](quint32 a, quint32 b) {
-        const Stamp &x = entries[a].stamp;
-        const Stamp &y = entries[b].stamp;
-        return qint64(x.device) != qint64(y.device) ? qint64(x.device) < qint64(y.device)
-                                                    : qint64(x.inode) < qint64(y.inode);
+    struct Key
+    {
+        qint64 device;
+        qint64 inode;
+        quint32 index;
+    };
+    std::vector<Key> keys;
+    keys.reserve(count);
+    for (quint32 i = 0; i < quint32(count); ++i) {
+        const Stamp stamp = stampOf(i);
+        if (stamp.size >= 0)
+            keys.push_back(Key {qint64(stamp.device), qint64(stamp.inode), i});
+    }
+    std::sort(keys.begin(), keys.end(), [](const Key &x, const Key &y) {
+        return x.device != y.device ? x.device < y.device : x.inode < y.inode;
     });
+    std::vector<quint32> order;
+    order.reserve(keys.size());
+    for (const Key &key : keys)
+        order.push_back(key.index);
     return order;
 }
 
 void ContentKeyCache::lookup(std::vector<Entry> &entries)
 {
-    if (!m_db || entries.empty())
-        return;
     for (Entry &entry : entries)
         entry.found = false;
-    const std::vector<quint32> order = tableOrder(entries);
+    const bool sound = lookup(
+        entries.size(), [&entries](size_t i) { return entries[i].stamp; },
+        [&entries](size_t i, const Entry &found) { entries[i] = found; });
+    if (!sound)
+        for (Entry &entry : entries)
+            entry = Entry {entry.stamp};
+}
+
+bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
+    const std::function<void(size_t, const Entry &)> &found)
+{
+    if (!m_db || count == 0)
+        return true;
+    const std::vector<quint32> order = tableOrder(count, stampOf);
     // One snapshot for the whole batch: no lock is taken per row.
     if (order.empty() || !exec("BEGIN"))
-        return;
+        return true; // Nothing given.
     // When the batch asks for a good part of the table, one pass over the table in key
     // order costs less than a search per file.
     int pages = 0;
     {
-        sqlite3_stmt *count = nullptr;
-        if (sqlite3_prepare_v2(m_db, "PRAGMA page_count", -1, &count, nullptr) == SQLITE_OK
-            && sqlite3_step(count) == SQLITE_ROW)
-            pages = sqlite3_column_int(count, 0);
-        sqlite3_finalize(count);
+        sqlite3_stmt *pageCount = nullptr;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA page_count", -1, &pageCount, nullptr) == SQLITE_OK
+            && sqlite3_step(pageCount) == SQLITE_ROW)
+            pages = sqlite3_column_int(pageCount, 0);
+        sqlite3_finalize(pageCount);
     }
     constexpr qint64 kRowsPerPage = 50;
     sqlite3_stmt *statement = m_select;
@@ -299,10 +320,10 @@ void ContentKeyCache::lookup(std::vector<Entry> &entries)
     bool damaged = false;
     int code = SQLITE_OK;
     size_t next = 0;
-    // Takes the row under the statement for entries[order[at]], whose key it has.
+    Stamp current;
+    // Takes the row under the statement for the file order[at], whose stamp is current.
     const auto take = [&](size_t at) {
-        Entry &entry = entries[order[at]];
-        Stamp stored = entry.stamp;
+        Stamp stored = current;
         stored.size = sqlite3_column_int64(statement, 0);
         stored.modifiedNs = sqlite3_column_int64(statement, 1);
         stored.changedNs = sqlite3_column_int64(statement, 2);
@@ -311,36 +332,42 @@ void ContentKeyCache::lookup(std::vector<Entry> &entries)
         const int flags = sqlite3_column_int(statement, 5);
         if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(statement, 7)) {
             damaged = true;
-        } else if (stored == entry.stamp) {
+        } else if (stored == current) {
+            Entry entry {current};
             entry.found = true;
             entry.seenDay = qint32(sqlite3_column_int(statement, 6));
             entry.hasSampled = flags & kSampledFlag;
             entry.sampledKey = entry.hasSampled ? sampled : 0;
             entry.hasFull = flags & kFullFlag;
             entry.fullKey = entry.hasFull ? full : 0;
+            found(order[at], entry);
         }
     };
     if (scanning) {
+        if (next < order.size())
+            current = stampOf(order[next]);
         while (!damaged && next < order.size() && (code = sqlite3_step(statement)) == SQLITE_ROW) {
             const qint64 device = sqlite3_column_int64(statement, 8);
             const qint64 inode = sqlite3_column_int64(statement, 9);
-            const auto before = [&](size_t at) {
-                const Stamp &stamp = entries[order[at]].stamp;
-                return qint64(stamp.device) < device
-                    || (qint64(stamp.device) == device && qint64(stamp.inode) < inode);
-            };
-            while (next < order.size() && before(next))
-                ++next;
-            if (next < order.size() && qint64(entries[order[next]].stamp.device) == device
-                && qint64(entries[order[next]].stamp.inode) == inode)
-                take(next++);
+            while (next < order.size()
+                && (qint64(current.device) < device
+                    || (qint64(current.device) == device && qint64(current.inode) < inode))) {
+                if (++next < order.size())
+                    current = stampOf(order[next]);
+            }
+            if (next < order.size() && qint64(current.device) == device
+                && qint64(current.inode) == inode) {
+                take(next);
+                if (++next < order.size())
+                    current = stampOf(order[next]);
+            }
         }
         sqlite3_finalize(statement);
     } else {
         for (; next < order.size() && !damaged; ++next) {
-            const Stamp &stamp = entries[order[next]].stamp;
-            sqlite3_bind_int64(statement, 1, sqlite3_int64(stamp.device));
-            sqlite3_bind_int64(statement, 2, sqlite3_int64(stamp.inode));
+            current = stampOf(order[next]);
+            sqlite3_bind_int64(statement, 1, sqlite3_int64(current.device));
+            sqlite3_bind_int64(statement, 2, sqlite3_int64(current.inode));
             code = sqlite3_step(statement);
             if (code == SQLITE_ROW)
                 take(next);
@@ -356,11 +383,57 @@ void ContentKeyCache::lookup(std::vector<Entry> &entries)
     }
     exec("COMMIT");
     if (damaged || !m_db) {
-        for (Entry &entry : entries)
-            entry = Entry {entry.stamp};
         if (m_db)
             reject("damaged");
+        return false;
     }
+    return true;
+}
+
+bool ContentKeyCache::prune(qint32 day)
+{
+    // One pass over the table (no index on the day: it would cost every write more).
+    const QByteArray sql
+        = QByteArray("DELETE FROM keys WHERE seen < ") + QByteArray::number(day - kKeepDays);
+    return exec(sql.constData());
+}
+
+void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &stampOf)
+{
+    if (!m_db || count == 0)
+        return;
+    const qint32 day = today();
+    const std::vector<quint32> order = tableOrder(count, stampOf);
+    sqlite3_stmt *update = nullptr;
+    // The day is no part of a row's check digest: only it changes here.
+    if (sqlite3_prepare_v2(
+            m_db, "UPDATE keys SET seen = ? WHERE device = ? AND inode = ?", -1, &update, nullptr)
+        != SQLITE_OK)
+        return;
+    if (!exec("BEGIN IMMEDIATE")) {
+        sqlite3_finalize(update);
+        return;
+    }
+    bool failed = false;
+    for (quint32 index : order) {
+        const Stamp stamp = stampOf(index);
+        sqlite3_bind_int(update, 1, day);
+        sqlite3_bind_int64(update, 2, sqlite3_int64(stamp.device));
+        sqlite3_bind_int64(update, 3, sqlite3_int64(stamp.inode));
+        const int code = sqlite3_step(update);
+        sqlite3_reset(update);
+        if (code != SQLITE_DONE) {
+            failed = true;
+            break;
+        }
+    }
+    sqlite3_finalize(update);
+    if (failed || !prune(day)) {
+        if (m_db)
+            exec("ROLLBACK");
+        return;
+    }
+    exec("COMMIT");
 }
 
 void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
@@ -368,7 +441,8 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
     if (!m_db)
         return;
     const qint32 day = today();
-    std::vector<quint32> rows = tableOrder(entries);
+    std::vector<quint32> rows
+        = tableOrder(entries.size(), [&entries](size_t i) { return entries[i].stamp; });
     rows.erase(std::remove_if(rows.begin(), rows.end(),
                    [&](quint32 index) {
                        const Entry &entry = entries[index];
@@ -427,10 +501,7 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         reject("damaged");
         return;
     }
-    // One pass over the table (no index on the day: it would cost every write more).
-    const QByteArray prune
-        = QByteArray("DELETE FROM keys WHERE seen < ") + QByteArray::number(day - kKeepDays);
-    if (failed || !exec(prune.constData())) {
+    if (failed || !prune(day)) {
         if (m_db)
             exec("ROLLBACK");
         return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QString>
@@ -87,6 +88,15 @@ public:
     // Fills every entry whose exact stamp is stored, in one read transaction. A damaged
     // cache is set aside and leaves every entry unfound.
     void lookup(std::vector<Entry> &entries);
+    // The same for count files whose stamps stampOf(i) gives (size -1: not looked up),
+    // without an entry per file: found(i, entry) is called for each stored one. False when
+    // the cache turned out damaged (and was set aside): then the caller forgets every
+    // entry it was given by this call.
+    bool lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
+        const std::function<void(size_t, const Entry &)> &found);
+    // Marks the stored entries of these files as seen today (an entry not seen for
+    // kKeepDays is dropped), in one write transaction, and drops the old ones.
+    void touch(size_t count, const std::function<Stamp(size_t)> &stampOf);
     // Writes the entries with a key (unless they were modified within kRacyNs of readNs,
     // the time their reading began) and marks found ones as seen today, in one write
     // transaction; then drops entries not seen for kKeepDays. Failure leaves the cache as
@@ -100,7 +110,10 @@ private:
     // Renames the file (and its log) aside and starts a new one.
     void reject(const char *why);
     bool exec(const char *sql);
-    static std::vector<quint32> tableOrder(const std::vector<Entry> &entries);
+    static std::vector<quint32> tableOrder(
+        size_t count, const std::function<Stamp(size_t)> &stampOf);
+    // Drops the entries not seen for kKeepDays, inside the caller's write transaction.
+    bool prune(qint32 day);
 
     QString m_path;
     sqlite3 *m_db = nullptr;

@@ -3,6 +3,7 @@
 #include "engine/ContentKeyCache.h"
 #include "engine/DuplicateFileFinder.h"
 #include "engine/TFileData.h"
+#include "engine/TFileScanner.h"
 
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -33,23 +34,42 @@ void writeTree(const QString &root)
 }
 
 // Full-mode groups of the tree (names sorted), and how many keys came from the cache.
-QList<QStringList> scan(const QString &root, const QString &cachePath, qint64 *fromCache = nullptr)
+// walked: the table comes from the scanner, whose stat of each file is its stamp; else
+// from a plain listing, and the finder takes the stamps itself.
+QList<QStringList> scan(
+    const QString &root, const QString &cachePath, qint64 *fromCache = nullptr, bool walked = false)
 {
     TFileData::instance()->clear();
-    DuplicateFileFinder::SizeTable table;
-    QStringList all;
-    QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        const qint64 size = QFileInfo(path).size();
-        table[size].append(FileMeta {size, path, 0});
-        all.append(path);
-    }
     DuplicateFileFinder finder;
+    if (walked) {
+        TFileScanner scanner;
+        scanner.applyConfig(QJsonObject {{"IgnoreSystemHidden", false}});
+        ScanTable table;
+        QMutex mutex;
+        QObject::connect(
+            &scanner, &TFileScanner::folderFilesFound, &scanner,
+            [&](const ScanBatch &batch) {
+                QMutexLocker locker(&mutex);
+                table.append(batch);
+            },
+            Qt::DirectConnection);
+        scanner.setRoots({root});
+        scanner.start();
+        scanner.wait();
+        finder.setInput(std::move(table));
+    } else {
+        DuplicateFileFinder::SizeTable table;
+        QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString path = it.next();
+            const qint64 size = QFileInfo(path).size();
+            table[size].append(FileMeta {size, path, 0});
+        }
+        finder.setInput(table, {});
+    }
     finder.applyConfig(
         {{"scanMethod", DuplicateFileFinder::scanAllContent}, {"duplicateSelectHint", 8}});
     finder.setCacheOptions({true, cachePath});
-    finder.setInput(table, all);
     finder.start();
     finder.wait();
     if (fromCache)
@@ -111,7 +131,8 @@ private:
 void TestContentKeyCache::initTestCase()
 {
     for (const char *row : {"unchanged", "rewritten", "replaced", "racy"})
-        writeTree(m_dir.filePath(QLatin1String(row)));
+        for (const char *how : {"", " walked"})
+            writeTree(m_dir.filePath(QLatin1String(row) + QLatin1String(how)));
     for (const char *row : {"not a database", "foreign database", "newer layout", "damaged row"})
         writeTree(m_dir.filePath(QLatin1String(row)));
     // More candidates than one run of folders takes, in 170 folders of 200 files: 17,000
@@ -177,30 +198,39 @@ void TestContentKeyCache::stampDecides()
 void TestContentKeyCache::changedFilesReadAgain_data()
 {
     QTest::addColumn<QString>("row");
+    QTest::addColumn<bool>("walked");
     QTest::addColumn<QList<QStringList>>("groups");
     QTest::addColumn<qint64>("fromCache");
-    // Sampled and full key of each file not read again.
-    QTest::newRow("unchanged") << "unchanged" << QList<QStringList> {{"a.bin", "b.bin"}}
-                               << qint64(6);
     // b now holds the trap's content: trusting its old keys would keep it with a.
     const QList<QStringList> withTrap {{"b.bin", "c.bin"}};
-    QTest::newRow("rewritten, same size, time put back") << "rewritten" << withTrap << qint64(4);
-    QTest::newRow("replaced by another file") << "replaced" << withTrap << qint64(4);
-    QTest::newRow("modified within the racy window")
-        << "racy" << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(4);
+    // Stamps taken by the finder, or the walk's own stat of each file.
+    for (bool walked : {false, true}) {
+        const char *how = walked ? ", walk stat" : "";
+        // Sampled and full key of each file not read again.
+        QTest::addRow("unchanged%s", how)
+            << "unchanged" << walked << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(6);
+        QTest::addRow("rewritten, same size, time put back%s", how)
+            << "rewritten" << walked << withTrap << qint64(4);
+        QTest::addRow("replaced by another file%s", how)
+            << "replaced" << walked << withTrap << qint64(4);
+        QTest::addRow("modified within the racy window%s", how)
+            << "racy" << walked << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(4);
+    }
 }
 
 void TestContentKeyCache::changedFilesReadAgain()
 {
     QFETCH(QString, row);
+    QFETCH(bool, walked);
     QFETCH(QList<QStringList>, groups);
     QFETCH(qint64, fromCache);
-    const QString root = m_dir.filePath(row);
+    const QString tree = walked ? row + " walked" : row;
+    const QString root = m_dir.filePath(tree);
     const QString b = root + "/b.bin";
-    const QString cache = m_dir.filePath(row + ".sqlite");
+    const QString cache = m_dir.filePath(tree + ".sqlite");
     if (row == "racy")
         ScanTree::write(root, "b.bin", kCopy);
-    QCOMPARE(scan(root, cache), (QList<QStringList> {{"a.bin", "b.bin"}}));
+    QCOMPARE(scan(root, cache, nullptr, walked), (QList<QStringList> {{"a.bin", "b.bin"}}));
     const timespec before = modifiedOf(b);
     if (row == "rewritten") {
         // Only the whole-content key can see this edit, and only the change time shows it.
@@ -212,7 +242,7 @@ void TestContentKeyCache::changedFilesReadAgain()
         QVERIFY(QFile::remove(b) && QFile::rename(root + "/new.tmp", b));
     }
     qint64 taken = -1;
-    QCOMPARE(scan(root, cache, &taken), groups);
+    QCOMPARE(scan(root, cache, &taken, walked), groups);
     QCOMPARE(taken, fromCache);
 }
 
@@ -260,6 +290,9 @@ void TestContentKeyCache::largeTreeInRuns()
     QCOMPARE(first.size(), 17000);
     qint64 taken = 0;
     QCOMPARE(scan(root, cache, &taken), first);
+    QCOMPARE(taken, 34000);
+    // The same through the walk's stamps, which are looked up in one pass.
+    QCOMPARE(scan(root, cache, &taken, true), first);
     QCOMPARE(taken, 34000);
 }
 
