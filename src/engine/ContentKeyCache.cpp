@@ -125,6 +125,8 @@ bool ContentKeyCache::open()
     // A cache lost with the last commit before a power cut costs only reads: the log is
     // not flushed at every commit.
     sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
+    // Reads go through a map of the file instead of a copy per page.
+    sqlite3_exec(m_db, "PRAGMA mmap_size=1073741824", nullptr, nullptr, nullptr);
     return prepareSchema();
 }
 
@@ -285,6 +287,62 @@ void ContentKeyCache::lookup(std::vector<Entry> &entries)
             entry = Entry {entry.stamp};
 }
 
+namespace {
+
+// Merges one stretch of a key-ordered pass over the table (statement: the row columns of
+// the select below) with the files order[begin, end) in the same order; calls found for
+// each stored one. The step's last result, or SQLITE_CORRUPT for a row failing its check.
+int mergeRows(sqlite3_stmt *statement, const std::vector<quint32> &order, size_t begin, size_t end,
+    const std::function<ContentKeyCache::Stamp(size_t)> &stampOf,
+    const std::function<void(size_t, const ContentKeyCache::Entry &)> &found)
+{
+    size_t next = begin;
+    if (next >= end)
+        return SQLITE_DONE;
+    ContentKeyCache::Stamp current = stampOf(order[next]);
+    int code = SQLITE_DONE;
+    while (next < end && (code = sqlite3_step(statement)) == SQLITE_ROW) {
+        const qint64 device = sqlite3_column_int64(statement, 8);
+        const qint64 inode = sqlite3_column_int64(statement, 9);
+        while (qint64(current.device) < device
+            || (qint64(current.device) == device && qint64(current.inode) < inode)) {
+            if (++next == end)
+                return SQLITE_DONE;
+            current = stampOf(order[next]);
+        }
+        if (qint64(current.device) != device || qint64(current.inode) != inode)
+            continue;
+        ContentKeyCache::Stamp stored = current;
+        stored.size = sqlite3_column_int64(statement, 0);
+        stored.modifiedNs = sqlite3_column_int64(statement, 1);
+        stored.changedNs = sqlite3_column_int64(statement, 2);
+        const quint64 sampled = quint64(sqlite3_column_int64(statement, 3));
+        const quint64 full = quint64(sqlite3_column_int64(statement, 4));
+        const int flags = sqlite3_column_int(statement, 5);
+        if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(statement, 7))
+            return SQLITE_CORRUPT;
+        if (stored == current) {
+            ContentKeyCache::Entry entry {current};
+            entry.found = true;
+            entry.seenDay = qint32(sqlite3_column_int(statement, 6));
+            entry.hasSampled = flags & kSampledFlag;
+            entry.sampledKey = entry.hasSampled ? sampled : 0;
+            entry.hasFull = flags & kFullFlag;
+            entry.fullKey = entry.hasFull ? full : 0;
+            found(order[next], entry);
+        }
+        if (++next == end)
+            return SQLITE_DONE;
+        current = stampOf(order[next]);
+    }
+    return code == SQLITE_ROW ? SQLITE_DONE : code;
+}
+
+const char *const kScanRows = "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum, "
+                              "device, inode FROM keys";
+
+} // namespace
+
 bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
     const std::function<void(size_t, const Entry &)> &found)
 {
@@ -305,82 +363,100 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
         sqlite3_finalize(pageCount);
     }
     constexpr qint64 kRowsPerPage = 50;
-    sqlite3_stmt *statement = m_select;
-    const bool scan = qint64(pages) * kRowsPerPage <= qint64(order.size()) * 4;
-    if (scan
-        && sqlite3_prepare_v2(m_db,
-               "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum, device, inode "
-               "FROM keys ORDER BY device, inode",
-               -1, &statement, nullptr)
-            != SQLITE_OK) {
-        sqlite3_finalize(statement);
-        statement = m_select;
-    }
-    const bool scanning = statement != m_select;
-    bool damaged = false;
-    int code = SQLITE_OK;
-    size_t next = 0;
-    Stamp current;
-    // Takes the row under the statement for the file order[at], whose stamp is current.
-    const auto take = [&](size_t at) {
-        Stamp stored = current;
-        stored.size = sqlite3_column_int64(statement, 0);
-        stored.modifiedNs = sqlite3_column_int64(statement, 1);
-        stored.changedNs = sqlite3_column_int64(statement, 2);
-        const quint64 sampled = quint64(sqlite3_column_int64(statement, 3));
-        const quint64 full = quint64(sqlite3_column_int64(statement, 4));
-        const int flags = sqlite3_column_int(statement, 5);
-        if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(statement, 7)) {
-            damaged = true;
-        } else if (stored == current) {
-            Entry entry {current};
-            entry.found = true;
-            entry.seenDay = qint32(sqlite3_column_int(statement, 6));
-            entry.hasSampled = flags & kSampledFlag;
-            entry.sampledKey = entry.hasSampled ? sampled : 0;
-            entry.hasFull = flags & kFullFlag;
-            entry.fullKey = entry.hasFull ? full : 0;
-            found(order[at], entry);
+    int code = SQLITE_DONE;
+    if (qint64(pages) * kRowsPerPage <= qint64(order.size()) * 4) {
+        // A large pass is split in two at a file's key, the upper half read on a second
+        // connection by another thread (each row is checked on its own, so the two
+        // snapshots need not be one).
+        constexpr size_t kSplitFrom = 16384;
+        const size_t half = order.size() >= kSplitFrom ? order.size() / 2 : order.size();
+        int upperCode = SQLITE_DONE;
+        QThread *upper = nullptr;
+        if (half < order.size()) {
+            const Stamp from = stampOf(order[half]);
+            upper = QThread::create([&, from] {
+                sqlite3 *db = nullptr;
+                sqlite3_stmt *statement = nullptr;
+                upperCode = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &db,
+                    SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
+                if (upperCode == SQLITE_OK) {
+                    sqlite3_extended_result_codes(db, 1);
+                    sqlite3_busy_timeout(db, kBusyMs);
+                    sqlite3_exec(db, "PRAGMA mmap_size=1073741824", nullptr, nullptr, nullptr);
+                    upperCode = sqlite3_prepare_v2(db,
+                        (QByteArray(kScanRows)
+                            + " WHERE (device, inode) >= (?, ?) ORDER BY device, inode")
+                            .constData(),
+                        -1, &statement, nullptr);
+                }
+                if (upperCode == SQLITE_OK) {
+                    sqlite3_bind_int64(statement, 1, sqlite3_int64(from.device));
+                    sqlite3_bind_int64(statement, 2, sqlite3_int64(from.inode));
+                    upperCode = mergeRows(statement, order, half, order.size(), stampOf, found);
+                }
+                sqlite3_finalize(statement);
+                sqlite3_close_v2(db);
+            });
+            upper->start();
         }
-    };
-    if (scanning) {
-        if (next < order.size())
-            current = stampOf(order[next]);
-        while (!damaged && next < order.size() && (code = sqlite3_step(statement)) == SQLITE_ROW) {
-            const qint64 device = sqlite3_column_int64(statement, 8);
-            const qint64 inode = sqlite3_column_int64(statement, 9);
-            while (next < order.size()
-                && (qint64(current.device) < device
-                    || (qint64(current.device) == device && qint64(current.inode) < inode))) {
-                if (++next < order.size())
-                    current = stampOf(order[next]);
-            }
-            if (next < order.size() && qint64(current.device) == device
-                && qint64(current.inode) == inode) {
-                take(next);
-                if (++next < order.size())
-                    current = stampOf(order[next]);
-            }
-        }
+        sqlite3_stmt *statement = nullptr;
+        code = sqlite3_prepare_v2(m_db,
+            (QByteArray(kScanRows) + " ORDER BY device, inode").constData(), -1, &statement,
+            nullptr);
+        if (code == SQLITE_OK)
+            code = mergeRows(statement, order, 0, half, stampOf, found);
         sqlite3_finalize(statement);
+        if (upper) {
+            upper->wait();
+            delete upper;
+            // A second connection that could not read leaves its half unfound; damage it
+            // saw counts as damage.
+            if (isDamage(upperCode))
+                code = upperCode;
+        }
     } else {
-        for (; next < order.size() && !damaged; ++next) {
-            current = stampOf(order[next]);
-            sqlite3_bind_int64(statement, 1, sqlite3_int64(current.device));
-            sqlite3_bind_int64(statement, 2, sqlite3_int64(current.inode));
-            code = sqlite3_step(statement);
-            if (code == SQLITE_ROW)
-                take(next);
-            sqlite3_reset(statement);
+        const auto search = [&](size_t at) {
+            const Stamp stamp = stampOf(order[at]);
+            sqlite3_bind_int64(m_select, 1, sqlite3_int64(stamp.device));
+            sqlite3_bind_int64(m_select, 2, sqlite3_int64(stamp.inode));
+        };
+        for (size_t at = 0; at < order.size(); ++at) {
+            search(at);
+            code = sqlite3_step(m_select);
+            if (code == SQLITE_ROW) {
+                const Stamp current = stampOf(order[at]);
+                Stamp stored = current;
+                stored.size = sqlite3_column_int64(m_select, 0);
+                stored.modifiedNs = sqlite3_column_int64(m_select, 1);
+                stored.changedNs = sqlite3_column_int64(m_select, 2);
+                const quint64 sampled = quint64(sqlite3_column_int64(m_select, 3));
+                const quint64 full = quint64(sqlite3_column_int64(m_select, 4));
+                const int flags = sqlite3_column_int(m_select, 5);
+                if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(m_select, 7)) {
+                    code = SQLITE_CORRUPT;
+                } else if (stored == current) {
+                    Entry entry {current};
+                    entry.found = true;
+                    entry.seenDay = qint32(sqlite3_column_int(m_select, 6));
+                    entry.hasSampled = flags & kSampledFlag;
+                    entry.sampledKey = entry.hasSampled ? sampled : 0;
+                    entry.hasFull = flags & kFullFlag;
+                    entry.fullKey = entry.hasFull ? full : 0;
+                    found(order[at], entry);
+                }
+            }
+            sqlite3_reset(m_select);
             if (code != SQLITE_ROW && code != SQLITE_DONE)
                 break;
         }
+        if (code == SQLITE_ROW)
+            code = SQLITE_DONE;
     }
-    if (code != SQLITE_ROW && code != SQLITE_DONE && code != SQLITE_OK) {
-        damaged = isDamage(code);
+    const bool damaged = isDamage(code);
+    if (code != SQLITE_DONE && code != SQLITE_OK)
         splog_d(QStringLiteral("[ContentKeyCache]: look-up failed: %1")
-                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
-    }
+                    .arg(damaged ? QStringLiteral("damaged row")
+                                 : QString::fromUtf8(sqlite3_errmsg(m_db))));
     exec("COMMIT");
     if (damaged || !m_db) {
         if (m_db)

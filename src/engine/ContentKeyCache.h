@@ -89,7 +89,8 @@ public:
     // cache is set aside and leaves every entry unfound.
     void lookup(std::vector<Entry> &entries);
     // The same for count files whose stamps stampOf(i) gives (size -1: not looked up),
-    // without an entry per file: found(i, entry) is called for each stored one. False when
+    // without an entry per file: found(i, entry) is called for each stored one, from two
+    // threads at once when the files are many (each i once). False when
     // the cache turned out damaged (and was set aside): then the caller forgets every
     // entry it was given by this call.
     bool lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,

@@ -542,7 +542,7 @@ void DuplicateFileFinder::processDuplicates()
         while (end < count && m_table.file(m_order[end]).size == size)
             ++end;
         if (end - begin == 1) {
-            if (isImage(m_order[begin])) {
+            if (m_collectsPictures && isImage(m_order[begin])) {
                 QMutexLocker locker(&m_mutex);
                 uniqueImages.append(m_table.filePath(m_order[begin]));
             }
@@ -709,6 +709,7 @@ void DuplicateFileFinder::lookUpWalkStamps()
     };
     const qint32 today = qint32(QDateTime::currentSecsSinceEpoch() / 86400);
     std::vector<quint32> seenBefore;
+    QMutex mutex;
     const bool sound = m_cache->lookup(
         files.size(), stampOf, [&](size_t at, const ContentKeyCache::Entry &entry) {
             if (!entry.hasSampled)
@@ -718,6 +719,9 @@ void DuplicateFileFinder::lookUpWalkStamps()
             m_keyState[file] = 2;
             m_keyedFiles.fetch_add(1);
             m_keysFromCache.fetch_add(1);
+            if (!(entry.hasFull && scanMethod == scanAllContent) && entry.seenDay >= today)
+                return;
+            QMutexLocker locker(&mutex);
             if (entry.hasFull && scanMethod == scanAllContent)
                 m_cachedFullKeys.emplace_back(file, entry.fullKey);
             if (entry.seenDay < today)
@@ -1143,7 +1147,7 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
         if (entry.members.size() == 1)
             singles.push_back(entry.members.front());
     for (quint32 file : singles) {
-        if (isImage(file)) {
+        if (m_collectsPictures && isImage(file)) {
             QMutexLocker locker(&m_mutex);
             uniqueImages.append(m_table.filePath(file));
         }

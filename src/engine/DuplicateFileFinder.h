@@ -72,6 +72,9 @@ public:
     bool isStopRequested() const { return stopRequested.load() != 0; }
 
     QStringList uniqueImageFiles() const;
+    // Whether the single pictures are collected for a similar-picture stage (on unless
+    // set); a scan without that stage spares the test and the paths.
+    void setCollectsPictures(bool collects) { m_collectsPictures = collects; }
     int duplicateFiles() const { return duplicateFileCount.load(); }
     qint64 duplicateSize() const { return duplicateTotalSize.load(); }
     int scanMethodInUse() const { return scanMethod; }
@@ -189,6 +192,7 @@ private:
     // The suffixes of up to eight characters packed into one number each, sorted.
     std::vector<quint64> m_packedImageSuffixes;
     bool m_asciiImageTest = false;
+    bool m_collectsPictures = true;
     // Progress of the file phase, shared by the pool threads: files keyed and size groups
     // done, out of m_wantedFiles and m_runs.size().
     qint64 m_wantedFiles = 0;

@@ -201,6 +201,7 @@ void TControlUI::onScannerFinished()
     m_finder.setRoots(m_roots);
     m_finder.setInput(std::move(m_table));
     m_table.clear();
+    m_finder.setCollectsPictures(m_similarEnabled && m_compare);
     m_stage = StageMatching;
     m_finder.start(QThread::InheritPriority);
 }
