@@ -1187,7 +1187,8 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
         }
     }
     TFileData *store = TFileData::instance();
-    store->insertGroup(groupKey, paths);
+    QList<FileStamp> stamps;
+    stamps.reserve(paths.size());
     // What each member looked like now, for the checks before any removal; the key
     // stands for the whole content in the full mode and for files read whole.
     const bool wholeContent
@@ -1197,8 +1198,8 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
         const QString &path = paths[i];
         const ScanBatch::Stat &stat = m_table.stat(members[size_t(i)]);
         if (stat.inode == 0) {
-            store->insertStamp(
-                path, wholeContent ? FileStamp::withContentKey(path, key) : FileStamp::of(path));
+            stamps.append(
+                wholeContent ? FileStamp::withContentKey(path, key) : FileStamp::of(path));
             continue;
         }
         // The walk's stat is the stamp: a file changed since then no longer matches it, so
@@ -1217,8 +1218,9 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
             stamp.contentKey = key;
             stamp.hasContentKey = true;
         }
-        store->insertStamp(path, stamp);
+        stamps.append(stamp);
     }
+    store->insertGroup(groupKey, paths, stamps);
     if (scanMethod == scanName)
         store->setGroupMatch(groupKey, TFileData::MatchName);
     // The "no selection" hint leaves the group without a selection entry.
