@@ -20,7 +20,14 @@ namespace {
 
 // "VKC1" in the file header: a file without it was not written by this program.
 constexpr int kApplicationId = 0x564B4331;
-constexpr int kSchemaVersion = 1;
+// 1: content keys only; 2: picture measures beside them (a cache of 1 is extended).
+constexpr int kSchemaVersion = 2;
+const char *const kPictureTable
+    = "CREATE TABLE pictures(device INTEGER NOT NULL, inode INTEGER NOT NULL, measure INTEGER "
+      "NOT NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime INTEGER NOT NULL, width "
+      "INTEGER NOT NULL, height INTEGER NOT NULL, rows INTEGER NOT NULL, cols INTEGER NOT NULL, "
+      "type INTEGER NOT NULL, data BLOB NOT NULL, seen INTEGER NOT NULL, checksum INTEGER NOT "
+      "NULL, PRIMARY KEY(device, inode, measure))";
 constexpr int kBusyMs = 5000;
 constexpr int kSampledFlag = 1;
 constexpr int kFullFlag = 2;
@@ -70,7 +77,7 @@ bool ContentKeyCache::clear(const QString &path)
     if (!QFileInfo::exists(path))
         return true;
     ContentKeyCache cache(path);
-    if (!cache.isOpen() || !cache.exec("DELETE FROM keys"))
+    if (!cache.isOpen() || !cache.exec("DELETE FROM keys") || !cache.exec("DELETE FROM pictures"))
         return false;
     // The file shrinks only when no other process reads it at the moment; the keys are
     // gone in any case.
@@ -191,12 +198,25 @@ bool ContentKeyCache::prepareSchema()
                                   "NULL, flags INTEGER NOT NULL, seen INTEGER NOT NULL, "
                                   "checksum INTEGER NOT NULL, PRIMARY KEY(device, inode)) "
                                   "WITHOUT ROWID")
+            && exec(kPictureTable)
             && exec(QByteArray("PRAGMA application_id=" + QByteArray::number(kApplicationId))
                         .constData())
             && exec(
                 QByteArray("PRAGMA user_version=" + QByteArray::number(kSchemaVersion)).constData())
             && exec("COMMIT");
         if (!created) {
+            if (m_db)
+                exec("ROLLBACK");
+            close();
+            return false;
+        }
+    } else if (id == kApplicationId && version == 1) {
+        // The key table stays as it is; the picture table joins it.
+        const bool extended = exec(kPictureTable)
+            && exec(
+                QByteArray("PRAGMA user_version=" + QByteArray::number(kSchemaVersion)).constData())
+            && exec("COMMIT");
+        if (!extended) {
             if (m_db)
                 exec("ROLLBACK");
             close();
@@ -471,7 +491,9 @@ bool ContentKeyCache::prune(qint32 day)
     // One pass over the table (no index on the day: it would cost every write more).
     const QByteArray sql
         = QByteArray("DELETE FROM keys WHERE seen < ") + QByteArray::number(day - kKeepDays);
-    return exec(sql.constData());
+    const QByteArray pictures
+        = QByteArray("DELETE FROM pictures WHERE seen < ") + QByteArray::number(day - kKeepDays);
+    return exec(sql.constData()) && exec(pictures.constData());
 }
 
 void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &stampOf)
@@ -578,6 +600,176 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         return;
     }
     if (failed || !prune(day)) {
+        if (m_db)
+            exec("ROLLBACK");
+        return;
+    }
+    exec("COMMIT");
+}
+
+namespace {
+
+qint64 pictureCheck(const ContentKeyCache::Picture &picture)
+{
+    const quint64 fields[]
+        = {picture.stamp.device, picture.stamp.inode, quint64(picture.stamp.size),
+            quint64(picture.stamp.modifiedNs), quint64(picture.stamp.changedNs),
+            quint64(picture.measure), quint64(picture.width), quint64(picture.height),
+            quint64(picture.rows), quint64(picture.cols), quint64(picture.type)};
+    return qint64(XXH3_64bits_withSeed(
+        picture.data.constData(), size_t(picture.data.size()), XXH3_64bits(fields, sizeof fields)));
+}
+
+} // namespace
+
+void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
+{
+    for (Picture &picture : pictures)
+        picture.found = false;
+    if (!m_db || pictures.empty())
+        return;
+    sqlite3_stmt *select = nullptr;
+    if (sqlite3_prepare_v2(m_db,
+            "SELECT size, mtime, ctime, width, height, rows, cols, type, data, seen, checksum "
+            "FROM pictures WHERE device = ? AND inode = ? AND measure = ?",
+            -1, &select, nullptr)
+        != SQLITE_OK)
+        return;
+    const std::vector<quint32> order
+        = tableOrder(pictures.size(), [&pictures](size_t i) { return pictures[i].stamp; });
+    if (!exec("BEGIN")) {
+        sqlite3_finalize(select);
+        return;
+    }
+    bool damaged = false;
+    int code = SQLITE_DONE;
+    for (quint32 index : order) {
+        Picture &picture = pictures[index];
+        sqlite3_bind_int64(select, 1, sqlite3_int64(picture.stamp.device));
+        sqlite3_bind_int64(select, 2, sqlite3_int64(picture.stamp.inode));
+        sqlite3_bind_int(select, 3, picture.measure);
+        code = sqlite3_step(select);
+        if (code == SQLITE_ROW) {
+            Picture stored = picture;
+            stored.stamp.size = sqlite3_column_int64(select, 0);
+            stored.stamp.modifiedNs = sqlite3_column_int64(select, 1);
+            stored.stamp.changedNs = sqlite3_column_int64(select, 2);
+            stored.width = sqlite3_column_int(select, 3);
+            stored.height = sqlite3_column_int(select, 4);
+            stored.rows = sqlite3_column_int(select, 5);
+            stored.cols = sqlite3_column_int(select, 6);
+            stored.type = sqlite3_column_int(select, 7);
+            stored.data = QByteArray(static_cast<const char *>(sqlite3_column_blob(select, 8)),
+                sqlite3_column_bytes(select, 8));
+            stored.seenDay = sqlite3_column_int(select, 9);
+            if (pictureCheck(stored) != sqlite3_column_int64(select, 10)) {
+                damaged = true;
+            } else if (stored.stamp == picture.stamp) {
+                picture = stored;
+                picture.found = true;
+            }
+            code = SQLITE_DONE;
+        }
+        sqlite3_reset(select);
+        if (damaged || code != SQLITE_DONE)
+            break;
+    }
+    sqlite3_finalize(select);
+    if (code != SQLITE_DONE) {
+        damaged = damaged || isDamage(code);
+        splog_d(QStringLiteral("[ContentKeyCache]: picture look-up failed: %1")
+                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+    }
+    exec("COMMIT");
+    if (damaged || !m_db) {
+        for (Picture &picture : pictures) {
+            picture.found = false;
+            picture.data.clear();
+        }
+        if (m_db)
+            reject("damaged");
+    }
+}
+
+void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64 readNs)
+{
+    if (!m_db)
+        return;
+    const qint32 day = today();
+    std::vector<quint32> rows
+        = tableOrder(pictures.size(), [&pictures](size_t i) { return pictures[i].stamp; });
+    rows.erase(std::remove_if(rows.begin(), rows.end(),
+                   [&](quint32 index) {
+                       const Picture &picture = pictures[index];
+                       if (picture.found)
+                           return picture.seenDay >= day;
+                       return !picture.fresh || picture.data.isEmpty()
+                           || readNs - std::max(picture.stamp.modifiedNs, picture.stamp.changedNs)
+                           < kRacyNs;
+                   }),
+        rows.end());
+    if (rows.empty())
+        return;
+    sqlite3_stmt *insert = nullptr;
+    sqlite3_stmt *seen = nullptr;
+    if (sqlite3_prepare_v2(m_db,
+            "INSERT OR REPLACE INTO pictures(device, inode, measure, size, mtime, ctime, width, "
+            "height, rows, cols, type, data, seen, checksum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
+            "?, ?, ?, ?)",
+            -1, &insert, nullptr)
+            != SQLITE_OK
+        || sqlite3_prepare_v2(m_db,
+               "UPDATE pictures SET seen = ? WHERE device = ? AND inode = ? AND measure = ?", -1,
+               &seen, nullptr)
+            != SQLITE_OK
+        || !exec("BEGIN IMMEDIATE")) {
+        sqlite3_finalize(insert);
+        sqlite3_finalize(seen);
+        return;
+    }
+    int code = SQLITE_DONE;
+    for (quint32 index : rows) {
+        const Picture &picture = pictures[index];
+        if (picture.found) {
+            sqlite3_bind_int(seen, 1, day);
+            sqlite3_bind_int64(seen, 2, sqlite3_int64(picture.stamp.device));
+            sqlite3_bind_int64(seen, 3, sqlite3_int64(picture.stamp.inode));
+            sqlite3_bind_int(seen, 4, picture.measure);
+            code = sqlite3_step(seen);
+            sqlite3_reset(seen);
+        } else {
+            sqlite3_bind_int64(insert, 1, sqlite3_int64(picture.stamp.device));
+            sqlite3_bind_int64(insert, 2, sqlite3_int64(picture.stamp.inode));
+            sqlite3_bind_int(insert, 3, picture.measure);
+            sqlite3_bind_int64(insert, 4, picture.stamp.size);
+            sqlite3_bind_int64(insert, 5, picture.stamp.modifiedNs);
+            sqlite3_bind_int64(insert, 6, picture.stamp.changedNs);
+            sqlite3_bind_int(insert, 7, picture.width);
+            sqlite3_bind_int(insert, 8, picture.height);
+            sqlite3_bind_int(insert, 9, picture.rows);
+            sqlite3_bind_int(insert, 10, picture.cols);
+            sqlite3_bind_int(insert, 11, picture.type);
+            sqlite3_bind_blob(
+                insert, 12, picture.data.constData(), int(picture.data.size()), SQLITE_STATIC);
+            sqlite3_bind_int(insert, 13, day);
+            sqlite3_bind_int64(insert, 14, pictureCheck(picture));
+            code = sqlite3_step(insert);
+            sqlite3_reset(insert);
+        }
+        if (code != SQLITE_DONE)
+            break;
+    }
+    sqlite3_finalize(insert);
+    sqlite3_finalize(seen);
+    if (code != SQLITE_DONE) {
+        splog_d(QStringLiteral("[ContentKeyCache]: picture store failed: %1")
+                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+        exec("ROLLBACK");
+        if (isDamage(code))
+            reject("damaged");
+        return;
+    }
+    if (!prune(day)) {
         if (m_db)
             exec("ROLLBACK");
         return;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -61,6 +62,26 @@ public:
         bool fresh = false;
     };
 
+    // The similar-picture stage's measure of one picture file (its perceptual hash or its
+    // histogram as the raw bytes of a rows x cols matrix of OpenCV type `type`), under the
+    // same stamp rules as the keys, one entry per file and measure.
+    struct Picture
+    {
+        Stamp stamp;
+        int measure = 0;
+        qint32 width = 0;
+        qint32 height = 0;
+        qint32 rows = 0;
+        qint32 cols = 0;
+        qint32 type = 0;
+        QByteArray data;
+        // Set by lookupPictures(): an entry with this exact stamp and measure was found.
+        bool found = false;
+        qint32 seenDay = 0;
+        // Set by the caller when it measured the picture itself, from the file it stamped.
+        bool fresh = false;
+    };
+
     // A file modified or changed this recently before it was read may be written again
     // within the file system's time step without any time stamp moving.
     static constexpr qint64 kRacyNs = 2'000'000'000LL;
@@ -95,6 +116,12 @@ public:
     // entry it was given by this call.
     bool lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
         const std::function<void(size_t, const Entry &)> &found);
+    // Fills every picture whose exact stamp and measure are stored, in one read
+    // transaction; a damaged cache is set aside and leaves every picture unfound.
+    void lookupPictures(std::vector<Picture> &pictures);
+    // Writes the fresh pictures (unless modified within kRacyNs of readNs, the time their
+    // stamps were taken) and marks found ones as seen today, in one write transaction.
+    void storePictures(const std::vector<Picture> &pictures, qint64 readNs);
     // Marks the stored entries of these files as seen today (an entry not seen for
     // kKeepDays is dropped), in one write transaction, and drops the old ones.
     void touch(size_t count, const std::function<Stamp(size_t)> &stampOf);

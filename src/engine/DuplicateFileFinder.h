@@ -65,6 +65,7 @@ public:
     void setProblems(ScanProblems *problems) { m_problems = problems; }
     // Whether (and where) keys of earlier scans are reused; off unless set.
     void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
+    ContentKeyCache::Options cacheOptions() const { return m_cacheOptions; }
     // Keys the last scan took from the cache instead of reading the file.
     qint64 keysFromCache() const { return m_keysFromCache.load(); }
 

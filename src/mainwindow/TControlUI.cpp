@@ -240,6 +240,7 @@ void TControlUI::onFinderFinished()
                     .arg(uniqueImages.size())
                     .arg(seconds()));
         PictureStage::setInput(m_compare, imageGroups, uniqueImages);
+        PictureStage::setCacheOptions(m_compare, m_finder.cacheOptions());
         m_stage = StageSimilar;
         m_compare->start(QThread::InheritPriority);
         return;

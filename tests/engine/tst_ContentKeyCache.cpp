@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ImageFixtures.h"
 #include "ScanTree.h"
+#include "app/FileTypeCatalogue.h"
 #include "engine/ContentKeyCache.h"
 #include "engine/DuplicateFileFinder.h"
+#include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
 #include "engine/TFileScanner.h"
 
@@ -109,6 +112,38 @@ bool runSql(const QString &database, const char *sql)
     return ok;
 }
 
+// Similar-picture groups of the pictures (names sorted) with the feature re-check, and
+// how many measures came from the cache.
+QList<QStringList> similar(
+    const QString &root, int algorithm, const QString &cachePath, int *fromCache = nullptr)
+{
+    TFileData::instance()->clear();
+    QStringList paths;
+    for (const QString &name : QDir(root).entryList(QDir::Files, QDir::Name))
+        paths.append(root + "/" + name);
+    ImageCompareThread thread;
+    thread.applyConfig(QJsonObject {{"SimilarityValue", 55}, {"FeaturesValue", 20},
+        {"algorithmHint", algorithm}, {"isAddFeatures", true}, {"isImageType", false},
+        {"isImageSize", false}, {"selectionHint", 8}});
+    thread.setCacheOptions(cachePath.isEmpty() ? ContentKeyCache::Options {}
+                                               : ContentKeyCache::Options {true, cachePath});
+    thread.setImagePaths(paths);
+    thread.start();
+    thread.wait();
+    if (fromCache)
+        *fromCache = thread.measuresFromCache();
+    QList<QStringList> groups;
+    for (QStringList group : TFileData::instance()->groups()) {
+        stripSimilarTag(group);
+        for (QString &path : group)
+            path = path.mid(root.size() + 1);
+        group.sort();
+        groups.append(group);
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
 } // namespace
 
 class TestContentKeyCache : public QObject
@@ -123,6 +158,8 @@ private slots:
     void rejectedCacheSetAside_data();
     void rejectedCacheSetAside();
     void largeTreeInRuns();
+    void picturesFromCache_data();
+    void picturesFromCache();
 
 private:
     QTemporaryDir m_dir;
@@ -140,6 +177,15 @@ void TestContentKeyCache::initTestCase()
     for (int k = 0; k < 34000; ++k)
         ScanTree::write(m_dir.filePath("large"), QString("d%1/f%2").arg(k / 200).arg(k),
             QByteArray::number(100000000 + k / 2));
+    for (const char *tree : {"pictures 1 0", "pictures 2 0", "pictures 2 1"}) {
+        const QString root = m_dir.filePath(QLatin1String(tree));
+        QDir().mkpath(root);
+        const cv::Mat scene = fixtures::makeScene(320, 240, 11);
+        QVERIFY(cv::imwrite(QFile::encodeName(root + "/a.png").toStdString(), scene));
+        QVERIFY(cv::imwrite(QFile::encodeName(root + "/b.jpg").toStdString(), scene));
+        QVERIFY(cv::imwrite(
+            QFile::encodeName(root + "/c.png").toStdString(), fixtures::makeScene(320, 240, 12)));
+    }
     // Files younger than the racy window are never stored; the trees must age past it.
     QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
 }
@@ -269,7 +315,7 @@ void TestContentKeyCache::rejectedCacheSetAside()
         QCOMPARE(scan(root, cache), expected);
         // Damage that, if believed, would join the trap to the copies.
         QVERIFY(runSql(cache,
-            row == "newer layout" ? "PRAGMA user_version=2"
+            row == "newer layout" ? "PRAGMA user_version=3"
                                   : "UPDATE keys SET full = (SELECT full FROM keys WHERE full != "
                                     "0 LIMIT 1), sampled = (SELECT sampled FROM keys LIMIT 1)"));
     }
@@ -294,6 +340,47 @@ void TestContentKeyCache::largeTreeInRuns()
     // The same through the walk's stamps, which are looked up in one pass.
     QCOMPARE(scan(root, cache, &taken, true), first);
     QCOMPARE(taken, 34000);
+}
+
+void TestContentKeyCache::picturesFromCache_data()
+{
+    // The trees are "pictures ALGORITHM REWRITE", written by initTestCase.
+    QTest::addColumn<int>("algorithm");
+    QTest::addColumn<bool>("rewrite");
+    QTest::addColumn<QList<QStringList>>("groups");
+    QTest::addColumn<int>("fromCache");
+    // a and b show one scene, c another. Unchanged: the perceptual hash of all three and
+    // the feature points of the pair come from the cache. c rewritten with a's scene and
+    // its time put back: its measures are taken again and it joins the pair. The
+    // histograms (a measure of their own) group none of these, and all three come back.
+    const QList<QStringList> pair {{"a.png", "b.jpg"}};
+    QTest::addRow("perceptual hash, unchanged") << 2 << false << pair << 5;
+    QTest::addRow("perceptual hash, picture rewritten")
+        << 2 << true << QList<QStringList> {{"a.png", "b.jpg", "c.png"}} << 4;
+    QTest::addRow("histogram, unchanged") << 1 << false << QList<QStringList> {} << 3;
+}
+
+void TestContentKeyCache::picturesFromCache()
+{
+    QFETCH(int, algorithm);
+    QFETCH(bool, rewrite);
+    QFETCH(QList<QStringList>, groups);
+    QFETCH(int, fromCache);
+    const QList<QStringList> pairOnly {{"a.png", "b.jpg"}};
+    const QString root = m_dir.filePath(QString("pictures %1 %2").arg(algorithm).arg(rewrite));
+    const QString cache = root + ".sqlite";
+    int taken = -1;
+    QCOMPARE(similar(root, algorithm, cache, &taken), rewrite ? pairOnly : groups);
+    QCOMPARE(taken, 0);
+    if (rewrite) {
+        QVERIFY(QFile::remove(root + "/c.png"));
+        QVERIFY(QFile::copy(root + "/a.png", root + "/c.png"));
+        setModified(root + "/c.png", modifiedOf(root + "/a.png"));
+    }
+    QCOMPARE(similar(root, algorithm, cache, &taken), groups);
+    QCOMPARE(taken, fromCache);
+    // Without the cache, the same groups.
+    QCOMPARE(similar(root, algorithm, QString(), nullptr), groups);
 }
 
 QTEST_GUILESS_MAIN(TestContentKeyCache)
