@@ -132,8 +132,6 @@ bool ContentKeyCache::open()
     // A cache lost with the last commit before a power cut costs only reads: the log is
     // not flushed at every commit.
     sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
-    // Reads go through a map of the file instead of a copy per page.
-    sqlite3_exec(m_db, "PRAGMA mmap_size=1073741824", nullptr, nullptr, nullptr);
     return prepareSchema();
 }
 
@@ -402,7 +400,6 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
                 if (upperCode == SQLITE_OK) {
                     sqlite3_extended_result_codes(db, 1);
                     sqlite3_busy_timeout(db, kBusyMs);
-                    sqlite3_exec(db, "PRAGMA mmap_size=1073741824", nullptr, nullptr, nullptr);
                     upperCode = sqlite3_prepare_v2(db,
                         (QByteArray(kScanRows)
                             + " WHERE (device, inode) >= (?, ?) ORDER BY device, inode")
