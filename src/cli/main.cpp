@@ -342,6 +342,8 @@ int main(int argc, char *argv[])
     TControlUI controller;
     if (!options.useCache())
         controller.finder()->setCacheOptions(ContentKeyCache::Options {});
+    // The members' stamps serve removals and saved projects only.
+    controller.finder()->setKeepsStamps(!options.savePath().isEmpty());
     QTimer progressTimer;
     const bool terminal = ::isatty(STDERR_FILENO) == 1;
     double percent = 0.0;

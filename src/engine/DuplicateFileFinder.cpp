@@ -498,10 +498,10 @@ void DuplicateFileFinder::run()
         emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
     }
     m_table.clear();
-    m_order = {};
-    m_runs = {};
-    m_keys = {};
-    m_keyState = {};
+    decltype(m_order)().swap(m_order);
+    decltype(m_runs)().swap(m_runs);
+    decltype(m_keys)().swap(m_keys);
+    decltype(m_keyState)().swap(m_keyState);
     {
         QMutexLocker locker(&m_mutex);
         dirTable.clear();
@@ -690,8 +690,8 @@ void DuplicateFileFinder::computeSampledKeys()
             wanted = 0;
         }
     }
-    m_cachedFiles = {};
-    m_cacheEntries = {};
+    decltype(m_cachedFiles)().swap(m_cachedFiles);
+    decltype(m_cacheEntries)().swap(m_cacheEntries);
     std::sort(m_cachedFullKeys.begin(), m_cachedFullKeys.end());
 }
 
@@ -906,8 +906,8 @@ void DuplicateFileFinder::storeKeys()
         return;
     m_cache->store(m_fullEntries, m_fullReadStartNs);
     m_cache.reset();
-    m_fullEntries = {};
-    m_cachedFullKeys = {};
+    decltype(m_fullEntries)().swap(m_fullEntries);
+    decltype(m_cachedFullKeys)().swap(m_cachedFullKeys);
 }
 
 void DuplicateFileFinder::keyFolder(quint32 index)
@@ -1188,13 +1188,14 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     }
     TFileData *store = TFileData::instance();
     QList<FileStamp> stamps;
-    stamps.reserve(paths.size());
+    if (m_keepsStamps)
+        stamps.reserve(paths.size());
     // What each member looked like now, for the checks before any removal; the key
     // stands for the whole content in the full mode and for files read whole.
     const bool wholeContent
         = scanMethod == scanAllContent || (scanMethod == scanContent && size <= kWholeFileLimit);
     const quint64 key = contentKey.toULongLong(nullptr, 16);
-    for (qsizetype i = 0; i < paths.size(); ++i) {
+    for (qsizetype i = 0; i < paths.size() && m_keepsStamps; ++i) {
         const QString &path = paths[i];
         const ScanBatch::Stat &stat = m_table.stat(members[size_t(i)]);
         if (stat.inode == 0) {

@@ -76,6 +76,10 @@ public:
     // Whether the single pictures are collected for a similar-picture stage (on unless
     // set); a scan without that stage spares the test and the paths.
     void setCollectsPictures(bool collects) { m_collectsPictures = collects; }
+    // Whether each member's stamp goes into the result store (on unless set): the checks
+    // before a removal and a saved project need them; a scan that only reports its
+    // groups does not.
+    void setKeepsStamps(bool keeps) { m_keepsStamps = keeps; }
     int duplicateFiles() const { return duplicateFileCount.load(); }
     qint64 duplicateSize() const { return duplicateTotalSize.load(); }
     int scanMethodInUse() const { return scanMethod; }
@@ -194,6 +198,7 @@ private:
     std::vector<quint64> m_packedImageSuffixes;
     bool m_asciiImageTest = false;
     bool m_collectsPictures = true;
+    bool m_keepsStamps = true;
     // Progress of the file phase, shared by the pool threads: files keyed and size groups
     // done, out of m_wantedFiles and m_runs.size().
     qint64 m_wantedFiles = 0;

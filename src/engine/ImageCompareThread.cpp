@@ -285,7 +285,7 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
     });
     if (cache && !isCancelled())
         cache->storePictures(records, readNs);
-    records = {};
+    decltype(records)().swap(records);
     const qsizetype loaded = images.size();
     // A picture without a measure leaves the run here: compared, two such pictures would
     // score alike (nothing against nothing), and a pass mark of 0 would group them all.

@@ -80,10 +80,11 @@ void ScanTable::append(const FileMeta &meta)
 
 void ScanTable::clear()
 {
-    m_folders = {};
-    m_files = {};
-    m_stats = {};
-    m_names = {};
+    // Swapped with empty arrays: an assignment of {} would keep their room.
+    decltype(m_folders)().swap(m_folders);
+    decltype(m_files)().swap(m_files);
+    decltype(m_stats)().swap(m_stats);
+    decltype(m_names)().swap(m_names);
 }
 
 void ScanTable::squeeze()
