@@ -157,6 +157,7 @@ private slots:
     void changedFilesReadAgain();
     void rejectedCacheSetAside_data();
     void rejectedCacheSetAside();
+    void keysOnlyLayoutExtended();
     void largeTreeInRuns();
     void picturesFromCache_data();
     void picturesFromCache();
@@ -170,7 +171,8 @@ void TestContentKeyCache::initTestCase()
     for (const char *row : {"unchanged", "rewritten", "replaced", "racy"})
         for (const char *how : {"", " walked"})
             writeTree(m_dir.filePath(QLatin1String(row) + QLatin1String(how)));
-    for (const char *row : {"not a database", "foreign database", "newer layout", "damaged row"})
+    for (const char *row :
+        {"not a database", "foreign database", "newer layout", "damaged row", "keys only"})
         writeTree(m_dir.filePath(QLatin1String(row)));
     // More candidates than one run of folders takes, in 170 folders of 200 files: 17,000
     // pairs of one size.
@@ -326,6 +328,22 @@ void TestContentKeyCache::rejectedCacheSetAside()
     // The new cache works.
     QCOMPARE(scan(root, cache, &taken), expected);
     QCOMPARE(taken, 6);
+}
+
+void TestContentKeyCache::keysOnlyLayoutExtended()
+{
+    // A cache of the first layout (keys, no picture table) keeps its keys and gains the
+    // picture table instead of being set aside.
+    const QString root = m_dir.filePath("keys only");
+    const QString cache = m_dir.filePath("keys only.sqlite");
+    const QList<QStringList> expected {{"a.bin", "b.bin"}};
+    QCOMPARE(scan(root, cache), expected);
+    QVERIFY(runSql(cache, "DROP TABLE pictures; PRAGMA user_version=1"));
+    qint64 taken = -1;
+    QCOMPARE(scan(root, cache, &taken), expected);
+    QCOMPARE(taken, 6);
+    QVERIFY(!QFile::exists(ContentKeyCache::setAsidePath(cache)));
+    QVERIFY(runSql(cache, "SELECT count(*) FROM pictures"));
 }
 
 void TestContentKeyCache::largeTreeInRuns()
