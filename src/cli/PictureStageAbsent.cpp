@@ -14,4 +14,6 @@ void PictureStage::applyConfig(QThread *, const QJsonObject &) { }
 
 void PictureStage::setInput(QThread *, const TFileData::Groups &, const QStringList &) { }
 
+void PictureStage::setCacheOptions(QThread *, const ContentKeyCache::Options &) { }
+
 void PictureStage::cancel(QThread *) { }

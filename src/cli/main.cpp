@@ -20,6 +20,9 @@
 #include <cstdio>
 #include <cstring>
 #include <unistd.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include <QCoreApplication>
 #include <QDir>
@@ -264,6 +267,13 @@ int runCloudScan(const CliOptions &options)
 
 int main(int argc, char *argv[])
 {
+#ifdef __GLIBC__
+    // A fixed threshold: the large arrays of a scan (the file table, the keys, the cache's
+    // look-up order) are then mapped on their own and given back when freed. glibc would
+    // otherwise raise the threshold after the first such block and keep the later ones
+    // in its heap, where their room stays with the process until it ends.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+#endif
     QCoreApplication app(argc, argv);
     // Standard error is the command line's own report; the library's debug lines would
     // only mix into it.
@@ -333,6 +343,8 @@ int main(int argc, char *argv[])
     TControlUI controller;
     if (!options.useCache())
         controller.finder()->setCacheOptions(ContentKeyCache::Options {});
+    // The members' stamps serve removals and saved projects only.
+    controller.finder()->setKeepsStamps(!options.savePath().isEmpty());
     QTimer progressTimer;
     const bool terminal = ::isatty(STDERR_FILENO) == 1;
     double percent = 0.0;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <vector>
 
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -60,6 +62,26 @@ public:
         bool fresh = false;
     };
 
+    // The similar-picture stage's measure of one picture file (its perceptual hash or its
+    // histogram as the raw bytes of a rows x cols matrix of OpenCV type `type`), under the
+    // same stamp rules as the keys, one entry per file and measure.
+    struct Picture
+    {
+        Stamp stamp;
+        int measure = 0;
+        qint32 width = 0;
+        qint32 height = 0;
+        qint32 rows = 0;
+        qint32 cols = 0;
+        qint32 type = 0;
+        QByteArray data;
+        // Set by lookupPictures(): an entry with this exact stamp and measure was found.
+        bool found = false;
+        qint32 seenDay = 0;
+        // Set by the caller when it measured the picture itself, from the file it stamped.
+        bool fresh = false;
+    };
+
     // A file modified or changed this recently before it was read may be written again
     // within the file system's time step without any time stamp moving.
     static constexpr qint64 kRacyNs = 2'000'000'000LL;
@@ -87,6 +109,22 @@ public:
     // Fills every entry whose exact stamp is stored, in one read transaction. A damaged
     // cache is set aside and leaves every entry unfound.
     void lookup(std::vector<Entry> &entries);
+    // The same for count files whose stamps stampOf(i) gives (size -1: not looked up),
+    // without an entry per file: found(i, entry) is called for each stored one, from two
+    // threads at once when the files are many (each i once). False when
+    // the cache turned out damaged (and was set aside): then the caller forgets every
+    // entry it was given by this call.
+    bool lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
+        const std::function<void(size_t, const Entry &)> &found);
+    // Fills every picture whose exact stamp and measure are stored, in one read
+    // transaction; a damaged cache is set aside and leaves every picture unfound.
+    void lookupPictures(std::vector<Picture> &pictures);
+    // Writes the fresh pictures (unless modified within kRacyNs of readNs, the time their
+    // stamps were taken) and marks found ones as seen today, in one write transaction.
+    void storePictures(const std::vector<Picture> &pictures, qint64 readNs);
+    // Marks the stored entries of these files as seen today (an entry not seen for
+    // kKeepDays is dropped), in one write transaction, and drops the old ones.
+    void touch(size_t count, const std::function<Stamp(size_t)> &stampOf);
     // Writes the entries with a key (unless they were modified within kRacyNs of readNs,
     // the time their reading began) and marks found ones as seen today, in one write
     // transaction; then drops entries not seen for kKeepDays. Failure leaves the cache as
@@ -100,7 +138,10 @@ private:
     // Renames the file (and its log) aside and starts a new one.
     void reject(const char *why);
     bool exec(const char *sql);
-    static std::vector<quint32> tableOrder(const std::vector<Entry> &entries);
+    static std::vector<quint32> tableOrder(
+        size_t count, const std::function<Stamp(size_t)> &stampOf);
+    // Drops the entries not seen for kKeepDays, inside the caller's write transaction.
+    bool prune(qint32 day);
 
     QString m_path;
     sqlite3 *m_db = nullptr;

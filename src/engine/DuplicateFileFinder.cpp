@@ -499,10 +499,10 @@ void DuplicateFileFinder::run()
         emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
     }
     m_table.clear();
-    m_order = {};
-    m_runs = {};
-    m_keys = {};
-    m_keyState = {};
+    decltype(m_order)().swap(m_order);
+    decltype(m_runs)().swap(m_runs);
+    decltype(m_keys)().swap(m_keys);
+    decltype(m_keyState)().swap(m_keyState);
     {
         QMutexLocker locker(&m_mutex);
         dirTable.clear();
@@ -543,7 +543,7 @@ void DuplicateFileFinder::processDuplicates()
         while (end < count && m_table.file(m_order[end]).size == size)
             ++end;
         if (end - begin == 1) {
-            if (isImage(m_order[begin])) {
+            if (m_collectsPictures && isImage(m_order[begin])) {
                 QMutexLocker locker(&m_mutex);
                 uniqueImages.append(m_table.filePath(m_order[begin]));
             }
@@ -596,6 +596,15 @@ void DuplicateFileFinder::prepareImageTest()
         m_longestImageSuffix = std::max(m_longestImageSuffix, m_imageSuffixes.back().size());
     }
     m_asciiImageTest = m_asciiImageTest && m_longestImageSuffix <= kShortSuffix;
+    m_packedImageSuffixes.clear();
+    for (const std::string &suffix : m_imageSuffixes) {
+        if (suffix.size() > 8)
+            continue;
+        quint64 packed = 0;
+        std::memcpy(&packed, suffix.data(), suffix.size());
+        m_packedImageSuffixes.push_back(packed);
+    }
+    std::sort(m_packedImageSuffixes.begin(), m_packedImageSuffixes.end());
 }
 
 bool DuplicateFileFinder::isImage(quint32 file) const
@@ -621,6 +630,12 @@ bool DuplicateFileFinder::isImage(quint32 file) const
         if (ascii) {
             if (length > m_longestImageSuffix)
                 return false;
+            if (length <= 8) {
+                quint64 packed = 0;
+                std::memcpy(&packed, lower, length);
+                return std::binary_search(
+                    m_packedImageSuffixes.begin(), m_packedImageSuffixes.end(), packed);
+            }
             const std::string_view suffix(lower, length);
             return std::find(m_imageSuffixes.begin(), m_imageSuffixes.end(), suffix)
                 != m_imageSuffixes.end();
@@ -656,10 +671,12 @@ void DuplicateFileFinder::computeSampledKeys()
         QtConcurrent::blockingMap(foldersToRead(), [this](quint32 folder) { keyFolder(folder); });
         return;
     }
-    // With the cache, folders go in runs of about kCacheBatch wanted files: each run is
-    // stamped, looked up in one read, its misses read and their keys stored in one write,
-    // so the cache's part of memory stays the same however large the tree.
+    // With the cache, every file whose stamp the walk kept is looked up at once; the rest
+    // go in runs of folders of about kCacheBatch wanted files: each run is stamped, the
+    // files without a walk stat looked up, its misses read and their keys stored in one
+    // write, so the cache's part of memory stays the same however large the tree.
     constexpr quint32 kCacheBatch = 32768;
+    lookUpWalkStamps();
     const QList<quint32> folders = foldersToRead();
     QList<quint32> batch;
     quint32 wanted = 0;
@@ -674,8 +691,57 @@ void DuplicateFileFinder::computeSampledKeys()
             wanted = 0;
         }
     }
-    m_cachedFiles = {};
-    m_cacheEntries = {};
+    decltype(m_cachedFiles)().swap(m_cachedFiles);
+    decltype(m_cacheEntries)().swap(m_cacheEntries);
+    std::sort(m_cachedFullKeys.begin(), m_cachedFullKeys.end());
+}
+
+void DuplicateFileFinder::lookUpWalkStamps()
+{
+    std::vector<quint32> files;
+    for (quint32 i = 0; i < quint32(m_keyState.size()); ++i)
+        if (m_keyState[i] == 1 && m_table.stat(i).inode != 0)
+            files.push_back(i);
+    const auto stampOf = [this, &files](size_t at) {
+        const quint32 file = files[at];
+        const ScanBatch::Stat &stat = m_table.stat(file);
+        return ContentKeyCache::Stamp {m_table.folder(m_table.file(file).folder).device, stat.inode,
+            m_table.file(file).size, stat.modifiedNs, stat.changedNs};
+    };
+    const qint32 today = qint32(QDateTime::currentSecsSinceEpoch() / 86400);
+    std::vector<quint32> seenBefore;
+    QMutex mutex;
+    const bool sound = m_cache->lookup(
+        files.size(), stampOf, [&](size_t at, const ContentKeyCache::Entry &entry) {
+            if (!entry.hasSampled)
+                return;
+            const quint32 file = files[at];
+            m_keys[file] = entry.sampledKey;
+            m_keyState[file] = 2;
+            m_keyedFiles.fetch_add(1);
+            m_keysFromCache.fetch_add(1);
+            if (!(entry.hasFull && scanMethod == scanAllContent) && entry.seenDay >= today)
+                return;
+            QMutexLocker locker(&mutex);
+            if (entry.hasFull && scanMethod == scanAllContent)
+                m_cachedFullKeys.emplace_back(file, entry.fullKey);
+            if (entry.seenDay < today)
+                seenBefore.push_back(quint32(at));
+        });
+    if (!sound) {
+        // A damaged cache gives nothing, not even what it gave before the damage showed.
+        for (quint32 file : files) {
+            if (m_keyState[file] == 2) {
+                m_keyState[file] = 1;
+                m_keys[file] = 0;
+                m_keyedFiles.fetch_sub(1);
+            }
+        }
+        m_keysFromCache.store(0);
+        m_cachedFullKeys.clear();
+        return;
+    }
+    m_cache->touch(seenBefore.size(), [&](size_t at) { return stampOf(seenBefore[at]); });
 }
 
 void DuplicateFileFinder::keyFoldersWithCache(const QList<quint32> &folders)
@@ -692,7 +758,20 @@ void DuplicateFileFinder::keyFoldersWithCache(const QList<quint32> &folders)
     }
     m_cacheEntries.assign(m_cachedFiles.size(), ContentKeyCache::Entry {});
     QtConcurrent::blockingMap(folders, [this](quint32 folder) { stampFolder(folder); });
-    m_cache->lookup(m_cacheEntries);
+    // The files with a walk stat were looked up with all the others.
+    std::vector<ContentKeyCache::Entry> unlooked;
+    std::vector<size_t> positions;
+    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
+        if (m_table.stat(m_cachedFiles[slot]).inode == 0 && m_cacheEntries[slot].stamp.size >= 0) {
+            unlooked.push_back(m_cacheEntries[slot]);
+            positions.push_back(slot);
+        }
+    }
+    if (!unlooked.empty()) {
+        m_cache->lookup(unlooked);
+        for (size_t i = 0; i < positions.size(); ++i)
+            m_cacheEntries[positions[i]] = unlooked[i];
+    }
     takeCachedSampledKeys();
     QtConcurrent::blockingMap(folders, [this](quint32 folder) { keyFolder(folder); });
     for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
@@ -713,12 +792,29 @@ void DuplicateFileFinder::stampFolder(quint32 index)
         return;
     const ScanTable::Folder &folder = m_table.folder(index);
     auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), folder.firstFile);
+    const auto end
+        = std::lower_bound(slot, m_cachedFiles.end(), folder.firstFile + folder.fileCount);
+    // The walk's own stat of each file, where it kept one: nothing is asked again.
+    bool missing = false;
+    for (auto at = slot; at != end; ++at) {
+        const ScanBatch::Stat &stat = m_table.stat(*at);
+        if (stat.inode == 0) {
+            missing = true;
+            continue;
+        }
+        m_cacheEntries[size_t(at - m_cachedFiles.begin())].stamp = ContentKeyCache::Stamp {
+            folder.device, stat.inode, m_table.file(*at).size, stat.modifiedNs, stat.changedNs};
+    }
+    if (!missing)
+        return;
 #ifdef Q_OS_UNIX
     const int dirfd = ::open(folder.native.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     if (dirfd < 0)
         return;
-    for (; slot != m_cachedFiles.end() && *slot < folder.firstFile + folder.fileCount; ++slot) {
+    for (; slot != end; ++slot) {
         const quint32 file = *slot;
+        if (m_table.stat(file).inode != 0)
+            continue;
         struct stat info
         {
         };
@@ -746,7 +842,7 @@ void DuplicateFileFinder::takeCachedSampledKeys()
         m_keyedFiles.fetch_add(1);
         m_keysFromCache.fetch_add(1);
         if (entry.hasFull && scanMethod == scanAllContent)
-            m_cachedFullKeys.emplace(file, entry.fullKey);
+            m_cachedFullKeys.emplace_back(file, entry.fullKey);
     }
 }
 
@@ -754,9 +850,9 @@ bool DuplicateFileFinder::cachedFullKey(quint32 file, quint64 &key)
 {
     if (!m_cache)
         return false;
-    QMutexLocker locker(&m_cacheLock);
-    const auto found = m_cachedFullKeys.find(file);
-    if (found == m_cachedFullKeys.end())
+    const auto found = std::lower_bound(
+        m_cachedFullKeys.begin(), m_cachedFullKeys.end(), std::pair<quint32, quint64> {file, 0});
+    if (found == m_cachedFullKeys.end() || found->first != file)
         return false;
     key = found->second;
     m_keysFromCache.fetch_add(1);
@@ -811,8 +907,8 @@ void DuplicateFileFinder::storeKeys()
         return;
     m_cache->store(m_fullEntries, m_fullReadStartNs);
     m_cache.reset();
-    m_fullEntries = {};
-    m_cachedFullKeys = {};
+    decltype(m_fullEntries)().swap(m_fullEntries);
+    decltype(m_cachedFullKeys)().swap(m_cachedFullKeys);
 }
 
 void DuplicateFileFinder::keyFolder(quint32 index)
@@ -1052,7 +1148,7 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
         if (entry.members.size() == 1)
             singles.push_back(entry.members.front());
     for (quint32 file : singles) {
-        if (isImage(file)) {
+        if (m_collectsPictures && isImage(file)) {
             QMutexLocker locker(&m_mutex);
             uniqueImages.append(m_table.filePath(file));
         }
@@ -1064,7 +1160,7 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
         paths.reserve(qsizetype(entry.members.size()));
         for (quint32 file : entry.members)
             paths.append(m_table.filePath(file));
-        storeGroup(size, entry.key, paths);
+        storeGroup(size, entry.key, paths, entry.members);
         if (isStopRequested())
             return;
     }
@@ -1073,8 +1169,8 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
     reportProgress(done == int(m_runs.size()));
 }
 
-void DuplicateFileFinder::storeGroup(
-    qint64 size, const QByteArray &contentKey, const QStringList &paths)
+void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
+    const QStringList &paths, const std::vector<quint32> &members)
 {
     const QString groupKey = TFileData::groupKey(paths.first());
     if (scanDupDirectory) {
@@ -1092,15 +1188,41 @@ void DuplicateFileFinder::storeGroup(
         }
     }
     TFileData *store = TFileData::instance();
-    store->insertGroup(groupKey, paths);
+    QList<FileStamp> stamps;
+    if (m_keepsStamps)
+        stamps.reserve(paths.size());
     // What each member looked like now, for the checks before any removal; the key
     // stands for the whole content in the full mode and for files read whole.
     const bool wholeContent
         = scanMethod == scanAllContent || (scanMethod == scanContent && size <= kWholeFileLimit);
     const quint64 key = contentKey.toULongLong(nullptr, 16);
-    for (const QString &path : paths)
-        store->insertStamp(
-            path, wholeContent ? FileStamp::withContentKey(path, key) : FileStamp::of(path));
+    for (qsizetype i = 0; i < paths.size() && m_keepsStamps; ++i) {
+        const QString &path = paths[i];
+        const ScanBatch::Stat &stat = m_table.stat(members[size_t(i)]);
+        if (stat.inode == 0) {
+            stamps.append(
+                wholeContent ? FileStamp::withContentKey(path, key) : FileStamp::of(path));
+            continue;
+        }
+        // The walk's stat is the stamp: a file changed since then no longer matches it, so
+        // a removal checks it again. The key goes with it only when no write after the
+        // listing can have left both times as they were.
+        const ScanTable::Folder &folder = m_table.folder(m_table.file(members[size_t(i)]).folder);
+        FileStamp stamp;
+        stamp.size = size;
+        stamp.modifiedNs = stat.modifiedNs;
+        stamp.changedNs = stat.changedNs;
+        stamp.device = folder.device;
+        stamp.inode = stat.inode;
+        if (wholeContent
+            && folder.listedNs - std::max(stat.modifiedNs, stat.changedNs)
+                > ContentKeyCache::kRacyNs) {
+            stamp.contentKey = key;
+            stamp.hasContentKey = true;
+        }
+        stamps.append(stamp);
+    }
+    store->insertGroup(groupKey, paths, stamps);
     if (scanMethod == scanName)
         store->setGroupMatch(groupKey, TFileData::MatchName);
     // The "no selection" hint leaves the group without a selection entry.

@@ -65,6 +65,7 @@ public:
     void setProblems(ScanProblems *problems) { m_problems = problems; }
     // Whether (and where) keys of earlier scans are reused; off unless set.
     void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
+    ContentKeyCache::Options cacheOptions() const { return m_cacheOptions; }
     // Keys the last scan took from the cache instead of reading the file.
     qint64 keysFromCache() const { return m_keysFromCache.load(); }
 
@@ -72,6 +73,13 @@ public:
     bool isStopRequested() const { return stopRequested.load() != 0; }
 
     QStringList uniqueImageFiles() const;
+    // Whether the single pictures are collected for a similar-picture stage (on unless
+    // set); a scan without that stage spares the test and the paths.
+    void setCollectsPictures(bool collects) { m_collectsPictures = collects; }
+    // Whether each member's stamp goes into the result store (on unless set): the checks
+    // before a removal and a saved project need them; a scan that only reports its
+    // groups does not.
+    void setKeepsStamps(bool keeps) { m_keepsStamps = keeps; }
     int duplicateFiles() const { return duplicateFileCount.load(); }
     qint64 duplicateSize() const { return duplicateTotalSize.load(); }
     int scanMethodInUse() const { return scanMethod; }
@@ -113,6 +121,9 @@ private:
     // The cache's part: the stamps of the wanted files of a folder, before any is read.
     void keyFoldersWithCache(const QList<quint32> &folders);
     void stampFolder(quint32 folder);
+    // Looks up every wanted file the walk kept a stat of, in one pass over the cache,
+    // before anything is read.
+    void lookUpWalkStamps();
     void takeCachedSampledKeys();
     // The cached whole-content key of a file whose stamp matched; false when there is none.
     bool cachedFullKey(quint32 file, quint64 &key);
@@ -152,7 +163,9 @@ private:
     // Takes the files of matched folders out of the file groups, except where a copy
     // lives outside every matched folder: then the copy in the kept folder stays too.
     void pruneMatchedFolders(const QList<QStringList> &matched);
-    void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths);
+    // members: the paths' files in the table, whose walk stat gives their stamps.
+    void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths,
+        const std::vector<quint32> &members);
 
     ScanTable m_table;
     QStringList m_roots;
@@ -181,7 +194,11 @@ private:
     // lists a suffix that is not plain ASCII (then every test goes through the catalogue).
     std::vector<std::string> m_imageSuffixes;
     size_t m_longestImageSuffix = 0;
+    // The suffixes of up to eight characters packed into one number each, sorted.
+    std::vector<quint64> m_packedImageSuffixes;
     bool m_asciiImageTest = false;
+    bool m_collectsPictures = true;
+    bool m_keepsStamps = true;
     // Progress of the file phase, shared by the pool threads: files keyed and size groups
     // done, out of m_wantedFiles and m_runs.size().
     qint64 m_wantedFiles = 0;
@@ -192,13 +209,14 @@ private:
     // The key cache of the running scan. The sampled keys go through it one run of
     // folders at a time: an entry per wanted file of the run (m_cachedFiles, ascending file
     // indices, gives each entry's file). The whole-content keys found in it wait in
-    // m_cachedFullKeys, those read in m_fullEntries; the pool threads use both under
-    // m_cacheLock.
+    // m_cachedFullKeys (only read by the pool threads), those read in m_fullEntries (under
+    // m_cacheLock).
     ContentKeyCache::Options m_cacheOptions;
     std::unique_ptr<ContentKeyCache> m_cache;
     std::vector<quint32> m_cachedFiles;
     std::vector<ContentKeyCache::Entry> m_cacheEntries;
-    std::unordered_map<quint32, quint64> m_cachedFullKeys;
+    // (file, whole-content key) pairs, sorted by file once the sampled keys are known.
+    std::vector<std::pair<quint32, quint64>> m_cachedFullKeys;
     std::vector<ContentKeyCache::Entry> m_fullEntries;
     QMutex m_cacheLock;
     qint64 m_readStartNs = 0;

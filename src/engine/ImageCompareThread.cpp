@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <memory>
 #include <numeric>
 #include <opencv2/features2d.hpp>
 #include <opencv2/flann.hpp>
@@ -17,6 +18,7 @@
 #include <opencv2/imgproc.hpp>
 #include <vector>
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 #include <QtConcurrent>
@@ -27,6 +29,8 @@ namespace {
 constexpr int kNoSelectedHint = 8;
 // Above this many pictures the automatic choice takes the cheaper 64-bit hash.
 constexpr int kSmartHashThreshold = 10000;
+// The cache's measure number of the feature points (the fast measures are 1 and 2).
+constexpr int kFeatureMeasure = 3;
 // Fixed seed of OpenCV's generator before each LSH index, so that re-runs agree.
 constexpr uint64_t kLshSeed = 0x5eed1234u;
 
@@ -151,6 +155,24 @@ bool ImageCompareThread::aspectRatioCompatible(int wa, int ha, int wb, int hb, d
     return r >= 1.0 / limit && r <= limit;
 }
 
+std::unique_ptr<ContentKeyCache> ImageCompareThread::openCache() const
+{
+    if (!m_cacheOptions.enabled)
+        return nullptr;
+    auto cache = std::make_unique<ContentKeyCache>(
+        m_cacheOptions.path.isEmpty() ? ContentKeyCache::defaultPath() : m_cacheOptions.path);
+    if (!cache->isOpen())
+        return nullptr;
+    return cache;
+}
+
+ContentKeyCache::Stamp ImageCompareThread::pictureStamp(const QString &path)
+{
+    const FileStamp file = FileStamp::of(path);
+    return ContentKeyCache::Stamp {
+        file.device, file.inode, file.size, file.modifiedNs, file.changedNs};
+}
+
 void ImageCompareThread::loadImages(QList<ImageData> &images)
 {
     images.clear();
@@ -174,10 +196,39 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
                 .arg(images.size()));
     const Measure measure = m_measure;
     std::atomic_int unreadable {0};
-    QtConcurrent::blockingMap(images, [this, measure, &unreadable](ImageData &data) {
+    // With the cache, each picture is stamped before anything is read; a picture whose
+    // stamp and measure are stored is not decoded, and one decoded from the file it was
+    // stamped from is stored afterwards.
+    m_fromCache.store(0);
+    std::unique_ptr<ContentKeyCache> cache = openCache();
+    const qint64 readNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    std::vector<ContentKeyCache::Picture> records(cache ? size_t(images.size()) : 0);
+    if (cache) {
+        QtConcurrent::blockingMap(records, [&](ContentKeyCache::Picture &record) {
+            const ImageData &data = images.at(qsizetype(&record - records.data()));
+            record.stamp = pictureStamp(data.path);
+            record.measure = measure;
+        });
+        cache->lookupPictures(records);
+    }
+    ImageData *first = images.data();
+    QtConcurrent::blockingMap(images, [&, this, measure](ImageData &data) {
         data.fileType = QFileInfo(data.path).suffix().toLower();
         if (isCancelled() || isSimilarExcludedFormat(data.fileType))
             return;
+        ContentKeyCache::Picture *record = cache ? &records[size_t(&data - first)] : nullptr;
+        if (record && record->found) {
+            data.width = record->width;
+            data.height = record->height;
+            data.hash = cv::Mat(record->rows, record->cols, record->type,
+                const_cast<char *>(record->data.constData()))
+                            .clone();
+            if (measure == MeasurePHash && data.hash.total() == 8 && data.hash.type() == CV_8UC1)
+                std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
+            record->data.clear();
+            m_fromCache.fetch_add(1);
+            return;
+        }
         try {
             int w = 0;
             int h = 0;
@@ -200,6 +251,17 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
             if (data.hash.empty()) {
                 unreadable.fetch_add(1);
                 logSkipped(data.path, "could not be measured");
+            } else if (record && record->stamp.size >= 0 && data.hash.isContinuous()
+                && pictureStamp(data.path) == record->stamp) {
+                // Still the file stamped before the read: its measure may be kept.
+                record->width = data.width;
+                record->height = data.height;
+                record->rows = data.hash.rows;
+                record->cols = data.hash.cols;
+                record->type = data.hash.type();
+                record->data = QByteArray(reinterpret_cast<const char *>(data.hash.data),
+                    qsizetype(data.hash.total() * data.hash.elemSize()));
+                record->fresh = true;
             }
         } catch (const cv::Exception &e) {
             data.hash.release();
@@ -222,6 +284,9 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
             logSkipped(data.path, "could not be measured");
         }
     });
+    if (cache && !isCancelled())
+        cache->storePictures(records, readNs);
+    decltype(records)().swap(records);
     const qsizetype loaded = images.size();
     // A picture without a measure leaves the run here: compared, two such pictures would
     // score alike (nothing against nothing), and a pass mark of 0 would group them all.
@@ -499,12 +564,57 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
         if (total > 0)
             emit progressChanged(4, now * 100 / total);
     };
+    // The feature points of each picture come from the cache where its stamp is stored,
+    // under a measure of their own; those computed from the file stamped are stored after.
+    std::unique_ptr<ContentKeyCache> cache = openCache();
+    const qint64 readNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    std::vector<ContentKeyCache::Picture> records;
+    QHash<QString, size_t> recordOf;
+    if (cache) {
+        for (const auto &group : std::as_const(groups))
+            for (const ImageData &image : group)
+                if (!recordOf.contains(image.path))
+                    recordOf.insert(image.path, size_t(recordOf.size()));
+        records.resize(size_t(recordOf.size()));
+        for (auto it = recordOf.cbegin(); it != recordOf.cend(); ++it) {
+            records[it.value()].stamp = pictureStamp(it.key());
+            records[it.value()].measure = kFeatureMeasure;
+        }
+        cache->lookupPictures(records);
+    }
+    QMutex recordMutex;
+    const auto descriptorsOf = [&](const QString &path) {
+        ContentKeyCache::Picture *record = nullptr;
+        if (cache) {
+            const auto at = recordOf.constFind(path);
+            if (at != recordOf.constEnd())
+                record = &records[at.value()];
+        }
+        if (record && record->found) {
+            m_fromCache.fetch_add(1);
+            return cv::Mat(record->rows, record->cols, record->type,
+                const_cast<char *>(record->data.constData()))
+                .clone();
+        }
+        cv::Mat descriptors = computeDescriptors(TReadImage::readImage(path));
+        if (record && !descriptors.empty() && descriptors.isContinuous() && record->stamp.size >= 0
+            && pictureStamp(path) == record->stamp) {
+            QMutexLocker locker(&recordMutex);
+            record->rows = descriptors.rows;
+            record->cols = descriptors.cols;
+            record->type = descriptors.type();
+            record->data = QByteArray(reinterpret_cast<const char *>(descriptors.data),
+                qsizetype(descriptors.total() * descriptors.elemSize()));
+            record->fresh = true;
+        }
+        return descriptors;
+    };
     QtConcurrent::blockingMap(groups, [&](QList<ImageData> &group) {
         if (isCancelled() || group.isEmpty())
             return;
         try {
             ImageData reference = group.first();
-            reference.descriptors = computeDescriptors(TReadImage::readImage(reference.path));
+            reference.descriptors = descriptorsOf(reference.path);
             if (reference.descriptors.empty())
                 return;
             step();
@@ -513,7 +623,7 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
                 if (isCancelled())
                     return; // the group stays as it was
                 ImageData candidate = group.at(k);
-                candidate.descriptors = computeDescriptors(TReadImage::readImage(candidate.path));
+                candidate.descriptors = descriptorsOf(candidate.path);
                 if (candidate.descriptors.empty())
                     continue;
                 step();
@@ -529,6 +639,8 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
             splog_d(QStringLiteral("[TImageCompareThread]: Unknown exception caught."));
         }
     });
+    if (cache && !isCancelled())
+        cache->storePictures(records, readNs);
     // A picture left alone by the re-check is no longer similar to anything.
     groups.erase(std::remove_if(groups.begin(), groups.end(),
                      [](const QList<ImageData> &g) { return g.size() < 2; }),

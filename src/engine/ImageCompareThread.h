@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/ContentKeyCache.h"
 #include "engine/ImageData.h"
 #include "engine/TFileData.h"
 
 #include <atomic>
+#include <memory>
 
 #include <QElapsedTimer>
 #include <QJsonObject>
@@ -35,6 +37,12 @@ public:
     // Groups of an earlier result whose pictures take part again; each group is
     // represented by its first member, and new pictures similar to it join that group.
     void setEarlierGroups(const TFileData::Groups &groups);
+    // Whether (and where) the pictures' measures of earlier scans are reused; off unless
+    // set.
+    void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
+    // Measures (fast ones and feature points) the last run took from the cache instead of
+    // decoding the picture.
+    int measuresFromCache() const { return m_fromCache.load(); }
     // Raises the cancel flag: pair tasks stop at their next pair, ORB tasks at their next
     // group; the run then stores what it found.
     void cancel() { m_cancel.store(1); }
@@ -78,6 +86,10 @@ protected:
 
 private:
     QString elapsedSeconds() const;
+    // The cache of the run, or null when it is off or cannot be opened.
+    std::unique_ptr<ContentKeyCache> openCache() const;
+    // A picture file's stamp as the cache keys it (size -1 when it is no regular file).
+    static ContentKeyCache::Stamp pictureStamp(const QString &path);
     void chooseMeasure(int imageCount);
 
     // Settings.
@@ -94,6 +106,8 @@ private:
     // Input.
     QStringList m_imagePaths;
     TFileData::Groups m_earlierGroups;
+    ContentKeyCache::Options m_cacheOptions;
+    std::atomic_int m_fromCache {0};
 
     // Run state.
     std::atomic_int m_cancel {0};

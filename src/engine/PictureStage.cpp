@@ -21,6 +21,11 @@ void PictureStage::setInput(
     compare->setImagePaths(imagePaths);
 }
 
+void PictureStage::setCacheOptions(QThread *stage, const ContentKeyCache::Options &options)
+{
+    static_cast<ImageCompareThread *>(stage)->setCacheOptions(options);
+}
+
 void PictureStage::cancel(QThread *stage)
 {
     static_cast<ImageCompareThread *>(stage)->cancel();

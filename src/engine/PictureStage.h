@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/ContentKeyCache.h"
 #include "engine/TFileData.h"
 
 #include <QJsonObject>
@@ -24,5 +25,7 @@ public:
     static void applyConfig(QThread *stage, const QJsonObject &similar);
     static void setInput(
         QThread *stage, const TFileData::Groups &earlierGroups, const QStringList &imagePaths);
+    // Where the pictures' measures are kept between scans (as the duplicate finder's keys).
+    static void setCacheOptions(QThread *stage, const ContentKeyCache::Options &options);
     static void cancel(QThread *stage);
 };

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <numeric>
+#include <utility>
 
 namespace {
 
@@ -30,7 +30,8 @@ quint32 ScanTable::startFolder(const QString &path, const QByteArray &native, in
     return quint32(m_folders.size() - 1);
 }
 
-void ScanTable::addName(const char *name, qsizetype length, qint64 size)
+void ScanTable::addName(
+    const char *name, qsizetype length, qint64 size, const ScanBatch::Stat &stat)
 {
     Folder &folder = m_folders.back();
     File entry;
@@ -40,6 +41,7 @@ void ScanTable::addName(const char *name, qsizetype length, qint64 size)
     m_names.insert(m_names.end(), name, name + length);
     m_names.push_back('\0');
     m_files.push_back(entry);
+    m_stats.push_back(stat);
     ++folder.fileCount;
 }
 
@@ -48,13 +50,16 @@ void ScanTable::append(const ScanBatch &batch)
     if (batch.sizes.isEmpty())
         return;
     startFolder(batch.folder, batch.nativeFolder, batch.driveType);
+    m_folders.back().device = batch.device;
+    m_folders.back().listedNs = batch.listedNs;
+    const bool stats = batch.stats.size() == batch.sizes.size();
     const char *cursor = batch.names.constData();
     const char *end = cursor + batch.names.size();
-    for (qint64 size : batch.sizes) {
+    for (qsizetype i = 0; i < batch.sizes.size(); ++i) {
         if (cursor >= end)
             break;
         const qsizetype length = qsizetype(std::strlen(cursor));
-        addName(cursor, length, size);
+        addName(cursor, length, batch.sizes[i], stats ? batch.stats[i] : ScanBatch::Stat {});
         cursor += length + 1;
     }
 }
@@ -70,20 +75,23 @@ void ScanTable::append(const FileMeta &meta)
     if (m_folders.empty() || m_folders.back().path != folderPath
         || m_folders.back().driveType != meta.driveType)
         startFolder(folderPath, FilePathCodec::encode(folderPath), meta.driveType);
-    addName(name.constData(), name.size(), meta.size);
+    addName(name.constData(), name.size(), meta.size, ScanBatch::Stat {});
 }
 
 void ScanTable::clear()
 {
-    m_folders = {};
-    m_files = {};
-    m_names = {};
+    // Swapped with empty arrays: an assignment of {} would keep their room.
+    decltype(m_folders)().swap(m_folders);
+    decltype(m_files)().swap(m_files);
+    decltype(m_stats)().swap(m_stats);
+    decltype(m_names)().swap(m_names);
 }
 
 void ScanTable::squeeze()
 {
     m_folders.shrink_to_fit();
     m_files.shrink_to_fit();
+    m_stats.shrink_to_fit();
     m_names.shrink_to_fit();
 }
 
@@ -95,7 +103,23 @@ QString ScanTable::fileName(quint32 index) const
 
 QString ScanTable::filePath(quint32 index) const
 {
-    return joined(m_folders[m_files[index].folder].path, fileName(index));
+    const QString &folder = m_folders[m_files[index].folder].path;
+    const char *name = nativeName(index);
+    const qsizetype length = qsizetype(std::strlen(name));
+    // Plain ASCII names (nearly all) are appended in place: one allocation per path.
+    bool ascii = true;
+    for (qsizetype i = 0; i < length && ascii; ++i)
+        ascii = static_cast<unsigned char>(name[i]) < 0x80;
+    if (!ascii || folder.isEmpty())
+        return joined(folder, fileName(index));
+    const bool slash = folder.endsWith(QLatin1Char('/'));
+    QString out;
+    out.reserve(folder.size() + (slash ? 0 : 1) + length);
+    out.append(folder);
+    if (!slash)
+        out.append(QLatin1Char('/'));
+    out.append(QLatin1String(name, length));
+    return out;
 }
 
 QByteArray ScanTable::nativePath(quint32 index) const
@@ -113,9 +137,14 @@ QByteArray ScanTable::nativePath(quint32 index) const
 
 std::vector<quint32> ScanTable::bySize() const
 {
-    std::vector<quint32> order(m_files.size());
-    std::iota(order.begin(), order.end(), quint32(0));
-    std::stable_sort(order.begin(), order.end(),
-        [this](quint32 a, quint32 b) { return m_files[a].size < m_files[b].size; });
+    // Sorted as (size, index) pairs side by side: the same order as a stable sort by size,
+    // without a look into the table at every comparison.
+    std::vector<std::pair<qint64, quint32>> keyed(m_files.size());
+    for (quint32 i = 0; i < quint32(m_files.size()); ++i)
+        keyed[i] = {m_files[i].size, i};
+    std::sort(keyed.begin(), keyed.end());
+    std::vector<quint32> order(keyed.size());
+    for (size_t i = 0; i < keyed.size(); ++i)
+        order[i] = keyed[i].second;
     return order;
 }

@@ -10,7 +10,8 @@
 #include <QString>
 
 // The files of one scan in compact form: one record per folder (path, bytes, drive type)
-// and 16 bytes per file (size, folder, offset of its name in a shared byte arena). The
+// and 40 bytes per file (size, folder, offset of its name in a shared byte arena, and
+// the inode and times the walk's stat gave). The
 // scan controller fills it from the scanner's batches; the duplicate finder reads it.
 // Files keep the order they were appended in; bySize() groups them by size without
 // changing that order inside a size.
@@ -26,6 +27,9 @@ public:
         qint64 nameBase = 0;
         quint32 firstFile = 0;
         quint32 fileCount = 0;
+        // The device of the folder's files, and when the walk listed it (see ScanBatch).
+        quint64 device = 0;
+        qint64 listedNs = 0;
     };
     struct File
     {
@@ -53,6 +57,8 @@ public:
         const File &entry = m_files[index];
         return m_names.data() + m_folders[entry.folder].nameBase + entry.name;
     }
+    // What the walk's stat said of the file; inode 0 when it kept nothing.
+    const ScanBatch::Stat &stat(quint32 index) const { return m_stats[index]; }
     QString fileName(quint32 index) const;
     QString filePath(quint32 index) const;
     QByteArray nativePath(quint32 index) const;
@@ -61,9 +67,10 @@ public:
 
 private:
     quint32 startFolder(const QString &path, const QByteArray &native, int driveType);
-    void addName(const char *name, qsizetype length, qint64 size);
+    void addName(const char *name, qsizetype length, qint64 size, const ScanBatch::Stat &stat);
 
     std::vector<Folder> m_folders;
     std::vector<File> m_files;
+    std::vector<ScanBatch::Stat> m_stats;
     std::vector<char> m_names;
 };

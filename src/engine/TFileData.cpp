@@ -30,6 +30,15 @@ bool TFileData::insertGroup(const QString &key, const QStringList &paths)
     return true;
 }
 
+void TFileData::insertGroup(
+    const QString &key, const QStringList &paths, const QList<FileStamp> &stamps)
+{
+    QWriteLocker locker(&m_lock);
+    m_groups.insert(key, paths);
+    for (qsizetype i = 0; i < paths.size() && i < stamps.size(); ++i)
+        m_stamps.insert(paths[i], stamps[i]);
+}
+
 bool TFileData::replaceGroup(const QString &key, const QStringList &paths)
 {
     QWriteLocker locker(&m_lock);

@@ -31,6 +31,8 @@ public:
     static QString groupKey(const QString &firstPath);
 
     bool insertGroup(const QString &key, const QStringList &paths);
+    // The group with the stamp of each member (stamps[i] of paths[i]), under one lock.
+    void insertGroup(const QString &key, const QStringList &paths, const QList<FileStamp> &stamps);
     bool replaceGroup(const QString &key, const QStringList &paths);
     // No lock: called only on the finder thread once the pool work has ended.
     void insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries);

@@ -13,6 +13,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -357,10 +358,11 @@ bool TFileScanner::passesFileFilters(const QString &fileName, qint64 size) const
 }
 
 void TFileScanner::reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size,
-    const char *name, const QString &path, bool filtered)
+    const char *name, const QString &path, bool filtered, const ScanBatch::Stat &stat)
 {
     batch.names.append(name, qsizetype(std::strlen(name) + 1));
     batch.sizes.append(size);
+    batch.stats.append(stat);
     if (m_perFileSignals) {
         metas.append(FileMeta {size, path, batch.driveType});
         emit fileFound(size, path, batch.driveType);
@@ -389,6 +391,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
     batch.folder = folder.path;
     batch.nativeFolder = folder.native;
     batch.driveType = folder.driveType;
+    batch.listedNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
     QList<FileMeta> metas;
     bool completed = false;
     try {
@@ -414,6 +417,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
         {
         };
         if (::fstat(fd, &info) == 0) {
+            batch.device = quint64(info.st_dev);
             const Identity id {
                 static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
             const auto &pseudo = m_seen->pseudoDevices;
@@ -509,7 +513,15 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 } else {
                     singles.push_back(id);
                 }
-                reportFile(batch, metas, size, name, path, filtered);
+                ScanBatch::Stat stat;
+                if (id.device == batch.device && batch.device != 0) {
+                    stat.inode = id.inode;
+                    stat.modifiedNs
+                        = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
+                    stat.changedNs
+                        = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
+                }
+                reportFile(batch, metas, size, name, path, filtered, stat);
             }
             // Pipes, sockets and devices are never reported: reading them can block.
         }

@@ -100,7 +100,7 @@ private:
     // Adds one accepted file to the folder's batch and counts it; path is only needed
     // (and only built) while the per-file signals are connected.
     void reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size, const char *name,
-        const QString &path, bool filtered);
+        const QString &path, bool filtered, const ScanBatch::Stat &stat = {});
     void emitBatch(ScanBatch &batch, QList<FileMeta> &metas);
 
     QStringList roots;

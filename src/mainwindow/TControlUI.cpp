@@ -202,6 +202,7 @@ void TControlUI::onScannerFinished()
     m_finder.setRoots(m_roots);
     m_finder.setInput(std::move(m_table));
     m_table.clear();
+    m_finder.setCollectsPictures(m_similarEnabled && m_compare);
     m_stage = StageMatching;
     m_finder.start(QThread::InheritPriority);
 }
@@ -240,6 +241,7 @@ void TControlUI::onFinderFinished()
                     .arg(uniqueImages.size())
                     .arg(seconds()));
         PictureStage::setInput(m_compare, imageGroups, uniqueImages);
+        PictureStage::setCacheOptions(m_compare, m_finder.cacheOptions());
         m_stage = StageSimilar;
         m_compare->start(QThread::InheritPriority);
         return;

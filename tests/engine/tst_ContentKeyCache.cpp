@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ImageFixtures.h"
 #include "ScanTree.h"
+#include "app/FileTypeCatalogue.h"
 #include "engine/ContentKeyCache.h"
 #include "engine/DuplicateFileFinder.h"
+#include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
+#include "engine/TFileScanner.h"
 
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -33,23 +37,42 @@ void writeTree(const QString &root)
 }
 
 // Full-mode groups of the tree (names sorted), and how many keys came from the cache.
-QList<QStringList> scan(const QString &root, const QString &cachePath, qint64 *fromCache = nullptr)
+// walked: the table comes from the scanner, whose stat of each file is its stamp; else
+// from a plain listing, and the finder takes the stamps itself.
+QList<QStringList> scan(
+    const QString &root, const QString &cachePath, qint64 *fromCache = nullptr, bool walked = false)
 {
     TFileData::instance()->clear();
-    DuplicateFileFinder::SizeTable table;
-    QStringList all;
-    QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        const qint64 size = QFileInfo(path).size();
-        table[size].append(FileMeta {size, path, 0});
-        all.append(path);
-    }
     DuplicateFileFinder finder;
+    if (walked) {
+        TFileScanner scanner;
+        scanner.applyConfig(QJsonObject {{"IgnoreSystemHidden", false}});
+        ScanTable table;
+        QMutex mutex;
+        QObject::connect(
+            &scanner, &TFileScanner::folderFilesFound, &scanner,
+            [&](const ScanBatch &batch) {
+                QMutexLocker locker(&mutex);
+                table.append(batch);
+            },
+            Qt::DirectConnection);
+        scanner.setRoots({root});
+        scanner.start();
+        scanner.wait();
+        finder.setInput(std::move(table));
+    } else {
+        DuplicateFileFinder::SizeTable table;
+        QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString path = it.next();
+            const qint64 size = QFileInfo(path).size();
+            table[size].append(FileMeta {size, path, 0});
+        }
+        finder.setInput(table, {});
+    }
     finder.applyConfig(
         {{"scanMethod", DuplicateFileFinder::scanAllContent}, {"duplicateSelectHint", 8}});
     finder.setCacheOptions({true, cachePath});
-    finder.setInput(table, all);
     finder.start();
     finder.wait();
     if (fromCache)
@@ -89,6 +112,38 @@ bool runSql(const QString &database, const char *sql)
     return ok;
 }
 
+// Similar-picture groups of the pictures (names sorted) with the feature re-check, and
+// how many measures came from the cache.
+QList<QStringList> similar(
+    const QString &root, int algorithm, const QString &cachePath, int *fromCache = nullptr)
+{
+    TFileData::instance()->clear();
+    QStringList paths;
+    for (const QString &name : QDir(root).entryList(QDir::Files, QDir::Name))
+        paths.append(root + "/" + name);
+    ImageCompareThread thread;
+    thread.applyConfig(QJsonObject {{"SimilarityValue", 55}, {"FeaturesValue", 20},
+        {"algorithmHint", algorithm}, {"isAddFeatures", true}, {"isImageType", false},
+        {"isImageSize", false}, {"selectionHint", 8}});
+    thread.setCacheOptions(cachePath.isEmpty() ? ContentKeyCache::Options {}
+                                               : ContentKeyCache::Options {true, cachePath});
+    thread.setImagePaths(paths);
+    thread.start();
+    thread.wait();
+    if (fromCache)
+        *fromCache = thread.measuresFromCache();
+    QList<QStringList> groups;
+    for (QStringList group : TFileData::instance()->groups()) {
+        stripSimilarTag(group);
+        for (QString &path : group)
+            path = path.mid(root.size() + 1);
+        group.sort();
+        groups.append(group);
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
 } // namespace
 
 class TestContentKeyCache : public QObject
@@ -102,7 +157,10 @@ private slots:
     void changedFilesReadAgain();
     void rejectedCacheSetAside_data();
     void rejectedCacheSetAside();
+    void keysOnlyLayoutExtended();
     void largeTreeInRuns();
+    void picturesFromCache_data();
+    void picturesFromCache();
 
 private:
     QTemporaryDir m_dir;
@@ -111,14 +169,25 @@ private:
 void TestContentKeyCache::initTestCase()
 {
     for (const char *row : {"unchanged", "rewritten", "replaced", "racy"})
-        writeTree(m_dir.filePath(QLatin1String(row)));
-    for (const char *row : {"not a database", "foreign database", "newer layout", "damaged row"})
+        for (const char *how : {"", " walked"})
+            writeTree(m_dir.filePath(QLatin1String(row) + QLatin1String(how)));
+    for (const char *row :
+        {"not a database", "foreign database", "newer layout", "damaged row", "keys only"})
         writeTree(m_dir.filePath(QLatin1String(row)));
     // More candidates than one run of folders takes, in 170 folders of 200 files: 17,000
     // pairs of one size.
     for (int k = 0; k < 34000; ++k)
         ScanTree::write(m_dir.filePath("large"), QString("d%1/f%2").arg(k / 200).arg(k),
             QByteArray::number(100000000 + k / 2));
+    for (const char *tree : {"pictures 1 0", "pictures 2 0", "pictures 2 1"}) {
+        const QString root = m_dir.filePath(QLatin1String(tree));
+        QDir().mkpath(root);
+        const cv::Mat scene = fixtures::makeScene(320, 240, 11);
+        QVERIFY(cv::imwrite(QFile::encodeName(root + "/a.png").toStdString(), scene));
+        QVERIFY(cv::imwrite(QFile::encodeName(root + "/b.jpg").toStdString(), scene));
+        QVERIFY(cv::imwrite(
+            QFile::encodeName(root + "/c.png").toStdString(), fixtures::makeScene(320, 240, 12)));
+    }
     // Files younger than the racy window are never stored; the trees must age past it.
     QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
 }
@@ -177,30 +246,39 @@ void TestContentKeyCache::stampDecides()
 void TestContentKeyCache::changedFilesReadAgain_data()
 {
     QTest::addColumn<QString>("row");
+    QTest::addColumn<bool>("walked");
     QTest::addColumn<QList<QStringList>>("groups");
     QTest::addColumn<qint64>("fromCache");
-    // Sampled and full key of each file not read again.
-    QTest::newRow("unchanged") << "unchanged" << QList<QStringList> {{"a.bin", "b.bin"}}
-                               << qint64(6);
     // b now holds the trap's content: trusting its old keys would keep it with a.
     const QList<QStringList> withTrap {{"b.bin", "c.bin"}};
-    QTest::newRow("rewritten, same size, time put back") << "rewritten" << withTrap << qint64(4);
-    QTest::newRow("replaced by another file") << "replaced" << withTrap << qint64(4);
-    QTest::newRow("modified within the racy window")
-        << "racy" << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(4);
+    // Stamps taken by the finder, or the walk's own stat of each file.
+    for (bool walked : {false, true}) {
+        const char *how = walked ? ", walk stat" : "";
+        // Sampled and full key of each file not read again.
+        QTest::addRow("unchanged%s", how)
+            << "unchanged" << walked << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(6);
+        QTest::addRow("rewritten, same size, time put back%s", how)
+            << "rewritten" << walked << withTrap << qint64(4);
+        QTest::addRow("replaced by another file%s", how)
+            << "replaced" << walked << withTrap << qint64(4);
+        QTest::addRow("modified within the racy window%s", how)
+            << "racy" << walked << QList<QStringList> {{"a.bin", "b.bin"}} << qint64(4);
+    }
 }
 
 void TestContentKeyCache::changedFilesReadAgain()
 {
     QFETCH(QString, row);
+    QFETCH(bool, walked);
     QFETCH(QList<QStringList>, groups);
     QFETCH(qint64, fromCache);
-    const QString root = m_dir.filePath(row);
+    const QString tree = walked ? row + " walked" : row;
+    const QString root = m_dir.filePath(tree);
     const QString b = root + "/b.bin";
-    const QString cache = m_dir.filePath(row + ".sqlite");
+    const QString cache = m_dir.filePath(tree + ".sqlite");
     if (row == "racy")
         ScanTree::write(root, "b.bin", kCopy);
-    QCOMPARE(scan(root, cache), (QList<QStringList> {{"a.bin", "b.bin"}}));
+    QCOMPARE(scan(root, cache, nullptr, walked), (QList<QStringList> {{"a.bin", "b.bin"}}));
     const timespec before = modifiedOf(b);
     if (row == "rewritten") {
         // Only the whole-content key can see this edit, and only the change time shows it.
@@ -212,7 +290,7 @@ void TestContentKeyCache::changedFilesReadAgain()
         QVERIFY(QFile::remove(b) && QFile::rename(root + "/new.tmp", b));
     }
     qint64 taken = -1;
-    QCOMPARE(scan(root, cache, &taken), groups);
+    QCOMPARE(scan(root, cache, &taken, walked), groups);
     QCOMPARE(taken, fromCache);
 }
 
@@ -239,7 +317,7 @@ void TestContentKeyCache::rejectedCacheSetAside()
         QCOMPARE(scan(root, cache), expected);
         // Damage that, if believed, would join the trap to the copies.
         QVERIFY(runSql(cache,
-            row == "newer layout" ? "PRAGMA user_version=2"
+            row == "newer layout" ? "PRAGMA user_version=3"
                                   : "UPDATE keys SET full = (SELECT full FROM keys WHERE full != "
                                     "0 LIMIT 1), sampled = (SELECT sampled FROM keys LIMIT 1)"));
     }
@@ -252,6 +330,22 @@ void TestContentKeyCache::rejectedCacheSetAside()
     QCOMPARE(taken, 6);
 }
 
+void TestContentKeyCache::keysOnlyLayoutExtended()
+{
+    // A cache of the first layout (keys, no picture table) keeps its keys and gains the
+    // picture table instead of being set aside.
+    const QString root = m_dir.filePath("keys only");
+    const QString cache = m_dir.filePath("keys only.sqlite");
+    const QList<QStringList> expected {{"a.bin", "b.bin"}};
+    QCOMPARE(scan(root, cache), expected);
+    QVERIFY(runSql(cache, "DROP TABLE pictures; PRAGMA user_version=1"));
+    qint64 taken = -1;
+    QCOMPARE(scan(root, cache, &taken), expected);
+    QCOMPARE(taken, 6);
+    QVERIFY(!QFile::exists(ContentKeyCache::setAsidePath(cache)));
+    QVERIFY(runSql(cache, "SELECT count(*) FROM pictures"));
+}
+
 void TestContentKeyCache::largeTreeInRuns()
 {
     const QString root = m_dir.filePath("large");
@@ -261,6 +355,50 @@ void TestContentKeyCache::largeTreeInRuns()
     qint64 taken = 0;
     QCOMPARE(scan(root, cache, &taken), first);
     QCOMPARE(taken, 34000);
+    // The same through the walk's stamps, which are looked up in one pass.
+    QCOMPARE(scan(root, cache, &taken, true), first);
+    QCOMPARE(taken, 34000);
+}
+
+void TestContentKeyCache::picturesFromCache_data()
+{
+    // The trees are "pictures ALGORITHM REWRITE", written by initTestCase.
+    QTest::addColumn<int>("algorithm");
+    QTest::addColumn<bool>("rewrite");
+    QTest::addColumn<QList<QStringList>>("groups");
+    QTest::addColumn<int>("fromCache");
+    // a and b show one scene, c another. Unchanged: the perceptual hash of all three and
+    // the feature points of the pair come from the cache. c rewritten with a's scene and
+    // its time put back: its measures are taken again and it joins the pair. The
+    // histograms (a measure of their own) group none of these, and all three come back.
+    const QList<QStringList> pair {{"a.png", "b.jpg"}};
+    QTest::addRow("perceptual hash, unchanged") << 2 << false << pair << 5;
+    QTest::addRow("perceptual hash, picture rewritten")
+        << 2 << true << QList<QStringList> {{"a.png", "b.jpg", "c.png"}} << 4;
+    QTest::addRow("histogram, unchanged") << 1 << false << QList<QStringList> {} << 3;
+}
+
+void TestContentKeyCache::picturesFromCache()
+{
+    QFETCH(int, algorithm);
+    QFETCH(bool, rewrite);
+    QFETCH(QList<QStringList>, groups);
+    QFETCH(int, fromCache);
+    const QList<QStringList> pairOnly {{"a.png", "b.jpg"}};
+    const QString root = m_dir.filePath(QString("pictures %1 %2").arg(algorithm).arg(rewrite));
+    const QString cache = root + ".sqlite";
+    int taken = -1;
+    QCOMPARE(similar(root, algorithm, cache, &taken), rewrite ? pairOnly : groups);
+    QCOMPARE(taken, 0);
+    if (rewrite) {
+        QVERIFY(QFile::remove(root + "/c.png"));
+        QVERIFY(QFile::copy(root + "/a.png", root + "/c.png"));
+        setModified(root + "/c.png", modifiedOf(root + "/a.png"));
+    }
+    QCOMPARE(similar(root, algorithm, cache, &taken), groups);
+    QCOMPARE(taken, fromCache);
+    // Without the cache, the same groups.
+    QCOMPARE(similar(root, algorithm, QString(), nullptr), groups);
 }
 
 QTEST_GUILESS_MAIN(TestContentKeyCache)
