@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/FileTypeCatalogue.h"
+
+#include <algorithm>
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -37,6 +41,23 @@ inline QByteArray read(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Groups (a map of member lists) as sorted lists of member paths relative to root, similar
+// tags taken off, in sorted order.
+template<typename Groups>
+QList<QStringList> relativeGroups(const Groups &groups, const QString &root)
+{
+    QList<QStringList> out;
+    for (QStringList members : groups) {
+        stripSimilarTag(members);
+        for (QString &path : members)
+            path = path.mid(root.size() + 1);
+        members.sort();
+        out.append(members);
+    }
+    std::sort(out.begin(), out.end());
+    return out;
 }
 
 } // namespace ScanTree
