@@ -77,15 +77,7 @@ QList<QStringList> scan(
     finder.wait();
     if (fromCache)
         *fromCache = finder.keysFromCache();
-    QList<QStringList> groups;
-    for (QStringList group : TFileData::instance()->groups()) {
-        for (QString &path : group)
-            path = path.mid(root.size() + 1);
-        group.sort();
-        groups.append(group);
-    }
-    std::sort(groups.begin(), groups.end());
-    return groups;
+    return ScanTree::relativeGroups(TFileData::instance()->groups(), root);
 }
 
 void setModified(const QString &path, const timespec &when)
@@ -132,16 +124,7 @@ QList<QStringList> similar(
     thread.wait();
     if (fromCache)
         *fromCache = thread.measuresFromCache();
-    QList<QStringList> groups;
-    for (QStringList group : TFileData::instance()->groups()) {
-        stripSimilarTag(group);
-        for (QString &path : group)
-            path = path.mid(root.size() + 1);
-        group.sort();
-        groups.append(group);
-    }
-    std::sort(groups.begin(), groups.end());
-    return groups;
+    return ScanTree::relativeGroups(TFileData::instance()->groups(), root);
 }
 
 } // namespace
@@ -157,7 +140,6 @@ private slots:
     void changedFilesReadAgain();
     void rejectedCacheSetAside_data();
     void rejectedCacheSetAside();
-    void keysOnlyLayoutExtended();
     void largeTreeInRuns();
     void picturesFromCache_data();
     void picturesFromCache();
@@ -297,15 +279,20 @@ void TestContentKeyCache::changedFilesReadAgain()
 void TestContentKeyCache::rejectedCacheSetAside_data()
 {
     QTest::addColumn<QString>("row");
-    QTest::newRow("not a database") << "not a database";
-    QTest::newRow("foreign database") << "foreign database";
-    QTest::newRow("newer layout") << "newer layout";
-    QTest::newRow("damaged row") << "damaged row";
+    QTest::addColumn<bool>("setAside");
+    QTest::newRow("not a database") << "not a database" << true;
+    QTest::newRow("foreign database") << "foreign database" << true;
+    QTest::newRow("newer layout") << "newer layout" << true;
+    QTest::newRow("damaged row") << "damaged row" << true;
+    // A cache of the first layout (keys, no picture table) keeps its keys and gains the
+    // picture table.
+    QTest::newRow("keys only layout extended") << "keys only" << false;
 }
 
 void TestContentKeyCache::rejectedCacheSetAside()
 {
     QFETCH(QString, row);
+    QFETCH(bool, setAside);
     const QString root = m_dir.filePath(row);
     const QString cache = m_dir.filePath(row + ".sqlite");
     const QList<QStringList> expected {{"a.bin", "b.bin"}};
@@ -318,31 +305,18 @@ void TestContentKeyCache::rejectedCacheSetAside()
         // Damage that, if believed, would join the trap to the copies.
         QVERIFY(runSql(cache,
             row == "newer layout" ? "PRAGMA user_version=3"
-                                  : "UPDATE keys SET full = (SELECT full FROM keys WHERE full != "
-                                    "0 LIMIT 1), sampled = (SELECT sampled FROM keys LIMIT 1)"));
+                : row == "keys only"
+                ? "DROP TABLE pictures; PRAGMA user_version=1"
+                : "UPDATE keys SET full = (SELECT full FROM keys WHERE full "
+                  "!= 0 LIMIT 1), sampled = (SELECT sampled FROM keys LIMIT 1)"));
     }
     qint64 taken = -1;
     QCOMPARE(scan(root, cache, &taken), expected);
-    QCOMPARE(taken, 0);
-    QVERIFY(QFile::exists(ContentKeyCache::setAsidePath(cache)));
-    // The new cache works.
+    QCOMPARE(taken, setAside ? 0 : 6);
+    QCOMPARE(QFile::exists(ContentKeyCache::setAsidePath(cache)), setAside);
+    // The new (or extended) cache works.
     QCOMPARE(scan(root, cache, &taken), expected);
     QCOMPARE(taken, 6);
-}
-
-void TestContentKeyCache::keysOnlyLayoutExtended()
-{
-    // A cache of the first layout (keys, no picture table) keeps its keys and gains the
-    // picture table instead of being set aside.
-    const QString root = m_dir.filePath("keys only");
-    const QString cache = m_dir.filePath("keys only.sqlite");
-    const QList<QStringList> expected {{"a.bin", "b.bin"}};
-    QCOMPARE(scan(root, cache), expected);
-    QVERIFY(runSql(cache, "DROP TABLE pictures; PRAGMA user_version=1"));
-    qint64 taken = -1;
-    QCOMPARE(scan(root, cache, &taken), expected);
-    QCOMPARE(taken, 6);
-    QVERIFY(!QFile::exists(ContentKeyCache::setAsidePath(cache)));
     QVERIFY(runSql(cache, "SELECT count(*) FROM pictures"));
 }
 
