@@ -39,16 +39,7 @@ QList<QStringList> findGroups(const QString &root, const QStringList &names, int
         *uniqueImages = finder.uniqueImageFiles();
     if (duplicateFiles)
         *duplicateFiles = finder.duplicateFiles();
-    QList<QStringList> groups;
-    for (const QStringList &group : TFileData::instance()->groups()) {
-        QStringList relative;
-        for (const QString &path : group)
-            relative.append(path.mid(root.size() + 1));
-        relative.sort();
-        groups.append(relative);
-    }
-    std::sort(groups.begin(), groups.end());
-    return groups;
+    return ScanTree::relativeGroups(TFileData::instance()->groups(), root);
 }
 
 } // namespace
@@ -262,22 +253,15 @@ void TestDuplicateFileFinder::vanishedFileLeavesItsGroup()
 
 void TestDuplicateFileFinder::singlePicturesSetAside()
 {
+    // The suffix test is case-insensitive and takes the text after the last dot only. p1 and
+    // p2 are of one size and differ; every other file is of a size of its own.
     QTemporaryDir dir;
-    ScanTree::write(dir.path(), "photo.jpg", "jpeg-ish");
-    ScanTree::write(dir.path(), "note.txt", "a longer note");
-    ScanTree::write(dir.path(), "p1.png", "twin");
-    ScanTree::write(dir.path(), "p2.png", "twix");
-    // The suffix test is case-insensitive and takes the text after the last dot only.
-    ScanTree::write(dir.path(), "UPPER.JPEG", "a picture, loud");
-    ScanTree::write(dir.path(), "png", "no suffix at all");
-    ScanTree::write(dir.path(), "archive.png.txt", "not a picture, x");
-    ScanTree::write(dir.path(), QString::fromUtf8("caf\xC3\xA9.jpg"), "accented name");
-    ScanTree::write(dir.path(), QString::fromUtf8("x.j\xC3\xA9g"), "accented suffix");
+    const QStringList names {"photo.jpg", "note.txt", "p1.png", "p2.png", "UPPER.JPEG", "png",
+        "archive.png.txt", QString::fromUtf8("caf\xC3\xA9.jpg"), QString::fromUtf8("x.j\xC3\xA9g")};
+    for (int i = 0; i < names.size(); ++i)
+        ScanTree::write(dir.path(), names.at(i), QByteArray(i == 3 ? 12 : 10 + i, char('a' + i)));
     QStringList images;
-    findGroups(dir.path(),
-        {"photo.jpg", "note.txt", "p1.png", "p2.png", "UPPER.JPEG", "png", "archive.png.txt",
-            QString::fromUtf8("caf\xC3\xA9.jpg"), QString::fromUtf8("x.j\xC3\xA9g")},
-        0, 0, false, 8, &images);
+    findGroups(dir.path(), names, 0, 0, false, 8, &images);
     images.sort();
     QCOMPARE(images,
         (QStringList {dir.path() + "/UPPER.JPEG",
