@@ -50,6 +50,21 @@ private:
         thread.loadImages(images);
         return images;
     }
+    // One run of the thread over paths to its end; the arguments of its one finished signal.
+    static QVariantList run(ImageCompareThread &thread, const QStringList &paths)
+    {
+        QSignalSpy finished(&thread, &ImageCompareThread::finished);
+        thread.setImagePaths(paths);
+        thread.start();
+        return thread.wait(120000) && finished.count() == 1 ? finished.first() : QVariantList();
+    }
+    // The scene with a small red patch: similar to it, never equal.
+    static cv::Mat touched(const cv::Mat &scene)
+    {
+        cv::Mat mat = scene.clone();
+        cv::rectangle(mat, cv::Point(10, 10), cv::Point(40, 30), cv::Scalar(0, 0, 255), cv::FILLED);
+        return mat;
+    }
     static ImageData hashed(const QString &name, quint64 bits)
     {
         ImageData d;
@@ -80,14 +95,12 @@ private slots:
     void identicalPictures_data()
     {
         QTest::addColumn<int>("algorithm");
-        QTest::addColumn<double>("expected");
-        QTest::newRow("histogram") << 1 << 1.0;
-        QTest::newRow("phash") << 2 << 1.0 / (1.0 + std::exp(-1.5));
+        QTest::newRow("histogram") << 1;
+        QTest::newRow("phash") << 2;
     }
     void identicalPictures()
     {
         QFETCH(int, algorithm);
-        QFETCH(double, expected);
         const cv::Mat scene = fixtures::makeScene(300, 200, 11);
         const QString a = write(QStringLiteral("same_a.png"), scene);
         const QString b = write(QStringLiteral("same_b.png"), scene);
@@ -97,7 +110,6 @@ private slots:
         QCOMPARE(thread.measure(),
             algorithm == 1 ? ImageCompareThread::MeasureHistogram
                            : ImageCompareThread::MeasurePHash);
-        QVERIFY(qAbs(thread.compareFast(images[0], images[1]) - expected) < 1e-6);
         QList<QList<ImageData>> groups;
         thread.hashCompare(images, groups);
         QCOMPARE(groups.size(), 1);
@@ -169,48 +181,10 @@ private slots:
         QCOMPARE(groups.size(), compared ? 1 : 0);
     }
 
-    void filtersAndTransitiveGroups()
-    {
-        ImageCompareThread thread;
-        thread.applyConfig(config(2));
-        load(thread, {});
-        // P-Q and Q-R differ in 10 bits (similarity 0.64), P-R in 20 bits (0.35).
-        const quint64 p = 0;
-        const quint64 q = (1ULL << 10) - 1;
-        const quint64 r = ((1ULL << 20) - 1);
-        ImageData earlierA = hashed(QStringLiteral("e1.jpg"), 0xffff0000ffff0000ULL);
-        earlierA.fromEarlierResult = true;
-        ImageData earlierB = earlierA;
-        earlierB.path = QStringLiteral("e2.jpg");
-        ImageData png = hashed(QStringLiteral("x.png"), 0xffffffff00000000ULL);
-        png.fileType = QStringLiteral("png");
-        ImageData jpg = hashed(QStringLiteral("x.jpg"), 0xffffffff00000000ULL);
-        QList<ImageData> images {hashed(QStringLiteral("p.jpg"), p), earlierA, png,
-            hashed(QStringLiteral("q.jpg"), q), earlierB, hashed(QStringLiteral("r.jpg"), r), jpg};
-        QList<QList<ImageData>> groups;
-        thread.hashCompare(images, groups);
-        // Two earlier entries are never compared again; a PNG and a JPEG are not compared.
-        QCOMPARE(groups.size(), 1);
-        QStringList names;
-        for (const ImageData &d : groups[0])
-            names << d.path;
-        names.sort();
-        QCOMPARE(names, QStringList({"p.jpg", "q.jpg", "r.jpg"}));
-        // Sorted by similarity, highest first.
-        for (int k = 1; k < groups[0].size(); ++k)
-            QVERIFY(groups[0][k - 1].similarity >= groups[0][k].similarity);
-
-        // Without the type filter the PNG and the JPEG copy form a group of their own.
-        thread.applyConfig(config(2, false, false));
-        load(thread, {});
-        groups.clear();
-        thread.hashCompare(images, groups);
-        QCOMPARE(groups.size(), 2);
-    }
-
     // Many pictures with random hashes around a few centres, random types, sizes and
-    // earlier entries: the groups and the similarity written into each member must be
-    // those of the plain definition, every pair tested in index order with every filter.
+    // earlier entries: the groups (joined through members, so transitive), their order and
+    // the similarity written into each member must be those of the plain definition, every
+    // pair tested in index order with every filter.
     void randomHashesMatchPlainDefinition_data()
     {
         QTest::addColumn<int>("threshold");
@@ -306,6 +280,11 @@ private slots:
         thread.hashCompare(images, groups);
         QList<QStringList> actual;
         for (const QList<ImageData> &group : std::as_const(groups)) {
+            // Members come sorted by similarity, highest first.
+            QVERIFY(std::is_sorted(
+                group.begin(), group.end(), [](const ImageData &x, const ImageData &y) {
+                    return x.similarity > y.similarity;
+                }));
             QStringList members;
             for (const ImageData &image : group)
                 members.append(image.path + ":" + QString::number(image.similarity));
@@ -359,18 +338,13 @@ private slots:
                 QVERIFY(fixtures::writeBytes(broken.last(), bytes));
         }
         const cv::Mat scene = fixtures::makeScene(400, 300, 61);
-        cv::Mat touched = scene.clone();
-        cv::rectangle(
-            touched, cv::Point(10, 10), cv::Point(40, 30), cv::Scalar(0, 0, 255), cv::FILLED);
         const QString a = write(stem + "_a.png", scene);
-        const QString b = write(stem + "_b.png", touched);
+        const QString b = write(stem + "_b.png", touched(scene));
         const QStringList paths {broken[0], a, broken[1], b};
 
         ImageCompareThread thread;
         thread.applyConfig(config(algorithm, false, false, false));
-        thread.setImagePaths(paths);
-        thread.start();
-        QVERIFY(thread.wait(120000));
+        QVERIFY(!run(thread, paths).isEmpty());
         const TFileData::Groups groups = TFileData::instance()->groups();
         QCOMPARE(groups.size(), 1);
         QStringList members;
@@ -445,15 +419,11 @@ private slots:
         const QString b = write(QStringLiteral("run_b.jpg"), scene, {cv::IMWRITE_JPEG_QUALITY, 60});
         const QString c = write(QStringLiteral("run_c.jpg"), fixtures::makeScene(500, 400, 32));
         ImageCompareThread thread;
-        QJsonObject cfg = config(1, true);
-        thread.applyConfig(cfg);
-        thread.setImagePaths({a, b, c});
-        QSignalSpy finished(&thread, &ImageCompareThread::finished);
-        thread.start();
-        QVERIFY(thread.wait(120000));
-        QCOMPARE(finished.count(), 1);
-        QCOMPARE(finished.first().at(0).toInt(), 2);
-        QCOMPARE(finished.first().at(1).toLongLong(), QFileInfo(a).size() + QFileInfo(b).size());
+        thread.applyConfig(config(1, true));
+        const QVariantList finished = run(thread, {a, b, c});
+        QVERIFY(!finished.isEmpty());
+        QCOMPARE(finished.at(0).toInt(), 2);
+        QCOMPARE(finished.at(1).toLongLong(), QFileInfo(a).size() + QFileInfo(b).size());
         const TFileData::Groups groups = TFileData::instance()->groups();
         QCOMPARE(groups.size(), 1);
         const QString key = groups.constBegin().key();
@@ -474,20 +444,13 @@ private slots:
         const cv::Mat scene = fixtures::makeScene(300, 300, 41);
         const QString dup1 = write(QStringLiteral("dup1.png"), scene);
         const QString dup2 = write(QStringLiteral("dup2.png"), scene);
-        cv::Mat touched = scene.clone();
-        cv::rectangle(
-            touched, cv::Point(10, 10), cv::Point(40, 30), cv::Scalar(0, 0, 255), cv::FILLED);
-        const QString similar = write(QStringLiteral("near.png"), touched);
+        const QString similar = write(QStringLiteral("near.png"), touched(scene));
         const QString key = TFileData::groupKey(dup1);
         TFileData::instance()->insertGroup(key, {dup1, dup2});
         ImageCompareThread thread;
         thread.applyConfig(config(1));
         thread.setEarlierGroups(TFileData::instance()->imageGroups());
-        thread.setImagePaths({similar});
-        QSignalSpy finished(&thread, &ImageCompareThread::finished);
-        thread.start();
-        QVERIFY(thread.wait(120000));
-        QCOMPARE(finished.first().at(0).toInt(), 1);
+        QCOMPARE(run(thread, {similar}).value(0).toInt(), 1);
         const QStringList members = TFileData::instance()->group(key);
         QCOMPARE(members.size(), 3);
         QCOMPARE(members.mid(0, 2), QStringList({dup1, dup2}));
