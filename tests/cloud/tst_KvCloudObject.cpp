@@ -25,6 +25,12 @@ using Groups = QHash<QString, QList<QString>>;
 // Files as "relative path=seed:size"; a seed of 0 writes an empty file.
 using TreeFiles = QStringList;
 
+// A cloud object whose rclone keeps its configuration in the test's data folder.
+struct TestCloud : KvCloudObject
+{
+    explicit TestCloud(const QString &data) { initialization(data); }
+};
+
 class TestKvCloudObject : public QObject
 {
     Q_OBJECT
@@ -49,34 +55,35 @@ private:
 
     QString folder(const QString &root) const { return m_remote + QLatin1Char(':') + root; }
 
-    // One scan to its end; the groups as sorted lists of paths relative to root.
-    QList<QStringList> scan(KvCloudObject &cloud, const QString &root, bool *aborted = nullptr)
+    // One scan of folders (by default top alone) to its end; the groups as sorted lists of
+    // paths relative to top, similar tags taken off. raw: the groups as they came.
+    static QList<QStringList> scan(KvCloudObject &cloud, const QString &top,
+        QStringList folders = {}, bool *aborted = nullptr, Groups *raw = nullptr)
     {
         QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
         QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
-        cloud.start_traversal_files({folder(root)}, 20);
-        if (!done.wait(60000))
+        cloud.start_traversal_files(folders.isEmpty() ? QStringList {top} : folders, 20);
+        if (!done.wait(60000) || found.isEmpty())
             return {{QStringLiteral("no end")}};
         if (aborted)
             *aborted = done.first().first().toBool();
-        QList<QStringList> groups;
         const Groups all = found.last().first().value<Groups>();
-        for (const QList<QString> &members : all) {
-            QStringList relative;
-            for (const QString &path : members)
-                relative.append(path.mid(folder(root).size() + 1));
-            relative.sort();
-            groups.append(relative);
-        }
-        std::sort(groups.begin(), groups.end());
-        return groups;
+        if (raw)
+            *raw = all;
+        return ScanTree::relativeGroups(all, top);
+    }
+    // A stand-in for rclone in bin: a shell script of body.
+    static QString fakeRclone(const QTemporaryDir &bin, const QByteArray &body)
+    {
+        const QString path = ScanTree::write(bin.path(), "rclone", "#!/bin/sh\n" + body + "\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+        return path;
     }
 
 private slots:
     void initTestCase()
     {
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         QSignalSpy success(&cloud, &KvCloudObject::onAuthorizedSuccess);
         QVERIFY(cloud.start_authorization(m_remote, CloudService::kLocalFolder));
         QVERIFY(success.wait(20000));
@@ -89,16 +96,9 @@ private slots:
     {
         QTemporaryDir root;
         writeTree(root.path(), {"a=x:5000", "b/c=x:5000", "d=y:5000", "e=z:10"});
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
-        QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
-        QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
+        TestCloud cloud(m_data.path());
         const QString folder = m_plain + ':' + root.path();
-        cloud.start_traversal_files({folder}, 20);
-        QVERIFY(done.wait(30000));
-        const Groups groups = found.first().first().value<Groups>();
-        QCOMPARE(groups.size(), 1);
-        QCOMPARE(groups.begin().value(), QList<QString>({folder + "/a", folder + "/b/c"}));
+        QCOMPARE(scan(cloud, folder), (QList<QStringList> {{"a", "b/c"}}));
         QCOMPARE(QDir(cloud.get_download_dir()).entryList(QDir::Files), QStringList());
         // Without a hash of the service's the kept copy cannot be confirmed: nothing goes.
         QSignalSpy complete(&cloud, &KvCloudObject::onDeletedCloudGroupComplated);
@@ -130,10 +130,9 @@ private slots:
         QFETCH(QList<QStringList>, expected);
         QTemporaryDir root;
         writeTree(root.path(), tree);
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         bool aborted = true;
-        QCOMPARE(scan(cloud, root.path(), &aborted), expected);
+        QCOMPARE(scan(cloud, folder(root.path()), {}, &aborted), expected);
         QVERIFY(!aborted);
         // Properties come from the listing, the time to the millisecond.
         if (!expected.isEmpty()) {
@@ -152,20 +151,11 @@ private slots:
         // themselves), and a file the user ignored stays out.
         QTemporaryDir root;
         writeTree(root.path(), {"a=x:900", "p/b=x:900", "p/c=x:900"});
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         const QString top = folder(root.path());
         cloud.set_common_config(
             {{"IgnorePathFile", QJsonArray {QStringLiteral("here:c:%1/p/c").arg(top)}}});
-        QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
-        QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
-        cloud.start_traversal_files({top + "/p/", top}, 20);
-        QVERIFY(done.wait(20000));
-        const Groups groups = found.last().first().value<Groups>();
-        QCOMPARE(groups.size(), 1);
-        QStringList members = groups.begin().value();
-        members.sort();
-        QCOMPARE(members, QStringList({top + "/a", top + "/p/b"}));
+        QCOMPARE(scan(cloud, top, {top + "/p/", top}), (QList<QStringList> {{"a", "p/b"}}));
     }
 
     void similarPicturesFetchedAndCompared()
@@ -180,24 +170,17 @@ private slots:
             fixtures::encode(scene, ".jpg", {cv::IMWRITE_JPEG_QUALITY, 60})));
         QVERIFY(fixtures::writeBytes(
             root.filePath("c.jpg"), fixtures::encode(fixtures::makeScene(640, 480, 2), ".jpg")));
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         DFGenernalPreferences similar;
         similar.setHasSimilar(true);
         cloud.set_similar_config(similar.toJson());
-        QSignalSpy found(&cloud, &KvCloudObject::onFindedDuplicateItem);
-        QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
         const QString top = folder(root.path());
-        cloud.start_traversal_files({top}, 20);
-        QVERIFY(done.wait(60000));
-        QCOMPARE(done.first().first().toBool(), false);
-        const Groups groups = found.last().first().value<Groups>();
-        QCOMPARE(groups.size(), 1);
-        QStringList members = groups.begin().value();
-        QVERIFY(isSimilarEntry(members.first()));
-        stripSimilarTag(members);
-        members.sort();
-        QCOMPARE(members, QStringList({top + "/a.jpg", top + "/sub/b.jpg"}));
+        bool aborted = true;
+        Groups groups;
+        QCOMPARE(
+            scan(cloud, top, {}, &aborted, &groups), (QList<QStringList> {{"a.jpg", "sub/b.jpg"}}));
+        QVERIFY(!aborted);
+        QVERIFY(isSimilarEntry(groups.begin().value().first()));
         QCOMPARE(cloud.getCFP(top + "/sub/b.jpg", "size").toLongLong(),
             QFileInfo(root.filePath("sub/b.jpg")).size());
         QVERIFY(QDir(cloud.get_download_dir() + "pictures").isEmpty());
@@ -215,8 +198,7 @@ private slots:
     {
         // The remote made at the start is found in the configuration: no new sign-in
         // unless one is asked for.
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         QSignalSpy completed(&cloud, &KvCloudObject::onAuthorizedCompleted);
         QVERIFY(cloud.start_authorization(m_remote, CloudService::kLocalFolder));
         QVERIFY(completed.wait(20000));
@@ -231,14 +213,11 @@ private slots:
     {
         // rclone tells on its error output where a browser sign-in waits.
         QTemporaryDir bin;
-        const QString script = bin.filePath("rclone");
-        ScanTree::write(bin.path(), "rclone",
-            "#!/bin/sh\n[ \"$1\" = rcd ] && echo 'NOTICE: If your browser does not open "
-            "automatically go to the following link: http://127.0.0.1:53682/auth?state=x' >&2\n"
-            "exec rclone \"$@\"\n");
-        QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        const QString script = fakeRclone(bin,
+            "[ \"$1\" = rcd ] && echo 'NOTICE: If your browser does not open automatically go "
+            "to the following link: http://127.0.0.1:53682/auth?state=x' >&2\n"
+            "exec rclone \"$@\"");
+        TestCloud cloud(m_data.path());
         cloud.setRcloneSettings({script, m_data.filePath("rclone/rclone.conf")});
         QSignalSpy link(&cloud, &KvCloudObject::authorizationLink);
         QCOMPARE(cloud.ensureStarted(), QString());
@@ -250,8 +229,7 @@ private slots:
     {
         QTemporaryDir root;
         writeTree(root.path(), {"b/inner/f=x:10", "a/f=x:10", "top=x:10"});
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         QSignalSpy signedIn(&cloud, &KvCloudObject::onAuthorizedSuccess);
         QSignalSpy folders(&cloud, &KvCloudObject::onFindedFolders);
         cloud.start_authorization(m_remote, CloudService::kLocalFolder);
@@ -272,8 +250,7 @@ private slots:
         for (int i = 0; i < 300; ++i)
             ScanTree::write(root.path(), QStringLiteral("d%1/f%2").arg(i % 7).arg(i),
                 ScanTree::pattern(20000, char('a' + i % 20)));
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
         cloud.start_traversal_files({folder(root.path())}, 20);
         cloud.stop_all_tasks();
@@ -282,7 +259,7 @@ private slots:
         // Nothing of the stopped listing arrives afterwards, and the next scan works.
         QTest::qWait(300);
         QCOMPARE(done.size(), 1);
-        QCOMPARE(scan(cloud, root.path()).size(), 20);
+        QCOMPARE(scan(cloud, folder(root.path())).size(), 20);
     }
 
     void removalKeepsConfirmedCopy_data()
@@ -304,11 +281,10 @@ private slots:
         const QString keepFile = ScanTree::write(root.path(), "keep", ScanTree::pattern(9000, 'k'));
         const QString itemFile
             = ScanTree::write(root.path(), "sub/item", ScanTree::pattern(9000, 'k'));
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         const QString journal = root.filePath("journal.jsonl");
         cloud.setJournalPath(journal);
-        QCOMPARE(scan(cloud, root.path()).size(), 1);
+        QCOMPARE(scan(cloud, folder(root.path())).size(), 1);
         if (change == "delete keep")
             QFile::remove(keepFile);
         else if (change == "rewrite keep")
@@ -364,8 +340,7 @@ private slots:
         for (int i = 0; i < 2000; ++i)
             ScanTree::write(
                 root.path(), QStringLiteral("f%1").arg(i), ScanTree::pattern(30000, char(i)));
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        TestCloud cloud(m_data.path());
         QSignalSpy failed(&cloud, &KvCloudObject::onTraversalFailed);
         QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
         cloud.start_traversal_files({folder(root.path())}, 20);
@@ -401,13 +376,8 @@ private slots:
         QFETCH(QByteArray, script);
         QFETCH(QString, message);
         QTemporaryDir bin;
-        const QString program = bin.filePath("rclone");
-        if (!script.isEmpty()) {
-            ScanTree::write(bin.path(), "rclone", "#!/bin/sh\n" + script + "\n");
-            QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
-        }
-        KvCloudObject cloud;
-        cloud.initialization(m_data.path());
+        const QString program = script.isEmpty() ? bin.filePath("rclone") : fakeRclone(bin, script);
+        TestCloud cloud(m_data.path());
         cloud.setRcloneSettings({program, m_data.filePath("rclone/rclone.conf")});
         QSignalSpy failed(&cloud, &KvCloudObject::onTraversalFailed);
         QSignalSpy done(&cloud, &KvCloudObject::onAllComplate);
