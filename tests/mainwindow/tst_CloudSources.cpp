@@ -216,15 +216,7 @@ void tst_CloudSources::chooseScanAndRemove()
 
     QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
     QTRY_COMPARE_WITH_TIMEOUT(m_window->state(), int(MainWindow::StateFinished), 30000);
-    QList<QStringList> groups;
-    for (QStringList members : TFileData::instance()->groups()) {
-        for (QString &member : members)
-            member.remove(QStringLiteral("here:set/"));
-        members.sort();
-        groups << members;
-    }
-    std::sort(groups.begin(), groups.end());
-    QCOMPARE(groups,
+    QCOMPARE(ScanTree::relativeGroups(TFileData::instance()->groups(), "here:set"),
         QList<QStringList>({{"a1.jpg", "sub/a2.jpg"}, {"b1.txt", "sub/b2.txt", "sub/b3.txt"}}));
     ResultForm *page = m_window->resultPage();
     QVERIFY(page);

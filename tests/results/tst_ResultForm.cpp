@@ -5,6 +5,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
+#include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "fileops/TImageDeleteWorker.h"
@@ -16,9 +17,7 @@
 #include "results/ResultForm.h"
 
 #include <QAction>
-#include <QBuffer>
 #include <QDirIterator>
-#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -52,6 +51,8 @@ private:
     QString writeGroup(const QString &name, int copies, const QByteArray &content);
     ResultForm *openPage();
     QAction *action(QMenu *menu, const QString &text) const;
+    // Makes the first group that passes current the open one.
+    static void openGroup(ResultForm *page, const std::function<bool(const GroupItem &)> &current);
     template<typename T>
     T *child(QWidget *page, const char *name) const
     {
@@ -66,15 +67,7 @@ private:
 
 QByteArray tst_ResultForm::jpeg(int seed)
 {
-    QImage image(320, 200, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, qRgb((x * seed) % 256, (y * 3) % 256, (x + y + seed) % 256));
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPEG", 90);
-    return bytes;
+    return fixtures::encode(fixtures::makeScene(320, 200, seed), ".jpg");
 }
 
 QStringList tst_ResultForm::trashedNames()
@@ -142,6 +135,16 @@ QAction *tst_ResultForm::action(QMenu *menu, const QString &text) const
     return nullptr;
 }
 
+void tst_ResultForm::openGroup(
+    ResultForm *page, const std::function<bool(const GroupItem &)> &current)
+{
+    const QList<GroupItem> groups = page->groupModel()->displayedGroups();
+    for (int row = 0; row < groups.size(); ++row)
+        if (current(groups.at(row)))
+            page->findChild<QListView *>(QStringLiteral("listView_groups"))
+                ->setCurrentIndex(page->groupModel()->index(row, 0));
+}
+
 void tst_ResultForm::scanReviewRemove()
 {
     // Three copies of a photo, two of a document, two of a song, and files of their own.
@@ -199,11 +202,7 @@ void tst_ResultForm::scanReviewRemove()
     QVERIFY(std::any_of(selected.cbegin(), selected.cend(), [&](const QStringList &paths) {
         return paths.size() == 2 && paths.contains(copyPhoto) && paths.contains(thirdPhoto);
     }));
-    for (int row = 0; row < page->groupModel()->rowCount(); ++row) {
-        if (page->groupModel()->displayedGroups().at(row).name.startsWith(QLatin1String("song")))
-            child<QListView>(page, "listView_groups")
-                ->setCurrentIndex(page->groupModel()->index(row, 0));
-    }
+    openGroup(page, [](const GroupItem &group) { return group.name.startsWith("song"); });
     QTRY_VERIFY(page->itemModel()->rowCount() == 2
         && page->itemModel()->displayedItems().first().path.contains(QLatin1String("song")));
     for (int row = 0; row < 2; ++row)
@@ -338,10 +337,7 @@ void tst_ResultForm::hideAndIgnore()
     const QString ignored = writeGroup(QStringLiteral("two.bin"), 2, ScanTree::pattern(600, 'w'));
     const QStringList members = TFileData::instance()->group(ignored);
     ResultForm *page = openPage();
-    for (int row = 0; row < page->groupModel()->rowCount(); ++row)
-        if (page->groupModel()->displayedGroups().at(row).key == hidden)
-            child<QListView>(page, "listView_groups")
-                ->setCurrentIndex(page->groupModel()->index(row, 0));
+    openGroup(page, [&](const GroupItem &group) { return group.key == hidden; });
     QTRY_COMPARE(page->itemModel()->rowCount(), 3);
 
     // Hiding takes a member out of the result, never off the disk.
