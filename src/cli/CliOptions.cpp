@@ -100,6 +100,8 @@ QString CliOptions::usage()
         "  --include-hidden            include hidden files and folders\n"
         "  --no-cache                  read every file; neither use nor update the keys\n"
         "                              kept from earlier scans\n"
+        "  --no-overlap                read file contents only after the walk (by default\n"
+        "                              same-size files are read while it goes on)\n"
         "  --similar                   also group similar pictures; each option below\n"
         "                              turns this on as well:\n"
         "  --threshold PERCENT         pass mark of the fast comparison, %5 to %6\n"
@@ -368,6 +370,8 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             m_includeHidden = true;
         } else if (name == QLatin1String("--no-cache") && !inlineValue) {
             m_useCache = false;
+        } else if (name == QLatin1String("--no-overlap") && !inlineValue) {
+            m_overlapped = false;
         } else if (name == QLatin1String("--folders") && !inlineValue) {
             m_folderGroups = true;
         } else if (name == QLatin1String("--similar") && !inlineValue) {

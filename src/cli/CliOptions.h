@@ -37,6 +37,7 @@ public:
     QString rcloneConfig() const { return m_rcloneConfig; }
     bool json() const { return m_json; }
     bool useCache() const { return m_useCache; }
+    bool overlapsReading() const { return m_overlapped; }
     QString savePath() const { return m_savePath; }
     QString logDirectory() const { return m_logDirectory; }
     // "all" selects every member of each group once the scan is done; the finder itself
@@ -78,6 +79,7 @@ private:
     bool m_sameRatio = true;
     bool m_json = false;
     bool m_useCache = true;
+    bool m_overlapped = true;
     double m_minSizeKb = 0;
     double m_maxSizeMb = 100000;
     QStringList m_only;

@@ -99,16 +99,25 @@ Unread unreadOf(const ScanProblems &problems)
         problems.count(ScanProblems::LinkOutsideRoots)};
 }
 
-// cachedKeys: content keys the scan took from the key cache instead of reading files;
-// negative when the groups come from no scan (a saved project).
+// Where a scan's content keys came from; negative when the groups come from no scan (a
+// saved project).
+struct KeySources
+{
+    // Taken from the key cache instead of reading files.
+    qint64 cached = -1;
+    // Read (or taken from the cache) while the walk went on.
+    qint64 overlapped = -1;
+};
+
 void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &groups,
-    const Unread &unread, qint64 cachedKeys)
+    const Unread &unread, const KeySources &keys)
 {
     std::FILE *out = stdout;
     std::fprintf(out, "{\"scannedFiles\": %lld, \"seconds\": %.3f,",
         static_cast<long long>(scannedFiles), seconds);
-    if (cachedKeys >= 0)
-        std::fprintf(out, " \"cachedKeys\": %lld,", static_cast<long long>(cachedKeys));
+    if (keys.cached >= 0)
+        std::fprintf(out, " \"cachedKeys\": %lld, \"overlappedKeys\": %lld,",
+            static_cast<long long>(keys.cached), static_cast<long long>(keys.overlapped));
     std::fprintf(out,
         " \"unreadableFolderCount\": %lld, \"unreadableFileCount\": %lld,"
         " \"linksNotFollowedCount\": %lld,",
@@ -181,10 +190,10 @@ void printUnread(const Unread &unread, const QString &summary)
 }
 
 void printGroups(const CliOptions &options, qint64 scannedFiles, double seconds,
-    const QList<OutputGroup> &groups, const Unread &unread, qint64 cachedKeys = -1)
+    const QList<OutputGroup> &groups, const Unread &unread, const KeySources &keys = {})
 {
     if (options.json())
-        printJson(scannedFiles, seconds, groups, unread, cachedKeys);
+        printJson(scannedFiles, seconds, groups, unread, keys);
     else
         printText(groups);
     std::fflush(stdout);
@@ -343,6 +352,7 @@ int main(int argc, char *argv[])
     TControlUI controller;
     if (!options.useCache())
         controller.finder()->setCacheOptions(ContentKeyCache::Options {});
+    controller.setOverlappedReading(options.overlapsReading());
     // The members' stamps serve removals and saved projects only.
     controller.finder()->setKeepsStamps(!options.savePath().isEmpty());
     QTimer progressTimer;
@@ -385,7 +395,7 @@ int main(int argc, char *argv[])
     const QList<OutputGroup> groups = collectGroups();
     const Unread unread = unreadOf(controller.problems());
     printGroups(options, controller.scannedFileCount(), seconds, groups, unread,
-        controller.finder()->keysFromCache());
+        KeySources {controller.finder()->keysFromCache(), controller.finder()->overlappedKeys()});
 
     int status = 0;
     if (!options.savePath().isEmpty()) {

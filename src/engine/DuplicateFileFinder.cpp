@@ -6,6 +6,7 @@
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/SampledKey.h"
 #include "engine/TFileData.h"
 
 #include <algorithm>
@@ -41,17 +42,17 @@
 
 namespace {
 
-constexpr qint64 kBlock = 4096;
-constexpr qint64 kWholeFileLimit = 3 * kBlock;
+using SampledKey::kBlock;
+using SampledKey::kExternalDrive;
+using SampledKey::kWholeFileLimit;
+#ifdef Q_OS_UNIX
+using SampledKey::stampOf;
+#endif
 constexpr qint64 kStreamPiece = 65536;
 constexpr qint64 kMapLimit = 4294967296LL;
-// Below this size a memory map costs more than the three small reads it replaces
-// (mapping and unmapping dominate), so small files are read with pread; the keys are the
-// same either way.
-constexpr qint64 kSampledMapThreshold = 1 << 20;
-// The same trade-off for whole-file hashing: maps pay off only for larger files.
+// Below this size a memory map costs more than the reads it replaces, so smaller files are
+// read with pread; the keys are the same either way.
 constexpr qint64 kStreamMapThreshold = 1 << 20;
-constexpr int kExternalDrive = 2;
 // Image suffixes up to this length are tested on the name's bytes.
 constexpr size_t kShortSuffix = 16;
 
@@ -65,15 +66,6 @@ QByteArray hexKey(XXH64_hash_t digest)
     }
     return QByteArray(text, 16);
 }
-
-#ifdef Q_OS_UNIX
-ContentKeyCache::Stamp stampOf(const struct stat &info)
-{
-    return ContentKeyCache::Stamp {quint64(info.st_dev), quint64(info.st_ino), qint64(info.st_size),
-        qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec,
-        qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec};
-}
-#endif
 
 QString folderOf(const QString &path)
 {
@@ -89,128 +81,6 @@ QString fileNameOf(const QString &path)
 }
 
 #ifdef Q_OS_UNIX
-qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
-{
-    qint64 total = 0;
-    while (total < length) {
-        const ssize_t got = ::pread(fd, buffer + total, size_t(length - total), offset + total);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            break;
-        total += got;
-    }
-    return total;
-}
-
-// Sampled key of the file `name`, opened relative to the folder descriptor `dirfd`
-// (AT_FDCWD with a full path). The blocks are chosen from the size the scanner recorded,
-// so no fstat is needed on the common path; only when a read comes back short (the file
-// shrank since the scan, or is no regular file any more) is the file asked for its size,
-// and the blocks are then chosen again from the smaller size, exactly as if it had been
-// asked first. Files that are mapped are always asked first, since a map must not reach
-// past the end. pathOf() builds the path for messages only. With `opened`, the file is
-// asked first and its status is left there, so the caller can tell whether the file it
-// stamped earlier is the one that was read.
-template<typename PathOf>
-bool sampledKeyAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &key,
-    const PathOf &pathOf, int &error, struct stat *opened = nullptr)
-{
-    error = 0;
-    const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (fd < 0) {
-        error = errno;
-        splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
-            QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                .arg(pathOf(), QString::fromLocal8Bit(std::strerror(error))));
-        return false;
-    }
-    qint64 n = size;
-    bool checked = false;
-    // Asks the file for its size; false when it is no regular file.
-    const auto check = [&]() {
-        checked = true;
-        struct stat info
-        {
-        };
-        if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
-            error = EINVAL;
-            splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
-                QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                    .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
-            return false;
-        }
-        n = std::min<qint64>(info.st_size, size);
-        if (opened)
-            *opened = info;
-        return true;
-    };
-    const bool mapped = driveType != kExternalDrive && n >= kSampledMapThreshold;
-    if ((mapped || opened) && !check()) {
-        ::close(fd);
-        return false;
-    }
-    char buffer[kWholeFileLimit];
-    for (;;) {
-        if (n < 1) {
-            ::close(fd);
-            return false;
-        }
-        if (n <= kWholeFileLimit) {
-            const qint64 got = readFully(fd, buffer, n, 0);
-            if (got < n && !checked) {
-                if (!check()) {
-                    ::close(fd);
-                    return false;
-                }
-                continue;
-            }
-            ::close(fd);
-            key = XXH3_64bits(buffer, size_t(got));
-            return true;
-        }
-        const qint64 offsets[3] = {0, std::clamp<qint64>(n / 2 - 2048, 0, n - kBlock), n - kBlock};
-        XXH3_state_t state;
-        XXH3_64bits_reset(&state);
-        if (driveType != kExternalDrive && n >= kSampledMapThreshold && checked) {
-            void *map = ::mmap(nullptr, size_t(n), PROT_READ, MAP_SHARED, fd, 0);
-            if (map == MAP_FAILED) {
-                splog_d(QStringLiteral("[TDuplicateFinleFinder]: file.map failed.: [%1].")
-                            .arg(pathOf()));
-            } else {
-                for (qint64 offset : offsets)
-                    XXH3_64bits_update(&state, static_cast<const char *>(map) + offset, kBlock);
-                ::munmap(map, size_t(n));
-                ::close(fd);
-                key = XXH3_64bits_digest(&state);
-                return true;
-            }
-        }
-        // External drives are never mapped: a drive pulled out while mapped pages are read
-        // ends the process.
-        bool restart = false;
-        for (qint64 offset : offsets) {
-            const qint64 got = readFully(fd, buffer, kBlock, offset);
-            if (got < kBlock && !checked) {
-                restart = true;
-                break;
-            }
-            if (got > 0)
-                XXH3_64bits_update(&state, buffer, size_t(got));
-        }
-        if (restart) {
-            if (!check()) {
-                ::close(fd);
-                return false;
-            }
-            continue;
-        }
-        ::close(fd);
-        key = XXH3_64bits_digest(&state);
-        return true;
-    }
-}
-
 // Whole-content key of an open regular file of the given size; false (after a message)
 // when the file cannot be read to its end.
 template<typename NameOf>
@@ -383,7 +253,7 @@ QByteArray DuplicateFileFinder::calculateFileHash(
         const QByteArray native = FilePathCodec::encode(filePath);
         quint64 key = 0;
         int error = 0;
-        if (!sampledKeyAt(
+        if (!SampledKey::readAt(
                 AT_FDCWD, native.constData(), size, driveType, key,
                 [&filePath] { return filePath; }, error))
             return {};
@@ -657,6 +527,7 @@ void DuplicateFileFinder::computeSampledKeys()
             m_keyState[m_order[i]] = 1;
         m_wantedFiles += run.count;
     }
+    takeOverlappedKeys();
     const auto foldersToRead = [this] {
         QList<quint32> folders;
         for (quint32 f = 0; f < quint32(m_table.folderCount()); ++f) {
@@ -694,6 +565,28 @@ void DuplicateFileFinder::computeSampledKeys()
     decltype(m_cachedFiles)().swap(m_cachedFiles);
     decltype(m_cacheEntries)().swap(m_cacheEntries);
     std::sort(m_cachedFullKeys.begin(), m_cachedFullKeys.end());
+}
+
+void DuplicateFileFinder::takeOverlappedKeys()
+{
+    m_overlappedKeys = 0;
+    if (!m_reader)
+        return;
+    OverlappedKeyReader::Outcome outcome = m_reader->finish();
+    for (const OverlappedKeyReader::Result &result : outcome.results) {
+        if (result.file >= m_keyState.size() || m_keyState[result.file] != 1)
+            continue;
+        m_keys[result.file] = result.key;
+        m_keyState[result.file] = result.keyed ? 2 : 3;
+        m_keyedFiles.fetch_add(1);
+        ++m_overlappedKeys;
+        if (result.cached)
+            m_keysFromCache.fetch_add(1);
+        if (!result.keyed)
+            noteUnread(result.file, result.error);
+    }
+    if (m_cache && scanMethod == scanAllContent)
+        m_cachedFullKeys = std::move(outcome.fullKeys);
 }
 
 void DuplicateFileFinder::lookUpWalkStamps()
@@ -873,7 +766,7 @@ void DuplicateFileFinder::noteFullKey(quint32 file, quint64 key, const ContentKe
     struct stat opened
     {
     };
-    if (!sampledKeyAt(
+    if (!SampledKey::readAt(
             AT_FDCWD, native.constData(), m_table.file(file).size, folder.driveType, sampled,
             [this, file] { return m_table.filePath(file); }, error, &opened)
         || sampled != m_keys[file] || !(stampOf(opened) == read))
@@ -938,11 +831,11 @@ void DuplicateFileFinder::keyFolder(quint32 index)
             };
             struct stat *read = m_cache ? &opened : nullptr;
             if (dirfd >= 0) {
-                keyed = sampledKeyAt(dirfd, m_table.nativeName(i), m_table.file(i).size,
+                keyed = SampledKey::readAt(dirfd, m_table.nativeName(i), m_table.file(i).size,
                     folder.driveType, key, pathOf, error, read);
             } else {
                 const QByteArray native = m_table.nativePath(i);
-                keyed = sampledKeyAt(AT_FDCWD, native.constData(), m_table.file(i).size,
+                keyed = SampledKey::readAt(AT_FDCWD, native.constData(), m_table.file(i).size,
                     folder.driveType, key, pathOf, error, read);
             }
             if (!keyed)

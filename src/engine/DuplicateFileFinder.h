@@ -3,6 +3,7 @@
 
 #include "engine/ContentKeyCache.h"
 #include "engine/FileMeta.h"
+#include "engine/OverlappedKeyReader.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
 
@@ -68,8 +69,18 @@ public:
     ContentKeyCache::Options cacheOptions() const { return m_cacheOptions; }
     // Keys the last scan took from the cache instead of reading the file.
     qint64 keysFromCache() const { return m_keysFromCache.load(); }
+    // The reader that took sampled keys while the walk went on; its keys are taken over at
+    // the start of run(). Null: every key is read here.
+    void setOverlappedReader(OverlappedKeyReader *reader) { m_reader = reader; }
+    // Sampled keys of the last scan that were read (or taken from the cache) during the walk.
+    qint64 overlappedKeys() const { return m_overlappedKeys; }
 
-    void requestStop() { stopRequested.store(1); }
+    void requestStop()
+    {
+        stopRequested.store(1);
+        if (m_reader)
+            m_reader->cancel();
+    }
     bool isStopRequested() const { return stopRequested.load() != 0; }
 
     QStringList uniqueImageFiles() const;
@@ -124,6 +135,7 @@ private:
     // Looks up every wanted file the walk kept a stat of, in one pass over the cache,
     // before anything is read.
     void lookUpWalkStamps();
+    void takeOverlappedKeys();
     void takeCachedSampledKeys();
     // The cached whole-content key of a file whose stamp matched; false when there is none.
     bool cachedFullKey(quint32 file, quint64 &key);
@@ -222,6 +234,8 @@ private:
     qint64 m_readStartNs = 0;
     qint64 m_fullReadStartNs = 0;
     std::atomic<qint64> m_keysFromCache {0};
+    OverlappedKeyReader *m_reader = nullptr;
+    qint64 m_overlappedKeys = 0;
     // Group key of every file group touched by a folder with duplicates.
     QSet<QString> m_folderGroupKeys;
 };

@@ -53,6 +53,7 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
     m_finder.setProblems(&m_problems);
     // Scans of the program reuse the keys of earlier ones; the command line can say no.
     m_finder.setCacheOptions(ContentKeyCache::Options {true, {}});
+    m_finder.setOverlappedReader(&m_reader);
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &TControlUI::onTimerTick);
 }
@@ -143,6 +144,9 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
     if (m_compare)
         PictureStage::applyConfig(m_compare, similar);
     m_similarEnabled = similar.value(SnapshotKeys::hasSimilar).toBool(false);
+    if (m_overlapped && m_finder.scanMethodInUse() != DuplicateFileFinder::scanName)
+        m_reader.start(m_finder.cacheOptions(),
+            m_finder.scanMethodInUse() == DuplicateFileFinder::scanAllContent);
 
     splog_d(QStringLiteral("[TControlUI]: Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
     m_scanner.setRoots(roots);
@@ -158,6 +162,8 @@ void TControlUI::stop()
     case StageScanning:
         m_scanner.requestStop();
         m_scanner.wait();
+        m_reader.cancel();
+        m_reader.finish();
         break;
     case StageMatching:
         m_finder.requestStop();
@@ -176,7 +182,9 @@ void TControlUI::stop()
 
 void TControlUI::onFolderFilesFound(const ScanBatch &batch)
 {
+    const quint32 firstFile = quint32(m_table.fileCount());
     m_table.append(batch);
+    m_reader.add(batch, firstFile);
     const int before = m_scannedFiles;
     m_scannedFiles += int(batch.sizes.size());
     // The window's counter follows in steps of 100 files.

@@ -62,6 +62,10 @@ public:
     // What the current (or last) scan could not read or did not follow.
     const ScanProblems &problems() const { return m_problems; }
 
+    // Whether the sampled keys of same-size files are read while the walk goes on (on
+    // unless set); off, every file is read after the walk.
+    void setOverlappedReading(bool overlapped) { m_overlapped = overlapped; }
+
     TFileScanner *scanner() { return &m_scanner; }
     DuplicateFileFinder *finder() { return &m_finder; }
     // The similar-picture stage (an ImageCompareThread); nullptr in a build without it.
@@ -92,6 +96,8 @@ private:
     QString seconds() const;
 
     TFileScanner m_scanner;
+    // Declared before the finder, which uses it, so that it outlives the finder.
+    OverlappedKeyReader m_reader;
     DuplicateFileFinder m_finder;
     // Created through PictureStage, so that this class links without the picture
     // libraries; owned as a child.
@@ -114,5 +120,6 @@ private:
     qint64 m_duplicateSize = 0;
     bool m_similarEnabled = false;
     bool m_cloudMode = false;
+    bool m_overlapped = true;
     QString m_projectPath;
 };

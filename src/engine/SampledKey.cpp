@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/SampledKey.h"
+
+#include "app/TLogger.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#define XXH_STATIC_LINKING_ONLY
+#include <xxhash.h>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+namespace SampledKey {
+
+#ifdef Q_OS_UNIX
+namespace {
+
+    // Below this size a memory map costs more than the three small reads it replaces
+    // (mapping and unmapping dominate), so small files are read with pread; the keys are the
+    // same either way.
+    constexpr qint64 kSampledMapThreshold = 1 << 20;
+
+    qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
+    {
+        qint64 total = 0;
+        while (total < length) {
+            const ssize_t got = ::pread(fd, buffer + total, size_t(length - total), offset + total);
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got <= 0)
+                break;
+            total += got;
+        }
+        return total;
+    }
+
+} // namespace
+
+bool readAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &key,
+    const std::function<QString()> &pathOf, int &error, struct stat *opened)
+{
+    error = 0;
+    const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) {
+        error = errno;
+        splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
+            QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
+                .arg(pathOf(), QString::fromLocal8Bit(std::strerror(error))));
+        return false;
+    }
+    qint64 n = size;
+    bool checked = false;
+    // Asks the file for its size; false when it is no regular file.
+    const auto check = [&]() {
+        checked = true;
+        struct stat info
+        {
+        };
+        if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+            error = EINVAL;
+            splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
+                QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
+                    .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
+            return false;
+        }
+        n = std::min<qint64>(info.st_size, size);
+        if (opened)
+            *opened = info;
+        return true;
+    };
+    const bool mapped = driveType != kExternalDrive && n >= kSampledMapThreshold;
+    if ((mapped || opened) && !check()) {
+        ::close(fd);
+        return false;
+    }
+    char buffer[kWholeFileLimit];
+    for (;;) {
+        if (n < 1) {
+            ::close(fd);
+            return false;
+        }
+        if (n <= kWholeFileLimit) {
+            const qint64 got = readFully(fd, buffer, n, 0);
+            if (got < n && !checked) {
+                if (!check()) {
+                    ::close(fd);
+                    return false;
+                }
+                continue;
+            }
+            ::close(fd);
+            key = XXH3_64bits(buffer, size_t(got));
+            return true;
+        }
+        const qint64 offsets[3] = {0, std::clamp<qint64>(n / 2 - 2048, 0, n - kBlock), n - kBlock};
+        XXH3_state_t state;
+        XXH3_64bits_reset(&state);
+        if (driveType != kExternalDrive && n >= kSampledMapThreshold && checked) {
+            void *map = ::mmap(nullptr, size_t(n), PROT_READ, MAP_SHARED, fd, 0);
+            if (map == MAP_FAILED) {
+                splog_d(QStringLiteral("[TDuplicateFinleFinder]: file.map failed.: [%1].")
+                            .arg(pathOf()));
+            } else {
+                for (qint64 offset : offsets)
+                    XXH3_64bits_update(&state, static_cast<const char *>(map) + offset, kBlock);
+                ::munmap(map, size_t(n));
+                ::close(fd);
+                key = XXH3_64bits_digest(&state);
+                return true;
+            }
+        }
+        // External drives are never mapped: a drive pulled out while mapped pages are read
+        // ends the process.
+        bool restart = false;
+        for (qint64 offset : offsets) {
+            const qint64 got = readFully(fd, buffer, kBlock, offset);
+            if (got < kBlock && !checked) {
+                restart = true;
+                break;
+            }
+            if (got > 0)
+                XXH3_64bits_update(&state, buffer, size_t(got));
+        }
+        if (restart) {
+            if (!check()) {
+                ::close(fd);
+                return false;
+            }
+            continue;
+        }
+        ::close(fd);
+        key = XXH3_64bits_digest(&state);
+        return true;
+    }
+}
+
+ContentKeyCache::Stamp stampOf(const struct stat &info)
+{
+    return ContentKeyCache::Stamp {quint64(info.st_dev), quint64(info.st_ino), qint64(info.st_size),
+        qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec,
+        qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec};
+}
+#endif
+
+} // namespace SampledKey
