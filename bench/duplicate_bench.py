@@ -70,13 +70,15 @@ def check(truth, tree, output, fmt, mode):
 def tool_commands(tool, tree, cli):
     """(command, output format for check_groups, truth mode) of one tool.
 
-    cli-METHOD reads every file (--no-cache); cli-METHOD-first starts each run with an
-    empty key cache (a first scan, which fills it); cli-METHOD-cached is a second scan of
-    the unchanged tree (the warm-up run fills the cache)."""
+    cli-METHOD reads every file (--no-cache); cli-METHOD-serial does too, but only after
+    the walk (--no-overlap); cli-METHOD-first starts each run with an empty key cache (a
+    first scan, which fills it); cli-METHOD-cached is a second scan of the unchanged tree
+    (the warm-up run fills the cache)."""
     if tool.startswith("cli-"):
-        method, _, cache = tool[4:].partition("-")
+        method, _, variant = tool[4:].partition("-")
+        extra = {"": ["--no-cache"], "serial": ["--no-cache", "--no-overlap"]}.get(variant, [])
         return ([cli, "scan", "--method", method, "--include-hidden", "--select", "none",
-                 "--json", tree] + ([] if cache else ["--no-cache"]), "cli-json",
+                 "--json", tree] + extra, "cli-json",
                 {"sampled": "sampled", "full": "exact"}.get(method))
     if tool == "fdupes":
         return (["fdupes", "-r", "-n", "-q", tree], "fdupes", "exact")

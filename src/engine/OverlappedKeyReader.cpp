@@ -16,6 +16,9 @@
 
 namespace {
 
+// Jobs waiting beyond this many are not queued: their files are left to the finder, so
+// that a walk far ahead of the reads does not keep its batches in memory.
+constexpr size_t kMaxQueued = 64;
 // Fresh keys are written to the cache in transactions of this many, so that the part of
 // memory they take stays the same however large the tree.
 constexpr size_t kStoreBatch = 32768;
@@ -41,7 +44,8 @@ void OverlappedKeyReader::start(const ContentKeyCache::Options &cache, bool want
     m_closed = false;
     m_stop.store(false);
     m_cacheDamaged.store(false);
-    const int threads = std::max(1, QThread::idealThreadCount());
+    // Half the cores: the walk keeps its own threads busy meanwhile.
+    const int threads = std::max(1, QThread::idealThreadCount() / 2);
     m_harvests.resize(size_t(threads));
     for (Harvest &harvest : m_harvests)
         m_workers.emplace_back([this, &harvest] { work(harvest); });
@@ -96,11 +100,17 @@ void OverlappedKeyReader::add(const ScanBatch &batch, quint32 firstFile)
 
 void OverlappedKeyReader::enqueue(Job job)
 {
+    bool idle = false;
     {
         std::lock_guard<std::mutex> locker(m_mutex);
+        if (m_queue.size() >= kMaxQueued)
+            return;
+        idle = m_idle > 0;
         m_queue.push_back(std::move(job));
     }
-    m_wake.notify_one();
+    // Only a waiting worker needs waking; a busy one takes the job when it is done.
+    if (idle)
+        m_wake.notify_one();
 }
 
 void OverlappedKeyReader::cancel()
@@ -156,8 +166,12 @@ void OverlappedKeyReader::work(Harvest &harvest)
         Job job;
         {
             std::unique_lock<std::mutex> locker(m_mutex);
+            ++m_idle;
             m_wake.wait(locker, [this] { return !m_queue.empty() || m_closed || m_stop.load(); });
-            if (m_stop.load() || (m_queue.empty() && m_closed))
+            --m_idle;
+            // Once closed, what is still queued is left to the finder, which reads it on
+            // every core instead of waiting for this thread.
+            if (m_stop.load() || m_closed)
                 break;
             job = std::move(m_queue.front());
             m_queue.pop_front();

@@ -19,11 +19,12 @@
 // Reads the sampled keys of same-size files while the walk goes on. The files of a size
 // are queued as soon as a second file of that size turns up, and worker threads read
 // them (or take them from the key cache) meanwhile; nothing is read for a size held by
-// one file.
+// one file. The reading is best effort: what the workers have not reached when the walk
+// ends (or when too much waits) is left to the finder, which reads it on every core.
 //
 // add() is called on the thread that fills the scan table, with each batch's first file
-// index in that table; finish() (on any one thread) waits for the reads and hands the
-// keys over by those indices.
+// index in that table; finish() (on any one thread) lets the workers end the job at hand
+// and hands the keys over by those indices.
 class OverlappedKeyReader
 {
 public:
@@ -56,7 +57,7 @@ public:
     void add(const ScanBatch &batch, quint32 firstFile);
     // Makes the workers drop what is queued; finish() still has to be called.
     void cancel();
-    // Waits for the workers and gives their keys; empty when not running.
+    // Ends the workers after their job at hand and gives their keys; empty when not running.
     Outcome finish();
 
 private:
@@ -112,6 +113,8 @@ private:
     std::condition_variable m_wake;
     std::deque<Job> m_queue;
     bool m_closed = false;
+    // Workers waiting for a job.
+    int m_idle = 0;
     std::atomic<bool> m_stop {false};
     std::atomic<bool> m_cacheDamaged {false};
     std::vector<std::thread> m_workers;
