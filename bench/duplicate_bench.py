@@ -22,7 +22,12 @@ import tempfile
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 SHARED_BENCH = os.path.normpath(os.path.join(HERE, "..", "..", "shared", "bench"))
-SEEDS = {"small": 1, "medium": 2, "many-small": 3, "large-files": 4}
+SEEDS = {"small": 1, "medium": 2, "many-small": 3, "large-files": 4, "same-size": 5}
+# make_tree.py's arguments for each tree: its own presets, and one where thousands of
+# files share each size (sizes rounded to 256 bytes, big folders, many copies per group).
+TREE_ARGS = {name: ["--preset", name] for name in ("small", "medium", "many-small", "large-files")}
+TREE_ARGS["same-size"] = ["--files", "100000", "--files-per-dir", "6000", "--size-quantum", "256",
+                          "--copies-mean", "26"]
 
 
 def run_timed(cmd, stdout_path, before=None):
@@ -108,7 +113,7 @@ def bench_tree(preset, args, out_dir):
     if not os.path.exists(truth):
         print(f"building {preset} tree in {tree} ...", flush=True)
         subprocess.check_call([sys.executable, os.path.join(SHARED_BENCH, "make_tree.py"),
-                               "--preset", preset, "--seed", str(SEEDS[preset]), tree],
+                               *TREE_ARGS[preset], "--seed", str(SEEDS[preset]), tree],
                               stdout=subprocess.DEVNULL)
     files = sum(len(f) for _, _, f in os.walk(tree))
     rows = []
@@ -161,7 +166,7 @@ def bench_tree(preset, args, out_dir):
 def main():
     ap = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
     ap.add_argument("--preset", action="append",
-                    help="small, medium, many-small or large-files (repeatable; default medium)")
+                    help="small, medium, many-small, large-files or same-size (repeatable; default medium)")
     ap.add_argument("--runs", type=int, default=3, help="timed runs per tool (median taken)")
     ap.add_argument("--work", default=os.path.join(tempfile.gettempdir(), "veltrine-bench"),
                     help="folder for the trees (reused when present)")

@@ -44,11 +44,14 @@ void OverlappedKeyReader::start(const ContentKeyCache::Options &cache, bool want
     m_closed = false;
     m_stop.store(false);
     m_cacheDamaged.store(false);
-    // Half the cores: the walk keeps its own threads busy meanwhile.
-    const int threads = std::max(1, QThread::idealThreadCount() / 2);
+    // The workers run at idle priority: they take only the time the walk leaves, while it
+    // waits for the disk or has too few folders to keep every core busy, and never slow it.
+    const int threads = std::max(1, QThread::idealThreadCount());
     m_harvests.resize(size_t(threads));
-    for (Harvest &harvest : m_harvests)
-        m_workers.emplace_back([this, &harvest] { work(harvest); });
+    for (Harvest &harvest : m_harvests) {
+        m_workers.emplace_back(QThread::create([this, &harvest] { work(harvest); }));
+        m_workers.back()->start(QThread::IdlePriority);
+    }
 #else
     Q_UNUSED(cache)
     Q_UNUSED(wantsFullKeys)
@@ -102,8 +105,10 @@ void OverlappedKeyReader::enqueue(Job job)
 {
     bool idle = false;
     {
-        std::lock_guard<std::mutex> locker(m_mutex);
-        if (m_queue.size() >= kMaxQueued)
+        // A worker at idle priority may be holding the lock while the walk keeps the cores
+        // busy: then the job is not waited for but left to the finder.
+        std::unique_lock<std::mutex> locker(m_mutex, std::try_to_lock);
+        if (!locker.owns_lock() || m_queue.size() >= kMaxQueued)
             return;
         idle = m_idle > 0;
         m_queue.push_back(std::move(job));
@@ -129,8 +134,11 @@ OverlappedKeyReader::Outcome OverlappedKeyReader::finish()
         m_closed = true;
     }
     m_wake.notify_all();
-    for (std::thread &worker : m_workers)
-        worker.join();
+    for (const std::unique_ptr<QThread> &worker : m_workers) {
+        // At idle priority a worker could wait for ever on a machine busy with other work.
+        worker->setPriority(QThread::NormalPriority);
+        worker->wait();
+    }
     m_workers.clear();
     decltype(m_sizes)().swap(m_sizes);
     m_queue.clear();

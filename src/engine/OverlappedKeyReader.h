@@ -7,19 +7,21 @@
 #include <atomic>
 #include <condition_variable>
 #include <deque>
+#include <memory>
 #include <mutex>
-#include <thread>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include <QByteArray>
 #include <QList>
+#include <QThread>
 
 // Reads the sampled keys of same-size files while the walk goes on. The files of a size
 // are queued as soon as a second file of that size turns up, and worker threads read
 // them (or take them from the key cache) meanwhile; nothing is read for a size held by
-// one file. The reading is best effort: what the workers have not reached when the walk
+// one file. The workers run at idle priority, so they only use what the walk leaves of the
+// processor. The reading is best effort: what the workers have not reached when the walk
 // ends (or when too much waits) is left to the finder, which reads it on every core.
 //
 // add() is called on the thread that fills the scan table, with each batch's first file
@@ -117,6 +119,6 @@ private:
     int m_idle = 0;
     std::atomic<bool> m_stop {false};
     std::atomic<bool> m_cacheDamaged {false};
-    std::vector<std::thread> m_workers;
+    std::vector<std::unique_ptr<QThread>> m_workers;
     std::vector<Harvest> m_harvests;
 };
