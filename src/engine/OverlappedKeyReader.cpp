@@ -136,7 +136,8 @@ OverlappedKeyReader::Outcome OverlappedKeyReader::finish()
     m_wake.notify_all();
     for (const std::unique_ptr<QThread> &worker : m_workers) {
         // At idle priority a worker could wait for ever on a machine busy with other work.
-        worker->setPriority(QThread::NormalPriority);
+        if (worker->isRunning())
+            worker->setPriority(QThread::NormalPriority);
         worker->wait();
     }
     m_workers.clear();
