@@ -30,7 +30,7 @@ TREE_ARGS["same-size"] = ["--files", "100000", "--files-per-dir", "6000", "--siz
                           "--copies-mean", "26"]
 
 
-def run_timed(cmd, stdout_path, before=None):
+def run_timed(cmd, stdout_path, before=None, env=None):
     """Runs cmd under /usr/bin/time (after before(), untimed); returns (wall s, cpu s, peak
     KiB, exit status)."""
     if before:
@@ -38,7 +38,7 @@ def run_timed(cmd, stdout_path, before=None):
     with tempfile.NamedTemporaryFile("r", suffix=".time") as timing, \
             open(stdout_path, "wb") as out:
         status = subprocess.call(["/usr/bin/time", "-f", "%e %U %S %M", "-o", timing.name] + cmd,
-                                 stdout=out, stderr=subprocess.DEVNULL)
+                                 stdout=out, stderr=subprocess.DEVNULL, env=env)
         fields = timing.read().split()[-4:]
     wall, user, system, peak = (float(x) for x in fields)
     return wall, user + system, peak, status
@@ -97,14 +97,16 @@ def tool_commands(tool, tree, cli):
     raise ValueError(tool)
 
 
-# The command line keeps its key cache under XDG_CONFIG_HOME; the benchmark gives it a
-# folder of its own so that the user's cache is neither used nor changed.
-CACHE_HOME = tempfile.mkdtemp(prefix="dupbench-config.")
-os.environ["XDG_CONFIG_HOME"] = CACHE_HOME
+# The command line keeps its key cache under XDG_CONFIG_HOME; the benchmark gives each
+# tool a folder of its own, so that the user's cache is neither used nor changed and the
+# tools' runs can take turns without one emptying another's cache.
+CACHE_HOMES = []
 
 
-def clear_cache():
-    shutil.rmtree(os.path.join(CACHE_HOME, "Veltrine"), ignore_errors=True)
+def cache_home(tool):
+    home = tempfile.mkdtemp(prefix=f"dupbench-{tool}.")
+    CACHE_HOMES.append(home)
+    return home, dict(os.environ, XDG_CONFIG_HOME=home)
 
 
 def bench_tree(preset, args, out_dir):
@@ -116,18 +118,27 @@ def bench_tree(preset, args, out_dir):
                                *TREE_ARGS[preset], "--seed", str(SEEDS[preset]), tree],
                               stdout=subprocess.DEVNULL)
     files = sum(len(f) for _, _, f in os.walk(tree))
-    rows = []
+    tools = []
     for tool in args.tools.split(","):
         if not tool.startswith("cli-") and tool != "find" and shutil.which(tool) is None:
             print(f"skip {tool}: not installed")
             continue
         cmd, fmt, mode = tool_commands(tool, tree, args.cli)
         out = os.path.join(out_dir, f"{preset}.{tool}.out")
-        before = clear_cache if tool.endswith("-first") else None
-        if tool.endswith("-cached"):
-            clear_cache()
-        run_timed(cmd, out)  # warm-up: page cache, the tool's own libraries, the key cache
-        samples = [run_timed(cmd, out, before) for _ in range(args.runs)]
+        home, env = cache_home(tool)
+        clear = lambda home=home: shutil.rmtree(os.path.join(home, "Veltrine"), ignore_errors=True)
+        before = clear if tool.endswith("-first") else None
+        run_timed(cmd, out, env=env)  # warm-up: page cache, the tool's own libraries, the key cache
+        tools.append(dict(tool=tool, cmd=cmd, fmt=fmt, mode=mode, out=out, before=before, env=env,
+                          samples=[]))
+    # The tools take turns run by run, so that a change in the machine's load falls on all
+    # of them alike instead of on whichever ran at that moment.
+    for _ in range(args.runs):
+        for t in tools:
+            t["samples"].append(run_timed(t["cmd"], t["out"], t["before"], t["env"]))
+    rows = []
+    for t in tools:
+        tool, samples, fmt, mode, out = t["tool"], t["samples"], t["fmt"], t["mode"], t["out"]
         wall = statistics.median(s[0] for s in samples)
         cpu = statistics.median(s[1] for s in samples)
         peak = max(s[2] for s in samples)
@@ -171,7 +182,7 @@ def main():
     ap.add_argument("--work", default=os.path.join(tempfile.gettempdir(), "veltrine-bench"),
                     help="folder for the trees (reused when present)")
     ap.add_argument("--cli", default=None, help="path of veltrine-duplicate-finder-cli")
-    ap.add_argument("--tools", default="find,cli-sampled,cli-full,cli-sampled-first,"
+    ap.add_argument("--tools", default="find,cli-sampled,cli-full,cli-sampled-serial,cli-full-serial,cli-sampled-first,"
                     "cli-full-first,cli-sampled-cached,cli-full-cached,cli-name,fdupes,jdupes,"
                     "rmlint")
     ap.add_argument("--out", default=None, help="keep raw outputs here")
@@ -194,7 +205,8 @@ def main():
         bench_tree(preset, args, out_dir)
         if args.remove_trees:
             shutil.rmtree(os.path.join(args.work, preset), ignore_errors=True)
-    shutil.rmtree(CACHE_HOME, ignore_errors=True)
+    for home in CACHE_HOMES:
+        shutil.rmtree(home, ignore_errors=True)
     return 0
 
 
