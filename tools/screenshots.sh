@@ -13,6 +13,6 @@ mkdir -p "$out"
 export XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_CONFIG_HOME=$(mktemp -d)
 export XDG_DATA_HOME=$(mktemp -d)
-xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/mainwindow/screenshot_pages" "$out" ${3:-}
-[ -n "${3:-}" ] || xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tests/results/screenshot_result_page" "$out"
+xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tools/screenshots/screenshot_pages" "$out" ${3:-}
+[ -n "${3:-}" ] || xvfb-run -a -s "-screen 0 1920x1200x24" "$build/tools/screenshots/screenshot_result_page" "$out"
 ls -l "$out"
