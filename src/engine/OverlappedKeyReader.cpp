@@ -129,17 +129,18 @@ OverlappedKeyReader::Outcome OverlappedKeyReader::finish()
     Outcome outcome;
     if (m_workers.empty())
         return outcome;
+    // At idle priority a worker could wait for ever on a machine busy with other work, and
+    // the lock below with it: the workers are raised first.
+    for (const std::unique_ptr<QThread> &worker : m_workers)
+        if (worker->isRunning())
+            worker->setPriority(QThread::NormalPriority);
     {
         std::lock_guard<std::mutex> locker(m_mutex);
         m_closed = true;
     }
     m_wake.notify_all();
-    for (const std::unique_ptr<QThread> &worker : m_workers) {
-        // At idle priority a worker could wait for ever on a machine busy with other work.
-        if (worker->isRunning())
-            worker->setPriority(QThread::NormalPriority);
+    for (const std::unique_ptr<QThread> &worker : m_workers)
         worker->wait();
-    }
     m_workers.clear();
     decltype(m_sizes)().swap(m_sizes);
     m_queue.clear();
