@@ -21,7 +21,9 @@
 // are queued as soon as a second file of that size turns up, and worker threads read
 // them (or take them from the key cache) meanwhile; nothing is read for a size held by
 // one file. The workers run at idle priority, so they only use what the walk leaves of the
-// processor. The reading is best effort: what the workers have not reached when the walk
+// processor (on Linux their reads also fall into the idle I/O class, so an I/O scheduler
+// that honours classes serves the walk first on a rotating disk). The reading is best
+// effort: what the workers have not reached when the walk
 // ends (or when too much waits) is left to the finder, which reads it on every core.
 //
 // add() is called on the thread that fills the scan table, with each batch's first file
