@@ -6,7 +6,6 @@
 #include "engine/DuplicateFileFinder.h"
 #include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
-#include "engine/TFileScanner.h"
 
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -45,21 +44,7 @@ QList<QStringList> scan(
     TFileData::instance()->clear();
     DuplicateFileFinder finder;
     if (walked) {
-        TFileScanner scanner;
-        scanner.applyConfig(QJsonObject {{"IgnoreSystemHidden", false}});
-        ScanTable table;
-        QMutex mutex;
-        QObject::connect(
-            &scanner, &TFileScanner::folderFilesFound, &scanner,
-            [&](const ScanBatch &batch) {
-                QMutexLocker locker(&mutex);
-                table.append(batch);
-            },
-            Qt::DirectConnection);
-        scanner.setRoots({root});
-        scanner.start();
-        scanner.wait();
-        finder.setInput(std::move(table));
+        finder.setInput(ScanTree::walk(root));
     } else {
         DuplicateFileFinder::SizeTable table;
         QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);

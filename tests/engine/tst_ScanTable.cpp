@@ -4,14 +4,11 @@
 #include "engine/FilePathCodec.h"
 #include "engine/ScanTable.h"
 #include "engine/TFileData.h"
-#include "engine/TFileScanner.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QJsonObject>
-#include <QMutex>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -28,27 +25,6 @@ bool writeRaw(const QByteArray &folder, const QByteArray &name, const QByteArray
     const bool ok = ::write(fd, data.constData(), size_t(data.size())) == data.size();
     ::close(fd);
     return ok;
-}
-
-// Scans root with nothing connected to the per-file signals, so the scanner takes the
-// compact path only, and collects its batches the way the scan controller does.
-ScanTable scanCompact(const QString &root)
-{
-    TFileScanner scanner;
-    scanner.applyConfig(QJsonObject {{"IgnoreSystemHidden", false}});
-    ScanTable table;
-    QMutex mutex;
-    QObject::connect(
-        &scanner, &TFileScanner::folderFilesFound, &scanner,
-        [&](const ScanBatch &batch) {
-            QMutexLocker locker(&mutex);
-            table.append(batch);
-        },
-        Qt::DirectConnection);
-    scanner.setRoots({root});
-    scanner.start();
-    scanner.wait();
-    return table;
 }
 
 } // namespace
@@ -87,7 +63,7 @@ void TestScanTable::oddNames()
     QVERIFY(writeRaw(root + "/b", name, content));
     QVERIFY(writeRaw(root + "/b", "other", ScanTree::pattern(20000, 6)));
 
-    ScanTable table = scanCompact(dir.path());
+    ScanTable table = ScanTree::walk(dir.path());
     QCOMPARE(table.fileCount(), qsizetype(3));
     QStringList expected;
     for (quint32 i = 0; i < quint32(table.fileCount()); ++i) {

@@ -62,15 +62,6 @@ ScanOutcome runScan(TFileScanner &scanner, const QStringList &roots)
     return outcome;
 }
 
-QStringList relative(const QStringList &paths, const QString &root)
-{
-    QStringList out;
-    for (const QString &path : paths)
-        out.append(path.mid(root.size() + 1));
-    out.sort();
-    return out;
-}
-
 } // namespace
 
 class TestFileScanner : public QObject
@@ -160,7 +151,7 @@ void TestFileScanner::filters()
     QCOMPARE(outcome.finished, 1);
     QStringList want = expected;
     want.sort();
-    QCOMPARE(relative(outcome.files, root), want);
+    QCOMPARE(ScanTree::relative(outcome.files, root), want);
     QCOMPARE(outcome.perFileSignals, outcome.files);
     // The plain walk reports no folders; nor does a scan whose root is ignored.
     if (mode == 0 || config.value("IgnorePathFile").toArray().contains(QJsonValue(root)))
@@ -215,7 +206,7 @@ void TestFileScanner::links()
     scanner.setProblems(&problems);
     const ScanOutcome outcome = runScan(scanner, rootPaths);
     // Each file once, always under its real path: a link is never a member.
-    QCOMPARE(relative(outcome.files, base), expected);
+    QCOMPARE(ScanTree::relative(outcome.files, base), expected);
     QCOMPARE(problems.count(ScanProblems::LinkOutsideRoots), qint64(outside));
 }
 
@@ -232,7 +223,7 @@ void TestFileScanner::pseudoFileSystemsNotEntered()
         if (QFileInfo::exists(pseudo + "/self") || QFileInfo::exists(pseudo + "/kernel"))
             roots.append(pseudo);
     const ScanOutcome outcome = runScan(scanner, roots);
-    QCOMPARE(relative(outcome.files, root), QStringList {"plain.bin"});
+    QCOMPARE(ScanTree::relative(outcome.files, root), QStringList {"plain.bin"});
     QCOMPARE(problems.count(ScanProblems::PseudoFileSystem), qint64(roots.size() - 1));
 }
 
@@ -345,7 +336,7 @@ void TestFileScanner::unreadable()
     const ScanOutcome outcome = runScan(scanner, rootPaths);
     QFile::setPermissions(base + "/tree/shut",
         QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    QCOMPARE(relative(outcome.files, base), expected);
+    QCOMPARE(ScanTree::relative(outcome.files, base), expected);
     QCOMPARE(problems.count(ScanProblems::UnreadableFolder), folders);
     QCOMPARE(problems.count(ScanProblems::UnreadableFile), files);
     QCOMPARE(problems.allRootsUnreadable(), allRootsUnreadable);
