@@ -179,17 +179,12 @@ void tst_TImageModel::sortTieBreaks()
         group("d", 40, 3, 2, 3), group("c", 20, 2, 2, 2)};
     // Real groups in the store, so the model's own sort is what is checked.
     for (const GroupItem &g : groups) {
-        QStringList paths;
-        for (int i = 0; i < g.count; ++i)
-            paths << writeFile(QStringLiteral("sort/%1/%2/%1.bin").arg(g.name).arg(i),
-                QByteArray(int(g.totalSize / g.count), char('a' + g.type)));
         // The suffix decides the type: 1 picture, 2 document, 3 audio.
         const QString suffix = g.type == 1 ? "png" : g.type == 2 ? "txt" : "mp3";
-        for (QString &p : paths) {
-            const QString renamed = p.left(p.size() - 3) + suffix;
-            QFile::rename(p, renamed);
-            p = renamed;
-        }
+        QStringList paths;
+        for (int i = 0; i < g.count; ++i)
+            paths << writeFile(QStringLiteral("sort/%1/%2/%1.%3").arg(g.name).arg(i).arg(suffix),
+                QByteArray(int(g.totalSize / g.count), char('a' + g.type)));
         store->insertGroup(g.name, paths);
         store->setSelected(g.name, paths.mid(0, g.selectedCount));
     }
