@@ -114,45 +114,38 @@ void TestTImageDeleteWorker::faults_data()
     QTest::addColumn<int>("method");
     QTest::addColumn<QString>("outcome"); // of the selected item: removed, skipped, failed
     QTest::addColumn<QString>("reason");
-    const int trash = TFileDeleter::moveToTrash;
     const int permanent = TFileDeleter::removePermanently;
     const int move = TFileDeleter::moveToFolder;
-    for (int method : {trash, permanent, move}) {
+    const auto row = [](const QByteArray &tag, Fault fault, const char *outcome,
+                         const QString &reason, int method = TFileDeleter::removePermanently) {
+        QTest::newRow(tag) << int(fault) << method << QString(outcome) << reason;
+    };
+    for (int method : {int(TFileDeleter::moveToTrash), permanent, move}) {
         const QByteArray name = RemovalJournal::methodName(method).toLatin1();
-        QTest::newRow("nothing changed, " + name)
-            << int(NoFault) << method << "removed" << QString();
-        QTest::newRow("read-only file, " + name)
-            << int(ReadOnlyItem) << method << "removed" << QString();
+        row("nothing changed, " + name, NoFault, "removed", {}, method);
+        row("read-only file, " + name, ReadOnlyItem, "removed", {}, method);
     }
-    QTest::newRow("size changed") << int(SizeChanged) << permanent << "skipped"
-                                  << RemovalCheck::changedSinceScan;
-    QTest::newRow("modification time changed")
-        << int(TimeChanged) << permanent << "skipped" << RemovalCheck::changedSinceScan;
-    QTest::newRow("same size and time, content changed")
-        << int(ContentChanged) << permanent << "skipped" << RemovalCheck::contentDiffers;
-    QTest::newRow("kept copy deleted")
-        << int(KeptCopyDeleted) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
+    row("size changed", SizeChanged, "skipped", RemovalCheck::changedSinceScan);
+    row("modification time changed", TimeChanged, "skipped", RemovalCheck::changedSinceScan);
+    row("same size and time, content changed", ContentChanged, "skipped",
+        RemovalCheck::contentDiffers);
+    row("kept copy deleted", KeptCopyDeleted, "skipped", RemovalCheck::noKeptCopyLeft);
     // The kept copy is selected in a group of similar pictures of the same batch: removing
     // both would leave only a picture that merely looks alike.
-    QTest::newRow("kept copy removed by another group")
-        << int(KeptCopyRemovedByAnotherGroup) << permanent << "skipped"
-        << RemovalCheck::noKeptCopyLeft;
-    QTest::newRow("kept copy replaced by a link to the item")
-        << int(KeptCopyIsLinkToItem) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
-    QTest::newRow("item hard-linked to the kept copy")
-        << int(HardLinkedToKeptCopy) << permanent << "skipped" << RemovalCheck::noKeptCopyLeft;
-    QTest::newRow("item vanished") << int(ItemVanished) << permanent << "removed" << QString();
-    QTest::newRow("both members selected: the first stays")
-        << int(BothSelected) << permanent << "removed" << QString();
-    QTest::newRow("whole group selected, allowed")
-        << int(BothSelectedAllowed) << permanent << "removed" << QString();
-    QTest::newRow("similar pictures: tagged entries")
-        << int(SimilarPictures) << permanent << "removed" << QString();
-    QTest::newRow("move: name taken") << int(MoveNameTaken) << move << "removed" << QString();
+    row("kept copy removed by another group", KeptCopyRemovedByAnotherGroup, "skipped",
+        RemovalCheck::noKeptCopyLeft);
+    row("kept copy replaced by a link to the item", KeptCopyIsLinkToItem, "skipped",
+        RemovalCheck::noKeptCopyLeft);
+    row("item hard-linked to the kept copy", HardLinkedToKeptCopy, "skipped",
+        RemovalCheck::noKeptCopyLeft);
+    row("item vanished", ItemVanished, "removed", {});
+    row("both members selected: the first stays", BothSelected, "removed", {});
+    row("whole group selected, allowed", BothSelectedAllowed, "removed", {});
+    row("similar pictures: tagged entries", SimilarPictures, "removed", {});
+    row("move: name taken", MoveNameTaken, "removed", {}, move);
     // Permission bits do not stop the superuser; the unprivileged run covers this row.
     if (::geteuid() != 0)
-        QTest::newRow("file in a read-only folder") << int(ReadOnlyFolder) << permanent << "failed"
-                                                    << "Permission denied";
+        row("file in a read-only folder", ReadOnlyFolder, "failed", "Permission denied");
 }
 
 void TestTImageDeleteWorker::faults()
