@@ -76,27 +76,20 @@ void TestDuplicateFileFinder::keys_data()
     const QList<QStringList> none;
     for (int method : {0, 2}) {
         const char *m = method == 0 ? "sampled" : "full";
-        QTest::addRow("%s: 12,288 bytes equal", m)
-            << method << 0 << QStringList {"a", "b"} << QByteArrayList {whole, whole} << pair;
-        QTest::addRow("%s: 12,288 bytes, middle byte differs", m)
-            << method << 0 << QStringList {"a", "b"}
-            << QByteArrayList {whole, withByteChanged(whole, 6000)} << none;
-        QTest::addRow("%s: 12,289 bytes equal", m)
-            << method << 0 << QStringList {"a", "b"} << QByteArrayList {sampled, sampled} << pair;
+        const auto ab = [&](const char *what, const QByteArray &a, const QByteArray &b, bool same) {
+            QTest::addRow("%s: %s", m, what) << method << 0 << QStringList {"a", "b"}
+                                             << QByteArrayList {a, b} << (same ? pair : none);
+        };
+        ab("12,288 bytes equal", whole, whole, true);
+        ab("12,288 bytes, middle byte differs", whole, withByteChanged(whole, 6000), false);
+        ab("12,289 bytes equal", sampled, sampled, true);
         // Byte 8192 of a 12,289-byte file is the one byte the three blocks miss.
-        QTest::addRow("%s: 12,289 bytes, unsampled byte differs", m)
-            << method << 0 << QStringList {"a", "b"}
-            << QByteArrayList {sampled, withByteChanged(sampled, 8192)}
-            << (method == 0 ? pair : none);
-        QTest::addRow("%s: large, differs outside the blocks", m)
-            << method << 0 << QStringList {"a", "b"}
-            << QByteArrayList {large, withByteChanged(large, 20000)} << (method == 0 ? pair : none);
-        QTest::addRow("%s: large, differs in the middle block", m)
-            << method << 0 << QStringList {"a", "b"}
-            << QByteArrayList {large, withByteChanged(large, 100000 / 2 - 2048)} << none;
-        QTest::addRow("%s: large, differs in the last byte", m)
-            << method << 0 << QStringList {"a", "b"}
-            << QByteArrayList {large, withByteChanged(large, 99999)} << none;
+        ab("12,289 bytes, unsampled byte differs", sampled, withByteChanged(sampled, 8192),
+            method == 0);
+        ab("large, differs outside the blocks", large, withByteChanged(large, 20000), method == 0);
+        ab("large, differs in the middle block", large, withByteChanged(large, 100000 / 2 - 2048),
+            false);
+        ab("large, differs in the last byte", large, withByteChanged(large, 99999), false);
         for (int drive : {0, 2}) {
             QTest::addRow("%s: mapped size, drive %d, differs outside", m, drive)
                 << method << drive << QStringList {"a", "b", "c"}
@@ -104,8 +97,7 @@ void TestDuplicateFileFinder::keys_data()
                 << (method == 0 ? QList<QStringList> {{"a", "b", "c"}}
                                 : QList<QStringList> {{"a", "c"}});
         }
-        QTest::addRow("%s: empty files never grouped", m)
-            << method << 0 << QStringList {"a", "b"} << QByteArrayList {"", ""} << none;
+        ab("empty files never grouped", "", "", false);
     }
     QTest::newRow("name: same name and size, other content")
         << 1 << 0 << QStringList {"x/same.txt", "y/same.txt", "z/other.txt"}
