@@ -248,15 +248,12 @@ void tst_ResultForm::refusals_data()
     QTest::addColumn<QString>("step");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("text");
-    QTest::newRow("nothing selected") << "delete"
-                                      << "Warning"
-                                      << "No Selected Files!";
-    QTest::newRow("folder dialog cancelled") << "folder"
-                                             << "Select Folder"
-                                             << "";
-    QTest::newRow("still loading") << "loading"
-                                   << "Loading Data"
-                                   << "Data is still loading, please wait...";
+    const auto row = [](const char *tag, const char *step, const char *title, const char *text) {
+        QTest::newRow(tag) << QString(step) << QString(title) << QString(text);
+    };
+    row("nothing selected", "delete", "Warning", "No Selected Files!");
+    row("folder dialog cancelled", "folder", "Select Folder", "");
+    row("still loading", "loading", "Loading Data", "Data is still loading, please wait...");
 }
 
 void tst_ResultForm::refusals()
