@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ScanTree.h"
 #include "results/PicturePreviewDialog.h"
 #include "results/PicturePreviewPane.h"
 #include "results/PreviewCanvas.h"
@@ -169,13 +170,10 @@ void tst_TImageListView::enterOpensSideBySidePreview_data()
     QTest::addColumn<int>("start");
     QTest::addColumn<QString>("chosenResolution");
     QTest::addColumn<QStringList>("otherResolutions");
-    QTest::newRow("first file") << 0 << QStringLiteral("640 × 480")
-                                << QStringList {QStringLiteral("320 × 200"),
-                                       QStringLiteral("400 × 200"), QStringLiteral("320 × 200")};
+    QTest::newRow("first file") << 0 << QString("640 × 480")
+                                << QStringList {"320 × 200", "400 × 200", "320 × 200"};
     QTest::newRow("last file wraps")
-        << 2 << QStringLiteral("400 × 200")
-        << QStringList {QStringLiteral("640 × 480"), QStringLiteral("320 × 200"),
-               QStringLiteral("640 × 480")};
+        << 2 << QString("400 × 200") << QStringList {"640 × 480", "320 × 200", "640 × 480"};
 }
 
 void tst_TImageListView::enterOpensSideBySidePreview()
@@ -221,13 +219,13 @@ void tst_TImageListView::previewOfFilesWithoutPicture_data()
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("resolution");
     const QString unreadable = QStringLiteral("This picture cannot be shown.");
-    QTest::newRow("corrupt jpeg") << QStringLiteral("broken.jpg")
+    QTest::newRow("corrupt jpeg") << QString("broken.jpg")
                                   << QByteArray("\xff\xd8\xff\xe0 not a picture at all")
-                                  << unreadable << QStringLiteral("—");
-    QTest::newRow("empty png") << QStringLiteral("empty.png") << QByteArray() << unreadable
-                               << QStringLiteral("—");
-    QTest::newRow("text file") << QStringLiteral("notes.txt") << QByteArray("words")
-                               << QStringLiteral("TXT file") << QString();
+                                  << unreadable << QString("—");
+    QTest::newRow("empty png") << QString("empty.png") << QByteArray() << unreadable
+                               << QString("—");
+    QTest::newRow("text file") << QString("notes.txt") << QByteArray("words") << QString("TXT file")
+                               << QString();
 }
 
 void tst_TImageListView::previewOfFilesWithoutPicture()
@@ -236,10 +234,7 @@ void tst_TImageListView::previewOfFilesWithoutPicture()
     QFETCH(QByteArray, content);
     QFETCH(QString, message);
     QFETCH(QString, resolution);
-    QFile file(m_dir->filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
+    QVERIFY(!ScanTree::write(m_dir->path(), name, content).isEmpty());
     show({item(name), item(QStringLiteral("a.png"))});
     m_view->openPreview(m_model->index(0, 0));
     PicturePreviewPane *pane = m_view->preview()->chosenPane();
