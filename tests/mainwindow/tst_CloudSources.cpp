@@ -190,7 +190,7 @@ void tst_CloudSources::chooseScanAndRemove()
     // The sub-folder took its parent's check and is not chosen a second time.
     QCOMPARE(m_chosen.size(), 1);
     QCOMPARE(m_window->cloudFolders(), QStringList {"here:set"});
-    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("here"));
+    QCOMPARE(child<QLabel>("lab_number")->text(), "here");
 
     DialogAnswerer boxes({QMessageBox::Yes});
     // Local folders, and a second account, are refused while the cloud folders stand.

@@ -147,9 +147,9 @@ void tst_MainWindow::statesAndButtonTexts()
     QVERIFY(add && scan);
     QCOMPARE(m_window->state(), 1);
     QVERIFY(!add->icon().isNull() || add->text().isEmpty());
-    QCOMPARE(scan->text(), QStringLiteral("Scan"));
+    QCOMPARE(scan->text(), "Scan");
     QVERIFY(!scan->isEnabled());
-    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("0 folders added"));
+    QCOMPARE(child<QLabel>("lab_number")->text(), "0 folders added");
 
     m_window->setStatus(state);
     QCOMPARE(add->text(), mainText);
@@ -160,11 +160,11 @@ void tst_MainWindow::statesAndButtonTexts()
     for (int i = 0; i < 4; ++i)
         QCOMPARE(stateActions.at(i)->isEnabled(), actions.at(i));
     if (state == 1) {
-        QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("0.00%"));
-        QCOMPARE(child<QLabel>("lab_findSize")->text(), QStringLiteral("0 B"));
+        QCOMPARE(child<QLabel>("lab_progress")->text(), "0.00%");
+        QCOMPARE(child<QLabel>("lab_findSize")->text(), "0 B");
     }
     if (state == 4)
-        QCOMPARE(scan->text(), QStringLiteral("Show results"));
+        QCOMPARE(scan->text(), "Show results");
     if (state == 5)
         QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
 }
@@ -221,14 +221,13 @@ void tst_MainWindow::dropAddsFoldersOnce()
                        "folder that holds it instead.")
             .arg(m_tree.filePath("b/two.txt")));
     QCOMPARE(m_window->folders(), QStringList({m_tree.filePath("a"), m_tree.filePath("a/sub")}));
-    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("2 folders added"));
+    QCOMPARE(child<QLabel>("lab_number")->text(), "2 folders added");
     QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
 
     // Several at once: one message that counts them.
     m_window->addFolders({m_tree.filePath("a/one.bin"), m_tree.filePath("nowhere")});
     QCOMPARE(boxes.texts.size(), 2);
-    QCOMPARE(
-        boxes.texts.last(), QStringLiteral("2 items were not added because they are not folders:"));
+    QCOMPARE(boxes.texts.last(), "2 items were not added because they are not folders:");
     QCOMPARE(m_window->folders().size(), 2);
 }
 
@@ -241,18 +240,18 @@ void tst_MainWindow::scanThroughButtons()
     QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
     QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
     QCOMPARE(m_window->lastScanRoots(), QStringList({m_tree.filePath("a"), m_tree.filePath("b")}));
-    QCOMPARE(child<QPushButton>("btnAdd")->text(), QStringLiteral("Stop"));
+    QCOMPARE(child<QPushButton>("btnAdd")->text(), "Stop");
     QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
     QVERIFY(done.wait(60000));
     QCOMPARE(m_window->state(), 4);
-    QCOMPARE(child<QPushButton>("btnAdd")->text(), QStringLiteral("New Scan"));
-    QCOMPARE(child<QLabel>("lab_fileNumber")->text(), QStringLiteral("10"));
-    QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("100.00%"));
+    QCOMPARE(child<QPushButton>("btnAdd")->text(), "New Scan");
+    QCOMPARE(child<QLabel>("lab_fileNumber")->text(), "10");
+    QCOMPARE(child<QLabel>("lab_progress")->text(), "100.00%");
     QCOMPARE(TFileData::instance()->groupCount(), 2);
     // The count is of files in groups: three copies and two copies.
-    QCOMPARE(child<QLabel>("lab_findNumber")->text(), QStringLiteral("5"));
+    QCOMPARE(child<QLabel>("lab_findNumber")->text(), "5");
     QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
-    QCOMPARE(child<QPushButton>("btn_scan")->text(), QStringLiteral("Show results"));
+    QCOMPARE(child<QPushButton>("btn_scan")->text(), "Show results");
 
     // "Show results" opens the group list with both groups.
     QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
@@ -268,7 +267,7 @@ void tst_MainWindow::scanThroughButtons()
     QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
     QCOMPARE(m_window->state(), 1);
     QVERIFY(m_window->folders().isEmpty());
-    QCOMPARE(child<QLabel>("lab_findTime")->text(), QStringLiteral("00:00:00"));
+    QCOMPARE(child<QLabel>("lab_findTime")->text(), "00:00:00");
     QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 0);
 }
 
@@ -315,10 +314,8 @@ void tst_MainWindow::projectFromCommandLine()
     QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
     QCOMPARE(window.projectPath(), project);
     QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->SaveFolder(), m_tree.path());
-    QCOMPARE(
-        window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), QStringLiteral("7"));
-    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(),
-        QStringLiteral("00:00:05"));
+    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), "7");
+    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(), "00:00:05");
     // The project opens onto the result page, with its selection.
     QTRY_VERIFY(window.resultPage() && window.resultPage()->isDataLoaded());
     ResultForm *page = window.resultPage();
@@ -349,7 +346,7 @@ void tst_MainWindow::projectArgumentNotAFile()
     window.show();
     QTRY_COMPARE(boxes.texts.size(), 1);
     QCOMPARE(boxes.texts.first(), message.arg(m_tree.filePath(argument)));
-    QCOMPARE(boxes.titles.first(), QStringLiteral("Open File"));
+    QCOMPARE(boxes.titles.first(), "Open File");
     QCOMPARE(window.state(), 1);
     QVERIFY(window.projectPath().isEmpty());
 }
@@ -525,7 +522,7 @@ void tst_MainWindow::abnormalExitNoticeOnce()
         window.show();
         QTRY_COMPARE(titles.size(), 1);
     }
-    QCOMPARE(titles.first(), QStringLiteral("Abnormal Exit Detected During Last Deletion"));
+    QCOMPARE(titles.first(), "Abnormal Exit Detected During Last Deletion");
     QVERIFY(boxes.texts.first().contains(QStringLiteral("1 of 3")));
     QVERIFY(boxes.texts.first().contains(QFileInfo(journal.path()).fileName()));
     QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);

@@ -110,7 +110,7 @@ void tst_StartupServices::reportSentOncePerDay()
     QCOMPARE(client.size(), 36);
     QVERIFY(!client.contains(QLatin1Char('{')));
     const QJsonObject event = body.value(QStringLiteral("events")).toArray().at(0).toObject();
-    QCOMPARE(event.value(QStringLiteral("name")).toString(), QStringLiteral("run_success"));
+    QCOMPARE(event.value(QStringLiteral("name")).toString(), "run_success");
     QCOMPARE(event.value(QStringLiteral("params"))
                  .toObject()
                  .value(QStringLiteral("installer_version"))

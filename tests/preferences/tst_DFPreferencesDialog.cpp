@@ -209,11 +209,11 @@ void TestDFPreferencesDialog::defaultRestoresAndKeeps()
     for (const QString &key : defaults.allKeys())
         if (!kept.contains(key))
             QVERIFY2(now.value(key) == defaults.value(key), qPrintable(key));
-    QCOMPARE(stored("Common/IgnorePathFile"), QStringLiteral("/skip/me"));
-    QCOMPARE(stored("Common/IgnoreFileType"), QStringLiteral("tmp"));
-    QCOMPARE(stored("Common/TrashFolder"), QStringLiteral("/srv/moved"));
-    QCOMPARE(stored("Similar_images/algorithmHint"), QStringLiteral("2"));
-    QCOMPARE(stored("map/4"), QStringLiteral("/data/a"));
+    QCOMPARE(stored("Common/IgnorePathFile"), "/skip/me");
+    QCOMPARE(stored("Common/IgnoreFileType"), "tmp");
+    QCOMPARE(stored("Common/TrashFolder"), "/srv/moved");
+    QCOMPARE(stored("Similar_images/algorithmHint"), "2");
+    QCOMPARE(stored("map/4"), "/data/a");
 }
 
 void TestDFPreferencesDialog::cancelLeavesFileUntouched()
@@ -319,7 +319,7 @@ void TestDFPreferencesDialog::reopeningShowsTheStore()
     QCOMPARE(m_dialog->findChild<QSlider *>("hsSimilarity")->value(), 55);
     // A new language puts the design-time texts back; the page fills them again.
     m_dialog->retranslate();
-    QCOMPARE(m_dialog->findChild<QLabel *>("lblSimilarityValue")->text(), QStringLiteral("55%"));
+    QCOMPARE(m_dialog->findChild<QLabel *>("lblSimilarityValue")->text(), "55%");
 }
 
 void TestDFPreferencesDialog::okKeepsWhatOthersWrote()
@@ -329,9 +329,9 @@ void TestDFPreferencesDialog::okKeepsWhatOthersWrote()
     m_store->ignoreListPreferences()->setDeleteException(1);
     m_store->ignoreListPreferences()->setSaveFolder(QStringLiteral("/srv/projects"));
     run(QStringLiteral("hsSimilarity=90;btnOK"));
-    QCOMPARE(stored("Common/deleteException"), QStringLiteral("1"));
-    QCOMPARE(stored("Common/SaveFolder"), QStringLiteral("/srv/projects"));
-    QCOMPARE(stored("Similar_images/SimilarityValue"), QStringLiteral("90"));
+    QCOMPARE(stored("Common/deleteException"), "1");
+    QCOMPARE(stored("Common/SaveFolder"), "/srv/projects");
+    QCOMPARE(stored("Similar_images/SimilarityValue"), "90");
 }
 
 void TestDFPreferencesDialog::dropAddsPaths_data()

@@ -235,9 +235,9 @@ void tst_ResultForm::scanReviewRemove()
     QTRY_COMPARE(page->chartStats().value(CategoryAudio).count, 2);
     QCOMPARE(page->chartStats().value(CategoryAudio).size, 18000);
     QCOMPARE(page->chartStats().value(CategoryImages).count, 0);
-    QCOMPARE(child<QLabel>(page, "lab_total_num")->text(), QStringLiteral("2"));
-    QCOMPARE(child<QLabel>(page, "lab_musics_num")->text(), QStringLiteral("2"));
-    QCOMPARE(child<QLabel>(page, "lab_images_num")->text(), QStringLiteral("0"));
+    QCOMPARE(child<QLabel>(page, "lab_total_num")->text(), "2");
+    QCOMPARE(child<QLabel>(page, "lab_musics_num")->text(), "2");
+    QCOMPARE(child<QLabel>(page, "lab_images_num")->text(), "0");
 
     page->close();
     QVERIFY(window.isVisible());
@@ -306,8 +306,7 @@ void tst_ResultForm::searchFiltersAndSlider()
     // A category narrows the search further.
     QTest::mouseClick(child<QPushButton>(page, "btn_document"), Qt::LeftButton);
     QCOMPARE(page->groupModel()->rowCount(), 1);
-    QCOMPARE(
-        page->groupModel()->displayedGroups().first().name, QStringLiteral("holiday-notes.txt"));
+    QCOMPARE(page->groupModel()->displayedGroups().first().name, "holiday-notes.txt");
     search->clear();
     QCOMPARE(page->groupModel()->rowCount(), 2);
 
@@ -384,13 +383,13 @@ void tst_ResultForm::similarMembersShowRealFiles()
         key, {a + kSimilarTag + QStringLiteral("_100"), b + kSimilarTag + QStringLiteral("_92")});
     ResultForm *page = openPage();
     const GroupItem group = page->groupModel()->displayedGroups().first();
-    QCOMPARE(group.name, QStringLiteral("sunset.jpg"));
+    QCOMPARE(group.name, "sunset.jpg");
     QCOMPARE(group.type, int(CategoryImages));
     QCOMPARE(group.totalSize, 2 * qint64(picture.size()));
     QTRY_COMPARE(page->itemModel()->rowCount(), 2);
     const ImageItem second = page->itemModel()->displayedItems().at(1);
     QCOMPARE(second.path, b);
-    QCOMPARE(second.displayName, QStringLiteral("sunset-edit.jpg"));
+    QCOMPARE(second.displayName, "sunset-edit.jpg");
     QCOMPARE(second.size, QFileInfo(b).size());
     QCOMPARE(second.type, int(CategoryImages));
     QCOMPARE(second.similarity, 92);

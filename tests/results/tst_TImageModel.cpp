@@ -85,9 +85,9 @@ void tst_TImageModel::groupRoles()
     QCOMPARE(row.data(257).toString(), a);
     QCOMPARE(row.data(258).toString(), key);
     QCOMPARE(row.data(259).toStringList(), QStringList({a, b, c}));
-    QCOMPARE(row.data(261).toString(), QStringLiteral("report.txt"));
+    QCOMPARE(row.data(261).toString(), "report.txt");
     QCOMPARE(row.data(262).toInt(), int(CategoryDocuments));
-    QCOMPARE(row.data(264).toString(), QStringLiteral("4.39 KB"));
+    QCOMPARE(row.data(264).toString(), "4.39 KB");
     QCOMPARE(row.data(265).toInt(), 3);
     QCOMPARE(row.data(266).toInt(), 2);
     QCOMPARE(row.data(270).toBool(), false);
@@ -116,9 +116,9 @@ void tst_TImageModel::groupOfMissingOrFolder()
     QCOMPARE(model.rowCount(), 2);
     // Descending by type: others (7) before folders (6).
     QCOMPARE(model.index(0, 0).data(262).toInt(), 7);
-    QCOMPARE(model.index(0, 0).data(264).toString(), QStringLiteral("0 B"));
+    QCOMPARE(model.index(0, 0).data(264).toString(), "0 B");
     QCOMPARE(model.index(1, 0).data(262).toInt(), 6);
-    QCOMPARE(model.index(1, 0).data(264).toString(), QStringLiteral("600 B"));
+    QCOMPARE(model.index(1, 0).data(264).toString(), "600 B");
 }
 
 void tst_TImageModel::sizeText_data()
@@ -372,16 +372,16 @@ void tst_TImageModel::itemRolesAndCheckState()
     QCOMPARE(model.index(1, 0).data().toInt(), 2);
     QCOMPARE(model.index(1, 0).data(Qt::CheckStateRole).toInt(), 2);
     QCOMPARE(model.index(0, 1).data().toString(), picture);
-    QCOMPARE(model.index(0, 2).data().toString(), QStringLiteral("2 KB"));
+    QCOMPARE(model.index(0, 2).data().toString(), "2 KB");
     QCOMPARE(model.index(0, 3).data().toString(),
         QFileInfo(picture).lastModified().toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")));
     QCOMPARE(model.index(1, 3).data().toString(), b.dateText);
     QVERIFY(model.index(0, 4).data(Qt::DecorationRole).canConvert<QIcon>());
-    QCOMPARE(model.index(0, 0).data(267).toString(), QStringLiteral("64x48"));
-    QCOMPARE(model.index(1, 0).data(267).toString(), QStringLiteral("-x-"));
+    QCOMPARE(model.index(0, 0).data(267).toString(), "64x48");
+    QCOMPARE(model.index(1, 0).data(267).toString(), "-x-");
     QCOMPARE(model.index(0, 2).data(273).toInt(), 93);
     model.setNameMode(1);
-    QCOMPARE(model.index(0, 1).data().toString(), QStringLiteral("shot"));
+    QCOMPARE(model.index(0, 1).data().toString(), "shot");
 
     QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
     QSignalSpy selected(&model, &TImageModel::onItemSelectedChange);
