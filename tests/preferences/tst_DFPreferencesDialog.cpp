@@ -46,6 +46,15 @@ static void refusalRow(const char *tag, const char *steps, bool scanRunning, con
                        << QString(shown);
 }
 
+// Entries are ignore-list entries, or "folder=priority" for the table, in the tree's names.
+static void dropRow(const char *tag, const char *target, const char *steps,
+    const QStringList &dropped, bool accepted, const QStringList &entries,
+    const QStringList &texts = {})
+{
+    QTest::newRow(tag) << QString(target) << QString(steps) << dropped << accepted << entries
+                       << texts;
+}
+
 class TestDFPreferencesDialog : public QObject
 {
     Q_OBJECT
@@ -281,27 +290,16 @@ private slots:
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QStringList>("dropped");
         QTest::addColumn<bool>("accepted");
-        // Ignore list entries, or "folder=priority" for the table, in the tree's names.
         QTest::addColumn<QStringList>("entries");
         QTest::addColumn<QStringList>("texts");
-        QTest::newRow("folder and file onto the ignore list")
-            << "lwIgnoreList"
-            << "" << QStringList {"photos", "notes.txt", "missing"} << true
-            << QStringList {"photos", "notes.txt"} << QStringList {};
-        QTest::newRow("nothing that exists")
-            << "lwIgnoreList"
-            << "" << QStringList {"missing"} << false << QStringList {} << QStringList {};
-        QTest::newRow("folders onto the table in drop order")
-            << "tableWidget"
-            << "" << QStringList {"photos", "notes.txt", "music"} << true
-            << QStringList {"music=2", "photos=1"} << QStringList {};
-        QTest::newRow("only a file onto the table")
-            << "tableWidget"
-            << "" << QStringList {"notes.txt"} << false << QStringList {} << QStringList {};
-        QTest::newRow("folder already in the table")
-            << "tableWidget"
-            << "folder:@/photos" << QStringList {"photos", "music"} << true
-            << QStringList {"music=2", "photos=1"} << QStringList {"The folder has been added."};
+        dropRow("folder and file onto the ignore list", "lwIgnoreList", "",
+            {"photos", "notes.txt", "missing"}, true, {"photos", "notes.txt"});
+        dropRow("nothing that exists", "lwIgnoreList", "", {"missing"}, false, {});
+        dropRow("folders onto the table in drop order", "tableWidget", "",
+            {"photos", "notes.txt", "music"}, true, {"music=2", "photos=1"});
+        dropRow("only a file onto the table", "tableWidget", "", {"notes.txt"}, false, {});
+        dropRow("folder already in the table", "tableWidget", "folder:@/photos",
+            {"photos", "music"}, true, {"music=2", "photos=1"}, {"The folder has been added."});
     }
     void dropAddsPaths()
     {
