@@ -51,25 +51,22 @@ private slots:
     {
         QTest::addColumn<QStringList>("options");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("no similar search") << QStringList {} << QStringList {};
+        using L = QStringList;
+        QTest::newRow("no similar search") << L {} << L {};
         QTest::newRow("histogram with re-check")
-            << QStringList {"--similar"} << QStringList {"similar:a.jpg,a_small.jpg"};
-        QTest::newRow("histogram pass mark 99")
-            << QStringList {"--similar", "--threshold", "99"} << QStringList {};
+            << L {"--similar"} << L {"similar:a.jpg,a_small.jpg"};
+        QTest::newRow("histogram pass mark 99") << L {"--similar", "--threshold", "99"} << L {};
         QTest::newRow("threshold alone turns the search on")
-            << QStringList {"--threshold", "50"} << QStringList {"similar:a.jpg,a_small.jpg"};
-        QTest::newRow("phash") << QStringList {"--algorithm", "phash"}
-                               << QStringList {"similar:a.jpg,a_small.jpg"};
+            << L {"--threshold", "50"} << L {"similar:a.jpg,a_small.jpg"};
+        QTest::newRow("phash") << L {"--algorithm", "phash"} << L {"similar:a.jpg,a_small.jpg"};
         QTest::newRow("phash pass mark 99")
-            << QStringList {"--algorithm", "phash", "--threshold", "99"} << QStringList {};
-        QTest::newRow("phash any type: the PNG joins its JPEG") << QStringList {"--algorithm",
-            "phash", "--any-type"} << QStringList {"similar:a.jpg,a.png,a_small.jpg"};
-        QTest::newRow("phash any ratio: the stretched copy joins")
-            << QStringList {"--algorithm", "phash", "--any-ratio", "--no-features"}
-            << QStringList {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
-        QTest::newRow("both filters off")
-            << QStringList {"--algorithm", "phash", "--any-ratio", "--any-type", "--no-features"}
-            << QStringList {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
+            << L {"--algorithm", "phash", "--threshold", "99"} << L {};
+        QTest::newRow("phash any type: the PNG joins its JPEG")
+            << L {"--algorithm", "phash", "--any-type"} << L {"similar:a.jpg,a.png,a_small.jpg"};
+        QTest::newRow("phash any ratio: the stretched copy joins") << L {"--algorithm", "phash",
+            "--any-ratio", "--no-features"} << L {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
+        QTest::newRow("both filters off") << L {"--algorithm", "phash", "--any-ratio", "--any-type",
+            "--no-features"} << L {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
     }
     void similarGroups()
     {
