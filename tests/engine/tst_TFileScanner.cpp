@@ -282,19 +282,16 @@ private slots:
         QTest::addColumn<qint64>("folders");
         QTest::addColumn<qint64>("files");
         QTest::addColumn<bool>("allRootsUnreadable");
-        QTest::newRow("only root missing")
-            << QStringList {"gone"} << false << QStringList {} << qint64(1) << qint64(0) << true;
+        using L = QStringList;
+        QTest::newRow("only root missing") << L {"gone"} << false << L {} << 1LL << 0LL << true;
         QTest::newRow("one of two roots missing")
-            << QStringList {"tree", "gone"} << false
-            << QStringList {"tree/locked.txt", "tree/open.txt", "tree/shut/in.txt"} << qint64(1)
-            << qint64(0) << false;
+            << L {"tree", "gone"} << false
+            << L {"tree/locked.txt", "tree/open.txt", "tree/shut/in.txt"} << 1LL << 0LL << false;
         // Permission bits do not stop the superuser; those rows run for other users only.
         if (::geteuid() != 0) {
             QTest::newRow("locked folder and file")
-                << QStringList {"tree"} << true << QStringList {"tree/open.txt"} << qint64(1)
-                << qint64(1) << false;
-            QTest::newRow("locked root") << QStringList {"tree/shut"} << true << QStringList {}
-                                         << qint64(1) << qint64(0) << true;
+                << L {"tree"} << true << L {"tree/open.txt"} << 1LL << 1LL << false;
+            QTest::newRow("locked root") << L {"tree/shut"} << true << L {} << 1LL << 0LL << true;
         }
     }
     void unreadable()
