@@ -269,12 +269,9 @@ private slots:
         QCOMPARE(mat.cols, workingWidth);
         QCOMPARE(mat.rows, workingHeight);
         if (width > 1024 || height > 1024)
-            QVERIFY(
-                logText().contains(QStringLiteral("[TReadImage]: Resized image from %1x%2 to %3x%4")
-                                       .arg(width)
-                                       .arg(height)
-                                       .arg(workingWidth)
-                                       .arg(workingHeight)));
+            QVERIFY(logText().contains(
+                QString::asprintf("[TReadImage]: Resized image from %dx%d to %dx%d", width, height,
+                    workingWidth, workingHeight)));
     }
 
     void conversionsKeepColours()

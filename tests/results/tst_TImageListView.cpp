@@ -219,10 +219,8 @@ private slots:
         // No room for one more cell is left, and the line stays inside the view.
         QVERIFY(last.right() < m_view->viewport()->width());
         QVERIFY2(m_view->viewport()->width() - last.right() < cellWidth / 2 + 24,
-            qPrintable(QStringLiteral("%1 cells of %2 leave %3 px")
-                           .arg(perLine)
-                           .arg(cellWidth)
-                           .arg(m_view->viewport()->width() - last.right())));
+            qPrintable(QString::asprintf("%d cells of %d leave %d px", perLine, cellWidth,
+                m_view->viewport()->width() - last.right())));
     }
 
     void flowCellsTakeThePictureShape()
@@ -263,9 +261,8 @@ private slots:
         const auto [first, last] = m_view->visibleRows();
         QVERIFY(first >= 0);
         QVERIFY2(m_model->pendingLoadCount() <= last - first + 1,
-            qPrintable(QStringLiteral("%1 loads pending for %2 rows in view")
-                           .arg(m_model->pendingLoadCount())
-                           .arg(last - first + 1)));
+            qPrintable(QString::asprintf("%d loads pending for %d rows in view",
+                m_model->pendingLoadCount(), last - first + 1)));
     }
 
     void repaintDoesNotWaitForLoads()

@@ -178,9 +178,8 @@ private slots:
         // 2500 groups cut into chunks of 1000, 1000 and 500; every third one matches.
         TFileData *store = TFileData::instance();
         for (int i = 0; i < 2500; ++i) {
-            const QString path = m_dir.filePath(QStringLiteral("%1_%2.bin")
-                                                    .arg(i % 3 == 0 ? "Keep" : "drop")
-                                                    .arg(i, 4, 10, QLatin1Char('0')));
+            const QString path
+                = m_dir.filePath(QString::asprintf("%s_%04d.bin", i % 3 == 0 ? "Keep" : "drop", i));
             store->insertGroup(TFileData::groupKey(path), {path, path + QStringLiteral("x")});
         }
         TImageModel model(TImageModel::ListView, 50);
