@@ -66,23 +66,15 @@ private slots:
     {
         // Three copies of a photo, two of a document, two of a song, and files of their own.
         const QByteArray photo = jpeg(7);
-        const QString keptPhoto
-            = ScanTree::write(m_tree.path(), QStringLiteral("photos/beach.jpg"), photo);
-        const QString copyPhoto
-            = ScanTree::write(m_tree.path(), QStringLiteral("backup/copy of beach.jpg"), photo);
-        const QString thirdPhoto
-            = ScanTree::write(m_tree.path(), QStringLiteral("backup/old/beach (1).jpg"), photo);
-        const QString keptDoc = ScanTree::write(
-            m_tree.path(), QStringLiteral("docs/report.txt"), ScanTree::pattern(4000, 'd'));
-        const QString copyDoc = ScanTree::write(
-            m_tree.path(), QStringLiteral("docs/report (2).txt"), ScanTree::pattern(4000, 'd'));
-        const QString song = ScanTree::write(
-            m_tree.path(), QStringLiteral("music/song.mp3"), ScanTree::pattern(9000, 's'));
-        const QString songCopy = ScanTree::write(
-            m_tree.path(), QStringLiteral("music/song-1.mp3"), ScanTree::pattern(9000, 's'));
+        const QString keptPhoto = file("photos/beach.jpg", photo);
+        const QString copyPhoto = file("backup/copy of beach.jpg", photo);
+        const QString thirdPhoto = file("backup/old/beach (1).jpg", photo);
+        const QString keptDoc = file("docs/report.txt", ScanTree::pattern(4000, 'd'));
+        const QString copyDoc = file("docs/report (2).txt", ScanTree::pattern(4000, 'd'));
+        const QString song = file("music/song.mp3", ScanTree::pattern(9000, 's'));
+        const QString songCopy = file("music/song-1.mp3", ScanTree::pattern(9000, 's'));
         for (int i = 0; i < 4; ++i)
-            ScanTree::write(m_tree.path(), QStringLiteral("misc/u%1.dat").arg(i),
-                ScanTree::pattern(100 + i, char('u' + i)));
+            file(QStringLiteral("misc/u%1.dat").arg(i), ScanTree::pattern(100 + i, char('u' + i)));
 
         DialogAnswerer answers({QMessageBox::Yes});
         answers.closeOtherDialogs = true;
@@ -298,9 +290,8 @@ private slots:
     void similarMembersShowRealFiles()
     {
         const QByteArray picture = jpeg(5);
-        const QString a = ScanTree::write(m_tree.path(), QStringLiteral("p/sunset.jpg"), picture);
-        const QString b
-            = ScanTree::write(m_tree.path(), QStringLiteral("q/sunset-edit.jpg"), jpeg(6));
+        const QString a = file("p/sunset.jpg", picture);
+        const QString b = file("q/sunset-edit.jpg", jpeg(6));
         const QString key = TFileData::groupKey(a) + kSimilarTag;
         TFileData::instance()->insertGroup(key,
             {a + kSimilarTag + QStringLiteral("_100"), b + kSimilarTag + QStringLiteral("_92")});
@@ -319,13 +310,17 @@ private slots:
     }
 
 private:
+    // A real file in the tree; its path.
+    QString file(const QString &relative, const QByteArray &content)
+    {
+        return ScanTree::write(m_tree.path(), relative, content);
+    }
     // Groups of real files in the store, one per entry: name -> copies.
     QString writeGroup(const QString &name, int copies, const QByteArray &content)
     {
         QStringList paths;
         for (int i = 0; i < copies; ++i)
-            paths << ScanTree::write(
-                m_tree.path(), QStringLiteral("c%1/%2").arg(i).arg(name), content);
+            paths << file(QStringLiteral("c%1/%2").arg(i).arg(name), content);
         const QString key = TFileData::groupKey(paths.first());
         TFileData::instance()->insertGroup(key, paths);
         return key;
