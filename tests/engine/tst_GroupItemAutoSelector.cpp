@@ -76,8 +76,7 @@ private:
             qFatal("cannot write %s", qPrintable(path));
         QFile file(path);
         file.open(QIODevice::ReadWrite);
-        const QDateTime base
-            = QDateTime::fromString(QStringLiteral("2024-05-01T12:00:00Z"), Qt::ISODate);
+        const QDateTime base = QDateTime::fromString("2024-05-01T12:00:00Z", Qt::ISODate);
         if (!file.setFileTime(base.addSecs(-age), QFileDevice::FileModificationTime))
             qFatal("cannot set the time of %s", qPrintable(path));
         return path;

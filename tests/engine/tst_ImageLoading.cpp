@@ -44,7 +44,7 @@ private:
     QByteArray encoded(const QString &format, const cv::Mat &scene, int heicThumbnail = 64) const
     {
         if (format == QLatin1String("heic")) {
-            const QString path = file(QStringLiteral("encoding.heic"));
+            const QString path = file("encoding.heic");
             QFile heic(path);
             if (!fixtures::writeHeic(path, scene, heicThumbnail) || !heic.open(QIODevice::ReadOnly))
                 return {};
@@ -113,7 +113,7 @@ private slots:
         QVERIFY2(cv::norm(expected, mat, cv::NORM_L1) / double(mat.total() * 3) < 25.0,
             "decoded colours differ from the scene");
         if (!logLine.isEmpty())
-            QVERIFY(logText().contains(logLine + QStringLiteral(" File: ") + path));
+            QVERIFY(logText().contains(logLine + " File: " + path));
     }
 
     // Every broken file gives an empty matrix and the real reason; none is blamed on
@@ -176,8 +176,7 @@ private slots:
         QCOMPARE(int(why), failure);
         for (const QString &line : logText().split(QLatin1Char('\n'))) {
             if (line.contains(path))
-                QVERIFY2(!line.contains(QStringLiteral("memory"), Qt::CaseInsensitive),
-                    qPrintable(line));
+                QVERIFY2(!line.contains("memory", Qt::CaseInsensitive), qPrintable(line));
         }
     }
 
@@ -212,13 +211,12 @@ private slots:
 
     void emptyFileThroughMemory()
     {
-        const QString path = file(QStringLiteral("empty_memory.jpg"));
+        const QString path = file("empty_memory.jpg");
         QVERIFY(fixtures::writeBytes(path, QByteArray()));
         TReadImage::Failure why = TReadImage::Failure::None;
         QVERIFY(TReadImage::imreadThroughMemory(path, cv::IMREAD_COLOR, &why).empty());
         QCOMPARE(why, TReadImage::Failure::Empty);
-        QVERIFY(
-            logText().contains(QStringLiteral("[TImageRead]: File too large or empty: ") + path));
+        QVERIFY(logText().contains("[TImageRead]: File too large or empty: " + path));
     }
 
     void hugeHeaderIsRefused()
@@ -231,7 +229,7 @@ private slots:
         qToBigEndian(quint32(10000), png.data() + 20);
         // The header chunk's checksum must match, or the reader rejects it before the size.
         qToBigEndian(crc32(png.mid(12, 17)), png.data() + 29);
-        const QString path = file(QStringLiteral("huge.png"));
+        const QString path = file("huge.png");
         QVERIFY(fixtures::writeBytes(path, png));
         TReadImage::Failure why = TReadImage::Failure::None;
         QVERIFY(TReadImage::readImage(path, nullptr, nullptr, &why).empty());
@@ -282,10 +280,9 @@ private slots:
         const cv::Mat back = TReadImage::qimage2Mat(image);
         QCOMPARE(back.at<cv::Vec3b>(1, 2), cv::Vec3b(255, 0, 0));
         QVERIFY(TReadImage::mat2QImage(cv::Mat(2, 2, CV_32FC1)).isNull());
-        QVERIFY(logText().contains(
-            QStringLiteral("[TReadImage]: mat2QImage: Unsupported cv::Mat type: 5")));
+        QVERIFY(logText().contains("[TReadImage]: mat2QImage: Unsupported cv::Mat type: 5"));
         QVERIFY(TReadImage::qimage2Mat(QImage()).empty());
-        QVERIFY(logText().contains(QStringLiteral("[TReadImage]: qimage2Mat: result is empty!")));
+        QVERIFY(logText().contains("[TReadImage]: qimage2Mat: result is empty!"));
     }
 
     void loadTaskReportsThumbnailOrCancel_data()
@@ -297,10 +294,9 @@ private slots:
     void loadTaskReportsThumbnailOrCancel()
     {
         QFETCH(bool, cancelFirst);
-        const QString path = writePicture(
-            QStringLiteral("jpg"), fixtures::makeScene(1200, 600, 6), QStringLiteral("thumb"));
+        const QString path = writePicture("jpg", fixtures::makeScene(1200, 600, 6), "thumb");
         // The task is a tagged member of a similar group, as the result model passes it.
-        const QString entry = path + QStringLiteral("_simlar_87");
+        const QString entry = path + "_simlar_87";
         auto *task = new ImageLoadTask(7, 1, entry, false);
         QSignalSpy spy(task, &ImageLoadTask::finished);
         if (cancelFirst)

@@ -304,15 +304,14 @@ private slots:
 
     void entryLimit()
     {
-        QString text
-            = QStringLiteral("<VeltrineDuplicateFinder fileCount=\"1\" version=\"4.5.0\"><groups>");
+        QString text = "<VeltrineDuplicateFinder fileCount=\"1\" version=\"4.5.0\"><groups>";
         for (int g = 0; g < 3; ++g) {
             text += QStringLiteral(
                 "<GroupItem GroupType=\"0\" GroupFlag=\"0\" key=\"G%1\">"
                 "<Item selected=\"0\">%A%</Item><Item selected=\"0\">%B%</Item></GroupItem>")
                         .arg(g);
         }
-        text += QStringLiteral("</groups></VeltrineDuplicateFinder>");
+        text += "</groups></VeltrineDuplicateFinder>";
         const QString path = writeProject("many.dupproj", text);
         fillSentinel();
         const TFileData::Groups groups = TFileData::instance()->groups();

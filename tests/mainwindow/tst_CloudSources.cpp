@@ -48,7 +48,7 @@ private slots:
         file("set/sub/b3.txt", 'b', 7000);
         file("set/alone.txt", 'c', 7000);
         file("other/c1.txt", 'c', 3000);
-        m_window = new MainWindow({QStringLiteral("program")});
+        m_window = new MainWindow({"program"});
         m_window->setShowResultsWhenDone(true);
         m_window->show();
     }
@@ -99,8 +99,8 @@ private slots:
     void chooseScanAndRemove()
     {
         KvCloudObject *cloud = KvCloudObject::instance();
-        chooseWhenShown({QStringLiteral("set")});
-        QVERIFY(cloud->start_authorization(QStringLiteral("here"), CloudService::kLocalFolder));
+        chooseWhenShown({"set"});
+        QVERIFY(cloud->start_authorization("here", CloudService::kLocalFolder));
         QTRY_VERIFY_WITH_TIMEOUT(m_choiceError.isEmpty(), 30000);
         QCOMPARE(m_secondOpeningAsked, 0);
         // The sub-folder took its parent's check and is not chosen a second time.
@@ -116,8 +116,7 @@ private slots:
         QApplication::sendEvent(m_window, &enter);
         QDropEvent drop(QPointF(10, 10), Qt::LinkAction, &dropped, Qt::LeftButton, {});
         QApplication::sendEvent(m_window, &drop);
-        QVERIFY(
-            cloud->start_authorization(QStringLiteral("elsewhere"), CloudService::kLocalFolder));
+        QVERIFY(cloud->start_authorization("elsewhere", CloudService::kLocalFolder));
         QTRY_COMPARE_WITH_TIMEOUT(boxes.texts.size(), 2, 20000);
         QCOMPARE(boxes.texts,
             QStringList({"After adding cloud accounts and directories, local directories can no "
@@ -126,8 +125,8 @@ private slots:
         QCOMPARE(m_window->cloudFolders(), QStringList {"here:set"});
         QVERIFY(m_window->folders().isEmpty());
         // Signing in to the first account again leads back to its folders.
-        chooseWhenShown({QStringLiteral("set")});
-        QVERIFY(cloud->start_authorization(QStringLiteral("here"), CloudService::kLocalFolder));
+        chooseWhenShown({"set"});
+        QVERIFY(cloud->start_authorization("here", CloudService::kLocalFolder));
         QTRY_VERIFY_WITH_TIMEOUT(m_choiceError.isEmpty(), 30000);
         QCOMPARE(m_window->cloudFolders(), QStringList {"here:set"});
 
@@ -185,7 +184,7 @@ private slots:
     {
         QFETCH(bool, killRclone);
         QFETCH(QString, said);
-        chooseFolders({QStringLiteral("other")});
+        chooseFolders({"other"});
         DialogAnswerer boxes;
         QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
         QCOMPARE(m_window->state(), int(MainWindow::StateScanning));
@@ -200,7 +199,7 @@ private slots:
         // The window is usable again, and so is the cloud source.
         QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
         QCOMPARE(m_window->state(), int(MainWindow::StateReady));
-        chooseFolders({QStringLiteral("other")});
+        chooseFolders({"other"});
         QCOMPARE(m_window->cloudFolders(), QStringList {"here:other"});
     }
 
@@ -209,7 +208,7 @@ private:
     // time, opens the last one twice, checks it and accepts.
     void chooseWhenShown(const QStringList &path)
     {
-        m_choiceError = QStringLiteral("the chooser did not show");
+        m_choiceError = "the chooser did not show";
         auto *timer = new QTimer(this);
         connect(timer, &QTimer::timeout, this, [this, timer, path] {
             auto *dialog = qobject_cast<TCloudFolderDialog *>(QApplication::activeModalWidget());
@@ -225,7 +224,7 @@ private:
             };
             for (const QString &name : path) {
                 if (!openAndWait()) {
-                    m_choiceError = QStringLiteral("no folders listed above ") + name;
+                    m_choiceError = "no folders listed above " + name;
                     dialog->reject();
                     return;
                 }
@@ -234,7 +233,7 @@ private:
                     if (item->child(i)->text(0) == name)
                         next = item->child(i);
                 if (!next) {
-                    m_choiceError = QStringLiteral("folder not listed: ") + name;
+                    m_choiceError = "folder not listed: " + name;
                     dialog->reject();
                     return;
                 }
@@ -256,7 +255,7 @@ private:
     void chooseFolders(const QStringList &path)
     {
         chooseWhenShown(path);
-        m_window->showSelectFolderDialog(QStringLiteral("here"), CloudService::kLocalFolder);
+        m_window->showSelectFolderDialog("here", CloudService::kLocalFolder);
         QVERIFY2(m_choiceError.isEmpty(), qPrintable(m_choiceError));
     }
     QString local(const QString &cloudPath) const

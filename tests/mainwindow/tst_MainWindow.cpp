@@ -51,20 +51,20 @@ private slots:
         LanguageSetup::setupLanguage(1);
         QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
         // A small tree: three copies of one file, two of another, and unique files.
-        makeFile(QStringLiteral("a/one.bin"), QByteArray(5000, 'a'));
-        makeFile(QStringLiteral("a/sub/one-copy.bin"), QByteArray(5000, 'a'));
-        makeFile(QStringLiteral("b/one-again.bin"), QByteArray(5000, 'a'));
-        makeFile(QStringLiteral("b/two.txt"), QByteArray(3000, 't'));
-        makeFile(QStringLiteral("a/sub/two.txt"), QByteArray(3000, 't'));
+        makeFile("a/one.bin", QByteArray(5000, 'a'));
+        makeFile("a/sub/one-copy.bin", QByteArray(5000, 'a'));
+        makeFile("b/one-again.bin", QByteArray(5000, 'a'));
+        makeFile("b/two.txt", QByteArray(3000, 't'));
+        makeFile("a/sub/two.txt", QByteArray(3000, 't'));
         for (int i = 0; i < 5; ++i)
             makeFile(QStringLiteral("b/unique%1.dat").arg(i), QByteArray(100 + i, char('k' + i)));
-        QDir(m_tree.path()).mkpath(QStringLiteral("empty"));
+        QDir(m_tree.path()).mkpath("empty");
     }
 
     void init()
     {
         TFileData::instance()->clear();
-        m_window = new MainWindow({QStringLiteral("program")});
+        m_window = new MainWindow({"program"});
         m_window->setShowResultsWhenDone(false);
         m_window->show();
     }
@@ -108,7 +108,7 @@ private slots:
         QCOMPARE(add->text(), mainText);
         QCOMPARE(add->isEnabled(), mainEnabled);
         const QList<QAction *> stateActions {child<QAction>("action_openProject"),
-            m_window->findChild<QMenu *>(QStringLiteral("menu_language"))->menuAction(),
+            m_window->findChild<QMenu *>("menu_language")->menuAction(),
             child<QAction>("action_saveProject"), child<QAction>("action_showResults")};
         for (int i = 0; i < 4; ++i)
             QCOMPARE(stateActions.at(i)->isEnabled(), actions.at(i));
@@ -158,7 +158,7 @@ private slots:
         QMimeData single;
         single.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
         dropOnWindow(&single);
-        QTRY_COMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("1 folder added"));
+        QTRY_COMPARE(child<QLabel>("lab_number")->text(), "1 folder added");
         QVERIFY(boxes.texts.isEmpty());
 
         // A file among the folders is not added, and the user is told why.
@@ -217,7 +217,7 @@ private slots:
         QVERIFY(m_window->isVisible());
 
         // New Scan after saving returns to an empty folder page.
-        TControlUI::instance()->setProjectPath(QStringLiteral("saved"));
+        TControlUI::instance()->setProjectPath("saved");
         TFileData::instance()->clear();
         QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
         QCOMPARE(m_window->state(), 1);
@@ -242,8 +242,8 @@ private slots:
         QVERIFY(
             log.contains(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning "
                                         "process.")));
-        QVERIFY(log.lastIndexOf(QStringLiteral("All tasks are completed"))
-            > log.lastIndexOf(QStringLiteral("The user clicks Stop during the scanning")));
+        QVERIFY(log.lastIndexOf("All tasks are completed")
+            > log.lastIndexOf("The user clicks Stop during the scanning"));
         QDir(m_tree.filePath("many")).removeRecursively();
     }
 
@@ -258,20 +258,20 @@ private slots:
         {
             TOpenSaveThread writer;
             QSignalSpy saved(&writer, &TOpenSaveThread::saveComplated);
-            QVERIFY(writer.saveProject(project, 7, QStringLiteral("00:00:05")));
+            QVERIFY(writer.saveProject(project, 7, "00:00:05"));
             QVERIFY(saved.wait(10000));
             QCOMPARE(saved.at(0).at(0).toInt(), int(TOpenSaveThread::ProjectSucceeded));
         }
         TFileData::instance()->clear();
 
-        MainWindow window({QStringLiteral("program"), project});
+        MainWindow window({"program", project});
         QCOMPARE(window.state(), 5);
         QTRY_COMPARE_WITH_TIMEOUT(window.state(), 4, 10000);
         QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
         QCOMPARE(window.projectPath(), project);
         QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->SaveFolder(), m_tree.path());
-        QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), "7");
-        QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(), "00:00:05");
+        QCOMPARE(window.findChild<QLabel *>("lab_fileNumber")->text(), "7");
+        QCOMPARE(window.findChild<QLabel *>("lab_findTime")->text(), "00:00:05");
         // The project opens onto the result page, with its selection.
         QTRY_VERIFY(window.resultPage() && window.resultPage()->isDataLoaded());
         ResultForm *page = window.resultPage();
@@ -297,7 +297,7 @@ private slots:
         QFETCH(QString, argument);
         QFETCH(QString, message);
         DialogAnswerer boxes;
-        MainWindow window({QStringLiteral("program"), m_tree.filePath(argument)});
+        MainWindow window({"program", m_tree.filePath(argument)});
         window.show();
         QTRY_COMPARE(boxes.texts.size(), 1);
         QCOMPARE(boxes.texts.first(), message.arg(m_tree.filePath(argument)));
@@ -341,11 +341,10 @@ private slots:
         m_window->setStatus(4);
         m_window->showScanProblems(problems);
         QVERIFY(line->isVisible());
-        QVERIFY2(
-            line->text().contains(QStringLiteral("1 folder and 1005 files could not be read.")),
+        QVERIFY2(line->text().contains("1 folder and 1005 files could not be read."),
             qPrintable(line->text()));
-        QVERIFY(line->text().contains(
-            QStringLiteral("1 link leading outside the chosen folders was not followed.")));
+        QVERIFY(
+            line->text().contains("1 link leading outside the chosen folders was not followed."));
         // Some roots were read: "nothing found" stays an all-clear.
         auto *warning = child<QLabel>("lab_rootsUnreadable");
         auto *allClear = child<QLabel>("lab_noDuplicates");
@@ -355,25 +354,25 @@ private slots:
         none.addUnreadableRoot(m_tree.filePath("gone"));
         m_window->showScanProblems(none);
         QVERIFY(!warning->isHidden() && allClear->isHidden());
-        QVERIFY(warning->text().contains(QStringLiteral("The chosen folder could not be read.")));
+        QVERIFY(warning->text().contains("The chosen folder could not be read."));
         m_window->showScanProblems(problems);
         QVERIFY(warning->isHidden() && !allClear->isHidden());
 
-        emit line->linkActivated(QStringLiteral("details"));
+        emit line->linkActivated("details");
         auto *dialog = m_window->findChild<ProblemListDialog *>();
         QVERIFY(dialog);
         const QString list = dialog->text();
-        QVERIFY(list.contains(QStringLiteral("Folders that could not be read (1)\n    ")
-            + m_tree.filePath("a/locked")));
-        QVERIFY(list.contains(QStringLiteral("Files that could not be read (1005)")));
-        QVERIFY(list.contains(QStringLiteral("... and 5 more")));
+        QVERIFY(list.contains(
+            "Folders that could not be read (1)\n    " + m_tree.filePath("a/locked")));
+        QVERIFY(list.contains("Files that could not be read (1005)"));
+        QVERIFY(list.contains("... and 5 more"));
         QVERIFY(list.contains(m_tree.filePath("b/elsewhere")));
         dialog->copyAll();
         QCOMPARE(QApplication::clipboard()->text(), list);
         dialog->close();
 
         // A new scan starts without the old problems.
-        TControlUI::instance()->setProjectPath(QStringLiteral("saved"));
+        TControlUI::instance()->setProjectPath("saved");
         QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
         QCOMPARE(m_window->state(), 1);
         QVERIFY(!line->isVisible());
@@ -392,7 +391,7 @@ private slots:
         QFETCH(QString, how);
         const QString root = m_tree.filePath("closed");
         QDir().mkpath(root);
-        makeFile(QStringLiteral("closed/x.txt"), "x");
+        makeFile("closed/x.txt", "x");
         QVERIFY(m_window->addFolder(root));
         if (how == QLatin1String("removed")) {
             QDir(root).removeRecursively();
@@ -423,10 +422,8 @@ private slots:
         QCOMPARE(child<QLabel>("lab_noDuplicates")->isVisible(), readable);
         if (readable)
             return;
-        QVERIFY(warning->text().contains(QStringLiteral("The chosen folder could not be read.")));
-        QVERIFY(child<QLabel>("lab_scanProblems")
-                    ->text()
-                    .contains(QStringLiteral("1 folder could not be read.")));
+        QVERIFY(warning->text().contains("The chosen folder could not be read."));
+        QVERIFY(child<QLabel>("lab_scanProblems")->text().contains("1 folder could not be read."));
     }
 
     void roundButtonFitsEveryLanguage_data()
@@ -440,7 +437,7 @@ private slots:
     void roundButtonFitsEveryLanguage()
     {
         QFETCH(int, language);
-        QFile style(QStringLiteral(":resource/Style.qss"));
+        QFile style(":resource/Style.qss");
         QVERIFY(style.open(QIODevice::ReadOnly));
         qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
         LanguageSetup::setupLanguage(language);
@@ -465,22 +462,21 @@ private slots:
         DFPreferences::instance()->save();
         // A batch of three cut off after its first item.
         RemovalJournal journal;
-        QVERIFY(journal.begin(QStringLiteral("trash"), 3));
-        journal.record(QStringLiteral("trash"), DeleteResult {QStringLiteral("/gone/one.jpg")},
-            RemovalJournal::removed);
+        QVERIFY(journal.begin("trash", 3));
+        journal.record("trash", DeleteResult {"/gone/one.jpg"}, RemovalJournal::removed);
         DialogAnswerer boxes;
         const QStringList &titles = boxes.titles;
         {
-            MainWindow window({QStringLiteral("program")});
+            MainWindow window({"program"});
             window.show();
             QTRY_COMPARE(titles.size(), 1);
         }
         QCOMPARE(titles.first(), "Abnormal Exit Detected During Last Deletion");
-        QVERIFY(boxes.texts.first().contains(QStringLiteral("1 of 3")));
+        QVERIFY(boxes.texts.first().contains("1 of 3"));
         QVERIFY(boxes.texts.first().contains(QFileInfo(journal.path()).fileName()));
         QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
         {
-            MainWindow again({QStringLiteral("program")});
+            MainWindow again({"program"});
             again.show();
             QTest::qWait(200);
         }
@@ -498,7 +494,7 @@ private slots:
             opened = dialog != nullptr;
             if (!dialog)
                 return;
-            dialog->findChild<QPushButton *>(QStringLiteral("btnOK"))->click();
+            dialog->findChild<QPushButton *>("btnOK")->click();
             dialog->reject();
         });
         QTest::mouseClick(child<QPushButton>("btn_set"), Qt::LeftButton);
@@ -518,11 +514,10 @@ private slots:
         similar->setHasSimilar(true);
         similar->setSimilarityValue(0);
         DialogAnswerer boxes;
-        QVERIFY(m_window->addFolder(m_tree.filePath(QStringLiteral("a"))));
+        QVERIFY(m_window->addFolder(m_tree.filePath("a")));
         QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
         *similar = saved;
-        QCOMPARE(boxes.texts,
-            QStringList {QStringLiteral("The similarity threshold 0% is outside 1% to 100%.")});
+        QCOMPARE(boxes.texts, QStringList {"The similarity threshold 0% is outside 1% to 100%."});
         QCOMPARE(m_window->state(), int(MainWindow::StateReady));
         QCOMPARE(TControlUI::instance()->runState(), int(TControlUI::Stopped));
     }

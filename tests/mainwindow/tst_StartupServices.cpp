@@ -53,11 +53,11 @@ private slots:
         QFETCH(qint64, available);
         QFETCH(int, used);
         QTemporaryDir dir;
-        const QString cpuPath = dir.filePath(QStringLiteral("cpuinfo"));
-        const QString memPath = dir.filePath(QStringLiteral("meminfo"));
+        const QString cpuPath = dir.filePath("cpuinfo");
+        const QString memPath = dir.filePath("meminfo");
         if (!cpuinfo.isEmpty()) {
-            ScanTree::write(dir.path(), QStringLiteral("cpuinfo"), cpuinfo);
-            ScanTree::write(dir.path(), QStringLiteral("meminfo"), meminfo);
+            ScanTree::write(dir.path(), "cpuinfo", cpuinfo);
+            ScanTree::write(dir.path(), "meminfo", meminfo);
         }
         const QString name = EnvironmentLog::cpuName(cpuPath);
         // Without a readable file the architecture stands in for the name.
@@ -80,7 +80,7 @@ private slots:
         QFETCH(int, status);
         QFETCH(bool, accepted);
         HttpReceiver server(status);
-        DailyRunReport report(QStringLiteral("G-ABCDEFGHIJ"), QStringLiteral("secret"));
+        DailyRunReport report("G-ABCDEFGHIJ", "secret");
         report.setEndpoint(QStringLiteral("http://127.0.0.1:%1/mp/collect").arg(server.port()));
         QSignalSpy finished(&report, &DailyRunReport::finished);
         const QDate day(2026, 3, 14);
@@ -94,20 +94,17 @@ private slots:
             "POST /mp/collect?measurement_id=G-ABCDEFGHIJ&api_secret=secret"));
         QVERIFY(request.head.toLower().contains("content-type: application/json"));
         const QJsonObject body = QJsonDocument::fromJson(request.body).object();
-        const QString client = body.value(QStringLiteral("client_id")).toString();
+        const QString client = body.value("client_id").toString();
         QCOMPARE(client.size(), 36);
         QVERIFY(!client.contains(QLatin1Char('{')));
-        const QJsonObject event = body.value(QStringLiteral("events")).toArray().at(0).toObject();
-        QCOMPARE(event.value(QStringLiteral("name")).toString(), "run_success");
-        QCOMPARE(event.value(QStringLiteral("params"))
-                     .toObject()
-                     .value(QStringLiteral("installer_version"))
-                     .toString(),
+        const QJsonObject event = body.value("events").toArray().at(0).toObject();
+        QCOMPARE(event.value("name").toString(), "run_success");
+        QCOMPARE(event.value("params").toObject().value("installer_version").toString(),
             AppIdentity::version);
 
         QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
-        QCOMPARE(settings.value(QStringLiteral("ClientID")).toString(), client);
-        QCOMPARE(settings.value(QStringLiteral("LastRunSuccessDate")).toString(),
+        QCOMPARE(settings.value("ClientID").toString(), client);
+        QCOMPARE(settings.value("LastRunSuccessDate").toString(),
             accepted ? QStringLiteral("2026-03-14") : QString());
         if (accepted) {
             // Same day: nothing goes out.
@@ -118,11 +115,11 @@ private slots:
 
     void reportNeedsConfiguration()
     {
-        DailyRunReport report(QString(), QStringLiteral("secret"));
+        DailyRunReport report(QString(), "secret");
         QVERIFY(!report.isConfigured());
         QVERIFY(!report.sendIfDue());
         QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
-        QVERIFY(settings.value(QStringLiteral("ClientID")).toString().isEmpty());
+        QVERIFY(settings.value("ClientID").toString().isEmpty());
     }
 };
 

@@ -121,16 +121,15 @@ private slots:
         const QString path = m_dir.filePath("map.cfg");
         {
             DFPreferences store(path);
-            store.selectionPreferences()->setMapPriority(
-                {{QStringLiteral("D:/a"), 2}, {QStringLiteral("D:/b"), 1}});
+            store.selectionPreferences()->setMapPriority({{"D:/a", 2}, {"D:/b", 1}});
             store.save();
         }
         const QString text = QString::fromUtf8(ScanTree::read(path));
-        QVERIFY2(text.contains(QStringLiteral("\n[map]\n1=D:/b\n2=D:/a\n")), qPrintable(text));
-        QVERIFY(!text.contains(QStringLiteral("mapPriority")));
+        QVERIFY2(text.contains("\n[map]\n1=D:/b\n2=D:/a\n"), qPrintable(text));
+        QVERIFY(!text.contains("mapPriority"));
         {
             DFPreferences store(path);
-            const PriorityMap expected {{QStringLiteral("D:/a"), 2}, {QStringLiteral("D:/b"), 1}};
+            const PriorityMap expected {{"D:/a", 2}, {"D:/b", 1}};
             QCOMPARE(store.selectionPreferences()->mapPriority(), expected);
             store.selectionPreferences()->setMapPriority({});
             store.save();
@@ -179,7 +178,7 @@ private slots:
         loadRow("aspect limit clamped", "[Similar_images]\nimageMinSize=0\n", "similar",
             "imageMinSize", 1);
         loadRow("folder with an unquoted comma", "[Common]\nTrashFolder=/home/me/a, b\n", "common",
-            "TrashFolder", QStringLiteral("/home/me/a, b"));
+            "TrashFolder", "/home/me/a, b");
         loadRow(
             "bool false", "[Common]\nHideSystemFile=false\n", "common", "HideSystemFile", false);
         loadRow("deletion marker", "[Common]\ndeleteException=1\n", "common", "deleteException", 1);

@@ -78,15 +78,13 @@ private slots:
 
         DialogAnswerer answers({QMessageBox::Yes});
         answers.closeOtherDialogs = true;
-        MainWindow window({QStringLiteral("program")});
+        MainWindow window({"program"});
         window.show();
         window.addFolder(m_tree.path());
         QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
-        QTest::mouseClick(
-            window.findChild<QPushButton *>(QStringLiteral("btn_scan")), Qt::LeftButton);
+        QTest::mouseClick(window.findChild<QPushButton *>("btn_scan"), Qt::LeftButton);
         QVERIFY(done.wait(60000));
-        QTest::mouseClick(
-            window.findChild<QPushButton *>(QStringLiteral("btn_scan")), Qt::LeftButton);
+        QTest::mouseClick(window.findChild<QPushButton *>("btn_scan"), Qt::LeftButton);
         ResultForm *page = window.resultPage();
         QVERIFY(page);
         QTRY_VERIFY(page->isDataLoaded());
@@ -94,12 +92,8 @@ private slots:
 
         // Categories: one group each of pictures, documents and music; none of videos.
         QCOMPARE(page->groupModel()->rowCount(), 3);
-        QVERIFY(child<QPushButton>(page, "btn_image")
-                    ->text()
-                    .startsWith(QStringLiteral("Images  1 · ")));
-        QVERIFY(child<QPushButton>(page, "btn_document")
-                    ->text()
-                    .startsWith(QStringLiteral("Documents  1 · ")));
+        QVERIFY(child<QPushButton>(page, "btn_image")->text().startsWith("Images  1 · "));
+        QVERIFY(child<QPushButton>(page, "btn_document")->text().startsWith("Documents  1 · "));
         QVERIFY(child<QPushButton>(page, "btn_music")->isVisibleTo(page));
         QVERIFY(!child<QPushButton>(page, "btn_videos")->isVisibleTo(page));
         QTest::mouseClick(child<QPushButton>(page, "btn_image"), Qt::LeftButton);
@@ -108,7 +102,7 @@ private slots:
         QTest::mouseClick(child<QPushButton>(page, "btn_all"), Qt::LeftButton);
 
         // Select by Filename keeps the plain names; then the song group is kept whole by hand.
-        action(page->selectionMenu(), QStringLiteral("Select by Filename"))->trigger();
+        action(page->selectionMenu(), "Select by Filename")->trigger();
         QTRY_COMPARE(page->totals().count, 4);
         const TFileData::Groups selected = TFileData::instance()->selected();
         QVERIFY(std::any_of(selected.cbegin(), selected.cend(), [&](const QStringList &paths) {
@@ -127,16 +121,15 @@ private slots:
         page->deleteMenu()->actions().first()->trigger();
         QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
         QCOMPARE(page->lastRemoval().size(), 3);
-        QVERIFY(answers.texts.first().contains(QStringLiteral("Recycle Bin")));
-        QTRY_VERIFY(answers.dialogs.contains(QStringLiteral("RemovalSummaryDialog")));
+        QVERIFY(answers.texts.first().contains("Recycle Bin"));
+        QTRY_VERIFY(answers.dialogs.contains("RemovalSummaryDialog"));
 
         for (const QString &kept : {keptPhoto, keptDoc, song, songCopy})
             QVERIFY2(QFileInfo::exists(kept), qPrintable(kept));
         for (const QString &gone : {copyPhoto, thirdPhoto, copyDoc})
             QVERIFY2(!QFileInfo::exists(gone), qPrintable(gone));
-        QCOMPARE(trashedNames(),
-            QStringList({QStringLiteral("beach (1).jpg"), QStringLiteral("copy of beach.jpg"),
-                QStringLiteral("report (2).txt")}));
+        QCOMPARE(
+            trashedNames(), QStringList({"beach (1).jpg", "copy of beach.jpg", "report (2).txt"}));
         QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
 
         // Groups left with one member are gone; totals and chart describe the song group alone.
@@ -173,7 +166,7 @@ private slots:
         QFETCH(QString, step);
         QFETCH(QString, title);
         QFETCH(QString, text);
-        const QString key = writeGroup(QStringLiteral("same.bin"), 2, ScanTree::pattern(3000, 'x'));
+        const QString key = writeGroup("same.bin", 2, ScanTree::pattern(3000, 'x'));
         if (step != QLatin1String("delete"))
             TFileData::instance()->setSelected(key, {TFileData::instance()->group(key).last()});
         // Loading is caught before it ends: the page is used at once.
@@ -205,15 +198,14 @@ private slots:
 
     void searchFiltersAndSlider()
     {
-        writeGroup(QStringLiteral("holiday.jpg"), 3, jpeg(3));
-        writeGroup(QStringLiteral("notes.txt"), 2, ScanTree::pattern(500, 'n'));
-        const QString key
-            = writeGroup(QStringLiteral("holiday-notes.txt"), 2, ScanTree::pattern(700, 'h'));
+        writeGroup("holiday.jpg", 3, jpeg(3));
+        writeGroup("notes.txt", 2, ScanTree::pattern(500, 'n'));
+        const QString key = writeGroup("holiday-notes.txt", 2, ScanTree::pattern(700, 'h'));
         TFileData::instance()->setSelected(key, {TFileData::instance()->group(key).last()});
         ResultForm *page = openPage();
 
         auto *search = child<QLineEdit>(page, "lineEdit");
-        QTest::keyClicks(search, QStringLiteral("HOLIDAY"));
+        QTest::keyClicks(search, "HOLIDAY");
         QCOMPARE(page->groupModel()->rowCount(), 2);
         // A category narrows the search further.
         QTest::mouseClick(child<QPushButton>(page, "btn_document"), Qt::LeftButton);
@@ -224,11 +216,11 @@ private slots:
 
         // The open group is holiday-notes.txt: only its selected copy is left to show.
         QTRY_COMPARE(page->itemModel()->rowCount(), 2);
-        action(page->filterMenu(), QStringLiteral("Show Only Selected Files"))->trigger();
+        action(page->filterMenu(), "Show Only Selected Files")->trigger();
         QCOMPARE(page->itemModel()->rowCount(), 1);
         QVERIFY(page->itemModel()->displayedItems().first().checked);
-        QVERIFY(!action(page->filterMenu(), QStringLiteral("Show All Files"))->isChecked());
-        action(page->filterMenu(), QStringLiteral("Show All Files"))->trigger();
+        QVERIFY(!action(page->filterMenu(), "Show All Files")->isChecked());
+        action(page->filterMenu(), "Show All Files")->trigger();
         QCOMPARE(page->itemModel()->rowCount(), 2);
 
         // The slider cannot go below the threshold the scan used.
@@ -241,10 +233,8 @@ private slots:
 
     void hideAndIgnore()
     {
-        const QString hidden
-            = writeGroup(QStringLiteral("three.bin"), 3, ScanTree::pattern(900, 't'));
-        const QString ignored
-            = writeGroup(QStringLiteral("two.bin"), 2, ScanTree::pattern(600, 'w'));
+        const QString hidden = writeGroup("three.bin", 3, ScanTree::pattern(900, 't'));
+        const QString ignored = writeGroup("two.bin", 2, ScanTree::pattern(600, 'w'));
         const QStringList members = TFileData::instance()->group(ignored);
         ResultForm *page = openPage();
         openGroup(page, [&](const GroupItem &group) { return group.key == hidden; });
@@ -270,7 +260,7 @@ private slots:
 
     void everyCopyAsksAgain()
     {
-        const QString key = writeGroup(QStringLiteral("only.bin"), 2, ScanTree::pattern(800, 'o'));
+        const QString key = writeGroup("only.bin", 2, ScanTree::pattern(800, 'o'));
         const QStringList members = TFileData::instance()->group(key);
         TFileData::instance()->setSelected(key, members);
         ResultForm *page = openPage();
@@ -279,7 +269,7 @@ private slots:
         answers.closeOtherDialogs = true;
         page->on_btn_delete_clicked();
         QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
-        QVERIFY(answers.texts.at(1).contains(QStringLiteral("every copy")));
+        QVERIFY(answers.texts.at(1).contains("every copy"));
         QCOMPARE(answers.defaults.at(1), QMessageBox::No);
         // The first copy stayed; the other went.
         QVERIFY(QFileInfo::exists(members.first()));
@@ -293,8 +283,8 @@ private slots:
         const QString a = file("p/sunset.jpg", picture);
         const QString b = file("q/sunset-edit.jpg", jpeg(6));
         const QString key = TFileData::groupKey(a) + kSimilarTag;
-        TFileData::instance()->insertGroup(key,
-            {a + kSimilarTag + QStringLiteral("_100"), b + kSimilarTag + QStringLiteral("_92")});
+        TFileData::instance()->insertGroup(
+            key, {a + kSimilarTag + "_100", b + kSimilarTag + "_92"});
         ResultForm *page = openPage();
         const GroupItem group = page->groupModel()->displayedGroups().first();
         QCOMPARE(group.name, "sunset.jpg");
@@ -346,7 +336,7 @@ private:
         const QList<GroupItem> groups = page->groupModel()->displayedGroups();
         for (int row = 0; row < groups.size(); ++row)
             if (current(groups.at(row)))
-                page->findChild<QListView *>(QStringLiteral("listView_groups"))
+                page->findChild<QListView *>("listView_groups")
                     ->setCurrentIndex(page->groupModel()->index(row, 0));
     }
     template<typename T>
@@ -361,8 +351,7 @@ private:
     static QStringList trashedNames()
     {
         QStringList names;
-        QDirIterator it(
-            qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Trash/files"), QDir::Files);
+        QDirIterator it(qEnvironmentVariable("XDG_DATA_HOME") + "/Trash/files", QDir::Files);
         while (it.hasNext())
             names << QFileInfo(it.next()).fileName();
         names.sort();

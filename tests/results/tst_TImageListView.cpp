@@ -33,8 +33,7 @@ private slots:
         m_model = new TImageModel(TImageModel::IconView, 2000);
         m_view = new TImageListView;
         m_view->resize(800, 600);
-        show({item(QStringLiteral("a.png")), item(QStringLiteral("b.jpg"), 93),
-            item(QStringLiteral("c.png"), 88)});
+        show({item("a.png"), item("b.jpg", 93), item("c.png", 88)});
     }
 
     void cleanup()
@@ -162,7 +161,7 @@ private slots:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("resolution");
-        const QString unreadable = QStringLiteral("This picture cannot be shown.");
+        const QString unreadable = "This picture cannot be shown.";
         QTest::newRow("corrupt jpeg")
             << QString("broken.jpg") << QByteArray("\xff\xd8\xff\xe0 not a picture at all")
             << unreadable << QString("—");
@@ -178,7 +177,7 @@ private slots:
         QFETCH(QString, message);
         QFETCH(QString, resolution);
         QVERIFY(!ScanTree::write(m_dir->path(), name, content).isEmpty());
-        show({item(name), item(QStringLiteral("a.png"))});
+        show({item(name), item("a.png")});
         m_view->openPreview(m_model->index(0, 0));
         PicturePreviewPane *pane = m_view->preview()->chosenPane();
         QTRY_VERIFY(!pane->isLoading());
@@ -203,7 +202,7 @@ private slots:
         QFETCH(int, side);
         QList<ImageItem> items;
         for (int i = 0; i < 40; ++i)
-            items << item(QStringLiteral("a.png"));
+            items << item("a.png");
         show(items);
         m_view->setThumbnailSize(side);
         m_view->resize(width, 600);
@@ -284,7 +283,7 @@ private:
     ImageItem item(const QString &name, int similarity = 0) const
     {
         ImageItem item;
-        item.key = QStringLiteral("G");
+        item.key = "G";
         item.path = m_dir->filePath(name);
         item.size = QFileInfo(item.path).size();
         item.type = name.endsWith(QLatin1String(".txt")) ? 2 : 1;
@@ -298,7 +297,7 @@ private:
         for (int y = 0; y < noise.height(); ++y)
             QRandomGenerator::global()->fillRange(
                 reinterpret_cast<quint32 *>(noise.scanLine(y)), noise.width());
-        const QString picture = m_dir->filePath(QStringLiteral("noise.png"));
+        const QString picture = m_dir->filePath("noise.png");
         QList<ImageItem> items;
         if (!noise.save(picture, "PNG", 50))
             return items;

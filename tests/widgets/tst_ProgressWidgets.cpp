@@ -110,7 +110,7 @@ private slots:
     void dialogEndPaths()
     {
         QFETCH(int, path);
-        CustomProgressDialog dialog(QStringLiteral("Working"));
+        CustomProgressDialog dialog("Working");
         QSignalSpy canceled(&dialog, &CustomProgressDialog::canceled);
         dialog.show();
         dialog.setProgress(3, 4);
@@ -126,8 +126,7 @@ private slots:
         for (int i = 0; i < 2; ++i) {
             if (path == 0)
                 QTest::mouseClick(
-                    dialog.findChild<QPushButton *>(QStringLiteral("btn_progressCancel")),
-                    Qt::LeftButton);
+                    dialog.findChild<QPushButton *>("btn_progressCancel"), Qt::LeftButton);
             else if (path == 1)
                 QTest::keyClick(&dialog, Qt::Key_Escape);
             else
