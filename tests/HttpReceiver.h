@@ -4,8 +4,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-// A minimal HTTP receiver on 127.0.0.1 that records every request and answers each
-// with a fixed status: the crash reports' and the daily run report's far end.
+// A minimal HTTP receiver on 127.0.0.1 that records every request and gives each the
+// same answer: the crash reports', the daily run report's and the rclone client's far end.
 class HttpReceiver : public QObject
 {
 public:
@@ -15,7 +15,11 @@ public:
         QByteArray body;
     };
 
-    explicit HttpReceiver(int status = 200) : m_status(status)
+    // 204 carries no body.
+    explicit HttpReceiver(int status = 200)
+        : HttpReceiver(answer(status, status == 204 ? QByteArray() : QByteArray("{}")))
+    { }
+    explicit HttpReceiver(QByteArray response) : m_response(std::move(response))
     {
         m_server.listen(QHostAddress::LocalHost);
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
@@ -26,6 +30,17 @@ public:
 
     quint16 port() const { return m_server.serverPort(); }
     QList<Request> requests;
+
+    // A JSON answer; without its length, the body is known to end only when the
+    // connection closes.
+    static QByteArray answer(int status, const QByteArray &body, bool withLength = true)
+    {
+        QByteArray head
+            = "HTTP/1.1 " + QByteArray::number(status) + " X\r\nContent-Type: application/json\r\n";
+        if (withLength)
+            head += "Content-Length: " + QByteArray::number(body.size()) + "\r\n";
+        return head + "Connection: close\r\n\r\n" + body;
+    }
 
 private:
     void read(QTcpSocket *socket)
@@ -45,14 +60,11 @@ private:
             return;
         requests.append({head, buffer.mid(end + 4, length)});
         m_buffers.remove(socket);
-        // 204 carries no body.
-        const QByteArray body = m_status == 204 ? QByteArray() : QByteArray("{}");
-        socket->write("HTTP/1.1 " + QByteArray::number(m_status) + " X\r\nContent-Length: "
-            + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body);
+        socket->write(m_response);
         socket->disconnectFromHost();
     }
 
     QTcpServer m_server;
     QHash<QTcpSocket *, QByteArray> m_buffers;
-    int m_status;
+    QByteArray m_response;
 };

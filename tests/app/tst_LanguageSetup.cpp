@@ -36,10 +36,8 @@ private slots:
     {
         LanguageSetup::setupLanguage(5);
         QVERIFY(!LanguageSetup::qtTranslator().isEmpty());
-        QCOMPARE(LanguageSetup::qtTranslator().translate("QPlatformTheme", "Cancel"),
-            QStringLiteral("Abbrechen"));
-        QCOMPARE(LanguageSetup::current().noSelectionBackground,
-            QStringLiteral("noSelection_bg_de.png"));
+        QCOMPARE(LanguageSetup::qtTranslator().translate("QPlatformTheme", "Cancel"), "Abbrechen");
+        QCOMPARE(LanguageSetup::current().noSelectionBackground, "noSelection_bg_de.png");
     }
 };
 

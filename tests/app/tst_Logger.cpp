@@ -69,10 +69,8 @@ private slots:
         std::iota(senders.begin(), senders.end(), 0);
         QtConcurrent::blockingMap(senders, [](int sender) {
             for (int i = 0; i < 200; ++i)
-                splog_d(QStringLiteral("[Thread]: sender %1 line %2 %3")
-                            .arg(sender)
-                            .arg(i)
-                            .arg(QString(40, 'x')));
+                splog_d(QString::asprintf(
+                    "[Thread]: sender %d line %d %s", sender, i, QByteArray(40, 'x').constData()));
         });
         const QStringList lines = logLines().mid(before);
         QCOMPARE(lines.size(), 1600);

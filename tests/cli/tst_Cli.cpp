@@ -18,275 +18,266 @@
 // The scans' key cache goes to a temporary data folder, never the user's.
 static TestEnvironment environment;
 
-class TestCli : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void badArguments_data();
-    void badArguments();
-    void oddNamesRoundTrip();
-    void unreadableCounted();
-    void jsonReport_data();
-    void jsonReport();
-    void cacheKeepsGroups_data();
-    void cacheKeepsGroups();
-
-private:
-    QTemporaryDir m_dir;
-    QString m_root;
-};
-
-void TestCli::initTestCase()
-{
-    m_root = m_dir.path();
-    const QByteArray big = ScanTree::pattern(30000, 1);
-    QByteArray trap = big;
-    trap[20000] = char(trap[20000] ^ 1); // outside the three sampled blocks
-    ScanTree::write(m_root, "A/x.bin", big);
-    ScanTree::write(m_root, "A/y.txt", "same text");
-    ScanTree::write(m_root, "B/x.bin", big);
-    ScanTree::write(m_root, "B/y.txt", "same text");
-    ScanTree::write(m_root, "C/trap.bin", trap);
-    ScanTree::write(m_root, "C/.hidden.txt", "same text");
-}
-
 // Every command refuses what it cannot use, names the fault and writes nothing to stdout.
 static void badRow(const char *tag, const QStringList &arguments, int exitCode, const char *message)
 {
     QTest::newRow(tag) << arguments << exitCode << QByteArray(message);
 }
 
-void TestCli::badArguments_data()
+class TestCli : public QObject
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QByteArray>("message");
-    badRow("no command", {}, 1, "no command");
-    badRow("unknown command", {"find", "."}, 1, "unknown");
-    badRow("no folder", {"scan", "--json"}, 1, "no folder");
-    badRow("unknown method", {"scan", "--method", "fast", "."}, 1, "unknown method");
-    badRow("unknown selection", {"scan", "--select", "best", "."}, 1, "selection rule");
-    badRow("negative size", {"scan", "--min-size", "-1", "."}, 1, "zero or more");
-    badRow("infinite size", {"scan", "--max-size", "inf", "."}, 1, "zero or more");
-    badRow("size not a number", {"scan", "--min-size", "nan", "."}, 1, "zero or more");
-    badRow("maximum overflows bytes", {"scan", "--max-size", "1e13", "."}, 1,
-        "--max-size needs a number from 1");
-    badRow("maximum below one megabyte", {"scan", "--max-size", "0.5", "."}, 1,
-        "to 100000 (MiB), not 0.5");
-    badRow("minimum overflows bytes", {"scan", "--min-size", "1e16", "."}, 1,
-        "--min-size needs a number from 0");
-    badRow("minimum above maximum", {"scan", "--min-size", "2048", "--max-size", "1", "."}, 1,
-        "is not below --max-size");
-    badRow("minimum equal to maximum", {"scan", "--min-size", "1024", "--max-size", "1", "."}, 1,
-        "is not below --max-size");
-    badRow("missing value", {"scan", ".", "--max-size"}, 1, "needs a value");
-    badRow("unknown option", {"scan", "--fast", "."}, 1, "unknown option");
-    // The similar-picture options; a pass mark of 0 would link every pair of pictures.
-    badRow("threshold 0", {"scan", ".", "--threshold", "0"}, 1, "--threshold needs a percent");
-    badRow("threshold above 100", {"scan", ".", "--threshold", "101"}, 1, "not \"101\"");
-    badRow("threshold inline", {"scan", ".", "--threshold=150"}, 1, "not \"150\"");
-    badRow("threshold without value", {"scan", ".", "--threshold"}, 1, "--threshold needs a value");
-    badRow("features beyond the re-check's range", {"scan", ".", "--features", "100"}, 1,
-        "--features needs a percent");
-    badRow("features not a number", {"scan", ".", "--features", "nan"}, 1, "not \"nan\"");
-    badRow("unknown algorithm", {"scan", ".", "--algorithm", "orb"}, 1, "unknown algorithm");
-    badRow("algorithm in capitals", {"scan", ".", "--algorithm", "PHASH"}, 1, "unknown algorithm");
-    badRow("switch given a value", {"scan", ".", "--any-type=yes"}, 1, "unknown option");
-    badRow("folder does not exist", {"scan", "/no/such/folder"}, 2, "no such folder");
-    badRow("file given as a folder", {"scan", VELTRINE_CLI_PATH}, 2, "is a file, not a folder");
-    badRow("report without project", {"report"}, 1, "no project");
-    badRow(
-        "report of a missing project", {"report", "/no/such.dupproj"}, 3, "no such project file");
-    badRow("report of a folder", {"report", QDir::tempPath()}, 3, "is a folder");
-    badRow("report of a file that is no project", {"report", VELTRINE_CLI_PATH}, 3,
-        "could not be read");
-    badRow("remove: no method", {"remove", "p.dupproj"}, 1, "--method");
-    badRow("remove: unknown method", {"remove", "p.dupproj", "--method", "shred"}, 1, "shred");
-    badRow("remove: move without a folder", {"remove", "p.dupproj", "--method", "move"}, 1, "--to");
-    badRow("remove: folder without move",
-        {"remove", "p.dupproj", "--method", "trash", "--to", "/tmp"}, 1, "--to goes with");
-    badRow("remove: project missing", {"remove", "/no/such.dupproj", "--method", "trash"}, 3,
-        "no such project");
-    badRow("help", {"--help"}, 0, "");
-}
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        m_root = m_dir.path();
+        const QByteArray big = ScanTree::pattern(30000, 1);
+        QByteArray trap = big;
+        trap[20000] = char(trap[20000] ^ 1); // outside the three sampled blocks
+        ScanTree::write(m_root, "A/x.bin", big);
+        ScanTree::write(m_root, "A/y.txt", "same text");
+        ScanTree::write(m_root, "B/x.bin", big);
+        ScanTree::write(m_root, "B/y.txt", "same text");
+        ScanTree::write(m_root, "C/trap.bin", trap);
+        ScanTree::write(m_root, "C/.hidden.txt", "same text");
+    }
 
-void TestCli::badArguments()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, exitCode);
-    QFETCH(QByteArray, message);
-    const CliRun run = runCli(arguments);
-    QCOMPARE(run.exitCode, exitCode);
-    QVERIFY2(run.err.contains(message), run.err.constData());
-    if (exitCode == 1)
-        QVERIFY(run.err.contains("usage: veltrine-duplicate-finder-cli scan"));
-    if (exitCode != 0)
-        QVERIFY(run.out.isEmpty());
-}
+    void badArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QByteArray>("message");
+        badRow("no command", {}, 1, "no command");
+        badRow("unknown command", {"find", "."}, 1, "unknown");
+        badRow("no folder", {"scan", "--json"}, 1, "no folder");
+        badRow("unknown method", {"scan", "--method", "fast", "."}, 1, "unknown method");
+        badRow("unknown selection", {"scan", "--select", "best", "."}, 1, "selection rule");
+        badRow("negative size", {"scan", "--min-size", "-1", "."}, 1, "zero or more");
+        badRow("infinite size", {"scan", "--max-size", "inf", "."}, 1, "zero or more");
+        badRow("size not a number", {"scan", "--min-size", "nan", "."}, 1, "zero or more");
+        badRow("maximum overflows bytes", {"scan", "--max-size", "1e13", "."}, 1,
+            "--max-size needs a number from 1");
+        badRow("maximum below one megabyte", {"scan", "--max-size", "0.5", "."}, 1,
+            "to 100000 (MiB), not 0.5");
+        badRow("minimum overflows bytes", {"scan", "--min-size", "1e16", "."}, 1,
+            "--min-size needs a number from 0");
+        badRow("minimum above maximum", {"scan", "--min-size", "2048", "--max-size", "1", "."}, 1,
+            "is not below --max-size");
+        badRow("minimum equal to maximum", {"scan", "--min-size", "1024", "--max-size", "1", "."},
+            1, "is not below --max-size");
+        badRow("missing value", {"scan", ".", "--max-size"}, 1, "needs a value");
+        badRow("unknown option", {"scan", "--fast", "."}, 1, "unknown option");
+        // The similar-picture options; a pass mark of 0 would link every pair of pictures.
+        badRow("threshold 0", {"scan", ".", "--threshold", "0"}, 1, "--threshold needs a percent");
+        badRow("threshold above 100", {"scan", ".", "--threshold", "101"}, 1, "not \"101\"");
+        badRow("threshold inline", {"scan", ".", "--threshold=150"}, 1, "not \"150\"");
+        badRow("threshold without value", {"scan", ".", "--threshold"}, 1,
+            "--threshold needs a value");
+        badRow("features beyond the re-check's range", {"scan", ".", "--features", "100"}, 1,
+            "--features needs a percent");
+        badRow("features not a number", {"scan", ".", "--features", "nan"}, 1, "not \"nan\"");
+        badRow("unknown algorithm", {"scan", ".", "--algorithm", "orb"}, 1, "unknown algorithm");
+        badRow(
+            "algorithm in capitals", {"scan", ".", "--algorithm", "PHASH"}, 1, "unknown algorithm");
+        badRow("switch given a value", {"scan", ".", "--any-type=yes"}, 1, "unknown option");
+        badRow("folder does not exist", {"scan", "/no/such/folder"}, 2, "no such folder");
+        badRow("file given as a folder", {"scan", VELTRINE_CLI_PATH}, 2, "is a file, not a folder");
+        badRow("report without project", {"report"}, 1, "no project");
+        badRow("report of a missing project", {"report", "/no/such.dupproj"}, 3,
+            "no such project file");
+        badRow("report of a folder", {"report", QDir::tempPath()}, 3, "is a folder");
+        badRow("report of a file that is no project", {"report", VELTRINE_CLI_PATH}, 3,
+            "could not be read");
+        badRow("remove: no method", {"remove", "p.dupproj"}, 1, "--method");
+        badRow("remove: unknown method", {"remove", "p.dupproj", "--method", "shred"}, 1, "shred");
+        badRow("remove: move without a folder", {"remove", "p.dupproj", "--method", "move"}, 1,
+            "--to");
+        badRow("remove: folder without move",
+            {"remove", "p.dupproj", "--method", "trash", "--to", "/tmp"}, 1, "--to goes with");
+        badRow("remove: project missing", {"remove", "/no/such.dupproj", "--method", "trash"}, 3,
+            "no such project");
+        badRow("help", {"--help"}, 0, "");
+    }
+    void badArguments()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QByteArray, message);
+        const CliRun run = runCli(arguments);
+        QCOMPARE(run.exitCode, exitCode);
+        QVERIFY2(run.err.contains(message), run.err.constData());
+        if (exitCode == 1)
+            QVERIFY(run.err.contains("usage: veltrine-duplicate-finder-cli scan"));
+        if (exitCode != 0)
+            QVERIFY(run.out.isEmpty());
+    }
 
-void TestCli::oddNamesRoundTrip()
-{
-    // Names a scan can meet that are no plain text: a line feed, a carriage return, a tab,
-    // a terminal escape, bytes that are not UTF-8, a percent sign and a backslash.
-    const QList<QByteArray> names {"line\nfeed", "carriage\rreturn", "tab\there", "esc\x1b[31mred",
-        "bad\xff\xfe", "100%25", "back\\slash"};
-    QTemporaryDir dir;
-    const QByteArray base = QFile::encodeName(dir.path());
-    for (const char *folder : {"/one", "/two"}) {
-        QVERIFY(::mkdir((base + folder).constData(), 0755) == 0);
-        for (const QByteArray &name : names) {
-            const int fd
-                = ::open((base + folder + "/" + name).constData(), O_CREAT | O_WRONLY, 0644);
-            QVERIFY(fd >= 0);
-            QCOMPARE(::write(fd, name.constData(), size_t(name.size())), ssize_t(name.size()));
-            ::close(fd);
+    void oddNamesRoundTrip()
+    {
+        // Names a scan can meet that are no plain text: a line feed, a carriage return, a tab,
+        // a terminal escape, bytes that are not UTF-8, a percent sign and a backslash.
+        const QList<QByteArray> names {"line\nfeed", "carriage\rreturn", "tab\there",
+            "esc\x1b[31mred", "bad\xff\xfe", "100%25", "back\\slash"};
+        QTemporaryDir dir;
+        const QByteArray base = QFile::encodeName(dir.path());
+        for (const char *folder : {"/one", "/two"}) {
+            QVERIFY(::mkdir((base + folder).constData(), 0755) == 0);
+            for (const QByteArray &name : names) {
+                const int fd
+                    = ::open((base + folder + "/" + name).constData(), O_CREAT | O_WRONLY, 0644);
+                QVERIFY(fd >= 0);
+                QCOMPARE(::write(fd, name.constData(), size_t(name.size())), ssize_t(name.size()));
+                ::close(fd);
+            }
         }
+        const QString project = dir.path() + "/odd.dupproj";
+        const CliRun scan = runCli({"scan", "--json", "--save", project, dir.path()});
+        QCOMPARE(scan.exitCode, 0);
+        QCOMPARE(QJsonDocument::fromJson(scan.out).object().value("groups").toArray().size(),
+            names.size());
+        // The bytes that are not UTF-8 travel as lone surrogates, the controls as escapes.
+        QVERIFY(scan.out.contains("bad\\udcff\\udcfe"));
+        QVERIFY(scan.out.contains("line\\u000afeed"));
+        QVERIFY(scan.out.contains("esc\\u001b[31mred"));
+
+        // The saved project gives back every name exactly.
+        const CliRun report = runCli({"report", "--json", project});
+        QCOMPARE(report.exitCode, 0);
+        const auto groupsPart
+            = [](const QByteArray &json) { return json.mid(json.indexOf("\"groups\"")); };
+        QCOMPARE(groupsPart(report.out), groupsPart(scan.out));
+
+        // The text report keeps one record per line and sends no control character.
+        const CliRun text = runCli({"report", project});
+        QCOMPARE(text.exitCode, 0);
+        QCOMPARE(text.out.count('\n'), qsizetype(names.size() * 3));
+        for (char c = 1; c < 0x20; ++c)
+            if (c != '\n' && c != '\t')
+                QVERIFY(!text.out.contains(c));
+        for (const char *escaped : {"line\\nfeed", "carriage\\rreturn", "tab\\there",
+                 "esc\\x1b[31mred", "bad\\xff\\xfe", "back\\\\slash"})
+            QVERIFY2(text.out.contains(escaped), escaped);
     }
-    const QString project = dir.path() + "/odd.dupproj";
-    const CliRun scan = runCli({"scan", "--json", "--save", project, dir.path()});
-    QCOMPARE(scan.exitCode, 0);
-    QCOMPARE(
-        QJsonDocument::fromJson(scan.out).object().value("groups").toArray().size(), names.size());
-    // The bytes that are not UTF-8 travel as lone surrogates, the controls as escapes.
-    QVERIFY(scan.out.contains("bad\\udcff\\udcfe"));
-    QVERIFY(scan.out.contains("line\\u000afeed"));
-    QVERIFY(scan.out.contains("esc\\u001b[31mred"));
 
-    // The saved project gives back every name exactly.
-    const CliRun report = runCli({"report", "--json", project});
-    QCOMPARE(report.exitCode, 0);
-    const auto groupsPart
-        = [](const QByteArray &json) { return json.mid(json.indexOf("\"groups\"")); };
-    QCOMPARE(groupsPart(report.out), groupsPart(scan.out));
-
-    // The text report keeps one record per line and sends no control character.
-    const CliRun text = runCli({"report", project});
-    QCOMPARE(text.exitCode, 0);
-    QCOMPARE(text.out.count('\n'), qsizetype(names.size() * 3));
-    for (char c = 1; c < 0x20; ++c)
-        if (c != '\n' && c != '\t')
-            QVERIFY(!text.out.contains(c));
-    for (const char *escaped : {"line\\nfeed", "carriage\\rreturn", "tab\\there", "esc\\x1b[31mred",
-             "bad\\xff\\xfe", "back\\\\slash"})
-        QVERIFY2(text.out.contains(escaped), escaped);
-}
-
-void TestCli::unreadableCounted()
-{
-    if (::geteuid() == 0)
-        QSKIP("permission bits do not stop the superuser (the unprivileged run covers it)");
-    QTemporaryDir dir;
-    ScanTree::write(dir.path(), "open/a.txt", "same");
-    ScanTree::write(dir.path(), "open/b.txt", "same");
-    ScanTree::write(dir.path(), "open/locked.txt", "same");
-    ScanTree::write(dir.path(), "shut/c.txt", "same");
-    QFile::setPermissions(dir.path() + "/open/locked.txt", QFileDevice::WriteOwner);
-    QFile::setPermissions(dir.path() + "/shut", QFileDevice::Permissions());
-    const CliRun mixed = runCli({"scan", "--json", dir.path()});
-    const CliRun none = runCli({"scan", dir.path() + "/shut"});
-    const CliRun summary = runCli({"scan", dir.path()});
-    QFile::setPermissions(dir.path() + "/shut",
-        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    QCOMPARE(mixed.exitCode, 0);
-    const QJsonObject report = QJsonDocument::fromJson(mixed.out).object();
-    QCOMPARE(report.value("unreadableFolderCount").toInt(), 1);
-    QCOMPARE(report.value("unreadableFileCount").toInt(), 1);
-    QCOMPARE(report.value("unreadableFolders").toArray().first().toString(), dir.path() + "/shut");
-    QVERIFY(summary.err.contains("1 folder and 1 file could not be read"));
-    // Nothing read is no all-clear.
-    QCOMPARE(none.exitCode, 2);
-    QVERIFY(none.err.contains("None of the folders could be read"));
-}
-
-void TestCli::jsonReport_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QStringList>("expected");
-    const QStringList full {"--method", "full", "--select", "none"};
-    const QString pair = QStringLiteral("files:A/x.bin,B/x.bin sel:");
-    const QString texts = QStringLiteral("files:A/y.txt,B/y.txt sel:");
-    QTest::newRow("sampled: the trap groups") << QStringList {
-        "--select", "none"} << QStringList {"files:A/x.bin,B/x.bin,C/trap.bin sel:", texts};
-    QTest::newRow("full: the trap stays out") << full << QStringList {pair, texts};
-    QTest::newRow("hidden included")
-        << full + QStringList {"--include-hidden"}
-        << QStringList {pair, "files:A/y.txt,B/y.txt,C/.hidden.txt sel:"};
-    QTest::newRow("only list") << full + QStringList {"--only", "TXT"} << QStringList {texts};
-    QTest::newRow("minimum size in KiB")
-        << full + QStringList {"--min-size", "1"} << QStringList {pair};
-    QTest::newRow("select all") << QStringList {"--method", "full", "--select", "all", "--only",
-        "txt"} << QStringList {"files:A/y.txt,B/y.txt sel:A/y.txt,B/y.txt"};
-    QTest::newRow("duplicate folders")
-        << full + QStringList {"--folders"} << QStringList {"folders:A,B sel:"};
-}
-
-void TestCli::jsonReport()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QStringList, expected);
-    const CliRun run = runCli(QStringList {"scan", "--json"} + options + QStringList {m_root});
-    QCOMPARE(run.exitCode, 0);
-    const QJsonObject report = QJsonDocument::fromJson(run.out).object();
-    QVERIFY(report.value("scannedFiles").toInt() >= 2);
-    QVERIFY(report.contains("seconds"));
-    QCOMPARE(reportGroups(run.out, m_root, true), expected);
-}
-
-void TestCli::cacheKeepsGroups_data()
-{
-    QTest::addColumn<QString>("method");
-    QTest::newRow("sampled") << "sampled";
-    QTest::newRow("full") << "full";
-}
-
-void TestCli::cacheKeepsGroups()
-{
-    QFETCH(QString, method);
-    // The benchmark tree with every trap (near copies that only a whole read tells apart,
-    // block edges, odd names), aged past the window in which keys are not kept.
-    static QTemporaryDir dir;
-    const QString tree = dir.filePath("tree");
-    if (!QFileInfo::exists(tree)) {
-        QCOMPARE(QProcess::execute("python3",
-                     {qEnvironmentVariable("VELTRINE_TEST_SHARED") + "/bench/make_tree.py",
-                         "--preset", "small", "-q", tree}),
-            0);
-        QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
+    void unreadableCounted()
+    {
+        if (::geteuid() == 0)
+            QSKIP("permission bits do not stop the superuser (the unprivileged run covers it)");
+        QTemporaryDir dir;
+        ScanTree::write(dir.path(), "open/a.txt", "same");
+        ScanTree::write(dir.path(), "open/b.txt", "same");
+        ScanTree::write(dir.path(), "open/locked.txt", "same");
+        ScanTree::write(dir.path(), "shut/c.txt", "same");
+        QFile::setPermissions(dir.path() + "/open/locked.txt", QFileDevice::WriteOwner);
+        QFile::setPermissions(dir.path() + "/shut", QFileDevice::Permissions());
+        const CliRun mixed = runCli({"scan", "--json", dir.path()});
+        const CliRun none = runCli({"scan", dir.path() + "/shut"});
+        const CliRun summary = runCli({"scan", dir.path()});
+        QFile::setPermissions(dir.path() + "/shut",
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QCOMPARE(mixed.exitCode, 0);
+        const QJsonObject report = QJsonDocument::fromJson(mixed.out).object();
+        QCOMPARE(report.value("unreadableFolderCount").toInt(), 1);
+        QCOMPARE(report.value("unreadableFileCount").toInt(), 1);
+        QCOMPARE(
+            report.value("unreadableFolders").toArray().first().toString(), dir.path() + "/shut");
+        QVERIFY(summary.err.contains("1 folder and 1 file could not be read"));
+        // Nothing read is no all-clear.
+        QCOMPARE(none.exitCode, 2);
+        QVERIFY(none.err.contains("None of the folders could be read"));
     }
-    const QStringList scan {"scan", "--json", "--select", "none", "--method", method, tree};
-    const auto keys = [](const CliRun &run, const char *source) {
-        return QJsonDocument::fromJson(run.out).object().value(QLatin1String(source)).toInt();
-    };
-    // Every file read after the walk, then while it goes on.
-    const CliRun reference = runCli(scan + QStringList {"--no-cache", "--no-overlap"});
-    QCOMPARE(reference.exitCode, 0);
-    QCOMPARE(keys(reference, "cachedKeys") + keys(reference, "overlappedKeys"), 0);
-    const QStringList expected = reportGroups(reference.out, tree, false);
-    QVERIFY(expected.size() > 100);
-    const CliRun overlapped = runCli(scan + QStringList {"--no-cache"});
-    QCOMPARE(reportGroups(overlapped.out, tree, false), expected);
-    // Best effort: some keys are read during the walk, the finder reads the rest.
-    QVERIFY(keys(overlapped, "overlappedKeys") > 0);
-    // Two processes fill one cache at the same time; a third takes its keys from it.
-    QProcess first;
-    QProcess second;
-    for (QProcess *process : {&first, &second})
-        process->start(QStringLiteral(VELTRINE_CLI_PATH), scan);
-    for (QProcess *process : {&first, &second}) {
-        QVERIFY(process->waitForFinished(120000));
-        QCOMPARE(process->exitCode(), 0);
-        QCOMPARE(reportGroups(process->readAllStandardOutput(), tree, false), expected);
+
+    void jsonReport_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("expected");
+        const QStringList full {"--method", "full", "--select", "none"};
+        const QString pair = QStringLiteral("files:A/x.bin,B/x.bin sel:");
+        const QString texts = QStringLiteral("files:A/y.txt,B/y.txt sel:");
+        QTest::newRow("sampled: the trap groups") << QStringList {
+            "--select", "none"} << QStringList {"files:A/x.bin,B/x.bin,C/trap.bin sel:", texts};
+        QTest::newRow("full: the trap stays out") << full << QStringList {pair, texts};
+        QTest::newRow("hidden included")
+            << full + QStringList {"--include-hidden"}
+            << QStringList {pair, "files:A/y.txt,B/y.txt,C/.hidden.txt sel:"};
+        QTest::newRow("only list") << full + QStringList {"--only", "TXT"} << QStringList {texts};
+        QTest::newRow("minimum size in KiB")
+            << full + QStringList {"--min-size", "1"} << QStringList {pair};
+        QTest::newRow("select all") << QStringList {"--method", "full", "--select", "all", "--only",
+            "txt"} << QStringList {"files:A/y.txt,B/y.txt sel:A/y.txt,B/y.txt"};
+        QTest::newRow("duplicate folders")
+            << full + QStringList {"--folders"} << QStringList {"folders:A,B sel:"};
     }
-    QVERIFY(ContentKeyCache::sizeOnDisk(ContentKeyCache::defaultPath()) > 0);
-    QVERIFY(!QFileInfo::exists(ContentKeyCache::setAsidePath(ContentKeyCache::defaultPath())));
-    const CliRun cached = runCli(scan);
-    QCOMPARE(cached.exitCode, 0);
-    QCOMPARE(reportGroups(cached.out, tree, false), expected);
-    // What the two wrote is there: the third takes the keys of the tree's 900 or so
-    // candidates from it.
-    QVERIFY(keys(cached, "cachedKeys") > 800);
-}
+    void jsonReport()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QStringList, expected);
+        const CliRun run = runCli(QStringList {"scan", "--json"} + options + QStringList {m_root});
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject report = QJsonDocument::fromJson(run.out).object();
+        QVERIFY(report.value("scannedFiles").toInt() >= 2);
+        QVERIFY(report.contains("seconds"));
+        QCOMPARE(reportGroups(run.out, m_root, true), expected);
+    }
+
+    void cacheKeepsGroups_data()
+    {
+        QTest::addColumn<QString>("method");
+        QTest::newRow("sampled") << "sampled";
+        QTest::newRow("full") << "full";
+    }
+    void cacheKeepsGroups()
+    {
+        QFETCH(QString, method);
+        // The benchmark tree with every trap (near copies that only a whole read tells apart,
+        // block edges, odd names), aged past the window in which keys are not kept.
+        static QTemporaryDir dir;
+        const QString tree = dir.filePath("tree");
+        if (!QFileInfo::exists(tree)) {
+            QCOMPARE(QProcess::execute("python3",
+                         {qEnvironmentVariable("VELTRINE_TEST_SHARED") + "/bench/make_tree.py",
+                             "--preset", "small", "-q", tree}),
+                0);
+            QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
+        }
+        const QStringList scan {"scan", "--json", "--select", "none", "--method", method, tree};
+        const auto keys = [](const CliRun &run, const char *source) {
+            return QJsonDocument::fromJson(run.out).object().value(QLatin1String(source)).toInt();
+        };
+        // Every file read after the walk, then while it goes on.
+        const CliRun reference = runCli(scan + QStringList {"--no-cache", "--no-overlap"});
+        QCOMPARE(reference.exitCode, 0);
+        QCOMPARE(keys(reference, "cachedKeys") + keys(reference, "overlappedKeys"), 0);
+        const QStringList expected = reportGroups(reference.out, tree, false);
+        QVERIFY(expected.size() > 100);
+        const CliRun overlapped = runCli(scan + QStringList {"--no-cache"});
+        QCOMPARE(reportGroups(overlapped.out, tree, false), expected);
+        // Best effort: some keys are read during the walk, the finder reads the rest.
+        QVERIFY(keys(overlapped, "overlappedKeys") > 0);
+        // Two processes fill one cache at the same time; a third takes its keys from it.
+        QProcess first;
+        QProcess second;
+        for (QProcess *process : {&first, &second})
+            process->start(QStringLiteral(VELTRINE_CLI_PATH), scan);
+        for (QProcess *process : {&first, &second}) {
+            QVERIFY(process->waitForFinished(120000));
+            QCOMPARE(process->exitCode(), 0);
+            QCOMPARE(reportGroups(process->readAllStandardOutput(), tree, false), expected);
+        }
+        QVERIFY(ContentKeyCache::sizeOnDisk(ContentKeyCache::defaultPath()) > 0);
+        QVERIFY(!QFileInfo::exists(ContentKeyCache::setAsidePath(ContentKeyCache::defaultPath())));
+        const CliRun cached = runCli(scan);
+        QCOMPARE(cached.exitCode, 0);
+        QCOMPARE(reportGroups(cached.out, tree, false), expected);
+        // What the two wrote is there: the third takes the keys of the tree's 900 or so
+        // candidates from it.
+        QVERIFY(keys(cached, "cachedKeys") > 800);
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_root;
+};
 
 QTEST_GUILESS_MAIN(TestCli)
 #include "tst_Cli.moc"

@@ -186,97 +186,93 @@ class TestCliLargePicture : public QObject
 {
     Q_OBJECT
 private slots:
-    void withoutFullSizeBuffer_data();
-    void withoutFullSizeBuffer();
-    void everyPairPassingInBoundedMemory();
+    void withoutFullSizeBuffer_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<QStringList>("logLines");
+        // JPEG: decoded at 1/8 by the codec itself. PNG: the image reader scales row by row.
+        // (20000 x 10000 PNG exceeds the reader's pixel limit and is refused instead.)
+        QTest::newRow("JPEG 20000 x 10000")
+            << "jpg" << 20000 << 10000
+            << QStringList {
+                   "[TReadImage]: Large image, skip full read. File: %1, Size: 20000x10000",
+                   "[TReadImage]: Reduced read success (1/8). File: %1, Size: 2500x1250"};
+        QTest::newRow("PNG 12000 x 6000")
+            << "png" << 12000 << 6000
+            << QStringList {"[TReadImage]: Large image, skip full read. File: %1, Size: 12000x6000",
+                   "[TReadImage]: QImageReader scaled size. File: %1, Scaled Size: 1024x512"};
+    }
+    void withoutFullSizeBuffer()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(QStringList, logLines);
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        const QString root = dir.path() + "/pictures";
+        QVERIFY(QDir().mkpath(root));
+        const QString small = root + "/small." + suffix;
+        const QString large = root + "/large." + suffix;
+        QVERIFY(writePicture(small, 1000, 500));
+        const QStringList options {"scan", "--json", "--algorithm", "phash", "--no-features",
+            "--select", "none", "--log-dir"};
+
+        // The same run on the small picture alone gives the program's own footprint.
+        const QString baseLog = dir.path() + "/base-log";
+        const ChildRun base = runMeasured(options + QStringList {baseLog, root}, dir.path());
+        QCOMPARE(base.exitCode, 0);
+        QVERIFY(base.peakKiB > 0);
+
+        QVERIFY(writePicture(large, width, height));
+        const QString log = dir.path() + "/log";
+        const ChildRun run = runMeasured(options + QStringList {log, root}, dir.path());
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(reportGroups(run.out, root, false),
+            QStringList {QStringLiteral("similar:large.%1,small.%1").arg(suffix)});
+        const QString text = logText(log);
+        for (const QString &line : logLines)
+            QVERIFY2(text.contains(line.arg(large)), qPrintable(line.arg(large)));
+
+        // A full-size decode would need width x height x 3 bytes at least; the run may grow
+        // by a quarter of that at most.
+        const qint64 fullBufferKiB = qint64(width) * height * 3 / 1024;
+        const qint64 growthKiB = run.peakKiB - base.peakKiB;
+        qInfo("peak %lld KiB, %lld KiB without the large picture, full buffer %lld KiB",
+            static_cast<long long>(run.peakKiB), static_cast<long long>(base.peakKiB),
+            static_cast<long long>(fullBufferKiB));
+        QVERIFY2(growthKiB < fullBufferKiB / 4,
+            qPrintable(QStringLiteral("grew by %1 KiB").arg(growthKiB)));
+    }
+
+    void everyPairPassingInBoundedMemory()
+    {
+        // 2,000 small pictures, each of its own size (so none is a copy of another). At the
+        // lowest pass mark every one of the two million pairs passes with the hash measure.
+        QTemporaryDir dir;
+        const QString root = dir.path() + "/pictures";
+        QVERIFY(QDir().mkpath(root));
+        const int count = 2000;
+        for (int k = 0; k < count; ++k)
+            QVERIFY(writePicture(QString("%1/p%2.png").arg(root).arg(k), 40 + k % 50, 30 + k / 50));
+        const QStringList options {"scan", "--json", "--algorithm", "phash", "--no-features",
+            "--any-ratio", "--no-cache", "--select", "none", "--threshold"};
+        const ChildRun none = runMeasured(options + QStringList {"100", root}, dir.path());
+        const ChildRun every = runMeasured(options + QStringList {"1", root}, dir.path());
+        QCOMPARE(none.exitCode, 0);
+        QCOMPARE(every.exitCode, 0);
+        const QStringList groups = reportGroups(every.out, root, false);
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups.first().count(','), count - 1);
+        // A list of the passing pairs alone would take 16 MB.
+        const qint64 growthKiB = every.peakKiB - none.peakKiB;
+        qInfo("peak %lld KiB linking every pair, %lld KiB linking none",
+            static_cast<long long>(every.peakKiB), static_cast<long long>(none.peakKiB));
+        QVERIFY2(growthKiB < 6 * 1024, qPrintable(QStringLiteral("grew by %1 KiB").arg(growthKiB)));
+    }
 };
-
-void TestCliLargePicture::withoutFullSizeBuffer_data()
-{
-    QTest::addColumn<QString>("suffix");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<QStringList>("logLines");
-    // JPEG: decoded at 1/8 by the codec itself. PNG: the image reader scales row by row.
-    // (20000 x 10000 PNG exceeds the reader's pixel limit and is refused instead.)
-    QTest::newRow("JPEG 20000 x 10000")
-        << "jpg" << 20000 << 10000
-        << QStringList {"[TReadImage]: Large image, skip full read. File: %1, Size: 20000x10000",
-               "[TReadImage]: Reduced read success (1/8). File: %1, Size: 2500x1250"};
-    QTest::newRow("PNG 12000 x 6000")
-        << "png" << 12000 << 6000
-        << QStringList {"[TReadImage]: Large image, skip full read. File: %1, Size: 12000x6000",
-               "[TReadImage]: QImageReader scaled size. File: %1, Scaled Size: 1024x512"};
-}
-
-void TestCliLargePicture::withoutFullSizeBuffer()
-{
-    QFETCH(QString, suffix);
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(QStringList, logLines);
-    QTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    const QString root = dir.path() + "/pictures";
-    QVERIFY(QDir().mkpath(root));
-    const QString small = root + "/small." + suffix;
-    const QString large = root + "/large." + suffix;
-    QVERIFY(writePicture(small, 1000, 500));
-    const QStringList options {
-        "scan", "--json", "--algorithm", "phash", "--no-features", "--select", "none", "--log-dir"};
-
-    // The same run on the small picture alone gives the program's own footprint.
-    const QString baseLog = dir.path() + "/base-log";
-    const ChildRun base = runMeasured(options + QStringList {baseLog, root}, dir.path());
-    QCOMPARE(base.exitCode, 0);
-    QVERIFY(base.peakKiB > 0);
-
-    QVERIFY(writePicture(large, width, height));
-    const QString log = dir.path() + "/log";
-    const ChildRun run = runMeasured(options + QStringList {log, root}, dir.path());
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(reportGroups(run.out, root, false),
-        QStringList {QStringLiteral("similar:large.%1,small.%1").arg(suffix)});
-    const QString text = logText(log);
-    for (const QString &line : logLines)
-        QVERIFY2(text.contains(line.arg(large)), qPrintable(line.arg(large)));
-
-    // A full-size decode would need width x height x 3 bytes at least; the run may grow
-    // by a quarter of that at most.
-    const qint64 fullBufferKiB = qint64(width) * height * 3 / 1024;
-    const qint64 growthKiB = run.peakKiB - base.peakKiB;
-    qInfo("peak %lld KiB, %lld KiB without the large picture, full buffer %lld KiB",
-        static_cast<long long>(run.peakKiB), static_cast<long long>(base.peakKiB),
-        static_cast<long long>(fullBufferKiB));
-    QVERIFY2(
-        growthKiB < fullBufferKiB / 4, qPrintable(QStringLiteral("grew by %1 KiB").arg(growthKiB)));
-}
-
-void TestCliLargePicture::everyPairPassingInBoundedMemory()
-{
-    // 2,000 small pictures, each of its own size (so none is a copy of another). At the
-    // lowest pass mark every one of the two million pairs passes with the hash measure.
-    QTemporaryDir dir;
-    const QString root = dir.path() + "/pictures";
-    QVERIFY(QDir().mkpath(root));
-    const int count = 2000;
-    for (int k = 0; k < count; ++k)
-        QVERIFY(writePicture(QString("%1/p%2.png").arg(root).arg(k), 40 + k % 50, 30 + k / 50));
-    const QStringList options {"scan", "--json", "--algorithm", "phash", "--no-features",
-        "--any-ratio", "--no-cache", "--select", "none", "--threshold"};
-    const ChildRun none = runMeasured(options + QStringList {"100", root}, dir.path());
-    const ChildRun every = runMeasured(options + QStringList {"1", root}, dir.path());
-    QCOMPARE(none.exitCode, 0);
-    QCOMPARE(every.exitCode, 0);
-    const QStringList groups = reportGroups(every.out, root, false);
-    QCOMPARE(groups.size(), 1);
-    QCOMPARE(groups.first().count(','), count - 1);
-    // A list of the passing pairs alone would take 16 MB.
-    const qint64 growthKiB = every.peakKiB - none.peakKiB;
-    qInfo("peak %lld KiB linking every pair, %lld KiB linking none",
-        static_cast<long long>(every.peakKiB), static_cast<long long>(none.peakKiB));
-    QVERIFY2(growthKiB < 6 * 1024, qPrintable(QStringLiteral("grew by %1 KiB").arg(growthKiB)));
-}
 
 QTEST_GUILESS_MAIN(TestCliLargePicture)
 #include "tst_CliLargePicture.moc"

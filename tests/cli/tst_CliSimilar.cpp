@@ -24,108 +24,95 @@ class TestCliSimilar : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void similarGroups_data();
-    void similarGroups();
-    void savesSimilarGroups();
-    void textReport();
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        m_root = m_dir.path();
+        const cv::Mat scene = fixtures::makeScene(640, 480, 11);
+        const cv::Mat other = fixtures::makeScene(640, 480, 12);
+        cv::Mat smaller;
+        cv::resize(scene, smaller, cv::Size(480, 360), 0, 0, cv::INTER_AREA);
+        // 1600 x 240 against 640 x 480: the ratios differ five times, beyond the default limit
+        // of 4, while the perceptual hash (taken on a square reduction) barely changes.
+        cv::Mat stretched;
+        cv::resize(scene, stretched, cv::Size(1600, 240), 0, 0, cv::INTER_AREA);
+        const std::vector<int> q92 {cv::IMWRITE_JPEG_QUALITY, 92};
+        const std::vector<int> q85 {cv::IMWRITE_JPEG_QUALITY, 85};
+        QVERIFY(fixtures::writeBytes(m_root + "/a.jpg", fixtures::encode(scene, ".jpg", q92)));
+        QVERIFY(
+            fixtures::writeBytes(m_root + "/a_small.jpg", fixtures::encode(smaller, ".jpg", q85)));
+        QVERIFY(fixtures::writeBytes(m_root + "/a.png", fixtures::encode(scene, ".png")));
+        QVERIFY(
+            fixtures::writeBytes(m_root + "/a_wide.jpg", fixtures::encode(stretched, ".jpg", q92)));
+        QVERIFY(fixtures::writeBytes(m_root + "/b.jpg", fixtures::encode(other, ".jpg", q92)));
+    }
+
+    void similarGroups_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("expected");
+        using L = QStringList;
+        QTest::newRow("no similar search") << L {} << L {};
+        QTest::newRow("histogram with re-check")
+            << L {"--similar"} << L {"similar:a.jpg,a_small.jpg"};
+        QTest::newRow("histogram pass mark 99") << L {"--similar", "--threshold", "99"} << L {};
+        QTest::newRow("threshold alone turns the search on")
+            << L {"--threshold", "50"} << L {"similar:a.jpg,a_small.jpg"};
+        QTest::newRow("phash") << L {"--algorithm", "phash"} << L {"similar:a.jpg,a_small.jpg"};
+        QTest::newRow("phash pass mark 99")
+            << L {"--algorithm", "phash", "--threshold", "99"} << L {};
+        QTest::newRow("phash any type: the PNG joins its JPEG")
+            << L {"--algorithm", "phash", "--any-type"} << L {"similar:a.jpg,a.png,a_small.jpg"};
+        QTest::newRow("phash any ratio: the stretched copy joins") << L {"--algorithm", "phash",
+            "--any-ratio", "--no-features"} << L {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
+        QTest::newRow("both filters off") << L {"--algorithm", "phash", "--any-ratio", "--any-type",
+            "--no-features"} << L {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
+    }
+    void similarGroups()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QStringList, expected);
+        QTemporaryDir out;
+        const QString project = out.path() + "/pictures.dupproj";
+        const CliRun run
+            = runCli(QStringList {"scan", "--json", "--select", "none", "--save", project} + options
+                + QStringList {m_root});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(QJsonDocument::fromJson(run.out).object().value("scannedFiles").toInt(), 5);
+        QCOMPARE(reportGroups(run.out, m_root, false), expected);
+        // The saved project holds the same members, tagged, and no others.
+        const QString text = QString::fromUtf8(ScanTree::read(project));
+        const QStringList grouped = expected.join(',').remove("similar:").split(',');
+        for (const QString &name : QDir(m_root).entryList(QDir::Files))
+            QVERIFY2(text.contains(QRegularExpression(
+                         QRegularExpression::escape(m_root + "/" + name) + "_simlar_\\d+<"))
+                    == grouped.contains(name),
+                qPrintable(name));
+    }
+
+    void textReport()
+    {
+        const CliRun run = runCli({"scan", "--algorithm", "phash", "--select", "none", m_root});
+        QCOMPARE(run.exitCode, 0);
+        QStringList lines = QString::fromUtf8(run.out).split('\n', Qt::SkipEmptyParts);
+        lines.sort();
+        QCOMPARE(lines.size(), 2);
+        const QRegularExpression line("^" + QRegularExpression::escape(m_root)
+            + "/(a\\.jpg|a_small\\.jpg)\t\\[similar (\\d+)%\\]$");
+        QStringList names;
+        for (const QString &text : std::as_const(lines)) {
+            const QRegularExpressionMatch match = line.match(text);
+            QVERIFY2(match.hasMatch(), qPrintable(text));
+            QVERIFY(match.captured(2).toInt() <= 99);
+            names.append(match.captured(1));
+        }
+        QCOMPARE(names, QStringList({"a.jpg", "a_small.jpg"}));
+    }
 
 private:
     QTemporaryDir m_dir;
     QString m_root;
 };
-
-void TestCliSimilar::initTestCase()
-{
-    QVERIFY(m_dir.isValid());
-    m_root = m_dir.path();
-    const cv::Mat scene = fixtures::makeScene(640, 480, 11);
-    const cv::Mat other = fixtures::makeScene(640, 480, 12);
-    cv::Mat smaller;
-    cv::resize(scene, smaller, cv::Size(480, 360), 0, 0, cv::INTER_AREA);
-    // 1600 x 240 against 640 x 480: the ratios differ five times, beyond the default limit
-    // of 4, while the perceptual hash (taken on a square reduction) barely changes.
-    cv::Mat stretched;
-    cv::resize(scene, stretched, cv::Size(1600, 240), 0, 0, cv::INTER_AREA);
-    const std::vector<int> q92 {cv::IMWRITE_JPEG_QUALITY, 92};
-    const std::vector<int> q85 {cv::IMWRITE_JPEG_QUALITY, 85};
-    QVERIFY(fixtures::writeBytes(m_root + "/a.jpg", fixtures::encode(scene, ".jpg", q92)));
-    QVERIFY(fixtures::writeBytes(m_root + "/a_small.jpg", fixtures::encode(smaller, ".jpg", q85)));
-    QVERIFY(fixtures::writeBytes(m_root + "/a.png", fixtures::encode(scene, ".png")));
-    QVERIFY(fixtures::writeBytes(m_root + "/a_wide.jpg", fixtures::encode(stretched, ".jpg", q92)));
-    QVERIFY(fixtures::writeBytes(m_root + "/b.jpg", fixtures::encode(other, ".jpg", q92)));
-}
-
-void TestCliSimilar::similarGroups_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("no similar search") << QStringList {} << QStringList {};
-    QTest::newRow("histogram with re-check")
-        << QStringList {"--similar"} << QStringList {"similar:a.jpg,a_small.jpg"};
-    QTest::newRow("histogram pass mark 99")
-        << QStringList {"--similar", "--threshold", "99"} << QStringList {};
-    QTest::newRow("threshold alone turns the search on")
-        << QStringList {"--threshold", "50"} << QStringList {"similar:a.jpg,a_small.jpg"};
-    QTest::newRow("phash") << QStringList {"--algorithm", "phash"}
-                           << QStringList {"similar:a.jpg,a_small.jpg"};
-    QTest::newRow("phash pass mark 99")
-        << QStringList {"--algorithm", "phash", "--threshold", "99"} << QStringList {};
-    QTest::newRow("phash any type: the PNG joins its JPEG") << QStringList {
-        "--algorithm", "phash", "--any-type"} << QStringList {"similar:a.jpg,a.png,a_small.jpg"};
-    QTest::newRow("phash any ratio: the stretched copy joins")
-        << QStringList {"--algorithm", "phash", "--any-ratio", "--no-features"}
-        << QStringList {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
-    QTest::newRow("both filters off")
-        << QStringList {"--algorithm", "phash", "--any-ratio", "--any-type", "--no-features"}
-        << QStringList {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
-}
-
-void TestCliSimilar::similarGroups()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QStringList, expected);
-    const CliRun run = runCli(
-        QStringList {"scan", "--json", "--select", "none"} + options + QStringList {m_root});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(QJsonDocument::fromJson(run.out).object().value("scannedFiles").toInt(), 5);
-    QCOMPARE(reportGroups(run.out, m_root, false), expected);
-}
-
-void TestCliSimilar::savesSimilarGroups()
-{
-    QTemporaryDir out;
-    const QString project = out.path() + "/pictures.dupproj";
-    const CliRun run
-        = runCli({"scan", "--algorithm", "phash", "--any-type", "--save", project, m_root});
-    QCOMPARE(run.exitCode, 0);
-    const QString text = QString::fromUtf8(ScanTree::read(project));
-    for (const QString &name : {"a.jpg", "a.png", "a_small.jpg"})
-        QVERIFY2(text.contains(QRegularExpression(
-                     QRegularExpression::escape(m_root + "/" + name) + "_simlar_\\d+<")),
-            qPrintable(name));
-    QVERIFY(!text.contains("b.jpg"));
-    QVERIFY(!text.contains("a_wide.jpg"));
-}
-
-void TestCliSimilar::textReport()
-{
-    const CliRun run = runCli({"scan", "--algorithm", "phash", "--select", "none", m_root});
-    QCOMPARE(run.exitCode, 0);
-    QStringList lines = QString::fromUtf8(run.out).split('\n', Qt::SkipEmptyParts);
-    lines.sort();
-    QCOMPARE(lines.size(), 2);
-    const QRegularExpression line("^" + QRegularExpression::escape(m_root)
-        + "/(a\\.jpg|a_small\\.jpg)\t\\[similar (\\d+)%\\]$");
-    QStringList names;
-    for (const QString &text : std::as_const(lines)) {
-        const QRegularExpressionMatch match = line.match(text);
-        QVERIFY2(match.hasMatch(), qPrintable(text));
-        QVERIFY(match.captured(2).toInt() <= 99);
-        names.append(match.captured(1));
-    }
-    QCOMPARE(names, QStringList({"a.jpg", "a_small.jpg"}));
-}
 
 QTEST_GUILESS_MAIN(TestCliSimilar)
 #include "tst_CliSimilar.moc"

@@ -1,47 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "HttpReceiver.h"
 #include "TestEnvironment.h"
 #include "cloud/RcloneClient.h"
 
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QtTest>
 
 static TestEnvironment environment;
-
-// Answers every request on the loopback interface with one canned HTTP response, the
-// way a daemon in trouble might.
-class CannedServer : public QTcpServer
-{
-public:
-    explicit CannedServer(QByteArray response) : m_response(std::move(response))
-    {
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket *socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                m_request += socket->readAll();
-                if (!m_request.contains("\r\n\r\n"))
-                    return;
-                socket->write(m_response);
-                socket->disconnectFromHost();
-            });
-        });
-        listen(QHostAddress::LocalHost, 0);
-    }
-    QByteArray request() const { return m_request; }
-
-private:
-    QByteArray m_response;
-    QByteArray m_request;
-};
-
-static QByteArray http(int status, const QByteArray &body, bool withLength = true)
-{
-    QByteArray head
-        = "HTTP/1.1 " + QByteArray::number(status) + " X\r\nContent-Type: application/json\r\n";
-    if (withLength)
-        head += "Content-Length: " + QByteArray::number(body.size()) + "\r\n";
-    return head + "Connection: close\r\n\r\n" + body;
-}
 
 class TestRcloneClient : public QObject
 {
@@ -53,20 +18,20 @@ private slots:
         QTest::addColumn<QString>("message");
         QTest::addColumn<int>("entries");
         QTest::newRow("service error passes rclone's words")
-            << http(
+            << HttpReceiver::answer(
                    500, "{\"error\": \"couldn't list directory: 403 rate limit\", \"status\": 500}")
             << "operations/list failed: couldn't list directory: 403 rate limit" << 0;
         QTest::newRow("error without a body")
-            << http(401, "") << "operations/list failed with HTTP status 401" << 0;
-        QTest::newRow("not JSON") << http(200, "<html>busy</html>") << "malformed JSON (not JSON"
-                                  << 0;
-        QTest::newRow("answer cut short") << http(
+            << HttpReceiver::answer(401, "") << "operations/list failed with HTTP status 401" << 0;
+        QTest::newRow("not JSON") << HttpReceiver::answer(200, "<html>busy</html>")
+                                  << "malformed JSON (not JSON" << 0;
+        QTest::newRow("answer cut short") << HttpReceiver::answer(
             200, "{\"list\": [{\"Path\": \"a\", \"Size\": 1}, {\"Path\": \"b\", \"Si", false)
                                           << "malformed JSON (the answer ended early" << 1;
-        QTest::newRow("broken entry")
-            << http(200, "{\"list\": [{\"Path\": \"a\", \"Size\": 1}, {\"Path\": , \"Size\": 2}]}")
-            << "malformed JSON (an entry is not valid JSON" << 1;
-        QTest::newRow("brackets in names are not structure") << http(200,
+        QTest::newRow("broken entry") << HttpReceiver::answer(
+            200, "{\"list\": [{\"Path\": \"a\", \"Size\": 1}, {\"Path\": , \"Size\": 2}]}")
+                                      << "malformed JSON (an entry is not valid JSON" << 1;
+        QTest::newRow("brackets in names are not structure") << HttpReceiver::answer(200,
             "{\"list\": [{\"Path\": \"a}]\\\"{\", \"Size\": 1}, {\"Path\": \"b\", \"Size\": 2}]}")
                                                              << QString() << 2;
     }
@@ -76,10 +41,10 @@ private slots:
         QFETCH(QByteArray, response);
         QFETCH(QString, message);
         QFETCH(int, entries);
-        CannedServer server(response);
+        HttpReceiver server(response);
         RcloneClient client;
-        client.setEndpoint(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort())),
-            "user", "secret");
+        client.setEndpoint(
+            QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(server.port())), "user", "secret");
         int received = 0;
         QString error = QStringLiteral("no answer");
         bool answered = false;
@@ -92,7 +57,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(answered, 10000);
         QVERIFY2(message.isEmpty() ? error.isEmpty() : error.contains(message), qPrintable(error));
         QCOMPARE(received, entries);
-        QVERIFY(server.request().contains("Authorization: Basic dXNlcjpzZWNyZXQ="));
+        QVERIFY(server.requests.value(0).head.contains("Authorization: Basic dXNlcjpzZWNyZXQ="));
     }
 
     void noDaemon()

@@ -114,26 +114,21 @@ public:
     {
         m_entries.append({tag, type, count, value});
     }
-    void addShort(quint16 tag, std::initializer_list<quint16> values)
+    // Numbers of one TIFF type, little-endian.
+    template<typename T>
+    void add(quint16 tag, quint16 type, std::initializer_list<T> values)
     {
         QByteArray v;
-        for (quint16 s : values)
-            v.append(le16(s));
-        add(tag, 3, quint32(values.size()), v);
+        for (T x : values)
+            v.append(le(x));
+        add(tag, type, quint32(values.size()), v);
     }
-    void addLong(quint16 tag, quint32 value) { add(tag, 4, 1, le32(value)); }
-    void addBytes(quint16 tag, std::initializer_list<quint8> values)
-    {
-        QByteArray v;
-        for (quint8 b : values)
-            v.append(char(b));
-        add(tag, 1, quint32(values.size()), v);
-    }
+    void addShort(quint16 tag, std::initializer_list<quint16> values) { add(tag, 3, values); }
+    void addLong(quint16 tag, quint32 value) { add<quint32>(tag, 4, {value}); }
+    void addBytes(quint16 tag, std::initializer_list<quint8> values) { add(tag, 1, values); }
     void addAscii(quint16 tag, const QByteArray &text)
     {
-        QByteArray v = text;
-        v.append('\0');
-        add(tag, 2, quint32(v.size()), v);
+        add(tag, 2, quint32(text.size() + 1), text + '\0');
     }
     // Appends the directory (entries sorted by tag) and its out-of-line values to out;
     // returns the directory's offset.
@@ -148,36 +143,31 @@ public:
         quint32 extra = offset + 2 + quint32(entries.size()) * 12 + 4;
         QByteArray dir;
         QByteArray values;
-        dir.append(le16(quint16(entries.size())));
+        dir.append(le<quint16>(quint16(entries.size())));
         for (const Entry &e : entries) {
-            dir.append(le16(e.tag));
-            dir.append(le16(e.type));
-            dir.append(le32(e.count));
+            dir.append(le<quint16>(e.tag));
+            dir.append(le<quint16>(e.type));
+            dir.append(le<quint32>(e.count));
             if (e.value.size() <= 4) {
                 QByteArray inlineValue = e.value;
                 inlineValue.append(QByteArray(4 - inlineValue.size(), '\0'));
                 dir.append(inlineValue);
             } else {
-                dir.append(le32(extra + quint32(values.size())));
+                dir.append(le<quint32>(extra + quint32(values.size())));
                 values.append(e.value);
                 if (values.size() % 2)
                     values.append('\0');
             }
         }
-        dir.append(le32(0));
+        dir.append(le<quint32>(0));
         out.append(dir);
         out.append(values);
         return offset;
     }
-    static QByteArray le16(quint16 v)
+    template<typename T>
+    static QByteArray le(T v)
     {
-        QByteArray b(2, '\0');
-        qToLittleEndian(v, b.data());
-        return b;
-    }
-    static QByteArray le32(quint32 v)
-    {
-        QByteArray b(4, '\0');
+        QByteArray b(sizeof(T), '\0');
         qToLittleEndian(v, b.data());
         return b;
     }
@@ -200,8 +190,8 @@ inline QByteArray makeDng(const QByteArray &previewJpeg, int previewW, int previ
     const int rawW = previewW * 2;
     const int rawH = previewH * 2;
     QByteArray out("II");
-    out.append(TiffIfd::le16(42));
-    out.append(TiffIfd::le32(0)); // patched below
+    out.append(TiffIfd::le<quint16>(42));
+    out.append(TiffIfd::le<quint32>(0)); // patched below
     const quint32 jpegOffset = quint32(out.size());
     out.append(previewJpeg);
     if (out.size() % 2)
@@ -248,8 +238,8 @@ inline QByteArray makeDng(const QByteArray &previewJpeg, int previewW, int previ
     QByteArray matrix;
     const qint32 m[9] = {10000, 0, 0, 0, 10000, 0, 0, 0, 10000};
     for (qint32 v : m) {
-        matrix.append(TiffIfd::le32(quint32(v)));
-        matrix.append(TiffIfd::le32(10000));
+        matrix.append(TiffIfd::le<quint32>(quint32(v)));
+        matrix.append(TiffIfd::le<quint32>(10000));
     }
     ifd0.add(50721, 10, 9, matrix);
     ifd0.addShort(50778, {21});

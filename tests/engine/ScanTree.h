@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/FileTypeCatalogue.h"
+#include "engine/ScanTable.h"
+#include "engine/TFileScanner.h"
 
 #include <algorithm>
 
@@ -9,6 +11,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonObject>
+#include <QMutex>
 #include <QString>
 
 // Writes real files into a test's temporary folder and reads them back.
@@ -43,6 +47,15 @@ inline QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// Paths relative to root, in sorted order.
+inline QStringList relative(QStringList paths, const QString &root)
+{
+    for (QString &path : paths)
+        path = path.mid(root.size() + 1);
+    paths.sort();
+    return paths;
+}
+
 // Groups (a map of member lists) as sorted lists of member paths relative to root, similar
 // tags taken off, in sorted order.
 template<typename Groups>
@@ -51,13 +64,32 @@ QList<QStringList> relativeGroups(const Groups &groups, const QString &root)
     QList<QStringList> out;
     for (QStringList members : groups) {
         stripSimilarTag(members);
-        for (QString &path : members)
-            path = path.mid(root.size() + 1);
-        members.sort();
-        out.append(members);
+        out.append(relative(members, root));
     }
     std::sort(out.begin(), out.end());
     return out;
+}
+
+// The table of a walk of root, hidden files included, collected the way the scan
+// controller does. Nothing takes the per-file signals, so the scanner builds its compact
+// batches only.
+inline ScanTable walk(const QString &root)
+{
+    TFileScanner scanner;
+    scanner.applyConfig(QJsonObject {{"IgnoreSystemHidden", false}});
+    ScanTable table;
+    QMutex mutex;
+    QObject::connect(
+        &scanner, &TFileScanner::folderFilesFound, &scanner,
+        [&](const ScanBatch &batch) {
+            QMutexLocker locker(&mutex);
+            table.append(batch);
+        },
+        Qt::DirectConnection);
+    scanner.setRoots({root});
+    scanner.start();
+    scanner.wait();
+    return table;
 }
 
 } // namespace ScanTree

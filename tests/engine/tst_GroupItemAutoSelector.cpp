@@ -76,8 +76,7 @@ private:
             qFatal("cannot write %s", qPrintable(path));
         QFile file(path);
         file.open(QIODevice::ReadWrite);
-        const QDateTime base
-            = QDateTime::fromString(QStringLiteral("2024-05-01T12:00:00Z"), Qt::ISODate);
+        const QDateTime base = QDateTime::fromString("2024-05-01T12:00:00Z", Qt::ISODate);
         if (!file.setFileTime(base.addSecs(-age), QFileDevice::FileModificationTime))
             qFatal("cannot set the time of %s", qPrintable(path));
         return path;
@@ -124,7 +123,8 @@ private slots:
         QCOMPARE(Selector::score(entry, cloud), expected);
     }
 
-    // Rules that need no file contents: the score rule and the plain commands.
+    // Rules that need no file contents: the score rule and the plain commands. Select by
+    // Priority without priorities does what Select by Filename does.
     void nameRules_data()
     {
         QTest::addColumn<QStringList>("paths");
@@ -156,6 +156,8 @@ private slots:
         QCOMPARE(Selector::selectGroup(paths, rule), pick(paths, selected));
         if (rule != 3)
             QCOMPARE(Selector::select(paths, rule), pick(paths, selected));
+        QCOMPARE(Selector::selectByPriority(paths, {}), Selector::selectGroup(paths, 2));
+        QCOMPARE(Selector::select(paths, 3), Selector::selectGroup(paths, 2));
     }
 
     void priority_data()
@@ -184,20 +186,6 @@ private slots:
         const QMap<QString, int> priorities {{"D:/Photos", 1}, {"D:/Photos/Keep", 5}};
         QCOMPARE(Selector::selectByPriority(paths, priorities), pick(paths, selected));
         QCOMPARE(Selector::select(paths, 3, priorities), pick(paths, selected));
-    }
-
-    void priorityWithoutMapIsFilenameRule_data()
-    {
-        QTest::addColumn<QStringList>("paths");
-        QTest::newRow("copy") << QStringList {"/d/report (1).pdf", "/d/report.pdf"};
-        QTest::newRow("folders") << QStringList {"/tmp/a.txt", "/home/u/a.txt", "/backup/a.txt"};
-        QTest::newRow("equal") << QStringList {"/a/x.txt", "/b/x.txt"};
-    }
-    void priorityWithoutMapIsFilenameRule()
-    {
-        QFETCH(QStringList, paths);
-        QCOMPARE(Selector::selectByPriority(paths, {}), Selector::selectGroup(paths, 2));
-        QCOMPARE(Selector::select(paths, 3), Selector::selectGroup(paths, 2));
     }
 
     // Date, resolution and size rules on real files with real times and real pictures.

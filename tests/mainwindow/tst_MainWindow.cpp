@@ -38,33 +38,489 @@
 
 static TestEnvironment environment;
 
+using Flags = QList<bool>;
+
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void statesAndButtonTexts_data();
-    void statesAndButtonTexts();
-    void dragEnter_data();
-    void dragEnter();
-    void dropAddsFoldersOnce();
-    void scanThroughButtons();
-    void stopDuringScan();
-    void projectFromCommandLine();
-    void projectArgumentNotAFile_data();
-    void projectArgumentNotAFile();
-    void unreadableText_data();
-    void unreadableText();
-    void problemLineAndDetails();
-    void noDuplicatesPage_data();
-    void noDuplicatesPage();
-    void roundButtonFitsEveryLanguage_data();
-    void roundButtonFitsEveryLanguage();
-    void abnormalExitNoticeOnce();
-    void settingsRefusedWhileScanning();
-    void settingsOutsideRangesStopTheScan();
+    void initTestCase()
+    {
+        initLogger(DataDirectory::base());
+        // English texts come from the catalogue as in the program: it holds the plural forms.
+        LanguageSetup::setupLanguage(1);
+        QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
+        // A small tree: three copies of one file, two of another, and unique files.
+        makeFile("a/one.bin", QByteArray(5000, 'a'));
+        makeFile("a/sub/one-copy.bin", QByteArray(5000, 'a'));
+        makeFile("b/one-again.bin", QByteArray(5000, 'a'));
+        makeFile("b/two.txt", QByteArray(3000, 't'));
+        makeFile("a/sub/two.txt", QByteArray(3000, 't'));
+        for (int i = 0; i < 5; ++i)
+            makeFile(QStringLiteral("b/unique%1.dat").arg(i), QByteArray(100 + i, char('k' + i)));
+        QDir(m_tree.path()).mkpath("empty");
+    }
+
+    void init()
+    {
+        TFileData::instance()->clear();
+        m_window = new MainWindow({"program"});
+        m_window->setShowResultsWhenDone(false);
+        m_window->show();
+    }
+
+    void cleanup()
+    {
+        TControlUI::instance()->stop();
+        TFileData::instance()->clear();
+        delete m_window;
+        m_window = nullptr;
+    }
+
+    void statesAndButtonTexts_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QString>("mainText");
+        QTest::addColumn<bool>("mainEnabled");
+        QTest::addColumn<Flags>("actions");
+        QTest::newRow("ready") << 1 << QString() << true << Flags {true, true, false, false};
+        QTest::newRow("scanning") << 2 << "Stop" << true << Flags {false, false, false, false};
+        QTest::newRow("continue") << 3 << "Continue" << true << Flags {false, true, true, true};
+        QTest::newRow("finished") << 4 << "New Scan" << true << Flags {true, true, true, true};
+        QTest::newRow("opening") << 5 << QString() << false << Flags {true, false, false, false};
+    }
+    void statesAndButtonTexts()
+    {
+        QFETCH(int, state);
+        QFETCH(QString, mainText);
+        QFETCH(bool, mainEnabled);
+        QFETCH(Flags, actions);
+        auto *add = child<QPushButton>("btnAdd");
+        auto *scan = child<QPushButton>("btn_scan");
+        QVERIFY(add && scan);
+        QCOMPARE(m_window->state(), 1);
+        QVERIFY(!add->icon().isNull() || add->text().isEmpty());
+        QCOMPARE(scan->text(), "Scan");
+        QVERIFY(!scan->isEnabled());
+        QCOMPARE(child<QLabel>("lab_number")->text(), "0 folders added");
+
+        m_window->setStatus(state);
+        QCOMPARE(add->text(), mainText);
+        QCOMPARE(add->isEnabled(), mainEnabled);
+        const QList<QAction *> stateActions {child<QAction>("action_openProject"),
+            m_window->findChild<QMenu *>("menu_language")->menuAction(),
+            child<QAction>("action_saveProject"), child<QAction>("action_showResults")};
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(stateActions.at(i)->isEnabled(), actions.at(i));
+        if (state == 1) {
+            QCOMPARE(child<QLabel>("lab_progress")->text(), "0.00%");
+            QCOMPARE(child<QLabel>("lab_findSize")->text(), "0 B");
+        }
+        if (state == 4)
+            QCOMPARE(scan->text(), "Show results");
+        if (state == 5)
+            QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
+    }
+
+    void dragEnter_data()
+    {
+        QTest::addColumn<QStringList>("paths");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("a folder") << QStringList {"a"} << 1 << true;
+        // Files are let in so that the drop can say why they are not added.
+        QTest::newRow("files only") << QStringList {"a/one.bin", "b/two.txt"} << 1 << true;
+        QTest::newRow("a file and a folder") << QStringList {"b/two.txt", "b"} << 1 << true;
+        QTest::newRow("a folder while scanning") << QStringList {"a"} << 2 << false;
+        QTest::newRow("a missing folder") << QStringList {"nowhere"} << 1 << false;
+    }
+    void dragEnter()
+    {
+        QFETCH(QStringList, paths);
+        QFETCH(int, state);
+        QFETCH(bool, accepted);
+        m_window->setStatus(state);
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &p : paths)
+            urls << QUrl::fromLocalFile(m_tree.filePath(p));
+        data.setUrls(urls);
+        QDragEnterEvent event(
+            QPoint(10, 10), Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window, &event);
+        QCOMPARE(event.isAccepted(), accepted);
+        QCOMPARE(event.dropAction(), Qt::LinkAction);
+    }
+
+    void dropAddsFoldersOnce()
+    {
+        DialogAnswerer boxes;
+        QMimeData single;
+        single.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
+        dropOnWindow(&single);
+        QTRY_COMPARE(child<QLabel>("lab_number")->text(), "1 folder added");
+        QVERIFY(boxes.texts.isEmpty());
+
+        // A file among the folders is not added, and the user is told why.
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a")),
+            QUrl::fromLocalFile(m_tree.filePath("b/two.txt")),
+            QUrl::fromLocalFile(m_tree.filePath("a/sub")),
+            QUrl::fromLocalFile(m_tree.filePath("a"))});
+        dropOnWindow(&data);
+        QTRY_COMPARE(boxes.texts.size(), 1);
+        QCOMPARE(boxes.texts.first(),
+            QStringLiteral("\"%1\" is a file, not a folder. Only folders can be scanned: add the "
+                           "folder that holds it instead.")
+                .arg(m_tree.filePath("b/two.txt")));
+        QCOMPARE(
+            m_window->folders(), QStringList({m_tree.filePath("a"), m_tree.filePath("a/sub")}));
+        QCOMPARE(child<QLabel>("lab_number")->text(), "2 folders added");
+        QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
+
+        // Several at once: one message that counts them.
+        m_window->addFolders({m_tree.filePath("a/one.bin"), m_tree.filePath("nowhere")});
+        QCOMPARE(boxes.texts.size(), 2);
+        QCOMPARE(boxes.texts.last(), "2 items were not added because they are not folders:");
+        QCOMPARE(m_window->folders().size(), 2);
+    }
+
+    void scanThroughButtons()
+    {
+        // The nested folder a/sub is dropped from the roots before the scan.
+        m_window->addFolder(m_tree.filePath("a"));
+        m_window->addFolder(m_tree.filePath("a/sub"));
+        m_window->addFolder(m_tree.filePath("b"));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QCOMPARE(
+            m_window->lastScanRoots(), QStringList({m_tree.filePath("a"), m_tree.filePath("b")}));
+        QCOMPARE(child<QPushButton>("btnAdd")->text(), "Stop");
+        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
+        QVERIFY(done.wait(60000));
+        QCOMPARE(m_window->state(), 4);
+        QCOMPARE(child<QPushButton>("btnAdd")->text(), "New Scan");
+        QCOMPARE(child<QLabel>("lab_fileNumber")->text(), "10");
+        QCOMPARE(child<QLabel>("lab_progress")->text(), "100.00%");
+        QCOMPARE(TFileData::instance()->groupCount(), 2);
+        // The count is of files in groups: three copies and two copies.
+        QCOMPARE(child<QLabel>("lab_findNumber")->text(), "5");
+        QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
+        QCOMPARE(child<QPushButton>("btn_scan")->text(), "Show results");
+
+        // "Show results" opens the group list with both groups.
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QVERIFY(m_window->resultPage());
+        QTRY_VERIFY(m_window->resultPage()->isDataLoaded());
+        QCOMPARE(m_window->resultPage()->groupModel()->rowCount(), 2);
+        m_window->resultPage()->close();
+        QVERIFY(m_window->isVisible());
+
+        // New Scan after saving returns to an empty folder page.
+        TControlUI::instance()->setProjectPath("saved");
+        TFileData::instance()->clear();
+        QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+        QCOMPARE(m_window->state(), 1);
+        QVERIFY(m_window->folders().isEmpty());
+        QCOMPARE(child<QLabel>("lab_findTime")->text(), "00:00:00");
+        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 0);
+    }
+
+    void stopDuringScan()
+    {
+        // Enough files that the scan is still walking when Stop is pressed.
+        for (int i = 0; i < 3000; ++i)
+            makeFile(QStringLiteral("many/%1/f%2.txt").arg(i % 30).arg(i), QByteArray::number(i));
+        m_window->addFolder(m_tree.filePath("many"));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+        QCOMPARE(m_window->state(), 4);
+        QVERIFY(done.count() == 1 || done.wait(30000));
+        QCOMPARE(m_window->state(), 4);
+        const QString log = QString::fromUtf8(ScanTree::read(DataDirectory::todaysLogFile()));
+        QVERIFY(
+            log.contains(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning "
+                                        "process.")));
+        QVERIFY(log.lastIndexOf("All tasks are completed")
+            > log.lastIndexOf("The user clicks Stop during the scanning"));
+        QDir(m_tree.filePath("many")).removeRecursively();
+    }
+
+    void projectFromCommandLine()
+    {
+        const QString a = m_tree.filePath("a/one.bin");
+        const QString b = m_tree.filePath("b/one-again.bin");
+        const QString key = TFileData::groupKey(a);
+        TFileData::instance()->insertGroup(key, {a, b});
+        TFileData::instance()->setSelected(key, {b});
+        const QString project = m_tree.filePath("saved.dupproj");
+        {
+            TOpenSaveThread writer;
+            QSignalSpy saved(&writer, &TOpenSaveThread::saveComplated);
+            QVERIFY(writer.saveProject(project, 7, "00:00:05"));
+            QVERIFY(saved.wait(10000));
+            QCOMPARE(saved.at(0).at(0).toInt(), int(TOpenSaveThread::ProjectSucceeded));
+        }
+        TFileData::instance()->clear();
+
+        MainWindow window({"program", project});
+        QCOMPARE(window.state(), 5);
+        QTRY_COMPARE_WITH_TIMEOUT(window.state(), 4, 10000);
+        QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
+        QCOMPARE(window.projectPath(), project);
+        QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->SaveFolder(), m_tree.path());
+        QCOMPARE(window.findChild<QLabel *>("lab_fileNumber")->text(), "7");
+        QCOMPARE(window.findChild<QLabel *>("lab_findTime")->text(), "00:00:05");
+        // The project opens onto the result page, with its selection.
+        QTRY_VERIFY(window.resultPage() && window.resultPage()->isDataLoaded());
+        ResultForm *page = window.resultPage();
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+        QTRY_COMPARE(page->totals().count, 1);
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        page->close();
+        TFileData::instance()->clear();
+    }
+
+    void projectArgumentNotAFile_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("missing file") << "missing.dupproj"
+                                      << "The project file \"%1\" does not exist.";
+        QTest::newRow("a folder") << "a"
+                                  << "\"%1\" is a folder, not a project file. To scan it, add it "
+                                     "with the + button.";
+    }
+    void projectArgumentNotAFile()
+    {
+        QFETCH(QString, argument);
+        QFETCH(QString, message);
+        DialogAnswerer boxes;
+        MainWindow window({"program", m_tree.filePath(argument)});
+        window.show();
+        QTRY_COMPARE(boxes.texts.size(), 1);
+        QCOMPARE(boxes.texts.first(), message.arg(m_tree.filePath(argument)));
+        QCOMPARE(boxes.titles.first(), "Open File");
+        QCOMPARE(window.state(), 1);
+        QVERIFY(window.projectPath().isEmpty());
+    }
+
+    void unreadableText_data()
+    {
+        QTest::addColumn<int>("folders");
+        QTest::addColumn<int>("files");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("everything read") << 0 << 0 << QString();
+        QTest::newRow("one folder") << 1 << 0 << "1 folder could not be read.";
+        QTest::newRow("folders") << 4 << 0 << "4 folders could not be read.";
+        QTest::newRow("one file") << 0 << 1 << "1 file could not be read.";
+        QTest::newRow("both, singular and plural")
+            << 3 << 1 << "3 folders and 1 file could not be read.";
+        QTest::newRow("both, plural and singular")
+            << 1 << 12 << "1 folder and 12 files could not be read.";
+    }
+    void unreadableText()
+    {
+        QFETCH(int, folders);
+        QFETCH(int, files);
+        QFETCH(QString, text);
+        QCOMPARE(MainWindow::unreadableText(folders, files), text);
+    }
+
+    void problemLineAndDetails()
+    {
+        auto *line = child<QLabel>("lab_scanProblems");
+        QVERIFY(line && !line->isVisible());
+        ScanProblems problems;
+        problems.clear(2);
+        problems.add(ScanProblems::UnreadableFolder, m_tree.filePath("a/locked"));
+        for (int i = 0; i < ScanProblems::kKeptPaths + 5; ++i)
+            problems.add(ScanProblems::UnreadableFile, m_tree.filePath("b/f%1").arg(i));
+        problems.add(ScanProblems::LinkOutsideRoots, m_tree.filePath("b/elsewhere"));
+        m_window->setStatus(4);
+        m_window->showScanProblems(problems);
+        QVERIFY(line->isVisible());
+        QVERIFY2(line->text().contains("1 folder and 1005 files could not be read."),
+            qPrintable(line->text()));
+        QVERIFY(
+            line->text().contains("1 link leading outside the chosen folders was not followed."));
+        // Some roots were read: "nothing found" stays an all-clear.
+        auto *warning = child<QLabel>("lab_rootsUnreadable");
+        auto *allClear = child<QLabel>("lab_noDuplicates");
+        QVERIFY(warning->isHidden() && !allClear->isHidden());
+        ScanProblems none;
+        none.clear(1);
+        none.addUnreadableRoot(m_tree.filePath("gone"));
+        m_window->showScanProblems(none);
+        QVERIFY(!warning->isHidden() && allClear->isHidden());
+        QVERIFY(warning->text().contains("The chosen folder could not be read."));
+        m_window->showScanProblems(problems);
+        QVERIFY(warning->isHidden() && !allClear->isHidden());
+
+        emit line->linkActivated("details");
+        auto *dialog = m_window->findChild<ProblemListDialog *>();
+        QVERIFY(dialog);
+        const QString list = dialog->text();
+        QVERIFY(list.contains(
+            "Folders that could not be read (1)\n    " + m_tree.filePath("a/locked")));
+        QVERIFY(list.contains("Files that could not be read (1005)"));
+        QVERIFY(list.contains("... and 5 more"));
+        QVERIFY(list.contains(m_tree.filePath("b/elsewhere")));
+        dialog->copyAll();
+        QCOMPARE(QApplication::clipboard()->text(), list);
+        dialog->close();
+
+        // A new scan starts without the old problems.
+        TControlUI::instance()->setProjectPath("saved");
+        QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+        QCOMPARE(m_window->state(), 1);
+        QVERIFY(!line->isVisible());
+    }
+
+    void noDuplicatesPage_data()
+    {
+        // An unreadable root must not be reported as an all-clear.
+        QTest::addColumn<QString>("how");
+        QTest::newRow("readable folder of one file") << "readable";
+        QTest::newRow("folder removed after it was added") << "removed";
+        QTest::newRow("folder without permissions") << "chmod";
+    }
+    void noDuplicatesPage()
+    {
+        QFETCH(QString, how);
+        const QString root = m_tree.filePath("closed");
+        QDir().mkpath(root);
+        makeFile("closed/x.txt", "x");
+        QVERIFY(m_window->addFolder(root));
+        if (how == QLatin1String("removed")) {
+            QDir(root).removeRecursively();
+        } else if (how == QLatin1String("chmod")) {
+            QFile::setPermissions(root, QFileDevice::Permissions());
+            if (::access(QFile::encodeName(root).constData(), R_OK | X_OK) == 0) {
+                QFile::setPermissions(
+                    root, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+                QDir(root).removeRecursively();
+                QSKIP("this user reads folders without permission (root)");
+            }
+        }
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QVERIFY(done.wait(30000));
+        QFile::setPermissions(
+            root, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QDir(root).removeRecursively();
+        QCOMPARE(m_window->state(), 4);
+        QCOMPARE(m_window->resultKind(), 2);
+        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 2);
+        QVERIFY(!child<QPushButton>("btn_scan")->isEnabled());
+        const bool readable = how == QLatin1String("readable");
+        if (!readable && !TControlUI::instance()->problems().allRootsUnreadable())
+            QSKIP("the scanner of this build does not report unreadable roots");
+        auto *warning = child<QLabel>("lab_rootsUnreadable");
+        QCOMPARE(warning->isVisible(), !readable);
+        QCOMPARE(child<QLabel>("lab_noDuplicates")->isVisible(), readable);
+        if (readable)
+            return;
+        QVERIFY(warning->text().contains("The chosen folder could not be read."));
+        QVERIFY(child<QLabel>("lab_scanProblems")->text().contains("1 folder could not be read."));
+    }
+
+    void roundButtonFitsEveryLanguage_data()
+    {
+        QTest::addColumn<int>("language");
+        int language = 0;
+        for (const char *name :
+            {"English", "French", "Portuguese", "Italian", "German", "Spanish", "Japanese"})
+            QTest::newRow(name) << ++language;
+    }
+    void roundButtonFitsEveryLanguage()
+    {
+        QFETCH(int, language);
+        QFile style(":resource/Style.qss");
+        QVERIFY(style.open(QIODevice::ReadOnly));
+        qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
+        LanguageSetup::setupLanguage(language);
+        auto *button = qobject_cast<RoundTextButton *>(child<QPushButton>("btnAdd"));
+        QVERIFY(button);
+        // The styled size, not the default one, is the size that has to fit.
+        QCOMPARE(button->font().pixelSize(), 18);
+        for (int state : {2, 4}) {
+            m_window->setStatus(state);
+            QVERIFY2(button->captionFits(), qPrintable(button->text()));
+            // Only a space may break a caption: no word is split.
+            const QString lines = button->captionLines();
+            QCOMPARE(QString(lines).replace(QLatin1Char('\n'), QLatin1Char(' ')), button->text());
+        }
+        LanguageSetup::setupLanguage(1);
+        qApp->setStyleSheet(QString());
+    }
+
+    void abnormalExitNoticeOnce()
+    {
+        DFPreferences::instance()->ignoreListPreferences()->setDeleteException(1);
+        DFPreferences::instance()->save();
+        // A batch of three cut off after its first item.
+        RemovalJournal journal;
+        QVERIFY(journal.begin("trash", 3));
+        journal.record("trash", DeleteResult {"/gone/one.jpg"}, RemovalJournal::removed);
+        DialogAnswerer boxes;
+        const QStringList &titles = boxes.titles;
+        {
+            MainWindow window({"program"});
+            window.show();
+            QTRY_COMPARE(titles.size(), 1);
+        }
+        QCOMPARE(titles.first(), "Abnormal Exit Detected During Last Deletion");
+        QVERIFY(boxes.texts.first().contains("1 of 3"));
+        QVERIFY(boxes.texts.first().contains(QFileInfo(journal.path()).fileName()));
+        QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
+        {
+            MainWindow again({"program"});
+            again.show();
+            QTest::qWait(200);
+        }
+        QCOMPARE(titles.size(), 1);
+    }
+
+    void settingsRefusedWhileScanning()
+    {
+        // The dialog learns of the scan from the window: the window's state must reach it.
+        DialogAnswerer boxes;
+        m_window->setStatus(MainWindow::StateScanning);
+        bool opened = false;
+        QTimer::singleShot(100, this, [&opened] {
+            auto *dialog = qobject_cast<DFPreferencesDialog *>(QApplication::activeModalWidget());
+            opened = dialog != nullptr;
+            if (!dialog)
+                return;
+            dialog->findChild<QPushButton *>("btnOK")->click();
+            dialog->reject();
+        });
+        QTest::mouseClick(child<QPushButton>("btn_set"), Qt::LeftButton);
+        m_window->setStatus(MainWindow::StateReady);
+        QVERIFY(opened);
+        QCOMPARE(boxes.texts,
+            QStringList {QStringLiteral(
+                "You cannot change settings of preferences while the scan is in progress.")});
+    }
+
+    void settingsOutsideRangesStopTheScan()
+    {
+        // A value that reached the store without the loader's clamping (another part wrote
+        // it) must not start a scan that groups every picture.
+        DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
+        const DFGenernalPreferences saved(*similar);
+        similar->setHasSimilar(true);
+        similar->setSimilarityValue(0);
+        DialogAnswerer boxes;
+        QVERIFY(m_window->addFolder(m_tree.filePath("a")));
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        *similar = saved;
+        QCOMPARE(boxes.texts, QStringList {"The similarity threshold 0% is outside 1% to 100%."});
+        QCOMPARE(m_window->state(), int(MainWindow::StateReady));
+        QCOMPARE(TControlUI::instance()->runState(), int(TControlUI::Stopped));
+    }
 
 private:
     template<typename T>
@@ -77,505 +533,16 @@ private:
         QVERIFY(!ScanTree::write(m_tree.path(), relative, content).isEmpty());
     }
     // A drop arrives after its drag entered, as from a file manager.
-    void dropOnWindow(QMimeData *data);
+    void dropOnWindow(QMimeData *data)
+    {
+        QDragEnterEvent enter(QPoint(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window, &enter);
+        QDropEvent drop(QPointF(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window, &drop);
+    }
     QTemporaryDir m_tree;
     MainWindow *m_window = nullptr;
 };
-
-void tst_MainWindow::dropOnWindow(QMimeData *data)
-{
-    QDragEnterEvent enter(QPoint(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_window, &enter);
-    QDropEvent drop(QPointF(10, 10), Qt::LinkAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_window, &drop);
-}
-
-void tst_MainWindow::initTestCase()
-{
-    initLogger(DataDirectory::base());
-    // English texts come from the catalogue as in the program: it holds the plural forms.
-    LanguageSetup::setupLanguage(1);
-    QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
-    // A small tree: three copies of one file, two of another, and unique files.
-    makeFile(QStringLiteral("a/one.bin"), QByteArray(5000, 'a'));
-    makeFile(QStringLiteral("a/sub/one-copy.bin"), QByteArray(5000, 'a'));
-    makeFile(QStringLiteral("b/one-again.bin"), QByteArray(5000, 'a'));
-    makeFile(QStringLiteral("b/two.txt"), QByteArray(3000, 't'));
-    makeFile(QStringLiteral("a/sub/two.txt"), QByteArray(3000, 't'));
-    for (int i = 0; i < 5; ++i)
-        makeFile(QStringLiteral("b/unique%1.dat").arg(i), QByteArray(100 + i, char('k' + i)));
-    QDir(m_tree.path()).mkpath(QStringLiteral("empty"));
-}
-
-void tst_MainWindow::init()
-{
-    TFileData::instance()->clear();
-    m_window = new MainWindow({QStringLiteral("program")});
-    m_window->setShowResultsWhenDone(false);
-    m_window->show();
-}
-
-void tst_MainWindow::cleanup()
-{
-    TControlUI::instance()->stop();
-    TFileData::instance()->clear();
-    delete m_window;
-    m_window = nullptr;
-}
-
-void tst_MainWindow::statesAndButtonTexts_data()
-{
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("mainText");
-    QTest::addColumn<bool>("mainEnabled");
-    QTest::addColumn<QList<bool>>("actions");
-    QTest::newRow("ready") << 1 << QString() << true << QList<bool> {true, true, false, false};
-    QTest::newRow("scanning") << 2 << "Stop" << true << QList<bool> {false, false, false, false};
-    QTest::newRow("continue") << 3 << "Continue" << true << QList<bool> {false, true, true, true};
-    QTest::newRow("finished") << 4 << "New Scan" << true << QList<bool> {true, true, true, true};
-    QTest::newRow("opening") << 5 << QString() << false << QList<bool> {true, false, false, false};
-}
-
-void tst_MainWindow::statesAndButtonTexts()
-{
-    QFETCH(int, state);
-    QFETCH(QString, mainText);
-    QFETCH(bool, mainEnabled);
-    QFETCH(QList<bool>, actions);
-    auto *add = child<QPushButton>("btnAdd");
-    auto *scan = child<QPushButton>("btn_scan");
-    QVERIFY(add && scan);
-    QCOMPARE(m_window->state(), 1);
-    QVERIFY(!add->icon().isNull() || add->text().isEmpty());
-    QCOMPARE(scan->text(), QStringLiteral("Scan"));
-    QVERIFY(!scan->isEnabled());
-    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("0 folders added"));
-
-    m_window->setStatus(state);
-    QCOMPARE(add->text(), mainText);
-    QCOMPARE(add->isEnabled(), mainEnabled);
-    const QList<QAction *> stateActions {child<QAction>("action_openProject"),
-        m_window->findChild<QMenu *>(QStringLiteral("menu_language"))->menuAction(),
-        child<QAction>("action_saveProject"), child<QAction>("action_showResults")};
-    for (int i = 0; i < 4; ++i)
-        QCOMPARE(stateActions.at(i)->isEnabled(), actions.at(i));
-    if (state == 1) {
-        QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("0.00%"));
-        QCOMPARE(child<QLabel>("lab_findSize")->text(), QStringLiteral("0 B"));
-    }
-    if (state == 4)
-        QCOMPARE(scan->text(), QStringLiteral("Show results"));
-    if (state == 5)
-        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
-}
-
-void tst_MainWindow::dragEnter_data()
-{
-    QTest::addColumn<QStringList>("paths");
-    QTest::addColumn<int>("state");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("a folder") << QStringList {"a"} << 1 << true;
-    // Files are let in so that the drop can say why they are not added.
-    QTest::newRow("files only") << QStringList {"a/one.bin", "b/two.txt"} << 1 << true;
-    QTest::newRow("a file and a folder") << QStringList {"b/two.txt", "b"} << 1 << true;
-    QTest::newRow("a folder while scanning") << QStringList {"a"} << 2 << false;
-    QTest::newRow("a missing folder") << QStringList {"nowhere"} << 1 << false;
-}
-
-void tst_MainWindow::dragEnter()
-{
-    QFETCH(QStringList, paths);
-    QFETCH(int, state);
-    QFETCH(bool, accepted);
-    m_window->setStatus(state);
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const QString &p : paths)
-        urls << QUrl::fromLocalFile(m_tree.filePath(p));
-    data.setUrls(urls);
-    QDragEnterEvent event(
-        QPoint(10, 10), Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_window, &event);
-    QCOMPARE(event.isAccepted(), accepted);
-    QCOMPARE(event.dropAction(), Qt::LinkAction);
-}
-
-void tst_MainWindow::dropAddsFoldersOnce()
-{
-    DialogAnswerer boxes;
-    QMimeData single;
-    single.setUrls({QUrl::fromLocalFile(m_tree.filePath("a"))});
-    dropOnWindow(&single);
-    QTRY_COMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("1 folder added"));
-    QVERIFY(boxes.texts.isEmpty());
-
-    // A file among the folders is not added, and the user is told why.
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(m_tree.filePath("a")),
-        QUrl::fromLocalFile(m_tree.filePath("b/two.txt")),
-        QUrl::fromLocalFile(m_tree.filePath("a/sub")), QUrl::fromLocalFile(m_tree.filePath("a"))});
-    dropOnWindow(&data);
-    QTRY_COMPARE(boxes.texts.size(), 1);
-    QCOMPARE(boxes.texts.first(),
-        QStringLiteral("\"%1\" is a file, not a folder. Only folders can be scanned: add the "
-                       "folder that holds it instead.")
-            .arg(m_tree.filePath("b/two.txt")));
-    QCOMPARE(m_window->folders(), QStringList({m_tree.filePath("a"), m_tree.filePath("a/sub")}));
-    QCOMPARE(child<QLabel>("lab_number")->text(), QStringLiteral("2 folders added"));
-    QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
-
-    // Several at once: one message that counts them.
-    m_window->addFolders({m_tree.filePath("a/one.bin"), m_tree.filePath("nowhere")});
-    QCOMPARE(boxes.texts.size(), 2);
-    QCOMPARE(
-        boxes.texts.last(), QStringLiteral("2 items were not added because they are not folders:"));
-    QCOMPARE(m_window->folders().size(), 2);
-}
-
-void tst_MainWindow::scanThroughButtons()
-{
-    // The nested folder a/sub is dropped from the roots before the scan.
-    m_window->addFolder(m_tree.filePath("a"));
-    m_window->addFolder(m_tree.filePath("a/sub"));
-    m_window->addFolder(m_tree.filePath("b"));
-    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
-    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
-    QCOMPARE(m_window->lastScanRoots(), QStringList({m_tree.filePath("a"), m_tree.filePath("b")}));
-    QCOMPARE(child<QPushButton>("btnAdd")->text(), QStringLiteral("Stop"));
-    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 1);
-    QVERIFY(done.wait(60000));
-    QCOMPARE(m_window->state(), 4);
-    QCOMPARE(child<QPushButton>("btnAdd")->text(), QStringLiteral("New Scan"));
-    QCOMPARE(child<QLabel>("lab_fileNumber")->text(), QStringLiteral("10"));
-    QCOMPARE(child<QLabel>("lab_progress")->text(), QStringLiteral("100.00%"));
-    QCOMPARE(TFileData::instance()->groupCount(), 2);
-    // The count is of files in groups: three copies and two copies.
-    QCOMPARE(child<QLabel>("lab_findNumber")->text(), QStringLiteral("5"));
-    QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
-    QCOMPARE(child<QPushButton>("btn_scan")->text(), QStringLiteral("Show results"));
-
-    // "Show results" opens the group list with both groups.
-    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
-    QVERIFY(m_window->resultPage());
-    QTRY_VERIFY(m_window->resultPage()->isDataLoaded());
-    QCOMPARE(m_window->resultPage()->groupModel()->rowCount(), 2);
-    m_window->resultPage()->close();
-    QVERIFY(m_window->isVisible());
-
-    // New Scan after saving returns to an empty folder page.
-    TControlUI::instance()->setProjectPath(QStringLiteral("saved"));
-    TFileData::instance()->clear();
-    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
-    QCOMPARE(m_window->state(), 1);
-    QVERIFY(m_window->folders().isEmpty());
-    QCOMPARE(child<QLabel>("lab_findTime")->text(), QStringLiteral("00:00:00"));
-    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 0);
-}
-
-void tst_MainWindow::stopDuringScan()
-{
-    // Enough files that the scan is still walking when Stop is pressed.
-    for (int i = 0; i < 3000; ++i)
-        makeFile(QStringLiteral("many/%1/f%2.txt").arg(i % 30).arg(i), QByteArray::number(i));
-    m_window->addFolder(m_tree.filePath("many"));
-    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
-    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
-    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
-    QCOMPARE(m_window->state(), 4);
-    QVERIFY(done.count() == 1 || done.wait(30000));
-    QCOMPARE(m_window->state(), 4);
-    const QString log = QString::fromUtf8(ScanTree::read(DataDirectory::todaysLogFile()));
-    QVERIFY(log.contains(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning "
-                                        "process.")));
-    QVERIFY(log.lastIndexOf(QStringLiteral("All tasks are completed"))
-        > log.lastIndexOf(QStringLiteral("The user clicks Stop during the scanning")));
-    QDir(m_tree.filePath("many")).removeRecursively();
-}
-
-void tst_MainWindow::projectFromCommandLine()
-{
-    const QString a = m_tree.filePath("a/one.bin");
-    const QString b = m_tree.filePath("b/one-again.bin");
-    const QString key = TFileData::groupKey(a);
-    TFileData::instance()->insertGroup(key, {a, b});
-    TFileData::instance()->setSelected(key, {b});
-    const QString project = m_tree.filePath("saved.dupproj");
-    {
-        TOpenSaveThread writer;
-        QSignalSpy saved(&writer, &TOpenSaveThread::saveComplated);
-        QVERIFY(writer.saveProject(project, 7, QStringLiteral("00:00:05")));
-        QVERIFY(saved.wait(10000));
-        QCOMPARE(saved.at(0).at(0).toInt(), int(TOpenSaveThread::ProjectSucceeded));
-    }
-    TFileData::instance()->clear();
-
-    MainWindow window({QStringLiteral("program"), project});
-    QCOMPARE(window.state(), 5);
-    QTRY_COMPARE_WITH_TIMEOUT(window.state(), 4, 10000);
-    QCOMPARE(TFileData::instance()->group(key), QStringList({a, b}));
-    QCOMPARE(window.projectPath(), project);
-    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->SaveFolder(), m_tree.path());
-    QCOMPARE(
-        window.findChild<QLabel *>(QStringLiteral("lab_fileNumber"))->text(), QStringLiteral("7"));
-    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lab_findTime"))->text(),
-        QStringLiteral("00:00:05"));
-    // The project opens onto the result page, with its selection.
-    QTRY_VERIFY(window.resultPage() && window.resultPage()->isDataLoaded());
-    ResultForm *page = window.resultPage();
-    QCOMPARE(page->groupModel()->rowCount(), 1);
-    QTRY_COMPARE(page->totals().count, 1);
-    QTRY_COMPARE(page->itemModel()->rowCount(), 2);
-    page->close();
-    TFileData::instance()->clear();
-}
-
-void tst_MainWindow::projectArgumentNotAFile_data()
-{
-    QTest::addColumn<QString>("argument");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("missing file") << "missing.dupproj"
-                                  << "The project file \"%1\" does not exist.";
-    QTest::newRow("a folder") << "a"
-                              << "\"%1\" is a folder, not a project file. To scan it, add it "
-                                 "with the + button.";
-}
-
-void tst_MainWindow::projectArgumentNotAFile()
-{
-    QFETCH(QString, argument);
-    QFETCH(QString, message);
-    DialogAnswerer boxes;
-    MainWindow window({QStringLiteral("program"), m_tree.filePath(argument)});
-    window.show();
-    QTRY_COMPARE(boxes.texts.size(), 1);
-    QCOMPARE(boxes.texts.first(), message.arg(m_tree.filePath(argument)));
-    QCOMPARE(boxes.titles.first(), QStringLiteral("Open File"));
-    QCOMPARE(window.state(), 1);
-    QVERIFY(window.projectPath().isEmpty());
-}
-
-void tst_MainWindow::unreadableText_data()
-{
-    QTest::addColumn<int>("folders");
-    QTest::addColumn<int>("files");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("everything read") << 0 << 0 << QString();
-    QTest::newRow("one folder") << 1 << 0 << "1 folder could not be read.";
-    QTest::newRow("folders") << 4 << 0 << "4 folders could not be read.";
-    QTest::newRow("one file") << 0 << 1 << "1 file could not be read.";
-    QTest::newRow("both, singular and plural")
-        << 3 << 1 << "3 folders and 1 file could not be read.";
-    QTest::newRow("both, plural and singular")
-        << 1 << 12 << "1 folder and 12 files could not be read.";
-}
-
-void tst_MainWindow::unreadableText()
-{
-    QFETCH(int, folders);
-    QFETCH(int, files);
-    QFETCH(QString, text);
-    QCOMPARE(MainWindow::unreadableText(folders, files), text);
-}
-
-void tst_MainWindow::problemLineAndDetails()
-{
-    auto *line = child<QLabel>("lab_scanProblems");
-    QVERIFY(line && !line->isVisible());
-    ScanProblems problems;
-    problems.clear(2);
-    problems.add(ScanProblems::UnreadableFolder, m_tree.filePath("a/locked"));
-    for (int i = 0; i < ScanProblems::kKeptPaths + 5; ++i)
-        problems.add(ScanProblems::UnreadableFile, m_tree.filePath("b/f%1").arg(i));
-    problems.add(ScanProblems::LinkOutsideRoots, m_tree.filePath("b/elsewhere"));
-    m_window->setStatus(4);
-    m_window->showScanProblems(problems);
-    QVERIFY(line->isVisible());
-    QVERIFY2(line->text().contains(QStringLiteral("1 folder and 1005 files could not be read.")),
-        qPrintable(line->text()));
-    QVERIFY(line->text().contains(
-        QStringLiteral("1 link leading outside the chosen folders was not followed.")));
-    // Some roots were read: "nothing found" stays an all-clear.
-    auto *warning = child<QLabel>("lab_rootsUnreadable");
-    auto *allClear = child<QLabel>("lab_noDuplicates");
-    QVERIFY(warning->isHidden() && !allClear->isHidden());
-    ScanProblems none;
-    none.clear(1);
-    none.addUnreadableRoot(m_tree.filePath("gone"));
-    m_window->showScanProblems(none);
-    QVERIFY(!warning->isHidden() && allClear->isHidden());
-    QVERIFY(warning->text().contains(QStringLiteral("The chosen folder could not be read.")));
-    m_window->showScanProblems(problems);
-    QVERIFY(warning->isHidden() && !allClear->isHidden());
-
-    emit line->linkActivated(QStringLiteral("details"));
-    auto *dialog = m_window->findChild<ProblemListDialog *>();
-    QVERIFY(dialog);
-    const QString list = dialog->text();
-    QVERIFY(list.contains(
-        QStringLiteral("Folders that could not be read (1)\n    ") + m_tree.filePath("a/locked")));
-    QVERIFY(list.contains(QStringLiteral("Files that could not be read (1005)")));
-    QVERIFY(list.contains(QStringLiteral("... and 5 more")));
-    QVERIFY(list.contains(m_tree.filePath("b/elsewhere")));
-    dialog->copyAll();
-    QCOMPARE(QApplication::clipboard()->text(), list);
-    dialog->close();
-
-    // A new scan starts without the old problems.
-    TControlUI::instance()->setProjectPath(QStringLiteral("saved"));
-    QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
-    QCOMPARE(m_window->state(), 1);
-    QVERIFY(!line->isVisible());
-}
-
-void tst_MainWindow::noDuplicatesPage_data()
-{
-    // An unreadable root must not be reported as an all-clear.
-    QTest::addColumn<QString>("how");
-    QTest::newRow("readable folder of one file") << "readable";
-    QTest::newRow("folder removed after it was added") << "removed";
-    QTest::newRow("folder without permissions") << "chmod";
-}
-
-void tst_MainWindow::noDuplicatesPage()
-{
-    QFETCH(QString, how);
-    const QString root = m_tree.filePath("closed");
-    QDir().mkpath(root);
-    makeFile(QStringLiteral("closed/x.txt"), "x");
-    QVERIFY(m_window->addFolder(root));
-    if (how == QLatin1String("removed")) {
-        QDir(root).removeRecursively();
-    } else if (how == QLatin1String("chmod")) {
-        QFile::setPermissions(root, QFileDevice::Permissions());
-        if (::access(QFile::encodeName(root).constData(), R_OK | X_OK) == 0) {
-            QFile::setPermissions(
-                root, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-            QDir(root).removeRecursively();
-            QSKIP("this user reads folders without permission (root)");
-        }
-    }
-    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
-    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
-    QVERIFY(done.wait(30000));
-    QFile::setPermissions(
-        root, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    QDir(root).removeRecursively();
-    QCOMPARE(m_window->state(), 4);
-    QCOMPARE(m_window->resultKind(), 2);
-    QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 2);
-    QVERIFY(!child<QPushButton>("btn_scan")->isEnabled());
-    const bool readable = how == QLatin1String("readable");
-    if (!readable && !TControlUI::instance()->problems().allRootsUnreadable())
-        QSKIP("the scanner of this build does not report unreadable roots");
-    auto *warning = child<QLabel>("lab_rootsUnreadable");
-    QCOMPARE(warning->isVisible(), !readable);
-    QCOMPARE(child<QLabel>("lab_noDuplicates")->isVisible(), readable);
-    if (readable)
-        return;
-    QVERIFY(warning->text().contains(QStringLiteral("The chosen folder could not be read.")));
-    QVERIFY(child<QLabel>("lab_scanProblems")
-                ->text()
-                .contains(QStringLiteral("1 folder could not be read.")));
-}
-
-void tst_MainWindow::roundButtonFitsEveryLanguage_data()
-{
-    QTest::addColumn<int>("language");
-    int language = 0;
-    for (const char *name :
-        {"English", "French", "Portuguese", "Italian", "German", "Spanish", "Japanese"})
-        QTest::newRow(name) << ++language;
-}
-
-void tst_MainWindow::roundButtonFitsEveryLanguage()
-{
-    QFETCH(int, language);
-    QFile style(QStringLiteral(":resource/Style.qss"));
-    QVERIFY(style.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
-    LanguageSetup::setupLanguage(language);
-    auto *button = qobject_cast<RoundTextButton *>(child<QPushButton>("btnAdd"));
-    QVERIFY(button);
-    // The styled size, not the default one, is the size that has to fit.
-    QCOMPARE(button->font().pixelSize(), 18);
-    for (int state : {2, 4}) {
-        m_window->setStatus(state);
-        QVERIFY2(button->captionFits(), qPrintable(button->text()));
-        // Only a space may break a caption: no word is split.
-        const QString lines = button->captionLines();
-        QCOMPARE(QString(lines).replace(QLatin1Char('\n'), QLatin1Char(' ')), button->text());
-    }
-    LanguageSetup::setupLanguage(1);
-    qApp->setStyleSheet(QString());
-}
-
-void tst_MainWindow::abnormalExitNoticeOnce()
-{
-    DFPreferences::instance()->ignoreListPreferences()->setDeleteException(1);
-    DFPreferences::instance()->save();
-    // A batch of three cut off after its first item.
-    RemovalJournal journal;
-    QVERIFY(journal.begin(QStringLiteral("trash"), 3));
-    journal.record(QStringLiteral("trash"), DeleteResult {QStringLiteral("/gone/one.jpg")},
-        RemovalJournal::removed);
-    DialogAnswerer boxes;
-    const QStringList &titles = boxes.titles;
-    {
-        MainWindow window({QStringLiteral("program")});
-        window.show();
-        QTRY_COMPARE(titles.size(), 1);
-    }
-    QCOMPARE(titles.first(), QStringLiteral("Abnormal Exit Detected During Last Deletion"));
-    QVERIFY(boxes.texts.first().contains(QStringLiteral("1 of 3")));
-    QVERIFY(boxes.texts.first().contains(QFileInfo(journal.path()).fileName()));
-    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
-    {
-        MainWindow again({QStringLiteral("program")});
-        again.show();
-        QTest::qWait(200);
-    }
-    QCOMPARE(titles.size(), 1);
-}
-
-void tst_MainWindow::settingsRefusedWhileScanning()
-{
-    // The dialog learns of the scan from the window: the window's state must reach it.
-    DialogAnswerer boxes;
-    m_window->setStatus(MainWindow::StateScanning);
-    bool opened = false;
-    QTimer::singleShot(100, this, [&opened] {
-        auto *dialog = qobject_cast<DFPreferencesDialog *>(QApplication::activeModalWidget());
-        opened = dialog != nullptr;
-        if (!dialog)
-            return;
-        dialog->findChild<QPushButton *>(QStringLiteral("btnOK"))->click();
-        dialog->reject();
-    });
-    QTest::mouseClick(child<QPushButton>("btn_set"), Qt::LeftButton);
-    m_window->setStatus(MainWindow::StateReady);
-    QVERIFY(opened);
-    QCOMPARE(boxes.texts,
-        QStringList {QStringLiteral(
-            "You cannot change settings of preferences while the scan is in progress.")});
-}
-
-void tst_MainWindow::settingsOutsideRangesStopTheScan()
-{
-    // A value that reached the store without the loader's clamping (another part wrote
-    // it) must not start a scan that groups every picture.
-    DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
-    const DFGenernalPreferences saved(*similar);
-    similar->setHasSimilar(true);
-    similar->setSimilarityValue(0);
-    DialogAnswerer boxes;
-    QVERIFY(m_window->addFolder(m_tree.filePath(QStringLiteral("a"))));
-    QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
-    *similar = saved;
-    QCOMPARE(boxes.texts,
-        QStringList {QStringLiteral("The similarity threshold 0% is outside 1% to 100%.")});
-    QCOMPARE(m_window->state(), int(MainWindow::StateReady));
-    QCOMPARE(TControlUI::instance()->runState(), int(TControlUI::Stopped));
-}
 
 QTEST_MAIN(tst_MainWindow)
 #include "tst_MainWindow.moc"

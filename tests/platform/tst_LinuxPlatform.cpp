@@ -24,8 +24,8 @@ private slots:
                                                        "tmpfs /run tmpfs rw 0 0\n"
                                                        "broken-line\n");
         QCOMPARE(mounts.size(), size_t(3));
-        QCOMPARE(QString::fromStdString(mounts[1].mountPoint), QStringLiteral("/mnt/my photos"));
-        QCOMPARE(QString::fromStdString(mounts[2].fsType), QStringLiteral("tmpfs"));
+        QCOMPARE(QString::fromStdString(mounts[1].mountPoint), "/mnt/my photos");
+        QCOMPARE(QString::fromStdString(mounts[2].fsType), "tmpfs");
     }
 
     void executableDirIsThisBinarysFolder()
@@ -37,10 +37,10 @@ private slots:
     void diskRootIsTheLongestMountPrefix()
     {
         const auto &p = platform::current();
-        QCOMPARE(QString::fromStdString(p.diskRootOf("/")), QStringLiteral("/"));
+        QCOMPARE(QString::fromStdString(p.diskRootOf("/")), "/");
         // /proc is its own mount; a sibling that only shares the prefix is not inside it.
-        QCOMPARE(QString::fromStdString(p.diskRootOf("/proc/self")), QStringLiteral("/proc"));
-        QCOMPARE(QString::fromStdString(p.diskRootOf("/procfoo")), QStringLiteral("/"));
+        QCOMPARE(QString::fromStdString(p.diskRootOf("/proc/self")), "/proc");
+        QCOMPARE(QString::fromStdString(p.diskRootOf("/procfoo")), "/");
     }
 
     void fixedDisksAreBlockDevicesOnly()

@@ -35,369 +35,332 @@ class tst_ResultForm : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void scanReviewRemove();
-    void refusals_data();
-    void refusals();
-    void searchFiltersAndSlider();
-    void hideAndIgnore();
-    void everyCopyAsksAgain();
-    void similarMembersShowRealFiles();
+    void initTestCase()
+    {
+        initLogger(DataDirectory::base());
+        LanguageSetup::setupLanguage(1);
+        QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
+
+    void init()
+    {
+        TFileData::instance()->clear();
+        QDir(m_tree.path()).removeRecursively();
+        QDir().mkpath(m_tree.path());
+        DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
+        prefs->setRemovealMethod(DFIgnoreListPreferences::moveToTrash);
+        prefs->setTrashFolder(QString());
+        prefs->setIgnorePathFile({});
+        DFPreferences::instance()->save();
+    }
+
+    void cleanup()
+    {
+        delete m_page;
+        m_page = nullptr;
+        TFileData::instance()->clear();
+    }
+
+    void scanReviewRemove()
+    {
+        // Three copies of a photo, two of a document, two of a song, and files of their own.
+        const QByteArray photo = jpeg(7);
+        const QString keptPhoto = file("photos/beach.jpg", photo);
+        const QString copyPhoto = file("backup/copy of beach.jpg", photo);
+        const QString thirdPhoto = file("backup/old/beach (1).jpg", photo);
+        const QString keptDoc = file("docs/report.txt", ScanTree::pattern(4000, 'd'));
+        const QString copyDoc = file("docs/report (2).txt", ScanTree::pattern(4000, 'd'));
+        const QString song = file("music/song.mp3", ScanTree::pattern(9000, 's'));
+        const QString songCopy = file("music/song-1.mp3", ScanTree::pattern(9000, 's'));
+        for (int i = 0; i < 4; ++i)
+            file(QStringLiteral("misc/u%1.dat").arg(i), ScanTree::pattern(100 + i, char('u' + i)));
+
+        DialogAnswerer answers({QMessageBox::Yes});
+        answers.closeOtherDialogs = true;
+        MainWindow window({"program"});
+        window.show();
+        window.addFolder(m_tree.path());
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(window.findChild<QPushButton *>("btn_scan"), Qt::LeftButton);
+        QVERIFY(done.wait(60000));
+        QTest::mouseClick(window.findChild<QPushButton *>("btn_scan"), Qt::LeftButton);
+        ResultForm *page = window.resultPage();
+        QVERIFY(page);
+        QTRY_VERIFY(page->isDataLoaded());
+        QVERIFY(!window.isVisible());
+
+        // Categories: one group each of pictures, documents and music; none of videos.
+        QCOMPARE(page->groupModel()->rowCount(), 3);
+        QVERIFY(child<QPushButton>(page, "btn_image")->text().startsWith("Images  1 · "));
+        QVERIFY(child<QPushButton>(page, "btn_document")->text().startsWith("Documents  1 · "));
+        QVERIFY(child<QPushButton>(page, "btn_music")->isVisibleTo(page));
+        QVERIFY(!child<QPushButton>(page, "btn_videos")->isVisibleTo(page));
+        QTest::mouseClick(child<QPushButton>(page, "btn_image"), Qt::LeftButton);
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+        QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+        QTest::mouseClick(child<QPushButton>(page, "btn_all"), Qt::LeftButton);
+
+        // Select by Filename keeps the plain names; then the song group is kept whole by hand.
+        action(page->selectionMenu(), "Select by Filename")->trigger();
+        QTRY_COMPARE(page->totals().count, 4);
+        const TFileData::Groups selected = TFileData::instance()->selected();
+        QVERIFY(std::any_of(selected.cbegin(), selected.cend(), [&](const QStringList &paths) {
+            return paths.size() == 2 && paths.contains(copyPhoto) && paths.contains(thirdPhoto);
+        }));
+        openGroup(page, [](const GroupItem &group) { return group.name.startsWith("song"); });
+        QTRY_VERIFY(page->itemModel()->rowCount() == 2
+            && page->itemModel()->displayedItems().first().path.contains(QLatin1String("song")));
+        for (int row = 0; row < 2; ++row)
+            page->itemModel()->setData(
+                page->itemModel()->index(row, 0), false, TImageModel::CheckedRole, true);
+        QTRY_COMPARE(page->totals().count, 3);
+        QCOMPARE(page->totals().bytes, 2 * qint64(photo.size()) + 4000);
+
+        // The removal method's menu entry both chooses the trash and starts the batch.
+        page->deleteMenu()->actions().first()->trigger();
+        QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
+        QCOMPARE(page->lastRemoval().size(), 3);
+        QVERIFY(answers.texts.first().contains("Recycle Bin"));
+        QTRY_VERIFY(answers.dialogs.contains("RemovalSummaryDialog"));
+
+        for (const QString &kept : {keptPhoto, keptDoc, song, songCopy})
+            QVERIFY2(QFileInfo::exists(kept), qPrintable(kept));
+        for (const QString &gone : {copyPhoto, thirdPhoto, copyDoc})
+            QVERIFY2(!QFileInfo::exists(gone), qPrintable(gone));
+        QCOMPARE(
+            trashedNames(), QStringList({"beach (1).jpg", "copy of beach.jpg", "report (2).txt"}));
+        QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
+
+        // Groups left with one member are gone; totals and chart describe the song group alone.
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+        QCOMPARE(TFileData::instance()->groupCount(), 1);
+        QTRY_COMPARE(page->totals().count, 0);
+        QVERIFY(!child<QToolButton>(page, "btn_delete")->isEnabled());
+        QTRY_COMPARE(page->chartStats().value(CategoryAudio).count, 2);
+        QCOMPARE(page->chartStats().value(CategoryAudio).size, 18000);
+        QCOMPARE(page->chartStats().value(CategoryImages).count, 0);
+        QCOMPARE(child<QLabel>(page, "lab_total_num")->text(), "2");
+        QCOMPARE(child<QLabel>(page, "lab_musics_num")->text(), "2");
+        QCOMPARE(child<QLabel>(page, "lab_images_num")->text(), "0");
+
+        page->close();
+        QVERIFY(window.isVisible());
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        const auto row
+            = [](const char *tag, const char *step, const char *title, const char *text) {
+                  QTest::newRow(tag) << QString(step) << QString(title) << QString(text);
+              };
+        row("nothing selected", "delete", "Warning", "No Selected Files!");
+        row("folder dialog cancelled", "folder", "Select Folder", "");
+        row("still loading", "loading", "Loading Data", "Data is still loading, please wait...");
+    }
+    void refusals()
+    {
+        QFETCH(QString, step);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        const QString key = writeGroup("same.bin", 2, ScanTree::pattern(3000, 'x'));
+        if (step != QLatin1String("delete"))
+            TFileData::instance()->setSelected(key, {TFileData::instance()->group(key).last()});
+        // Loading is caught before it ends: the page is used at once.
+        m_page = new ResultForm;
+        if (step != QLatin1String("loading"))
+            QTRY_VERIFY(m_page->isDataLoaded());
+        const QByteArray settingsBefore = ScanTree::read(DFPreferences::instance()->settingsPath());
+
+        DialogAnswerer answers({QMessageBox::Yes});
+        if (step == QLatin1String("folder"))
+            m_page->deleteMenu()->actions().last()->trigger();
+        else
+            m_page->on_btn_delete_clicked();
+        QTRY_COMPARE(answers.titles.size(), 1);
+        QCOMPARE(answers.titles.first(), title);
+        QCOMPARE(answers.texts.first(), text);
+
+        // Nothing was removed, the method is as it was and the settings file is untouched.
+        QCOMPARE(TFileData::instance()->group(key).size(), 2);
+        for (const QString &path : TFileData::instance()->group(key))
+            QVERIFY(QFileInfo::exists(path));
+        QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->RemovealMethod(),
+            DFIgnoreListPreferences::moveToTrash);
+        QVERIFY(m_page->deleteMenu()->actions().first()->isChecked());
+        QVERIFY(!m_page->deleteMenu()->actions().last()->isChecked());
+        QCOMPARE(ScanTree::read(DFPreferences::instance()->settingsPath()), settingsBefore);
+        QTRY_VERIFY(m_page->isDataLoaded());
+    }
+
+    void searchFiltersAndSlider()
+    {
+        writeGroup("holiday.jpg", 3, jpeg(3));
+        writeGroup("notes.txt", 2, ScanTree::pattern(500, 'n'));
+        const QString key = writeGroup("holiday-notes.txt", 2, ScanTree::pattern(700, 'h'));
+        TFileData::instance()->setSelected(key, {TFileData::instance()->group(key).last()});
+        ResultForm *page = openPage();
+
+        auto *search = child<QLineEdit>(page, "lineEdit");
+        QTest::keyClicks(search, "HOLIDAY");
+        QCOMPARE(page->groupModel()->rowCount(), 2);
+        // A category narrows the search further.
+        QTest::mouseClick(child<QPushButton>(page, "btn_document"), Qt::LeftButton);
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+        QCOMPARE(page->groupModel()->displayedGroups().first().name, "holiday-notes.txt");
+        search->clear();
+        QCOMPARE(page->groupModel()->rowCount(), 2);
+
+        // The open group is holiday-notes.txt: only its selected copy is left to show.
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        action(page->filterMenu(), "Show Only Selected Files")->trigger();
+        QCOMPARE(page->itemModel()->rowCount(), 1);
+        QVERIFY(page->itemModel()->displayedItems().first().checked);
+        QVERIFY(!action(page->filterMenu(), "Show All Files")->isChecked());
+        action(page->filterMenu(), "Show All Files")->trigger();
+        QCOMPARE(page->itemModel()->rowCount(), 2);
+
+        // The slider cannot go below the threshold the scan used.
+        const int threshold = DFPreferences::instance()->generalPreferences()->SimilarityValue();
+        QSlider *slider = page->similaritySlider();
+        QCOMPARE(slider->minimum(), threshold);
+        slider->setValue(threshold - 10);
+        QCOMPARE(slider->value(), threshold);
+    }
+
+    void hideAndIgnore()
+    {
+        const QString hidden = writeGroup("three.bin", 3, ScanTree::pattern(900, 't'));
+        const QString ignored = writeGroup("two.bin", 2, ScanTree::pattern(600, 'w'));
+        const QStringList members = TFileData::instance()->group(ignored);
+        ResultForm *page = openPage();
+        openGroup(page, [&](const GroupItem &group) { return group.key == hidden; });
+        QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+
+        // Hiding takes a member out of the result, never off the disk.
+        const QString first = page->itemModel()->displayedItems().first().path;
+        page->onBtnHideFileClick(page->itemModel()->index(0, 0));
+        QCOMPARE(page->itemModel()->rowCount(), 2);
+        QCOMPARE(TFileData::instance()->group(hidden).size(), 2);
+        QVERIFY(QFileInfo::exists(first));
+        page->onBtnHideFileClick(page->itemModel()->index(0, 0));
+        QVERIFY(TFileData::instance()->group(hidden).isEmpty());
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+
+        page->onMenuIgnoreGroup(ignored, 0, 2);
+        QCOMPARE(page->groupModel()->rowCount(), 0);
+        QVERIFY(TFileData::instance()->isEmpty());
+        QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->IgnorePathFile(), members);
+        const QByteArray written = ScanTree::read(DFPreferences::instance()->settingsPath());
+        QVERIFY(written.contains(QFileInfo(members.first()).fileName().toUtf8()));
+    }
+
+    void everyCopyAsksAgain()
+    {
+        const QString key = writeGroup("only.bin", 2, ScanTree::pattern(800, 'o'));
+        const QStringList members = TFileData::instance()->group(key);
+        TFileData::instance()->setSelected(key, members);
+        ResultForm *page = openPage();
+        // Yes to the trash, then the default (No) to losing every copy.
+        DialogAnswerer answers({QMessageBox::Yes, QMessageBox::NoButton});
+        answers.closeOtherDialogs = true;
+        page->on_btn_delete_clicked();
+        QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
+        QVERIFY(answers.texts.at(1).contains("every copy"));
+        QCOMPARE(answers.defaults.at(1), QMessageBox::No);
+        // The first copy stayed; the other went.
+        QVERIFY(QFileInfo::exists(members.first()));
+        QVERIFY(!QFileInfo::exists(members.last()));
+        QCOMPARE(page->lastRemoval().first().reason, TImageDeleteWorker::keptLastCopy);
+    }
+
+    void similarMembersShowRealFiles()
+    {
+        const QByteArray picture = jpeg(5);
+        const QString a = file("p/sunset.jpg", picture);
+        const QString b = file("q/sunset-edit.jpg", jpeg(6));
+        const QString key = TFileData::groupKey(a) + kSimilarTag;
+        TFileData::instance()->insertGroup(
+            key, {a + kSimilarTag + "_100", b + kSimilarTag + "_92"});
+        ResultForm *page = openPage();
+        const GroupItem group = page->groupModel()->displayedGroups().first();
+        QCOMPARE(group.name, "sunset.jpg");
+        QCOMPARE(group.type, int(CategoryImages));
+        QCOMPARE(group.totalSize, 2 * qint64(picture.size()));
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        const ImageItem second = page->itemModel()->displayedItems().at(1);
+        QCOMPARE(second.path, b);
+        QCOMPARE(second.displayName, "sunset-edit.jpg");
+        QCOMPARE(second.size, QFileInfo(b).size());
+        QCOMPARE(second.type, int(CategoryImages));
+        QCOMPARE(second.similarity, 92);
+    }
 
 private:
+    // A real file in the tree; its path.
+    QString file(const QString &relative, const QByteArray &content)
+    {
+        return ScanTree::write(m_tree.path(), relative, content);
+    }
     // Groups of real files in the store, one per entry: name -> copies.
-    QString writeGroup(const QString &name, int copies, const QByteArray &content);
-    ResultForm *openPage();
-    QAction *action(QMenu *menu, const QString &text) const;
+    QString writeGroup(const QString &name, int copies, const QByteArray &content)
+    {
+        QStringList paths;
+        for (int i = 0; i < copies; ++i)
+            paths << file(QStringLiteral("c%1/%2").arg(i).arg(name), content);
+        const QString key = TFileData::groupKey(paths.first());
+        TFileData::instance()->insertGroup(key, paths);
+        return key;
+    }
+    ResultForm *openPage()
+    {
+        m_page = new ResultForm;
+        m_page->resize(1366, 768);
+        m_page->show();
+        [&] { QTRY_VERIFY(m_page->isDataLoaded()); }();
+        return m_page;
+    }
+    QAction *action(QMenu *menu, const QString &text) const
+    {
+        for (QAction *candidate : menu->actions())
+            if (candidate->text() == text)
+                return candidate;
+        return nullptr;
+    }
     // Makes the first group that passes current the open one.
-    static void openGroup(ResultForm *page, const std::function<bool(const GroupItem &)> &current);
+    static void openGroup(ResultForm *page, const std::function<bool(const GroupItem &)> &current)
+    {
+        const QList<GroupItem> groups = page->groupModel()->displayedGroups();
+        for (int row = 0; row < groups.size(); ++row)
+            if (current(groups.at(row)))
+                page->findChild<QListView *>("listView_groups")
+                    ->setCurrentIndex(page->groupModel()->index(row, 0));
+    }
     template<typename T>
     T *child(QWidget *page, const char *name) const
     {
         return page->findChild<T *>(QString::fromLatin1(name));
     }
-    static QByteArray jpeg(int seed);
-    static QStringList trashedNames();
+    static QByteArray jpeg(int seed)
+    {
+        return fixtures::encode(fixtures::makeScene(320, 200, seed), ".jpg");
+    }
+    static QStringList trashedNames()
+    {
+        QStringList names;
+        QDirIterator it(qEnvironmentVariable("XDG_DATA_HOME") + "/Trash/files", QDir::Files);
+        while (it.hasNext())
+            names << QFileInfo(it.next()).fileName();
+        names.sort();
+        return names;
+    }
 
     QTemporaryDir m_tree;
     ResultForm *m_page = nullptr;
 };
-
-QByteArray tst_ResultForm::jpeg(int seed)
-{
-    return fixtures::encode(fixtures::makeScene(320, 200, seed), ".jpg");
-}
-
-QStringList tst_ResultForm::trashedNames()
-{
-    QStringList names;
-    QDirIterator it(
-        qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/Trash/files"), QDir::Files);
-    while (it.hasNext())
-        names << QFileInfo(it.next()).fileName();
-    names.sort();
-    return names;
-}
-
-void tst_ResultForm::initTestCase()
-{
-    initLogger(DataDirectory::base());
-    LanguageSetup::setupLanguage(1);
-    QCoreApplication::installTranslator(&LanguageSetup::appTranslator());
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-}
-
-void tst_ResultForm::init()
-{
-    TFileData::instance()->clear();
-    QDir(m_tree.path()).removeRecursively();
-    QDir().mkpath(m_tree.path());
-    DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
-    prefs->setRemovealMethod(DFIgnoreListPreferences::moveToTrash);
-    prefs->setTrashFolder(QString());
-    prefs->setIgnorePathFile({});
-    DFPreferences::instance()->save();
-}
-
-void tst_ResultForm::cleanup()
-{
-    delete m_page;
-    m_page = nullptr;
-    TFileData::instance()->clear();
-}
-
-QString tst_ResultForm::writeGroup(const QString &name, int copies, const QByteArray &content)
-{
-    QStringList paths;
-    for (int i = 0; i < copies; ++i)
-        paths << ScanTree::write(m_tree.path(), QStringLiteral("c%1/%2").arg(i).arg(name), content);
-    const QString key = TFileData::groupKey(paths.first());
-    TFileData::instance()->insertGroup(key, paths);
-    return key;
-}
-
-ResultForm *tst_ResultForm::openPage()
-{
-    m_page = new ResultForm;
-    m_page->resize(1366, 768);
-    m_page->show();
-    [&] { QTRY_VERIFY(m_page->isDataLoaded()); }();
-    return m_page;
-}
-
-QAction *tst_ResultForm::action(QMenu *menu, const QString &text) const
-{
-    for (QAction *candidate : menu->actions())
-        if (candidate->text() == text)
-            return candidate;
-    return nullptr;
-}
-
-void tst_ResultForm::openGroup(
-    ResultForm *page, const std::function<bool(const GroupItem &)> &current)
-{
-    const QList<GroupItem> groups = page->groupModel()->displayedGroups();
-    for (int row = 0; row < groups.size(); ++row)
-        if (current(groups.at(row)))
-            page->findChild<QListView *>(QStringLiteral("listView_groups"))
-                ->setCurrentIndex(page->groupModel()->index(row, 0));
-}
-
-void tst_ResultForm::scanReviewRemove()
-{
-    // Three copies of a photo, two of a document, two of a song, and files of their own.
-    const QByteArray photo = jpeg(7);
-    const QString keptPhoto
-        = ScanTree::write(m_tree.path(), QStringLiteral("photos/beach.jpg"), photo);
-    const QString copyPhoto
-        = ScanTree::write(m_tree.path(), QStringLiteral("backup/copy of beach.jpg"), photo);
-    const QString thirdPhoto
-        = ScanTree::write(m_tree.path(), QStringLiteral("backup/old/beach (1).jpg"), photo);
-    const QString keptDoc = ScanTree::write(
-        m_tree.path(), QStringLiteral("docs/report.txt"), ScanTree::pattern(4000, 'd'));
-    const QString copyDoc = ScanTree::write(
-        m_tree.path(), QStringLiteral("docs/report (2).txt"), ScanTree::pattern(4000, 'd'));
-    const QString song = ScanTree::write(
-        m_tree.path(), QStringLiteral("music/song.mp3"), ScanTree::pattern(9000, 's'));
-    const QString songCopy = ScanTree::write(
-        m_tree.path(), QStringLiteral("music/song-1.mp3"), ScanTree::pattern(9000, 's'));
-    for (int i = 0; i < 4; ++i)
-        ScanTree::write(m_tree.path(), QStringLiteral("misc/u%1.dat").arg(i),
-            ScanTree::pattern(100 + i, char('u' + i)));
-
-    DialogAnswerer answers({QMessageBox::Yes});
-    answers.closeOtherDialogs = true;
-    MainWindow window({QStringLiteral("program")});
-    window.show();
-    window.addFolder(m_tree.path());
-    QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
-    QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btn_scan")), Qt::LeftButton);
-    QVERIFY(done.wait(60000));
-    QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btn_scan")), Qt::LeftButton);
-    ResultForm *page = window.resultPage();
-    QVERIFY(page);
-    QTRY_VERIFY(page->isDataLoaded());
-    QVERIFY(!window.isVisible());
-
-    // Categories: one group each of pictures, documents and music; none of videos.
-    QCOMPARE(page->groupModel()->rowCount(), 3);
-    QVERIFY(
-        child<QPushButton>(page, "btn_image")->text().startsWith(QStringLiteral("Images  1 · ")));
-    QVERIFY(child<QPushButton>(page, "btn_document")
-                ->text()
-                .startsWith(QStringLiteral("Documents  1 · ")));
-    QVERIFY(child<QPushButton>(page, "btn_music")->isVisibleTo(page));
-    QVERIFY(!child<QPushButton>(page, "btn_videos")->isVisibleTo(page));
-    QTest::mouseClick(child<QPushButton>(page, "btn_image"), Qt::LeftButton);
-    QCOMPARE(page->groupModel()->rowCount(), 1);
-    QTRY_COMPARE(page->itemModel()->rowCount(), 3);
-    QTest::mouseClick(child<QPushButton>(page, "btn_all"), Qt::LeftButton);
-
-    // Select by Filename keeps the plain names; then the song group is kept whole by hand.
-    action(page->selectionMenu(), QStringLiteral("Select by Filename"))->trigger();
-    QTRY_COMPARE(page->totals().count, 4);
-    const TFileData::Groups selected = TFileData::instance()->selected();
-    QVERIFY(std::any_of(selected.cbegin(), selected.cend(), [&](const QStringList &paths) {
-        return paths.size() == 2 && paths.contains(copyPhoto) && paths.contains(thirdPhoto);
-    }));
-    openGroup(page, [](const GroupItem &group) { return group.name.startsWith("song"); });
-    QTRY_VERIFY(page->itemModel()->rowCount() == 2
-        && page->itemModel()->displayedItems().first().path.contains(QLatin1String("song")));
-    for (int row = 0; row < 2; ++row)
-        page->itemModel()->setData(
-            page->itemModel()->index(row, 0), false, TImageModel::CheckedRole, true);
-    QTRY_COMPARE(page->totals().count, 3);
-    QCOMPARE(page->totals().bytes, 2 * qint64(photo.size()) + 4000);
-
-    // The removal method's menu entry both chooses the trash and starts the batch.
-    page->deleteMenu()->actions().first()->trigger();
-    QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
-    QCOMPARE(page->lastRemoval().size(), 3);
-    QVERIFY(answers.texts.first().contains(QStringLiteral("Recycle Bin")));
-    QTRY_VERIFY(answers.dialogs.contains(QStringLiteral("RemovalSummaryDialog")));
-
-    for (const QString &kept : {keptPhoto, keptDoc, song, songCopy})
-        QVERIFY2(QFileInfo::exists(kept), qPrintable(kept));
-    for (const QString &gone : {copyPhoto, thirdPhoto, copyDoc})
-        QVERIFY2(!QFileInfo::exists(gone), qPrintable(gone));
-    QCOMPARE(trashedNames(),
-        QStringList({QStringLiteral("beach (1).jpg"), QStringLiteral("copy of beach.jpg"),
-            QStringLiteral("report (2).txt")}));
-    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->deleteException(), 0);
-
-    // Groups left with one member are gone; totals and chart describe the song group alone.
-    QCOMPARE(page->groupModel()->rowCount(), 1);
-    QCOMPARE(TFileData::instance()->groupCount(), 1);
-    QTRY_COMPARE(page->totals().count, 0);
-    QVERIFY(!child<QToolButton>(page, "btn_delete")->isEnabled());
-    QTRY_COMPARE(page->chartStats().value(CategoryAudio).count, 2);
-    QCOMPARE(page->chartStats().value(CategoryAudio).size, 18000);
-    QCOMPARE(page->chartStats().value(CategoryImages).count, 0);
-    QCOMPARE(child<QLabel>(page, "lab_total_num")->text(), QStringLiteral("2"));
-    QCOMPARE(child<QLabel>(page, "lab_musics_num")->text(), QStringLiteral("2"));
-    QCOMPARE(child<QLabel>(page, "lab_images_num")->text(), QStringLiteral("0"));
-
-    page->close();
-    QVERIFY(window.isVisible());
-}
-
-void tst_ResultForm::refusals_data()
-{
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("nothing selected") << "delete"
-                                      << "Warning"
-                                      << "No Selected Files!";
-    QTest::newRow("folder dialog cancelled") << "folder"
-                                             << "Select Folder"
-                                             << "";
-    QTest::newRow("still loading") << "loading"
-                                   << "Loading Data"
-                                   << "Data is still loading, please wait...";
-}
-
-void tst_ResultForm::refusals()
-{
-    QFETCH(QString, step);
-    QFETCH(QString, title);
-    QFETCH(QString, text);
-    const QString key = writeGroup(QStringLiteral("same.bin"), 2, ScanTree::pattern(3000, 'x'));
-    if (step != QLatin1String("delete"))
-        TFileData::instance()->setSelected(key, {TFileData::instance()->group(key).last()});
-    // Loading is caught before it ends: the page is used at once.
-    m_page = new ResultForm;
-    if (step != QLatin1String("loading"))
-        QTRY_VERIFY(m_page->isDataLoaded());
-    const QByteArray settingsBefore = ScanTree::read(DFPreferences::instance()->settingsPath());
-
-    DialogAnswerer answers({QMessageBox::Yes});
-    if (step == QLatin1String("folder"))
-        m_page->deleteMenu()->actions().last()->trigger();
-    else
-        m_page->on_btn_delete_clicked();
-    QTRY_COMPARE(answers.titles.size(), 1);
-    QCOMPARE(answers.titles.first(), title);
-    QCOMPARE(answers.texts.first(), text);
-
-    // Nothing was removed, the method is as it was and the settings file is untouched.
-    QCOMPARE(TFileData::instance()->group(key).size(), 2);
-    for (const QString &path : TFileData::instance()->group(key))
-        QVERIFY(QFileInfo::exists(path));
-    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->RemovealMethod(),
-        DFIgnoreListPreferences::moveToTrash);
-    QVERIFY(m_page->deleteMenu()->actions().first()->isChecked());
-    QVERIFY(!m_page->deleteMenu()->actions().last()->isChecked());
-    QCOMPARE(ScanTree::read(DFPreferences::instance()->settingsPath()), settingsBefore);
-    QTRY_VERIFY(m_page->isDataLoaded());
-}
-
-void tst_ResultForm::searchFiltersAndSlider()
-{
-    writeGroup(QStringLiteral("holiday.jpg"), 3, jpeg(3));
-    writeGroup(QStringLiteral("notes.txt"), 2, ScanTree::pattern(500, 'n'));
-    const QString key
-        = writeGroup(QStringLiteral("holiday-notes.txt"), 2, ScanTree::pattern(700, 'h'));
-    TFileData::instance()->setSelected(key, {TFileData::instance()->group(key).last()});
-    ResultForm *page = openPage();
-
-    auto *search = child<QLineEdit>(page, "lineEdit");
-    QTest::keyClicks(search, QStringLiteral("HOLIDAY"));
-    QCOMPARE(page->groupModel()->rowCount(), 2);
-    // A category narrows the search further.
-    QTest::mouseClick(child<QPushButton>(page, "btn_document"), Qt::LeftButton);
-    QCOMPARE(page->groupModel()->rowCount(), 1);
-    QCOMPARE(
-        page->groupModel()->displayedGroups().first().name, QStringLiteral("holiday-notes.txt"));
-    search->clear();
-    QCOMPARE(page->groupModel()->rowCount(), 2);
-
-    // The open group is holiday-notes.txt: only its selected copy is left to show.
-    QTRY_COMPARE(page->itemModel()->rowCount(), 2);
-    action(page->filterMenu(), QStringLiteral("Show Only Selected Files"))->trigger();
-    QCOMPARE(page->itemModel()->rowCount(), 1);
-    QVERIFY(page->itemModel()->displayedItems().first().checked);
-    QVERIFY(!action(page->filterMenu(), QStringLiteral("Show All Files"))->isChecked());
-    action(page->filterMenu(), QStringLiteral("Show All Files"))->trigger();
-    QCOMPARE(page->itemModel()->rowCount(), 2);
-
-    // The slider cannot go below the threshold the scan used.
-    const int threshold = DFPreferences::instance()->generalPreferences()->SimilarityValue();
-    QSlider *slider = page->similaritySlider();
-    QCOMPARE(slider->minimum(), threshold);
-    slider->setValue(threshold - 10);
-    QCOMPARE(slider->value(), threshold);
-}
-
-void tst_ResultForm::hideAndIgnore()
-{
-    const QString hidden = writeGroup(QStringLiteral("three.bin"), 3, ScanTree::pattern(900, 't'));
-    const QString ignored = writeGroup(QStringLiteral("two.bin"), 2, ScanTree::pattern(600, 'w'));
-    const QStringList members = TFileData::instance()->group(ignored);
-    ResultForm *page = openPage();
-    openGroup(page, [&](const GroupItem &group) { return group.key == hidden; });
-    QTRY_COMPARE(page->itemModel()->rowCount(), 3);
-
-    // Hiding takes a member out of the result, never off the disk.
-    const QString first = page->itemModel()->displayedItems().first().path;
-    page->onBtnHideFileClick(page->itemModel()->index(0, 0));
-    QCOMPARE(page->itemModel()->rowCount(), 2);
-    QCOMPARE(TFileData::instance()->group(hidden).size(), 2);
-    QVERIFY(QFileInfo::exists(first));
-    page->onBtnHideFileClick(page->itemModel()->index(0, 0));
-    QVERIFY(TFileData::instance()->group(hidden).isEmpty());
-    QCOMPARE(page->groupModel()->rowCount(), 1);
-
-    page->onMenuIgnoreGroup(ignored, 0, 2);
-    QCOMPARE(page->groupModel()->rowCount(), 0);
-    QVERIFY(TFileData::instance()->isEmpty());
-    QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->IgnorePathFile(), members);
-    const QByteArray written = ScanTree::read(DFPreferences::instance()->settingsPath());
-    QVERIFY(written.contains(QFileInfo(members.first()).fileName().toUtf8()));
-}
-
-void tst_ResultForm::everyCopyAsksAgain()
-{
-    const QString key = writeGroup(QStringLiteral("only.bin"), 2, ScanTree::pattern(800, 'o'));
-    const QStringList members = TFileData::instance()->group(key);
-    TFileData::instance()->setSelected(key, members);
-    ResultForm *page = openPage();
-    // Yes to the trash, then the default (No) to losing every copy.
-    DialogAnswerer answers({QMessageBox::Yes, QMessageBox::NoButton});
-    answers.closeOtherDialogs = true;
-    page->on_btn_delete_clicked();
-    QTRY_VERIFY(!page->isRemoving() && !page->lastRemoval().isEmpty());
-    QVERIFY(answers.texts.at(1).contains(QStringLiteral("every copy")));
-    QCOMPARE(answers.defaults.at(1), QMessageBox::No);
-    // The first copy stayed; the other went.
-    QVERIFY(QFileInfo::exists(members.first()));
-    QVERIFY(!QFileInfo::exists(members.last()));
-    QCOMPARE(page->lastRemoval().first().reason, TImageDeleteWorker::keptLastCopy);
-}
-
-void tst_ResultForm::similarMembersShowRealFiles()
-{
-    const QByteArray picture = jpeg(5);
-    const QString a = ScanTree::write(m_tree.path(), QStringLiteral("p/sunset.jpg"), picture);
-    const QString b = ScanTree::write(m_tree.path(), QStringLiteral("q/sunset-edit.jpg"), jpeg(6));
-    const QString key = TFileData::groupKey(a) + kSimilarTag;
-    TFileData::instance()->insertGroup(
-        key, {a + kSimilarTag + QStringLiteral("_100"), b + kSimilarTag + QStringLiteral("_92")});
-    ResultForm *page = openPage();
-    const GroupItem group = page->groupModel()->displayedGroups().first();
-    QCOMPARE(group.name, QStringLiteral("sunset.jpg"));
-    QCOMPARE(group.type, int(CategoryImages));
-    QCOMPARE(group.totalSize, 2 * qint64(picture.size()));
-    QTRY_COMPARE(page->itemModel()->rowCount(), 2);
-    const ImageItem second = page->itemModel()->displayedItems().at(1);
-    QCOMPARE(second.path, b);
-    QCOMPARE(second.displayName, QStringLiteral("sunset-edit.jpg"));
-    QCOMPARE(second.size, QFileInfo(b).size());
-    QCOMPARE(second.type, int(CategoryImages));
-    QCOMPARE(second.similarity, 92);
-}
 
 QTEST_MAIN(tst_ResultForm)
 #include "tst_ResultForm.moc"
