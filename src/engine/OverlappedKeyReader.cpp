@@ -43,6 +43,7 @@ void OverlappedKeyReader::start(const ContentKeyCache::Options &cache, bool want
     m_today = qint32(QDateTime::currentSecsSinceEpoch() / 86400);
     m_closed = false;
     m_stop.store(false);
+    m_closing.store(false);
     m_cacheDamaged.store(false);
     // The workers run at idle priority: they take only the time the walk leaves, while it
     // waits for the disk or has too few folders to keep every core busy, and never slow it.
@@ -129,6 +130,7 @@ OverlappedKeyReader::Outcome OverlappedKeyReader::finish()
     Outcome outcome;
     if (m_workers.empty())
         return outcome;
+    m_closing.store(true);
     // At idle priority a worker could wait for ever on a machine busy with other work, and
     // the lock below with it: the workers are raised first.
     for (const std::unique_ptr<QThread> &worker : m_workers)
@@ -246,7 +248,7 @@ void OverlappedKeyReader::runJob(const Job &job, ContentKeyCache *cache, Harvest
     for (size_t at = 0; at < job.items.size(); ++at) {
         if (done[at])
             continue;
-        if (m_stop.load())
+        if (m_stop.load() || m_closing.load(std::memory_order_relaxed))
             break;
         const Item &item = job.items[at];
         const char *name = job.names.constData() + item.nameOffset;

@@ -27,7 +27,7 @@
 // ends (or when too much waits) is left to the finder, which reads it on every core.
 //
 // add() is called on the thread that fills the scan table, with each batch's first file
-// index in that table; finish() (on any one thread) lets the workers end the job at hand
+// index in that table; finish() (on any one thread) lets the workers end the file at hand
 // and hands the keys over by those indices.
 class OverlappedKeyReader
 {
@@ -61,7 +61,7 @@ public:
     void add(const ScanBatch &batch, quint32 firstFile);
     // Makes the workers drop what is queued; finish() still has to be called.
     void cancel();
-    // Ends the workers after their job at hand and gives their keys; empty when not running.
+    // Ends the workers after the file at hand and gives their keys; empty when not running.
     Outcome finish();
 
 private:
@@ -120,6 +120,9 @@ private:
     // Workers waiting for a job.
     int m_idle = 0;
     std::atomic<bool> m_stop {false};
+    // Set when the walk has ended: a worker stops at the next file and leaves the rest of
+    // its job to the finder, which reads on every core instead of waiting for it.
+    std::atomic<bool> m_closing {false};
     std::atomic<bool> m_cacheDamaged {false};
     std::vector<std::unique_ptr<QThread>> m_workers;
     std::vector<Harvest> m_harvests;
