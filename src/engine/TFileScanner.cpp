@@ -21,6 +21,7 @@
 #include <QJsonArray>
 #include <QMetaMethod>
 #include <QMutexLocker>
+#include <QScopeGuard>
 #include <QThreadPool>
 #include <QWaitCondition>
 
@@ -33,6 +34,12 @@
 #endif
 
 namespace {
+
+// A walking thread sends what it gathered once it holds this many files, or once its
+// oldest folder has waited this long: the receiver then wakes once per few thousand
+// files instead of once per folder, and a slow disk still shows progress.
+constexpr qsizetype kOutboxFiles = 4096;
+constexpr qint64 kOutboxMs = 20;
 
 // A file or folder's identity on its file system.
 struct Identity
@@ -164,11 +171,21 @@ struct TFileScanner::WalkState
     std::vector<Folder> links;
 };
 
+// The batches one walking thread has gathered and not sent yet.
+struct TFileScanner::Outbox
+{
+    QList<ScanBatch> batches;
+    qsizetype files = 0;
+    // Since the oldest batch waiting was put in.
+    QElapsedTimer age;
+};
+
 TFileScanner::TFileScanner(QObject *parent) : QThread(parent)
 {
     qRegisterMetaType<FileMeta>("FileMeta");
     qRegisterMetaType<QList<FileMeta>>("QList<FileMeta>");
     qRegisterMetaType<ScanBatch>("ScanBatch");
+    qRegisterMetaType<QList<ScanBatch>>("QList<ScanBatch>");
 }
 
 TFileScanner::~TFileScanner()
@@ -375,15 +392,31 @@ void TFileScanner::reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 s
         emit progressUpdated(tested);
 }
 
-void TFileScanner::emitBatch(ScanBatch &batch, QList<FileMeta> &metas)
+void TFileScanner::emitBatch(ScanBatch &batch, QList<FileMeta> &metas, Outbox &outbox)
 {
     if (!metas.isEmpty())
         emit filesFound(metas);
-    if (!batch.sizes.isEmpty())
-        emit folderFilesFound(batch);
+    if (batch.sizes.isEmpty())
+        return;
+    if (outbox.batches.isEmpty())
+        outbox.age.start();
+    outbox.files += batch.sizes.size();
+    outbox.batches.append(std::move(batch));
+    batch = ScanBatch();
+    if (outbox.files >= kOutboxFiles || outbox.age.elapsed() >= kOutboxMs)
+        send(outbox);
 }
 
-void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filtered)
+void TFileScanner::send(Outbox &outbox)
+{
+    if (outbox.batches.isEmpty())
+        return;
+    emit folderFilesFound(outbox.batches);
+    outbox.batches.clear();
+    outbox.files = 0;
+}
+
+void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filtered, Outbox &outbox)
 {
     if (isStopRequested() || (filtered && isIgnoredPath(folder.path)))
         return;
@@ -581,7 +614,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
     } catch (...) {
         splog_d(QStringLiteral("[TFileScanner] Unknown exception in processDir."));
     }
-    emitBatch(batch, metas);
+    emitBatch(batch, metas, outbox);
     if (completed && filtered && !isStopRequested())
         emit pathFound(folder.path);
 }
@@ -595,6 +628,8 @@ void TFileScanner::drainWithPool(WalkState &state)
     state.busy = 0;
     for (int i = 0; i < workers; ++i) {
         pool.start([this, &state] {
+            Outbox outbox;
+            const auto sendRest = qScopeGuard([&] { send(outbox); });
             try {
                 for (;;) {
                     QMutexLocker locker(&state.mutex);
@@ -603,6 +638,13 @@ void TFileScanner::drainWithPool(WalkState &state)
                         // walk is over.
                         if (state.busy == 0)
                             return;
+                        // What this thread gathered goes out before it waits.
+                        if (!outbox.batches.isEmpty()) {
+                            locker.unlock();
+                            send(outbox);
+                            locker.relock();
+                            continue;
+                        }
                         state.wake.wait(&state.mutex);
                     }
                     if (state.done || state.queue.empty())
@@ -611,7 +653,7 @@ void TFileScanner::drainWithPool(WalkState &state)
                     state.queue.pop_front();
                     ++state.busy;
                     locker.unlock();
-                    processDir(state, folder, true);
+                    processDir(state, folder, true, outbox);
                     locker.relock();
                     --state.busy;
                     if (state.busy == 0 && state.queue.empty())
@@ -739,6 +781,7 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
 
     ScanBatch batch;
     QList<FileMeta> metas;
+    Outbox outbox;
     for (const Target &target : targets) {
         if (isStopRequested())
             break;
@@ -770,8 +813,7 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
 #endif
         const QString folder = slash <= 0 ? QStringLiteral("/") : target.real.path.left(slash);
         if (batch.folder != folder) {
-            emitBatch(batch, metas);
-            batch = ScanBatch();
+            emitBatch(batch, metas, outbox);
             metas.clear();
             batch.folder = folder;
             const qsizetype nativeSlash = target.real.native.lastIndexOf('/');
@@ -786,18 +828,21 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
                 .arg(target.link.path, target.real.path));
         reportFile(batch, metas, target.size, nativeName.constData(), target.real.path, filtered);
     }
-    emitBatch(batch, metas);
+    emitBatch(batch, metas, outbox);
+    send(outbox);
     QMutexLocker locker(&state.mutex);
     return !state.queue.empty();
 }
 
 void TFileScanner::drainInOrder(WalkState &state)
 {
+    Outbox outbox;
     while (!state.queue.empty() && !isStopRequested()) {
         const Folder folder = std::move(state.queue.front());
         state.queue.pop_front();
-        processDir(state, folder, false);
+        processDir(state, folder, false, outbox);
     }
+    send(outbox);
     state.queue.clear();
 }
 

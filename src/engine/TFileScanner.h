@@ -64,10 +64,12 @@ signals:
     // a receiver on another thread takes one queued call per folder instead of one per
     // file.
     void filesFound(const QList<FileMeta> &files);
-    // The same files again, in compact form: the folder once and the names as bytes. The
-    // scan controller takes this one. The per-file forms above are only built while
-    // something is connected to them.
-    void folderFilesFound(const ScanBatch &batch);
+    // The same files again, in compact form: the folder once and the names as bytes, a
+    // few folders at a time (each walking thread gathers a few thousand files or a few
+    // milliseconds' worth before it sends), so that the receiver wakes seldom. The scan
+    // controller takes this one. The per-file forms above are only built while something
+    // is connected to them.
+    void folderFilesFound(const QList<ScanBatch> &batches);
     void pathFound(const QString &path);
     void progressUpdated(int scannedCount);
     void scanFinished();
@@ -79,10 +81,11 @@ private:
     struct WalkState;
     struct Folder;
     struct Root;
+    struct Outbox;
 
     void scanWithQtRecursive(WalkState &state, const Root &root);
     void scanIncrementalParallel(WalkState &state, const Root &root);
-    void processDir(WalkState &state, const Folder &folder, bool filtered);
+    void processDir(WalkState &state, const Folder &folder, bool filtered, Outbox &outbox);
     void drainWithPool(WalkState &state);
     void drainInOrder(WalkState &state);
     // Turns the links met so far into their targets: folders are queued, files reported;
@@ -101,7 +104,10 @@ private:
     // (and only built) while the per-file signals are connected.
     void reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size, const char *name,
         const QString &path, bool filtered, const ScanBatch::Stat &stat = {});
-    void emitBatch(ScanBatch &batch, QList<FileMeta> &metas);
+    // Sends the per-file reports at once and puts the batch in the outbox, which is sent
+    // when it is full or old enough.
+    void emitBatch(ScanBatch &batch, QList<FileMeta> &metas, Outbox &outbox);
+    void send(Outbox &outbox);
 
     QStringList roots;
     qint64 scanMode = 1;

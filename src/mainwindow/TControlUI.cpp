@@ -25,8 +25,8 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
     qRegisterMetaType<QList<FileMeta>>("QList<FileMeta>");
     qRegisterMetaType<ScanBatch>("ScanBatch");
     // The engines emit from their own threads (the scanner also from its pool); every
-    // report is queued into this object's thread. The scanner's compact per-folder batch
-    // is taken, so that it need not build a path string per file.
+    // report is queued into this object's thread. The scanner's compact per-folder batches
+    // are taken, so that it need not build a path string per file.
     connect(&m_scanner, &TFileScanner::folderFilesFound, this, &TControlUI::onFolderFilesFound,
         Qt::QueuedConnection);
     connect(&m_scanner, &TFileScanner::scanFinished, this, &TControlUI::onScannerFinished,
@@ -180,13 +180,15 @@ void TControlUI::stop()
     }
 }
 
-void TControlUI::onFolderFilesFound(const ScanBatch &batch)
+void TControlUI::onFolderFilesFound(const QList<ScanBatch> &batches)
 {
-    const quint32 firstFile = quint32(m_table.fileCount());
-    m_table.append(batch);
-    m_reader.add(batch, firstFile);
     const int before = m_scannedFiles;
-    m_scannedFiles += int(batch.sizes.size());
+    for (const ScanBatch &batch : batches) {
+        const quint32 firstFile = quint32(m_table.fileCount());
+        m_table.append(batch);
+        m_reader.add(batch, firstFile);
+        m_scannedFiles += int(batch.sizes.size());
+    }
     // The window's counter follows in steps of 100 files.
     if (before / 100 != m_scannedFiles / 100)
         emit filesScaningChange(m_scannedFiles);

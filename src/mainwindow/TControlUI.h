@@ -82,7 +82,7 @@ signals:
     void saveComplated(int flag);
 
 private slots:
-    void onFolderFilesFound(const ScanBatch &batch);
+    void onFolderFilesFound(const QList<ScanBatch> &batches);
     void onScannerFinished();
     void onFinderFinished();
     void onCompareFinished(int count, qint64 size);

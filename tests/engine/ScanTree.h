@@ -81,9 +81,10 @@ inline ScanTable walk(const QString &root)
     QMutex mutex;
     QObject::connect(
         &scanner, &TFileScanner::folderFilesFound, &scanner,
-        [&](const ScanBatch &batch) {
+        [&](const QList<ScanBatch> &batches) {
             QMutexLocker locker(&mutex);
-            table.append(batch);
+            for (const ScanBatch &batch : batches)
+                table.append(batch);
         },
         Qt::DirectConnection);
     scanner.setRoots({root});
