@@ -254,8 +254,7 @@ QByteArray DuplicateFileFinder::calculateFileHash(
         quint64 key = 0;
         int error = 0;
         if (!SampledKey::readAt(
-                AT_FDCWD, native.constData(), size, driveType, key,
-                [&filePath] { return filePath; }, error))
+                AT_FDCWD, native.constData(), size, key, [&filePath] { return filePath; }, error))
             return {};
         return hexKey(key);
 #else
@@ -767,7 +766,7 @@ void DuplicateFileFinder::noteFullKey(quint32 file, quint64 key, const ContentKe
     {
     };
     if (!SampledKey::readAt(
-            AT_FDCWD, native.constData(), m_table.file(file).size, folder.driveType, sampled,
+            AT_FDCWD, native.constData(), m_table.file(file).size, sampled,
             [this, file] { return m_table.filePath(file); }, error, &opened)
         || sampled != m_keys[file] || !(stampOf(opened) == read))
         return;
@@ -831,12 +830,12 @@ void DuplicateFileFinder::keyFolder(quint32 index)
             };
             struct stat *read = m_cache ? &opened : nullptr;
             if (dirfd >= 0) {
-                keyed = SampledKey::readAt(dirfd, m_table.nativeName(i), m_table.file(i).size,
-                    folder.driveType, key, pathOf, error, read);
+                keyed = SampledKey::readAt(
+                    dirfd, m_table.nativeName(i), m_table.file(i).size, key, pathOf, error, read);
             } else {
                 const QByteArray native = m_table.nativePath(i);
-                keyed = SampledKey::readAt(AT_FDCWD, native.constData(), m_table.file(i).size,
-                    folder.driveType, key, pathOf, error, read);
+                keyed = SampledKey::readAt(
+                    AT_FDCWD, native.constData(), m_table.file(i).size, key, pathOf, error, read);
             }
             if (!keyed)
                 noteUnread(i, error);

@@ -65,7 +65,7 @@ void OverlappedKeyReader::add(const ScanBatch &batch, quint32 firstFile)
         return;
     const bool stats = batch.stats.size() == batch.sizes.size();
     Job job {batch.nativeFolder, batch.names, stats ? batch.stats : QList<ScanBatch::Stat> {},
-        batch.device, batch.driveType, {}};
+        batch.device, {}};
     const char *names = batch.names.constData();
     const char *cursor = names;
     const char *end = cursor + batch.names.size();
@@ -83,16 +83,14 @@ void OverlappedKeyReader::add(const ScanBatch &batch, quint32 firstFile)
         Pending &pending = slot->second;
         if (first) {
             pending = Pending {file, batch.nativeFolder, QByteArray(name, qsizetype(length)),
-                hasStat ? batch.stats[i] : ScanBatch::Stat {}, hasStat, batch.device,
-                batch.driveType};
+                hasStat ? batch.stats[i] : ScanBatch::Stat {}, hasStat, batch.device};
             continue;
         }
         if (pending.file != kQueued) {
             // The second file of the size: the first one is read now too.
             Job single {pending.folder, pending.name + '\0',
                 pending.hasStat ? QList<ScanBatch::Stat> {pending.stat} : QList<ScanBatch::Stat> {},
-                pending.device, pending.driveType,
-                {Item {pending.file, 0, size, pending.hasStat ? 0 : -1}}};
+                pending.device, {Item {pending.file, 0, size, pending.hasStat ? 0 : -1}}};
             enqueue(std::move(single));
             pending = Pending {};
         }
@@ -261,12 +259,12 @@ void OverlappedKeyReader::runJob(const Job &job, ContentKeyCache *cache, Harvest
         };
         bool keyed = false;
         if (dirfd >= 0) {
-            keyed = SampledKey::readAt(dirfd, name, item.size, job.driveType, key, pathOf, error,
-                cache ? &opened : nullptr);
+            keyed = SampledKey::readAt(
+                dirfd, name, item.size, key, pathOf, error, cache ? &opened : nullptr);
         } else {
             const QByteArray path = job.folder + '/' + QByteArray(name);
-            keyed = SampledKey::readAt(AT_FDCWD, path.constData(), item.size, job.driveType, key,
-                pathOf, error, cache ? &opened : nullptr);
+            keyed = SampledKey::readAt(AT_FDCWD, path.constData(), item.size, key, pathOf, error,
+                cache ? &opened : nullptr);
         }
         harvest.results.push_back(Result {item.file, qint16(error), keyed, false, key});
         if (keyed && cache) {

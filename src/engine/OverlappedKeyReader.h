@@ -79,7 +79,6 @@ private:
         QByteArray names;
         QList<ScanBatch::Stat> stats;
         quint64 device = 0;
-        int driveType = 0;
         std::vector<Item> items;
     };
     // The first file of a size, kept until a second one turns up.
@@ -91,7 +90,6 @@ private:
         ScanBatch::Stat stat;
         bool hasStat = false;
         quint64 device = 0;
-        int driveType = 0;
     };
     // Per worker: what it found, merged by finish().
     struct Harvest

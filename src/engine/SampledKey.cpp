@@ -12,7 +12,6 @@
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <unistd.h>
 #endif
 
@@ -20,11 +19,6 @@ namespace SampledKey {
 
 #ifdef Q_OS_UNIX
 namespace {
-
-    // Below this size a memory map costs more than the three small reads it replaces
-    // (mapping and unmapping dominate), so small files are read with pread; the keys are the
-    // same either way.
-    constexpr qint64 kSampledMapThreshold = 1 << 20;
 
     qint64 readFully(int fd, char *buffer, qint64 length, qint64 offset)
     {
@@ -42,7 +36,7 @@ namespace {
 
 } // namespace
 
-bool readAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &key,
+bool readAt(int dirfd, const char *name, qint64 size, quint64 &key,
     const std::function<QString()> &pathOf, int &error, struct stat *opened)
 {
     error = 0;
@@ -74,8 +68,7 @@ bool readAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &ke
             *opened = info;
         return true;
     };
-    const bool mapped = driveType != kExternalDrive && n >= kSampledMapThreshold;
-    if ((mapped || opened) && !check()) {
+    if (opened && !check()) {
         ::close(fd);
         return false;
     }
@@ -101,22 +94,11 @@ bool readAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &ke
         const qint64 offsets[3] = {0, std::clamp<qint64>(n / 2 - 2048, 0, n - kBlock), n - kBlock};
         XXH3_state_t state;
         XXH3_64bits_reset(&state);
-        if (driveType != kExternalDrive && n >= kSampledMapThreshold && checked) {
-            void *map = ::mmap(nullptr, size_t(n), PROT_READ, MAP_SHARED, fd, 0);
-            if (map == MAP_FAILED) {
-                splog_d(QStringLiteral("[TDuplicateFinleFinder]: file.map failed.: [%1].")
-                            .arg(pathOf()));
-            } else {
-                for (qint64 offset : offsets)
-                    XXH3_64bits_update(&state, static_cast<const char *>(map) + offset, kBlock);
-                ::munmap(map, size_t(n));
-                ::close(fd);
-                key = XXH3_64bits_digest(&state);
-                return true;
-            }
-        }
-        // External drives are never mapped: a drive pulled out while mapped pages are read
-        // ends the process.
+#ifdef POSIX_FADV_RANDOM
+        // Three blocks are wanted, not the read-ahead around each: on a cold cache that
+        // would read up to three windows of the file and push other pages out.
+        ::posix_fadvise(fd, 0, 0, POSIX_FADV_RANDOM);
+#endif
         bool restart = false;
         for (qint64 offset : offsets) {
             const qint64 got = readFully(fd, buffer, kBlock, offset);

@@ -26,11 +26,10 @@ constexpr int kExternalDrive = 2;
 // so no fstat is needed on the common path; only when a read comes back short (the file
 // shrank since the scan, or is no regular file any more) is the file asked for its size,
 // and the blocks are then chosen again from the smaller size, exactly as if it had been
-// asked first. Files that are mapped are always asked first, since a map must not reach
-// past the end. pathOf() builds the path for messages only. With `opened`, the file is
+// asked first. pathOf() builds the path for messages only. With `opened`, the file is
 // asked first and its status is left there, so the caller can tell whether the file it
 // stamped earlier is the one that was read.
-bool readAt(int dirfd, const char *name, qint64 size, int driveType, quint64 &key,
+bool readAt(int dirfd, const char *name, qint64 size, quint64 &key,
     const std::function<QString()> &pathOf, int &error, struct stat *opened = nullptr);
 
 // The cache stamp of a file's status.
