@@ -284,6 +284,11 @@ int main(int argc, char *argv[])
     mallopt(M_MMAP_THRESHOLD, 256 * 1024);
 #endif
     QCoreApplication app(argc, argv);
+    // A report of a large tree runs to tens of megabytes: written in large blocks, not
+    // in the few kilobytes a pipe or file gets by default.
+    static char outputBuffer[1 << 20];
+    if (::isatty(STDOUT_FILENO) != 1)
+        std::setvbuf(stdout, outputBuffer, _IOFBF, sizeof outputBuffer);
     // Standard error is the command line's own report; the library's debug lines would
     // only mix into it.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
