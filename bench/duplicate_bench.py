@@ -32,16 +32,16 @@ TREE_ARGS["same-size"] = ["--files", "100000", "--files-per-dir", "6000", "--siz
 
 def run_timed(cmd, stdout_path, before=None, env=None):
     """Runs cmd under /usr/bin/time (after before(), untimed); returns (wall s, cpu s, peak
-    KiB, exit status)."""
+    KiB, exit status, KiB read from the disk)."""
     if before:
         before()
     with tempfile.NamedTemporaryFile("r", suffix=".time") as timing, \
             open(stdout_path, "wb") as out:
-        status = subprocess.call(["/usr/bin/time", "-f", "%e %U %S %M", "-o", timing.name] + cmd,
+        status = subprocess.call(["/usr/bin/time", "-f", "%e %U %S %M %I", "-o", timing.name] + cmd,
                                  stdout=out, stderr=subprocess.DEVNULL, env=env)
-        fields = timing.read().split()[-4:]
-    wall, user, system, peak = (float(x) for x in fields)
-    return wall, user + system, peak, status
+        fields = timing.read().split()[-5:]
+    wall, user, system, peak, blocks = (float(x) for x in fields)
+    return wall, user + system, peak, status, blocks / 2
 
 
 def cli_json_to_fdupes(json_path, out_path):
@@ -143,6 +143,9 @@ def bench_tree(preset, args, out_dir):
         cpu = statistics.median(s[1] for s in samples)
         peak = max(s[2] for s in samples)
         status = samples[-1][3]
+        # Pages the machine dropped since the warm-up are read again; a tool that reads
+        # much here did not run on a warm cache.
+        disk = statistics.median(s[4] for s in samples)
         scanned = None
         verdict = "-"
         if fmt == "cli-json":
@@ -152,7 +155,7 @@ def bench_tree(preset, args, out_dir):
         elif fmt:
             verdict = check(truth, tree, out, fmt, mode)
         rows.append(dict(tool=tool, wall=wall, cpu=cpu, peak_kib=peak, status=status,
-                         scanned=scanned, correct=verdict))
+                         scanned=scanned, correct=verdict, disk_kib=disk))
         print(f"  {tool:18s} wall {wall:7.3f} s  cpu {cpu:7.3f} s  peak {peak / 1024:8.1f} MiB"
               f"  exit {status}  correct={verdict}", flush=True)
 
@@ -162,14 +165,14 @@ def bench_tree(preset, args, out_dir):
     print(f"\n== {preset}: {files} files; ratios to the fastest peer"
           + (f" ({fastest['tool']})" if fastest else "") + "\n")
     print(f"{'tool':18s} {'wall s':>8s} {'cpu s':>8s} {'peak MiB':>9s} {'B/file':>7s}"
-          f" {'wall x':>7s} {'cpu x':>7s} {'mem x':>7s} {'x find':>7s}  correct")
+          f" {'wall x':>7s} {'cpu x':>7s} {'mem x':>7s} {'x find':>7s} {'disk MiB':>8s}  correct")
     for r in rows:
         ratio = lambda key: (r[key] / fastest[key]) if fastest and fastest[key] > 0 else float("nan")
         vs_find = r["wall"] / find["wall"] if find and find["wall"] > 0 else float("nan")
         per_file = r["peak_kib"] * 1024 / files if files else 0
         print(f"{r['tool']:18s} {r['wall']:8.3f} {r['cpu']:8.3f} {r['peak_kib'] / 1024:9.1f}"
               f" {per_file:7.0f} {ratio('wall'):7.2f} {ratio('cpu'):7.2f} {ratio('peak_kib'):7.2f}"
-              f" {vs_find:7.2f}  {r['correct']}")
+              f" {vs_find:7.2f} {r['disk_kib'] / 1024:8.1f}  {r['correct']}")
     print()
     return rows
 
