@@ -1048,11 +1048,23 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
     for (const Found &entry : found) {
         if (entry.members.size() < 2)
             continue;
-        QStringList paths;
-        paths.reserve(qsizetype(entry.members.size()));
+        // Members by path: the parallel walk meets them in a different order each time,
+        // and the group is named after its first member, so the same tree always gives
+        // the same groups, names and order.
+        std::vector<std::pair<QString, quint32>> byPath;
+        byPath.reserve(entry.members.size());
         for (quint32 file : entry.members)
-            paths.append(m_table.filePath(file));
-        storeGroup(size, entry.key, paths, entry.members);
+            byPath.emplace_back(m_table.filePath(file), file);
+        std::sort(byPath.begin(), byPath.end());
+        QStringList paths;
+        paths.reserve(qsizetype(byPath.size()));
+        std::vector<quint32> members;
+        members.reserve(byPath.size());
+        for (auto &[path, file] : byPath) {
+            paths.append(std::move(path));
+            members.push_back(file);
+        }
+        storeGroup(size, entry.key, paths, members);
         if (isStopRequested())
             return;
     }

@@ -252,6 +252,12 @@ private slots:
         QVERIFY(expected.size() > 100);
         const CliRun overlapped = runCli(scan + QStringList {"--no-cache"});
         QCOMPARE(reportGroups(overlapped.out, tree, false), expected);
+        // However the parallel walk met the files, the report is the same: group names
+        // and the order of groups and members included.
+        const auto groupsOf = [](const CliRun &run) {
+            return QJsonDocument::fromJson(run.out).object().value(QLatin1String("groups"));
+        };
+        QVERIFY(groupsOf(overlapped) == groupsOf(reference));
         // Best effort: some keys are read during the walk, the finder reads the rest.
         QVERIFY(keys(overlapped, "overlappedKeys") > 0);
         // Two processes fill one cache at the same time; a third takes its keys from it.
@@ -268,7 +274,7 @@ private slots:
         QVERIFY(!QFileInfo::exists(ContentKeyCache::setAsidePath(ContentKeyCache::defaultPath())));
         const CliRun cached = runCli(scan);
         QCOMPARE(cached.exitCode, 0);
-        QCOMPARE(reportGroups(cached.out, tree, false), expected);
+        QVERIFY(groupsOf(cached) == groupsOf(reference));
         // What the two wrote is there: the third takes the keys of the tree's 900 or so
         // candidates from it.
         QVERIFY(keys(cached, "cachedKeys") > 800);
