@@ -132,9 +132,13 @@ def bench_tree(preset, args, out_dir):
         tools.append(dict(tool=tool, cmd=cmd, fmt=fmt, mode=mode, out=out, before=before, env=env,
                           samples=[]))
     # The tools take turns run by run, so that a change in the machine's load falls on all
-    # of them alike instead of on whichever ran at that moment.
-    for _ in range(args.runs):
-        for t in tools:
+    # of them alike instead of on whichever ran at that moment. Each round starts one tool
+    # further on: the first of a round follows the slowest peer's long run, after which
+    # a machine that reclaims idle pages has dropped some, and that should not always be
+    # the same tool.
+    for round_ in range(args.runs):
+        start = round_ % len(tools) if tools else 0
+        for t in tools[start:] + tools[:start]:
             t["samples"].append(run_timed(t["cmd"], t["out"], t["before"], t["env"]))
     rows = []
     for t in tools:
