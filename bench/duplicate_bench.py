@@ -14,6 +14,7 @@ usage: duplicate_bench.py [--preset medium] [--runs 3] [--work DIR] [--cli PATH]
 import argparse
 import json
 import os
+import random
 import shutil
 import statistics
 import subprocess
@@ -132,13 +133,14 @@ def bench_tree(preset, args, out_dir):
         tools.append(dict(tool=tool, cmd=cmd, fmt=fmt, mode=mode, out=out, before=before, env=env,
                           samples=[]))
     # The tools take turns run by run, so that a change in the machine's load falls on all
-    # of them alike instead of on whichever ran at that moment. Each round starts one tool
-    # further on: the first of a round follows the slowest peer's long run, after which
-    # a machine that reclaims idle pages has dropped some, and that should not always be
-    # the same tool.
+    # of them alike instead of on whichever ran at that moment. Each round takes them in
+    # another order (the same for every run of the benchmark): after the slowest peer's
+    # long run, a machine that reclaims idle pages has dropped some of the tree's, and
+    # the tool that comes next should not always be the same.
     for round_ in range(args.runs):
-        start = round_ % len(tools) if tools else 0
-        for t in tools[start:] + tools[:start]:
+        order = list(tools)
+        random.Random(round_).shuffle(order)
+        for t in order:
             t["samples"].append(run_timed(t["cmd"], t["out"], t["before"], t["env"]))
     rows = []
     for t in tools:
