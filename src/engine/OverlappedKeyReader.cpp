@@ -41,7 +41,6 @@ void OverlappedKeyReader::start(const ContentKeyCache::Options &cache, bool want
     // Keys are cached only for files last changed well before this moment.
     m_startNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
     m_today = qint32(QDateTime::currentSecsSinceEpoch() / 86400);
-    m_closed = false;
     m_stop.store(false);
     m_closing.store(false);
     m_cacheDamaged.store(false);
@@ -134,9 +133,10 @@ OverlappedKeyReader::Outcome OverlappedKeyReader::finish()
     for (const std::unique_ptr<QThread> &worker : m_workers)
         if (worker->isRunning())
             worker->setPriority(QThread::NormalPriority);
+    // Taking the lock once makes sure no worker is between its look at the flag and its
+    // wait, so none misses the wake-up.
     {
         std::lock_guard<std::mutex> locker(m_mutex);
-        m_closed = true;
     }
     m_wake.notify_all();
     for (const std::unique_ptr<QThread> &worker : m_workers)
@@ -177,11 +177,12 @@ void OverlappedKeyReader::work(Harvest &harvest)
         {
             std::unique_lock<std::mutex> locker(m_mutex);
             ++m_idle;
-            m_wake.wait(locker, [this] { return !m_queue.empty() || m_closed || m_stop.load(); });
+            m_wake.wait(
+                locker, [this] { return !m_queue.empty() || m_closing.load() || m_stop.load(); });
             --m_idle;
             // Once closed, what is still queued is left to the finder, which reads it on
             // every core instead of waiting for this thread.
-            if (m_stop.load() || m_closed)
+            if (m_stop.load() || m_closing.load())
                 break;
             job = std::move(m_queue.front());
             m_queue.pop_front();

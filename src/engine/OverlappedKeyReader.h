@@ -114,12 +114,11 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::deque<Job> m_queue;
-    bool m_closed = false;
     // Workers waiting for a job.
     int m_idle = 0;
     std::atomic<bool> m_stop {false};
-    // Set when the walk has ended: a worker stops at the next file and leaves the rest of
-    // its job to the finder, which reads on every core instead of waiting for it.
+    // Set when the walk has ended: a worker stops at the next file and takes no further
+    // job; the rest is left to the finder, which reads on every core instead of waiting.
     std::atomic<bool> m_closing {false};
     std::atomic<bool> m_cacheDamaged {false};
     std::vector<std::unique_ptr<QThread>> m_workers;
