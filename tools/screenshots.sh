@@ -5,7 +5,7 @@
 # "cloud" the cloud folder chooser only):
 #   tools/screenshots.sh <build dir> <output dir> [settings|cloud]
 # The pages are filled with sample values by the driver program;
-# see tests/mainwindow/ScreenshotPages.cpp and tests/results/ScreenshotResultPage.cpp.
+# see tools/screenshots/ScreenshotPages.cpp and tools/screenshots/ScreenshotResultPage.cpp.
 set -eu
 build=${1:?build directory}
 out=${2:?output directory}
