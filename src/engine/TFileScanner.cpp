@@ -164,7 +164,11 @@ struct TFileScanner::Root
 struct TFileScanner::WalkState
 {
     QMutex mutex;
+    // Idle walking threads wait here for folders; the thread that watches for the walk's
+    // end waits on its own condition, so that a folder's wake-up always reaches a thread
+    // that can take it.
     QWaitCondition wake;
+    QWaitCondition idle;
     std::deque<Folder> queue;
     int busy = 0;
     bool done = false;
@@ -656,8 +660,10 @@ void TFileScanner::drainWithPool(WalkState &state)
                     processDir(state, folder, true, outbox);
                     locker.relock();
                     --state.busy;
-                    if (state.busy == 0 && state.queue.empty())
+                    if (state.busy == 0 && state.queue.empty()) {
                         state.wake.wakeAll();
+                        state.idle.wakeAll();
+                    }
                 }
             } catch (const std::exception &error) {
                 splog_d(QStringLiteral("[TFileScanner] Exception in worker: %1")
@@ -672,7 +678,7 @@ void TFileScanner::drainWithPool(WalkState &state)
     {
         QMutexLocker locker(&state.mutex);
         while (!(state.queue.empty() && state.busy == 0))
-            state.wake.wait(&state.mutex, 50);
+            state.idle.wait(&state.mutex, 50);
         state.done = true;
         state.wake.wakeAll();
     }
