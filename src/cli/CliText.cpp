@@ -1,46 +1,69 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliText.h"
 
+#include <string>
+
+#include <QStringEncoder>
+
 namespace CliText {
 
 void writeJsonString(std::FILE *out, const QString &text)
 {
-    QByteArray buffer;
-    buffer.reserve(text.size() + 8);
-    buffer.append('"');
-    // Characters that need no escape are converted a run at a time: one conversion per
-    // path instead of one per character.
-    qsizetype run = 0;
-    const auto flush = [&](qsizetype end) {
-        if (end > run)
-            buffer.append(QStringView(text).mid(run, end - run).toUtf8());
+    // One buffer per thread, kept between calls: a report writes tens of thousands of
+    // names, and nearly all of them are plain ASCII, copied a character at a time.
+    thread_local std::string buffer;
+    thread_local QStringEncoder toUtf8(QStringEncoder::Utf8);
+    buffer.clear();
+    buffer.push_back('"');
+    const QStringView view(text);
+    const auto escape = [](std::string &to, char16_t c) {
+        static const char digits[] = "0123456789abcdef";
+        to.append("\\u");
+        for (int shift = 12; shift >= 0; shift -= 4)
+            to.push_back(digits[(c >> shift) & 0xF]);
     };
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text.at(i).unicode();
-        if (c == '"' || c == '\\') {
-            flush(i);
-            buffer.append('\\').append(char(c));
-            run = i + 1;
-        } else if (c < 0x20) {
-            flush(i);
-            buffer.append(QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0')).toLatin1());
-            run = i + 1;
-        } else if (QChar::isSurrogate(c)) {
-            const bool paired = QChar::isHighSurrogate(c) && i + 1 < text.size()
-                && QChar::isLowSurrogate(text.at(i + 1).unicode());
-            if (paired) {
-                ++i;
+    for (qsizetype i = 0; i < view.size(); ++i) {
+        const char16_t c = view.at(i).unicode();
+        if (c < 0x80) {
+            if (c == '"' || c == '\\') {
+                buffer.push_back('\\');
+                buffer.push_back(char(c));
+            } else if (c < 0x20) {
+                escape(buffer, c);
             } else {
-                flush(i);
-                buffer.append(
-                    QStringLiteral("\\u%1").arg(int(c), 4, 16, QLatin1Char('0')).toLatin1());
-                run = i + 1;
+                buffer.push_back(char(c));
             }
+            continue;
+        }
+        // Everything else up to the next ASCII character at once; a surrogate without its
+        // partner (a byte that was not UTF-8) becomes an escape instead.
+        qsizetype end = i;
+        while (end < view.size() && view.at(end).unicode() >= 0x80) {
+            const char16_t u = view.at(end).unicode();
+            if (!QChar::isSurrogate(u)) {
+                ++end;
+                continue;
+            }
+            if (QChar::isHighSurrogate(u) && end + 1 < view.size()
+                && QChar::isLowSurrogate(view.at(end + 1).unicode())) {
+                end += 2;
+                continue;
+            }
+            break;
+        }
+        if (end > i) {
+            const QStringView run = view.mid(i, end - i);
+            const size_t before = buffer.size();
+            buffer.resize(before + size_t(toUtf8.requiredSpace(run.size())));
+            char *written = toUtf8.appendToBuffer(buffer.data() + before, run);
+            buffer.resize(size_t(written - buffer.data()));
+            i = end - 1;
+        } else {
+            escape(buffer, view.at(i).unicode());
         }
     }
-    flush(text.size());
-    buffer.append('"');
-    std::fwrite(buffer.constData(), 1, size_t(buffer.size()), out);
+    buffer.push_back('"');
+    std::fwrite(buffer.data(), 1, buffer.size(), out);
 }
 
 void writeJsonList(std::FILE *out, const QStringList &items)
