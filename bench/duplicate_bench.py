@@ -95,7 +95,26 @@ def tool_commands(tool, tree, cli):
                 "rmlint-json", "exact")
     if tool == "find":
         return (["find", tree, "-type", "f", "-printf", "%s %p\n"], None, None)
+    if tool == "floor":
+        # The I/O floor as the shared tools measure it: a traversal, then the sampled
+        # reads of the same-size candidates, one after the other on one thread.
+        probe, listing = io_floor_inputs(tree)
+        script = 'find "$1" -type f -printf "%s\\n" > /dev/null && exec "$2" pread "$3"'
+        return (["sh", "-c", script, "floor", tree, probe, listing], None, None)
     raise ValueError(tool)
+
+
+def io_floor_inputs(tree):
+    """io_probe built from the shared source and the tree's candidate list (made once)."""
+    work = tempfile.mkdtemp(prefix="dupbench-floor.")
+    CACHE_HOMES.append(work)
+    probe = os.path.join(work, "io_probe")
+    subprocess.check_call(["cc", "-O2", "-o", probe, os.path.join(SHARED_BENCH, "io_probe.c")])
+    listing = os.path.join(work, "candidates.lst")
+    with open(listing, "wb") as out:
+        subprocess.check_call([sys.executable, os.path.join(SHARED_BENCH, "read_limits.py"), "list",
+                               tree], stdout=out, stderr=subprocess.DEVNULL)
+    return probe, listing
 
 
 # The command line keeps its key cache under XDG_CONFIG_HOME; the benchmark gives each
@@ -121,7 +140,7 @@ def bench_tree(preset, args, out_dir):
     files = sum(len(f) for _, _, f in os.walk(tree))
     tools = []
     for tool in args.tools.split(","):
-        if not tool.startswith("cli-") and tool != "find" and shutil.which(tool) is None:
+        if not tool.startswith("cli-") and tool not in ("find", "floor") and shutil.which(tool) is None:
             print(f"skip {tool}: not installed")
             continue
         cmd, fmt, mode = tool_commands(tool, tree, args.cli)
@@ -168,17 +187,20 @@ def bench_tree(preset, args, out_dir):
     peers = [r for r in rows if r["tool"] in ("fdupes", "jdupes", "rmlint")]
     fastest = min(peers, key=lambda r: r["wall"]) if peers else None
     find = next((r for r in rows if r["tool"] == "find"), None)
+    floor = next((r for r in rows if r["tool"] == "floor"), None)
     print(f"\n== {preset}: {files} files; ratios to the fastest peer"
           + (f" ({fastest['tool']})" if fastest else "") + "\n")
     print(f"{'tool':18s} {'wall s':>8s} {'cpu s':>8s} {'peak MiB':>9s} {'B/file':>7s}"
-          f" {'wall x':>7s} {'cpu x':>7s} {'mem x':>7s} {'x find':>7s} {'disk MiB':>8s}  correct")
+          f" {'wall x':>7s} {'cpu x':>7s} {'mem x':>7s} {'x find':>7s} {'x floor':>7s} {'disk MiB':>8s}"
+          "  correct")
     for r in rows:
         ratio = lambda key: (r[key] / fastest[key]) if fastest and fastest[key] > 0 else float("nan")
         vs_find = r["wall"] / find["wall"] if find and find["wall"] > 0 else float("nan")
+        vs_floor = r["wall"] / floor["wall"] if floor and floor["wall"] > 0 else float("nan")
         per_file = r["peak_kib"] * 1024 / files if files else 0
         print(f"{r['tool']:18s} {r['wall']:8.3f} {r['cpu']:8.3f} {r['peak_kib'] / 1024:9.1f}"
               f" {per_file:7.0f} {ratio('wall'):7.2f} {ratio('cpu'):7.2f} {ratio('peak_kib'):7.2f}"
-              f" {vs_find:7.2f} {r['disk_kib'] / 1024:8.1f}  {r['correct']}")
+              f" {vs_find:7.2f} {vs_floor:7.2f} {r['disk_kib'] / 1024:8.1f}  {r['correct']}")
     print()
     return rows
 
@@ -191,7 +213,7 @@ def main():
     ap.add_argument("--work", default=os.path.join(tempfile.gettempdir(), "veltrine-bench"),
                     help="folder for the trees (reused when present)")
     ap.add_argument("--cli", default=None, help="path of veltrine-duplicate-finder-cli")
-    ap.add_argument("--tools", default="find,cli-sampled,cli-full,cli-sampled-serial,cli-full-serial,cli-sampled-first,"
+    ap.add_argument("--tools", default="find,floor,cli-sampled,cli-full,cli-sampled-serial,cli-full-serial,cli-sampled-first,"
                     "cli-full-first,cli-sampled-cached,cli-full-cached,cli-name,fdupes,jdupes,"
                     "rmlint")
     ap.add_argument("--out", default=None, help="keep raw outputs here")
