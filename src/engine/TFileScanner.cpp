@@ -168,7 +168,7 @@ struct TFileScanner::WalkState
     // end waits on its own condition, so that a folder's wake-up always reaches a thread
     // that can take it.
     QWaitCondition wake;
-    QWaitCondition idle;
+    QWaitCondition ended;
     std::deque<Folder> queue;
     int busy = 0;
     bool done = false;
@@ -662,7 +662,7 @@ void TFileScanner::drainWithPool(WalkState &state)
                     --state.busy;
                     if (state.busy == 0 && state.queue.empty()) {
                         state.wake.wakeAll();
-                        state.idle.wakeAll();
+                        state.ended.wakeAll();
                     }
                 }
             } catch (const std::exception &error) {
@@ -678,7 +678,7 @@ void TFileScanner::drainWithPool(WalkState &state)
     {
         QMutexLocker locker(&state.mutex);
         while (!(state.queue.empty() && state.busy == 0))
-            state.idle.wait(&state.mutex, 50);
+            state.ended.wait(&state.mutex, 50);
         state.done = true;
         state.wake.wakeAll();
     }
