@@ -66,21 +66,27 @@ QString CliOptions::usage()
         "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
         "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
         "trash|permanent|move\n"
-        "                                     [--to DIR] [--dry-run] [--allow-all-copies] "
-        "[--json]\n"
-        "       veltrine-duplicate-finder-cli restore [--json]\n"
+        "                                     [--to DIR] [--dry-run] [--allow-all-copies]\n"
+        "                                     [--allow-different-content] [--json]\n"
+        "       veltrine-duplicate-finder-cli restore [--list | BATCH] [--json]\n"
         "\n"
         "scan finds duplicate files in the given folders and report prints the groups and\n"
         "the selection of a saved project; neither deletes or moves anything. remove acts\n"
         "on a saved project's selection: to the trash, for good, or into the folder --to\n"
         "(never over an existing name). Just before each item goes it is checked: it must\n"
         "be as the scan saw it, a member of its group that stays must still exist as a\n"
-        "separate file, and for identical files its whole content must still equal that\n"
-        "copy's. Items that fail a check are skipped with the reason; when a group's every\n"
+        "separate file, and its whole content, read at that moment, must equal that\n"
+        "copy's. Similar pictures and files of one name differ by design: a member that\n"
+        "differs from every copy that stays goes only with --allow-different-content.\n"
+        "Items that fail a check are skipped with the reason; when a group's every\n"
         "copy is selected the first stays unless --allow-all-copies is given. --dry-run\n"
         "lists what would be removed and skipped. Every removal is written to a journal\n"
-        "in the data folder; restore puts the last batch that went to the trash or into\n"
-        "a folder back where it was (never over an existing file).\n"
+        "in the data folder, each item before it is acted on; a full disk there stops\n"
+        "the batch. SIGINT or SIGTERM stops it after the item in hand (exit 130 or 143).\n"
+        "restore puts the newest batch that went to the trash or into a folder back where\n"
+        "it was, each item only if it is what went, never over an existing file; run it\n"
+        "again to finish what failed. restore --list lists the batches, restore BATCH (an\n"
+        "id or its start) restores that one.\n"
         "\n"
         "options:\n"
         "  --method sampled|full|name  how files are compared (default sampled: size and three\n"
@@ -143,7 +149,9 @@ QString CliOptions::usage()
         "             could not be completed, 3 the project file\n"
         "             could not be saved or read, 4 the picture comparison could not\n"
         "             be started, 5 remove or restore skipped or failed some items\n"
-        "             (each listed with its reason on standard error)\n")
+        "             (each listed with its reason on standard error), 6 the removal\n"
+        "             journal could not be written (nothing more was removed), 130 or\n"
+        "             143 remove stopped by SIGINT or SIGTERM\n")
         .arg(PreferenceRanges::MinFileSize.minimum)
         .arg(PreferenceRanges::MinFileSize.maximum)
         .arg(PreferenceRanges::MaxFileSize.minimum)
@@ -213,14 +221,20 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
             m_dryRun = true;
         } else if (removing && argument == QLatin1String("--allow-all-copies")) {
             m_allowAllCopies = true;
+        } else if (removing && argument == QLatin1String("--allow-different-content")) {
+            m_allowDifferentContent = true;
+        } else if (m_command == Restore && argument == QLatin1String("--list")) {
+            m_listBatches = true;
         } else if (argument.startsWith(QLatin1Char('-')) && argument != QLatin1String("-")) {
             m_error = QStringLiteral("unknown option \"%1\" for %2").arg(argument, command);
             return BadArguments;
         } else if (m_command != Restore && m_projectPath.isEmpty()) {
             m_projectPath = argument;
+        } else if (m_command == Restore && m_batchId.isEmpty()) {
+            m_batchId = argument;
         } else {
             m_error = m_command == Restore
-                ? QStringLiteral("restore takes no file")
+                ? QStringLiteral("restore takes one batch")
                 : QStringLiteral("%1 takes one project file").arg(command);
             return BadArguments;
         }

@@ -30,6 +30,11 @@ public:
     QString targetFolder() const { return m_targetFolder; }
     bool dryRun() const { return m_dryRun; }
     bool allowAllCopies() const { return m_allowAllCopies; }
+    bool allowDifferentContent() const { return m_allowDifferentContent; }
+    // restore: list the batches instead, or the batch to restore (empty: the newest that
+    // can be).
+    bool listBatches() const { return m_listBatches; }
+    QString batchId() const { return m_batchId; }
     QStringList folders() const { return m_folders; }
     // scan --cloud: "remote:path" folders listed through rclone instead of local folders,
     // and the rclone configuration that names the remotes (empty: the data folder's own).
@@ -61,6 +66,9 @@ private:
     QString m_targetFolder;
     bool m_dryRun = false;
     bool m_allowAllCopies = false;
+    bool m_allowDifferentContent = false;
+    bool m_listBatches = false;
+    QString m_batchId;
     QStringList m_folders;
     QStringList m_cloudFolders;
     QString m_rcloneConfig;

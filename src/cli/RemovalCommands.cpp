@@ -4,20 +4,67 @@
 #include "cli/CliOptions.h"
 #include "cli/CliText.h"
 #include "cli/ProjectLoader.h"
+#include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRestorer.h"
 #include "fileops/TImageDeleteWorker.h"
 
+#include <atomic>
+#include <csignal>
 #include <cstdio>
 
 namespace {
 
+constexpr int kBadArguments = 1;
 constexpr int kSomeNotHandled = 5;
+constexpr int kJournalFailed = 6;
+
+// The signal that asked the batch to stop; the worker finishes the item in hand.
+std::atomic<int> g_stopSignal {0};
+
+extern "C" void onStopSignal(int signal)
+{
+    g_stopSignal.store(signal);
+}
+
+// SIGINT and SIGTERM stop a batch between two items instead of killing it mid-item; the
+// previous handlers come back when it ends.
+class StopSignals
+{
+public:
+    StopSignals()
+    {
+        struct sigaction action
+        {
+        };
+        action.sa_handler = onStopSignal;
+        sigemptyset(&action.sa_mask);
+        ::sigaction(SIGINT, &action, &m_int);
+        ::sigaction(SIGTERM, &action, &m_term);
+    }
+    ~StopSignals()
+    {
+        ::sigaction(SIGINT, &m_int, nullptr);
+        ::sigaction(SIGTERM, &m_term, nullptr);
+    }
+
+private:
+    struct sigaction m_int
+    {
+    };
+    struct sigaction m_term
+    {
+    };
+};
 
 QString outcomeOf(const DeleteResult &result, bool dryRun)
 {
+    if (result.alreadyGone)
+        return RemovalJournal::gone;
     if (result.errorCode == DeleteResult::Skipped)
         return dryRun ? QStringLiteral("would skip") : QStringLiteral("skipped");
+    if (result.errorCode == DeleteResult::NotRecorded)
+        return QStringLiteral("not handled");
     if (!result.success)
         return QStringLiteral("failed");
     return dryRun ? QStringLiteral("would remove") : QStringLiteral("removed");
@@ -28,13 +75,18 @@ QString outcomeOf(const DeleteResult &result, bool dryRun)
 int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QString &done)
 {
     int notHandled = 0;
+    int gone = 0;
+    int differing = 0;
     if (json)
         std::fputs("{\"items\": [", stdout);
     for (qsizetype i = 0; i < results.size(); ++i) {
         const DeleteResult &result = results.at(i);
         const bool handled = result.success;
         notHandled += handled ? 0 : 1;
-        const QString outcome = handled && !dryRun ? done : outcomeOf(result, dryRun);
+        gone += result.alreadyGone ? 1 : 0;
+        differing += result.reason.startsWith(RemovalCheck::differentContent) ? 1 : 0;
+        const QString outcome
+            = handled && !dryRun && !result.alreadyGone ? done : outcomeOf(result, dryRun);
         if (!handled || !json) {
             std::FILE *out = handled ? stdout : stderr;
             std::fprintf(
@@ -61,14 +113,54 @@ int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QSt
         }
         std::fputc('}', stdout);
     }
+    const auto handled = static_cast<long long>(results.size() - notHandled);
     if (json)
-        std::fprintf(stdout, "%s], \"handled\": %lld, \"notHandled\": %d}\n",
-            results.isEmpty() ? "" : "\n", static_cast<long long>(results.size() - notHandled),
-            notHandled);
+        std::fprintf(stdout, "%s], \"handled\": %lld, \"alreadyGone\": %d, \"notHandled\": %d}\n",
+            results.isEmpty() ? "" : "\n", handled, gone, notHandled);
     std::fflush(stdout);
-    std::fprintf(stderr, "%lld handled, %d skipped or failed\n",
-        static_cast<long long>(results.size() - notHandled), notHandled);
+    std::fprintf(stderr, "%lld handled (%d of them already gone), %d skipped or failed\n", handled,
+        gone, notHandled);
+    if (differing)
+        std::fprintf(stderr,
+            "%d items differ in content from every copy that stays (similar pictures or files "
+            "sharing a name); --allow-different-content removes them too\n",
+            differing);
     return notHandled ? kSomeNotHandled : 0;
+}
+
+int listBatches(bool json)
+{
+    const QList<RemovalJournal::Batch> batches = RemovalJournal().batches();
+    if (json)
+        std::fputs("{\"batches\": [", stdout);
+    for (qsizetype i = 0; i < batches.size(); ++i) {
+        const RemovalJournal::Batch &batch = batches.at(i);
+        const qsizetype left = batch.restorableCount();
+        const QString state = batch.method == QLatin1String("permanent")
+            ? QStringLiteral("not restorable (removed for good)")
+            : left ? QStringLiteral("restorable")
+                   : QStringLiteral("nothing left to restore");
+        const QString ended = !batch.ended ? QStringLiteral(", cut short")
+            : batch.signal ? QStringLiteral(", stopped by signal %1").arg(batch.signal)
+                           : QString();
+        if (!json) {
+            std::printf("%s\t%s\t%s\t%lld removed, %lld skipped or failed, %lld to restore\t%s%s\n",
+                qPrintable(batch.id), qPrintable(batch.time), qPrintable(batch.method),
+                static_cast<long long>(batch.count(RemovalJournal::removed)),
+                static_cast<long long>(
+                    batch.count(RemovalJournal::skipped) + batch.count(RemovalJournal::failed)),
+                static_cast<long long>(left), qPrintable(state), qPrintable(ended));
+            continue;
+        }
+        std::printf("%s\n  {\"batch\": \"%s\", \"time\": \"%s\", \"method\": \"%s\", \"removed\": "
+                    "%lld, \"toRestore\": %lld, \"restorable\": %s, \"ended\": %s}",
+            i ? "," : "", qPrintable(batch.id), qPrintable(batch.time), qPrintable(batch.method),
+            static_cast<long long>(batch.count(RemovalJournal::removed)),
+            static_cast<long long>(left), left ? "true" : "false", batch.ended ? "true" : "false");
+    }
+    if (json)
+        std::printf("%s]}\n", batches.isEmpty() ? "" : "\n");
+    return 0;
 }
 
 } // namespace
@@ -80,7 +172,14 @@ int RemovalCommands::remove(const CliOptions &options)
     RemovalRequest request
         = RemovalRequest::fromStore(options.removalMethod(), options.targetFolder());
     request.allowAllCopies = options.allowAllCopies();
+    request.allowDifferentContent = options.allowDifferentContent();
     request.dryRun = options.dryRun();
+    const QString refusal = request.refusal();
+    if (!refusal.isEmpty()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: nothing removed: %s\n",
+            CliText::lineText(refusal).constData());
+        return kBadArguments;
+    }
     TImageDeleteWorker worker(request);
     RemovalJournal journal;
     if (!options.dryRun()) {
@@ -88,30 +187,56 @@ int RemovalCommands::remove(const CliOptions &options)
         for (const QStringList &paths : std::as_const(request.selected))
             items += paths.size();
         // No journal, no removal: every item must be on record before it goes.
-        if (!journal.begin(RemovalJournal::methodName(options.removalMethod()), items)) {
+        if (!journal.begin(RemovalJournal::methodName(options.removalMethod()), items,
+                options.targetFolder())) {
             std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the journal %s: %s\n",
                 CliText::lineText(journal.path()).constData(), qPrintable(journal.error()));
-            return 1;
+            return kJournalFailed;
         }
         worker.setJournal(&journal);
     }
+    g_stopSignal.store(0);
+    const StopSignals stopSignals;
+    worker.setStopFlag(&g_stopSignal);
     worker.doDelete();
+    const int signal = g_stopSignal.load();
+    const bool journalFailed = !worker.journalError().isEmpty();
     if (!options.dryRun()) {
-        journal.end();
+        // After a failed write the end line most likely fails too; it is tried all the
+        // same, and the batch without an end is what the next start reports.
+        journal.end(signal);
         std::fprintf(stderr, "journal: %s\n", CliText::lineText(journal.path()).constData());
     }
-    return report(worker.results(), options.json(), options.dryRun(), QStringLiteral("removed"));
+    const int status
+        = report(worker.results(), options.json(), options.dryRun(), QStringLiteral("removed"));
+    if (journalFailed) {
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: the removal stopped: the journal %s cannot be "
+            "written: %s\n",
+            CliText::lineText(journal.path()).constData(),
+            CliText::lineText(worker.journalError()).constData());
+        return kJournalFailed;
+    }
+    if (signal) {
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: stopped by signal %d after %lld items\n", signal,
+            static_cast<long long>(worker.results().size()));
+        return 128 + signal;
+    }
+    return status;
 }
 
 int RemovalCommands::restore(const CliOptions &options)
 {
+    if (options.listBatches())
+        return listBatches(options.json());
     RemovalJournal journal;
     RemovalRestorer restorer(journal);
     QList<DeleteResult> results;
-    if (!restorer.restoreLastBatch(results)) {
+    if (!restorer.restore(options.batchId(), results)) {
         std::fprintf(stderr, "veltrine-duplicate-finder-cli: nothing restored: %s\n",
             qPrintable(restorer.error()));
         return kSomeNotHandled;
     }
-    return report(results, options.json(), false, QStringLiteral("restored"));
+    return report(results, options.json(), false, RemovalJournal::restored);
 }

@@ -19,11 +19,7 @@ FileStamp FileStamp::of(const QString &path)
     };
     if (::lstat(FilePathCodec::encode(path).constData(), &info) != 0 || !S_ISREG(info.st_mode))
         return stamp;
-    stamp.size = info.st_size;
-    stamp.modifiedNs = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
-    stamp.changedNs = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
-    stamp.device = quint64(info.st_dev);
-    stamp.inode = quint64(info.st_ino);
+    return fromStat(info);
 #else
     const QFileInfo info(path);
     if (!info.isFile() || info.isSymLink())
@@ -33,6 +29,19 @@ FileStamp FileStamp::of(const QString &path)
 #endif
     return stamp;
 }
+
+#ifdef Q_OS_UNIX
+FileStamp FileStamp::fromStat(const struct stat &info)
+{
+    FileStamp stamp;
+    stamp.size = info.st_size;
+    stamp.modifiedNs = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
+    stamp.changedNs = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
+    stamp.device = quint64(info.st_dev);
+    stamp.inode = quint64(info.st_ino);
+    return stamp;
+}
+#endif
 
 FileStamp FileStamp::withContentKey(const QString &path, quint64 key)
 {

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+struct stat;
+
 // What a file looked like when the scan read it: its size, modification time and
 // identity (device and inode). The removal compares the file with it just before it acts,
 // so a file edited or replaced since the scan is never removed on the scan's word.
@@ -40,6 +42,10 @@ struct FileStamp
     // The stamp of a regular file at path (the link itself is not followed); an invalid
     // stamp when there is no regular file there.
     static FileStamp of(const QString &path);
+#ifdef Q_OS_UNIX
+    // The stamp an lstat/fstat answer gives, whatever the kind of entry.
+    static FileStamp fromStat(const struct stat &info);
+#endif
     // The same, carrying the whole-content key the scan just computed, unless the file
     // was modified so recently that a later write could still share its time stamp.
     static FileStamp withContentKey(const QString &path, quint64 key);

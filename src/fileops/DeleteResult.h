@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QMetaType>
 #include <QString>
@@ -16,6 +17,8 @@ struct DeleteResult
         RemovalFailed = 9,
         // A check just before the removal kept the item; reason says which.
         Skipped = 10,
+        // The batch stopped before this item: its record could not be written.
+        NotRecorded = 11,
     };
 
     QString path;
@@ -29,5 +32,12 @@ struct DeleteResult
     QString reason;
     // Where the item went: its place in the trash, or its new path after a move.
     QString destination;
+    // Nothing was there any more when its turn came.
+    bool alreadyGone = false;
+    // What went, as read just before it went: for a restore's check that it puts back
+    // this and nothing else.
+    qint64 size = -1;
+    qint64 modifiedNs = 0;
+    QByteArray digest;
 };
 Q_DECLARE_METATYPE(DeleteResult)

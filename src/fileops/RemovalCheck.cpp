@@ -3,6 +3,7 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "engine/FilePathCodec.h"
+#include "fileops/ContentCompare.h"
 #include "fileops/ContentHash.h"
 
 #include <algorithm>
@@ -17,11 +18,14 @@
 #include <cstdlib>
 #include <dirent.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 const QString RemovalCheck::changedSinceScan = QStringLiteral("changed since the scan");
 const QString RemovalCheck::noKeptCopyLeft = QStringLiteral("no kept copy left");
 const QString RemovalCheck::contentDiffers = QStringLiteral("content differs from the kept copy");
+const QString RemovalCheck::differentContent
+    = QStringLiteral("content differs from every kept copy");
 const QString RemovalCheck::folderNotCovered
     = QStringLiteral("not everything in it has a copy in the kept folder");
 
@@ -33,9 +37,9 @@ struct Entry
 {
     Kind kind = Kind::Missing;
     FileStamp stamp;
-    quint64 device = 0;
-    quint64 inode = 0;
 };
+
+using Identity = QPair<quint64, quint64>;
 
 Entry entryOf(const QString &path)
 {
@@ -48,30 +52,27 @@ Entry entryOf(const QString &path)
         entry.kind = errno == ENOENT ? Kind::Missing : Kind::Other;
         return entry;
     }
-    entry.device = quint64(info.st_dev);
-    entry.inode = quint64(info.st_ino);
     entry.kind = S_ISDIR(info.st_mode) ? Kind::Folder
         : S_ISREG(info.st_mode)        ? Kind::File
                                        : Kind::Other;
-    // The stamp from the same look, not a second one.
-    if (entry.kind == Kind::File) {
-        entry.stamp.size = info.st_size;
-        entry.stamp.modifiedNs = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
-        entry.stamp.changedNs = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
-        entry.stamp.device = entry.device;
-        entry.stamp.inode = entry.inode;
-    }
-    return entry;
+    entry.stamp = FileStamp::fromStat(info);
+    if (entry.kind != Kind::File)
+        entry.stamp.size = -1;
 #else
     const QFileInfo info(path);
     entry.kind = info.isSymLink() ? Kind::Other
         : info.isDir()            ? Kind::Folder
         : info.isFile()           ? Kind::File
                                   : Kind::Missing;
-#endif
     if (entry.kind == Kind::File)
         entry.stamp = FileStamp::of(path);
+#endif
     return entry;
+}
+
+Identity identityOf(const FileStamp &stamp)
+{
+    return {stamp.device, stamp.inode};
 }
 
 // The path with every link in it resolved; empty when it cannot be.
@@ -95,173 +96,356 @@ bool isInside(const QString &path, const QString &folder)
         && (path.size() == folder.size() || path.at(folder.size()) == QLatin1Char('/'));
 }
 
-// Calls file(path) for every regular file below folder, hidden ones included; false when
-// the folder holds anything else (links, pipes, devices) or cannot be read, or when file
-// says stop.
-bool forEachFile(const QString &folder, const std::function<bool(const QString &)> &file)
+// Everything below a folder, hidden entries included, as read now.
+struct FolderTree
 {
+    struct File
+    {
+        QString relative;
+        QString path;
+        qint64 size = 0;
+    };
+    // False when something in it is neither a file nor a folder (links, pipes, devices
+    // have no copy and would be lost) or cannot be read.
+    bool complete = true;
+    QList<File> files;
+    // Every folder in it, itself included, by device and inode: a bind mount or a linked
+    // folder shows up here however its path reads.
+    QSet<Identity> folders;
+
+    explicit FolderTree(const QString &root) { add(root, QString()); }
+
+private:
+    void add(const QString &folder, const QString &relative)
+    {
+        const Entry self = entryOf(folder);
+        if (self.kind != Kind::Folder) {
+            complete = false;
+            return;
+        }
+        folders.insert(identityOf(self.stamp));
 #ifdef Q_OS_UNIX
-    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-    if (!dir)
-        return false;
-    bool ok = true;
-    while (const dirent *item = ::readdir(dir)) {
-        const char *name = item->d_name;
-        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-            continue;
-        const QString path = folder + QLatin1Char('/') + FilePathCodec::decode(QByteArray(name));
-        const Kind kind = entryOf(path).kind;
-        if (kind == Kind::File)
-            ok = file(path);
-        else if (kind == Kind::Folder)
-            ok = forEachFile(path, file);
-        else
-            ok = false;
-        if (!ok)
-            break;
-    }
-    ::closedir(dir);
-    return ok;
+        DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
+        if (!dir) {
+            complete = false;
+            return;
+        }
+        QStringList names;
+        while (const dirent *item = ::readdir(dir)) {
+            const char *name = item->d_name;
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+                continue;
+            names.append(FilePathCodec::decode(QByteArray(name)));
+        }
+        ::closedir(dir);
 #else
-    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-        QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        it.next();
-        const QFileInfo info = it.fileInfo();
-        if (info.isSymLink() || !(info.isDir() || info.isFile()))
-            return false;
-        if (info.isFile() && !file(info.filePath()))
-            return false;
-    }
-    return true;
+        const QStringList names = QDir(folder).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 #endif
+        for (const QString &name : std::as_const(names)) {
+            const QString path = folder + QLatin1Char('/') + name;
+            const QString inside = relative.isEmpty() ? name : relative + QLatin1Char('/') + name;
+            const Entry entry = entryOf(path);
+            if (entry.kind == Kind::File)
+                files.append(File {inside, path, entry.stamp.size});
+            else if (entry.kind == Kind::Folder)
+                add(path, inside);
+            else
+                complete = false;
+            if (!complete)
+                return;
+        }
+    }
+};
+
+// A folder's digest: its files' relative paths and content hashes, in path order.
+QByteArray digestOfFiles(QList<QPair<QString, QByteArray>> &files)
+{
+    std::sort(files.begin(), files.end());
+    ContentHash all;
+    for (const auto &[relative, digest] : std::as_const(files)) {
+        const QByteArray name = relative.toUtf8();
+        all.add(name.constData(), size_t(name.size()) + 1);
+        all.add(digest.constData(), size_t(digest.size()));
+    }
+    return all.result();
 }
 
 } // namespace
 
-QString RemovalCheck::check(GroupKind kind, const QStringList &members, const QString &entry,
-    const QSet<QString> &leaving, bool everyCopy)
+RemovalCheck::Look RemovalCheck::look(
+    GroupKind kind, const QStringList &stays, const QString &entry, bool everyCopy) const
 {
     if (kind == Folders)
-        return checkFolder(members, entry, leaving, everyCopy);
-    return checkFile(kind, members, entry, leaving, everyCopy);
+        return lookFolder(stays, entry, everyCopy);
+    return lookFile(stays, entry, everyCopy);
 }
 
-QByteArray RemovalCheck::keptHash(const QString &path)
+QStringList RemovalCheck::keptMembers(
+    GroupKind kind, const QStringList &members, const QSet<QString> &leaving)
 {
-    auto found = m_keptHashes.constFind(path);
-    if (found == m_keptHashes.constEnd())
-        found = m_keptHashes.insert(path, ContentHash::ofFile(path));
-    return found.value();
+    QStringList stays;
+    for (const QString &member : members) {
+        if (kind != Folders) {
+            if (!leaving.contains(stripSimilarTag(member)))
+                stays.append(member);
+            continue;
+        }
+        // A kept folder must keep everything: not one thing in it may go in this batch.
+        const QString prefix = member + QLatin1Char('/');
+        if (!leaving.contains(member)
+            && std::none_of(leaving.begin(), leaving.end(),
+                [&prefix](const QString &path) { return path.startsWith(prefix); }))
+            stays.append(member);
+    }
+    return stays;
 }
 
-QString RemovalCheck::checkFile(GroupKind kind, const QStringList &members, const QString &entry,
-    const QSet<QString> &leaving, bool everyCopy)
+RemovalCheck::Confirmed RemovalCheck::confirm(
+    GroupKind kind, const Look &look, const QString &current, bool allowDifferentContent) const
 {
+    if (kind == Folders)
+        return confirmFolder(look, current);
+    return confirmFile(kind, look, current, allowDifferentContent);
+}
+
+RemovalCheck::Look RemovalCheck::lookFile(
+    const QStringList &stays, const QString &entry, bool everyCopy) const
+{
+    Look look;
+    look.everyCopy = everyCopy;
     const QString path = stripSimilarTag(entry);
     const Entry item = entryOf(path);
     // Already gone: nothing to remove, and nothing lost by saying so.
-    if (item.kind == Kind::Missing)
-        return {};
-    if (item.kind != Kind::File)
-        return changedSinceScan;
+    if (item.kind == Kind::Missing) {
+        look.gone = true;
+        return look;
+    }
+    if (item.kind != Kind::File) {
+        look.reason = changedSinceScan;
+        return look;
+    }
     const FileStamp seen = m_stamps.value(path);
-    if (seen.isValid() && (!seen.sameContentStamp(item.stamp) || !seen.sameFile(item.stamp)))
-        return changedSinceScan;
+    if (seen.isValid() && (!seen.sameContentStamp(item.stamp) || !seen.sameFile(item.stamp))) {
+        look.reason = changedSinceScan;
+        return look;
+    }
+    look.stamp = item.stamp;
     if (everyCopy)
-        return {};
-
-    QByteArray itemHash;
-    bool anyKept = false;
-    for (const QString &member : members) {
+        return look;
+    QStringList otherSize;
+    QSet<QString> listed;
+    for (const QString &member : stays) {
         const QString keptPath = stripSimilarTag(member);
-        if (member == entry || leaving.contains(keptPath))
+        if (keptPath == path || listed.contains(keptPath))
             continue;
+        listed.insert(keptPath);
         const Entry kept = entryOf(keptPath);
         // A regular file (a link is no copy) that is not the item itself: one file under
         // two names, or reached through linked folders, has one device and inode.
         if (kept.kind != Kind::File || kept.stamp.sameFile(item.stamp))
             continue;
-        anyKept = true;
-        // Similar pictures and files sharing a name differ by design: the copy only has
-        // to be there.
-        if (kind != IdenticalFiles)
-            return {};
-        if (kept.stamp.size != item.stamp.size)
-            continue;
-        // Both untouched since the scan read them whole: their keys decide without
-        // reading them again.
-        const FileStamp keptSeen = m_stamps.value(keptPath);
-        if (seen.keyStillHolds(item.stamp) && keptSeen.keyStillHolds(kept.stamp)) {
-            if (seen.contentKey == keptSeen.contentKey)
-                return {};
-            continue;
-        }
-        if (itemHash.isEmpty())
-            itemHash = ContentHash::ofFile(path);
-        if (itemHash.isEmpty())
-            return changedSinceScan;
-        if (keptHash(keptPath) == itemHash)
-            return {};
+        (kept.stamp.size == item.stamp.size ? look.kept : otherSize).append(keptPath);
     }
-    return anyKept ? contentDiffers : noKeptCopyLeft;
+    look.kept << otherSize;
+    if (look.kept.isEmpty())
+        look.reason = noKeptCopyLeft;
+    return look;
 }
 
-const QSet<QByteArray> *RemovalCheck::keptFolderContent(const QString &folder)
+RemovalCheck::Confirmed RemovalCheck::confirmFile(
+    GroupKind kind, const Look &look, const QString &current, bool allowDifferentContent) const
 {
-    if (m_unreadableFolders.contains(folder))
-        return nullptr;
-    auto found = m_keptFolders.constFind(folder);
-    if (found != m_keptFolders.constEnd())
-        return &found.value();
-    QSet<QByteArray> content;
-    const bool ok = forEachFile(folder, [&content](const QString &file) {
-        const QByteArray hash = ContentHash::ofFile(file);
-        content.insert(hash);
-        return !hash.isEmpty();
-    });
-    if (!ok) {
-        m_unreadableFolders.insert(folder);
-        return nullptr;
+    Confirmed out;
+    const int fd = ContentCompare::openRegular(current);
+    if (fd < 0) {
+        out.reason = changedSinceScan;
+        return out;
     }
-    return &m_keptFolders.insert(folder, content).value();
-}
-
-QString RemovalCheck::checkFolder(
-    const QStringList &members, const QString &entry, const QSet<QString> &leaving, bool everyCopy)
-{
-    const Entry item = entryOf(entry);
-    if (item.kind == Kind::Missing)
-        return {};
-    if (item.kind != Kind::Folder)
-        return changedSinceScan;
-    if (everyCopy)
-        return {};
-    const QString itemReal = realPathOf(entry);
+    // Still the file the look saw: nothing was renamed over it in between.
+    FileStamp now;
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::fstat(fd, &info) == 0)
+        now = FileStamp::fromStat(info);
+#else
+    now = FileStamp::of(current);
+#endif
+    out.size = now.size;
+    out.modifiedNs = now.modifiedNs;
+    if (!now.isValid() || !now.sameFile(look.stamp) || !now.sameContentStamp(look.stamp)) {
+        ::close(fd);
+        out.reason = changedSinceScan;
+        return out;
+    }
+    if (look.everyCopy) {
+        out.digest = ContentHash::ofFd(fd);
+        ::close(fd);
+        if (out.digest.isEmpty())
+            out.reason = changedSinceScan;
+        return out;
+    }
     bool anyKept = false;
-    for (const QString &member : members) {
-        if (member == entry || leaving.contains(member))
-            continue;
-        // A kept folder must keep everything: not one thing in it may go in this batch.
-        const QString prefix = member + QLatin1Char('/');
-        if (std::any_of(leaving.begin(), leaving.end(),
-                [&prefix](const QString &path) { return path.startsWith(prefix); }))
+    for (const QString &kept : look.kept) {
+        switch (ContentCompare::compare(fd, kept, &out.digest)) {
+        case ContentCompare::Same:
+            ::close(fd);
+            return out;
+        case ContentCompare::Differs:
+            anyKept = true;
+            break;
+        case ContentCompare::ItemUnreadable:
+            ::close(fd);
+            out.reason = changedSinceScan;
+            return out;
+        case ContentCompare::KeptUnreadable:
+        case ContentCompare::SameFile:
+            break;
+        }
+    }
+    if (anyKept && kind != IdenticalFiles && allowDifferentContent) {
+        out.digest = ContentHash::ofFd(fd);
+        ::close(fd);
+        if (out.digest.isEmpty())
+            out.reason = changedSinceScan;
+        return out;
+    }
+    ::close(fd);
+    out.reason = !anyKept        ? noKeptCopyLeft
+        : kind == IdenticalFiles ? contentDiffers
+                                 : differentContent;
+    return out;
+}
+
+RemovalCheck::Look RemovalCheck::lookFolder(
+    const QStringList &stays, const QString &entry, bool everyCopy) const
+{
+    Look look;
+    look.everyCopy = everyCopy;
+    const Entry item = entryOf(entry);
+    if (item.kind == Kind::Missing) {
+        look.gone = true;
+        return look;
+    }
+    if (item.kind != Kind::Folder) {
+        look.reason = changedSinceScan;
+        return look;
+    }
+    look.stamp = item.stamp;
+    if (everyCopy)
+        return look;
+    const QString itemReal = realPathOf(entry);
+    for (const QString &member : stays) {
+        if (member == entry)
             continue;
         const Entry kept = entryOf(member);
         const QString keptReal = realPathOf(member);
         // A partner inside the item (or holding it) goes with it, or takes it along.
         if (kept.kind != Kind::Folder || keptReal.isEmpty() || isInside(keptReal, itemReal)
-            || isInside(itemReal, keptReal))
+            || isInside(itemReal, keptReal) || kept.stamp.sameFile(item.stamp))
+            continue;
+        look.kept.append(member);
+    }
+    if (look.kept.isEmpty())
+        look.reason = noKeptCopyLeft;
+    return look;
+}
+
+RemovalCheck::Confirmed RemovalCheck::confirmFolder(const Look &look, const QString &current) const
+{
+    Confirmed out;
+    const FolderTree item(current);
+    const Identity self = identityOf(look.stamp);
+    if (!item.folders.contains(self) || !item.complete) {
+        out.reason = item.folders.contains(self) ? folderNotCovered : changedSinceScan;
+        return out;
+    }
+    // (relative path, content hash) of every file, sorted, make the folder's digest.
+    QList<QPair<QString, QByteArray>> hashes;
+    bool anyKept = look.everyCopy;
+    bool covered = look.everyCopy;
+    for (const QString &keptFolder : look.kept) {
+        const FolderTree kept(keptFolder);
+        // The kept folder must be another directory, neither the removed one under another
+        // path (a bind mount), nor inside it, nor holding it.
+        const bool distinct = !kept.folders.isEmpty()
+            && !item.folders.contains(*kept.folders.cbegin()) && !kept.folders.contains(self);
+        if (!distinct || !kept.complete)
             continue;
         anyKept = true;
-        const QSet<QByteArray> *content = keptFolderContent(member);
-        if (!content)
-            continue;
-        const bool covered = forEachFile(entry, [content](const QString &file) {
-            return content->contains(ContentHash::ofFile(file));
-        });
+        QHash<QString, qsizetype> byRelative;
+        QMultiHash<qint64, qsizetype> bySize;
+        for (qsizetype i = 0; i < kept.files.size(); ++i) {
+            byRelative.insert(kept.files.at(i).relative, i);
+            bySize.insert(kept.files.at(i).size, i);
+        }
+        hashes.clear();
+        covered = true;
+        for (const FolderTree::File &file : item.files) {
+            // The partner of the same place first, then any of the same size.
+            QList<qsizetype> partners;
+            const qsizetype same = byRelative.value(file.relative, -1);
+            if (same >= 0 && kept.files.at(same).size == file.size)
+                partners.append(same);
+            for (auto it = bySize.constFind(file.size);
+                 it != bySize.cend() && it.key() == file.size; ++it)
+                if (it.value() != same)
+                    partners.append(it.value());
+            const int fd = ContentCompare::openRegular(file.path);
+            bool matched = false;
+            QByteArray digest;
+            for (qsizetype partner : std::as_const(partners)) {
+                if (fd >= 0
+                    && ContentCompare::compare(fd, kept.files.at(partner).path, &digest)
+                        == ContentCompare::Same) {
+                    matched = true;
+                    break;
+                }
+            }
+            if (fd >= 0)
+                ::close(fd);
+            if (!matched) {
+                covered = false;
+                break;
+            }
+            hashes.append({file.relative, digest});
+            out.size += file.size;
+        }
         if (covered)
-            return {};
+            break;
+        out.size = 0;
     }
-    return anyKept ? folderNotCovered : noKeptCopyLeft;
+    if (!covered) {
+        out.reason = anyKept ? folderNotCovered : noKeptCopyLeft;
+        return out;
+    }
+    if (look.everyCopy) {
+        out.digest = folderDigest(current, &out.size);
+        if (out.digest.isEmpty())
+            out.reason = changedSinceScan;
+        return out;
+    }
+    out.digest = digestOfFiles(hashes);
+    return out;
+}
+
+QByteArray RemovalCheck::folderDigest(const QString &folder, qint64 *size)
+{
+    const FolderTree tree(folder);
+    if (!tree.complete || tree.folders.isEmpty())
+        return {};
+    QList<QPair<QString, QByteArray>> hashes;
+    qint64 total = 0;
+    for (const FolderTree::File &file : tree.files) {
+        const QByteArray digest = ContentHash::ofFile(file.path);
+        if (digest.isEmpty())
+            return {};
+        hashes.append({file.relative, digest});
+        total += file.size;
+    }
+    if (size)
+        *size = total;
+    return digestOfFiles(hashes);
 }

@@ -9,17 +9,18 @@
 #include <QString>
 #include <QStringList>
 
-// The checks made just before an item is removed, so that nothing goes on the word of a
-// scan that the disk no longer bears out:
-// - the item still has the size, modification time and identity the scan saw;
-// - a member of its group that stays (not removed in this batch) still exists, is a
-//   regular file, is not the item under another name (hard link) and does not lead to it
-//   through links;
-// - in a group of identical files, the item's whole content still equals such a kept
-//   copy's (the scan's sampled key is no proof);
-// - a folder goes only while a kept partner folder exists that holds a same-content copy
-//   of everything in it, sub-folders and hidden files included.
-// A kept copy's content is read once per batch, however many items it vouches for.
+// The checks that decide whether an item may go, in two steps around the moment of acting,
+// so that nothing goes on the word of a scan, a cache or an earlier read:
+// - look(), before anything is done: the item still has the size, modification time and
+//   identity the scan saw, and members of its group that stay (not removed in this batch)
+//   exist as separate regular files or folders;
+// - confirm(), on the item under the private name it was given for the act (or its own
+//   name in a dry run): it is still the file the look saw, and its whole content, read
+//   now, equals that of one of those kept copies, read now too. A folder's every file must
+//   equal a file of a kept folder that is another directory, neither inside the removed
+//   one nor holding it.
+// Similar pictures and files sharing a name differ by design: such a member goes only when
+// it equals a kept copy, or when the caller allows different content.
 class RemovalCheck
 {
 public:
@@ -27,31 +28,63 @@ public:
     static const QString changedSinceScan;
     static const QString noKeptCopyLeft;
     static const QString contentDiffers;
+    static const QString differentContent;
     static const QString folderNotCovered;
 
     enum GroupKind { IdenticalFiles, NamedFiles, SimilarPictures, Folders };
 
+    // What the look before the act found.
+    struct Look
+    {
+        // Not empty: the item stays, for this reason.
+        QString reason;
+        // Nothing is there any more: nothing to do.
+        bool gone = false;
+        // The item as seen now: size, times, device and inode (only the latter two for a
+        // folder).
+        FileStamp stamp;
+        // The members that stay, to compare with; copies of the item's size first.
+        QStringList kept;
+        bool everyCopy = false;
+    };
+
+    // The item as confirmed at the moment of acting.
+    struct Confirmed
+    {
+        QString reason;
+        // The item's content: its ContentHash, for a folder the hash of its files' relative
+        // paths and hashes.
+        QByteArray digest;
+        qint64 size = 0;
+        qint64 modifiedNs = 0;
+    };
+
     explicit RemovalCheck(const QHash<QString, FileStamp> &stamps) : m_stamps(stamps) { }
 
-    // Empty when entry may go now, else the reason it stays. members: the group's entries
-    // (paths, tagged paths for similar pictures, folders); leaving: every path (untagged)
-    // and folder the whole batch removes, in any group; everyCopy: the caller allows this
-    // group to lose every copy, so only the item's own stamp is checked.
-    QString check(GroupKind kind, const QStringList &members, const QString &entry,
-        const QSet<QString> &leaving, bool everyCopy = false);
+    // stays: the members of the item's group (paths, tagged paths for similar pictures,
+    // folders) that this batch leaves in place, as keptMembers() gives them; everyCopy: the
+    // caller allows this group to lose every copy, so nothing needs to stay.
+    Look look(GroupKind kind, const QStringList &stays, const QString &entry,
+        bool everyCopy = false) const;
+    // The members of a group that stay: not removed by the batch (leaving: every path,
+    // untagged, and folder it removes in any group), and for folders nothing in them
+    // removed either.
+    static QStringList keptMembers(
+        GroupKind kind, const QStringList &members, const QSet<QString> &leaving);
+    // current: where the item is now.
+    Confirmed confirm(
+        GroupKind kind, const Look &look, const QString &current, bool allowDifferentContent) const;
+
+    // The digest confirm() gives a folder, for a restore's check of what it puts back;
+    // empty when the folder cannot be read whole.
+    static QByteArray folderDigest(const QString &folder, qint64 *size = nullptr);
 
 private:
-    QString checkFile(GroupKind kind, const QStringList &members, const QString &entry,
-        const QSet<QString> &leaving, bool everyCopy);
-    QString checkFolder(const QStringList &members, const QString &entry,
-        const QSet<QString> &leaving, bool everyCopy);
-    QByteArray keptHash(const QString &path);
-    // Content digests of every file below a kept folder (empty set and false when some
-    // entry cannot be read).
-    const QSet<QByteArray> *keptFolderContent(const QString &folder);
+    Look lookFile(const QStringList &stays, const QString &entry, bool everyCopy) const;
+    Look lookFolder(const QStringList &stays, const QString &entry, bool everyCopy) const;
+    Confirmed confirmFile(
+        GroupKind kind, const Look &look, const QString &current, bool allowDifferentContent) const;
+    Confirmed confirmFolder(const Look &look, const QString &current) const;
 
     QHash<QString, FileStamp> m_stamps;
-    QHash<QString, QByteArray> m_keptHashes;
-    QHash<QString, QSet<QByteArray>> m_keptFolders;
-    QSet<QString> m_unreadableFolders;
 };

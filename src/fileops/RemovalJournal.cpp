@@ -5,17 +5,26 @@
 #include "engine/FilePathCodec.h"
 #include "fileops/TFileDeleter.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 #include <QUuid>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#endif
+
 const QString RemovalJournal::removed = QStringLiteral("removed");
 const QString RemovalJournal::skipped = QStringLiteral("skipped");
 const QString RemovalJournal::failed = QStringLiteral("failed");
+const QString RemovalJournal::gone = QStringLiteral("already gone");
+const QString RemovalJournal::restored = QStringLiteral("restored");
 
 namespace {
 
@@ -23,17 +32,30 @@ const QString kBatch = QStringLiteral("batch");
 const QString kEvent = QStringLiteral("event");
 const QString kMethod = QStringLiteral("method");
 const QString kItems = QStringLiteral("items");
+const QString kTarget = QStringLiteral("target");
+const QString kTargetBytes = QStringLiteral("targetBytes");
 const QString kRestores = QStringLiteral("restores");
+const QString kPid = QStringLiteral("pid");
+const QString kSeq = QStringLiteral("seq");
 const QString kPath = QStringLiteral("path");
 const QString kPathBytes = QStringLiteral("pathBytes");
+const QString kPrivate = QStringLiteral("private");
+const QString kPrivateBytes = QStringLiteral("privateBytes");
 const QString kTo = QStringLiteral("to");
 const QString kToBytes = QStringLiteral("toBytes");
 const QString kResult = QStringLiteral("result");
 const QString kReason = QStringLiteral("reason");
+const QString kSize = QStringLiteral("size");
+const QString kModified = QStringLiteral("modifiedNs");
+const QString kHash = QStringLiteral("hash");
+const QString kSignal = QStringLiteral("signal");
 const QString kTime = QStringLiteral("time");
 const QString kBegin = QStringLiteral("begin");
+const QString kIntent = QStringLiteral("intent");
 const QString kEnd = QStringLiteral("end");
 const QString kItem = QStringLiteral("item");
+const QString kNoticed = QStringLiteral("noticed");
+const QString kRestoreMethod = QStringLiteral("restore");
 
 // A path as JSON text, plus its exact bytes percent-encoded when the text cannot carry
 // them (names that are not UTF-8).
@@ -45,12 +67,26 @@ void putPath(QJsonObject &line, const QString &key, const QString &bytesKey, con
             bytesKey, QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
 }
 
+// Empty for bytes that no path can hold (a NUL): such a line names nothing to act on.
 QString takePath(const QJsonObject &line, const QString &key, const QString &bytesKey)
 {
-    if (line.contains(bytesKey))
-        return FilePathCodec::decode(
-            QByteArray::fromPercentEncoding(line.value(bytesKey).toString().toLatin1()));
-    return line.value(key).toString();
+    if (line.contains(bytesKey)) {
+        const QByteArray bytes
+            = QByteArray::fromPercentEncoding(line.value(bytesKey).toString().toLatin1());
+        return bytes.contains('\0') ? QString() : FilePathCodec::decode(bytes);
+    }
+    const QString text = line.value(key).toString();
+    return text.contains(QChar(0)) ? QString() : text;
+}
+
+bool processAlive(qint64 pid)
+{
+#ifdef Q_OS_UNIX
+    return pid > 0 && (::kill(pid_t(pid), 0) == 0 || errno == EPERM);
+#else
+    Q_UNUSED(pid)
+    return false;
+#endif
 }
 
 } // namespace
@@ -74,65 +110,133 @@ QString RemovalJournal::methodName(int method)
     }
 }
 
-void RemovalJournal::writeLine(const QByteArray &line)
+qsizetype RemovalJournal::Batch::restorableCount() const
 {
-    m_file.write(line);
-    m_file.write("\n", 1);
-    // Each line reaches the system at once: a crash loses no handled item.
-    m_file.flush();
+    if (method == methodName(TFileDeleter::removePermanently))
+        return 0;
+    return std::count_if(items.cbegin(), items.cend(), [](const Item &item) {
+        return !item.restored
+            && ((item.result == removed && !item.destination.isEmpty())
+                || (item.intended && !item.hasOutcome));
+    });
 }
 
-bool RemovalJournal::begin(const QString &method, qint64 items, const QString &restores)
+qsizetype RemovalJournal::Batch::count(const QString &result) const
+{
+    return std::count_if(items.cbegin(), items.cend(),
+        [&result](const Item &item) { return item.result == result; });
+}
+
+bool RemovalJournal::writeLine(const QByteArray &line)
+{
+    if (!m_file.isOpen()) {
+        m_error = QCoreApplication::translate("RemovalJournal", "the journal is not open");
+        return false;
+    }
+    // One write a line, straight to the system (the file is unbuffered): a crash loses no
+    // handled item, and a full disk shows at once.
+    const QByteArray whole = line + '\n';
+    if (m_file.write(whole) != whole.size()) {
+        m_error = m_file.errorString();
+        return false;
+    }
+    return true;
+}
+
+bool RemovalJournal::begin(
+    const QString &method, qint64 items, const QString &target, const QString &restores)
 {
     QDir().mkpath(QFileInfo(m_path).absolutePath());
     m_file.setFileName(m_path);
-    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) {
         m_error = m_file.errorString();
         return false;
     }
     m_batch = QUuid::createUuid().toString(QUuid::WithoutBraces);
     QJsonObject line {{kBatch, m_batch}, {kEvent, kBegin}, {kMethod, method}, {kItems, items},
+        {kPid, QCoreApplication::applicationPid()},
         {kTime, QDateTime::currentDateTime().toString(Qt::ISODate)}};
+    if (!target.isEmpty())
+        putPath(line, kTarget, kTargetBytes, target);
     if (!restores.isEmpty())
         line.insert(kRestores, restores);
-    writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
-    if (m_file.error() != QFileDevice::NoError) {
-        m_error = m_file.errorString();
+    if (!writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact))) {
         m_file.close();
         return false;
     }
     return true;
 }
 
-void RemovalJournal::record(
-    const QString &method, const DeleteResult &result, const QString &outcome)
+bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &path,
+    const QString &privatePath, qint64 size, qint64 modifiedNs)
+{
+    QJsonObject line {{kBatch, m_batch}, {kEvent, kIntent}, {kSeq, seq}, {kMethod, method},
+        {kSize, size}, {kModified, QString::number(modifiedNs)}};
+    putPath(line, kPath, kPathBytes, path);
+    if (!privatePath.isEmpty())
+        putPath(line, kPrivate, kPrivateBytes, privatePath);
+    return writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
+}
+
+bool RemovalJournal::record(const QString &method, const DeleteResult &result,
+    const QString &outcome, qint64 seq, const QString &restores)
 {
     QJsonObject line {{kBatch, m_batch}, {kEvent, kItem}, {kMethod, method}, {kResult, outcome}};
+    if (seq >= 0)
+        line.insert(kSeq, seq);
+    if (!restores.isEmpty())
+        line.insert(kRestores, restores);
     putPath(line, kPath, kPathBytes, result.path);
     if (!result.destination.isEmpty())
         putPath(line, kTo, kToBytes, result.destination);
     if (!result.reason.isEmpty() || !result.message.isEmpty())
         line.insert(kReason, result.reason.isEmpty() ? result.message : result.reason);
-    writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
+    if (!result.digest.isEmpty()) {
+        line.insert(kSize, result.size);
+        line.insert(kModified, QString::number(result.modifiedNs));
+        line.insert(kHash, QString::fromLatin1(result.digest.toHex()));
+    }
+    return writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
 }
 
-void RemovalJournal::end()
+bool RemovalJournal::end(int signal)
 {
-    writeLine(QJsonDocument(QJsonObject {{kBatch, m_batch}, {kEvent, kEnd},
-                                {kTime, QDateTime::currentDateTime().toString(Qt::ISODate)}})
-                  .toJson(QJsonDocument::Compact));
+    QJsonObject line {{kBatch, m_batch}, {kEvent, kEnd},
+        {kTime, QDateTime::currentDateTime().toString(Qt::ISODate)}};
+    if (signal)
+        line.insert(kSignal, signal);
+    const bool written = writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
     m_file.close();
+    return written;
 }
 
-RemovalJournal::Batch RemovalJournal::lastBatch() const
+bool RemovalJournal::markNoticed(const QString &batch)
+{
+    QFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) {
+        m_error = file.errorString();
+        return false;
+    }
+    const QByteArray line = QJsonDocument(QJsonObject {{kBatch, batch}, {kEvent, kNoticed}})
+                                .toJson(QJsonDocument::Compact)
+        + '\n';
+    if (file.write(line) != line.size()) {
+        m_error = file.errorString();
+        return false;
+    }
+    return true;
+}
+
+QList<RemovalJournal::Batch> RemovalJournal::batches() const
 {
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    // Batches in the order they began; restores strike out what they undid.
     QList<Batch> batches;
     QHash<QString, qsizetype> byId;
-    QSet<QString> undone;
+    // Per batch, its items by sequence number (older journals have none: by path).
+    QHash<QString, QHash<qint64, qsizetype>> bySeq;
+    QHash<QString, QString> restoreOf;
     while (!file.atEnd()) {
         const QJsonObject line = QJsonDocument::fromJson(file.readLine()).object();
         const QString id = line.value(kBatch).toString();
@@ -141,12 +245,33 @@ RemovalJournal::Batch RemovalJournal::lastBatch() const
             continue;
         if (event == kBegin) {
             if (line.contains(kRestores)) {
-                undone.insert(line.value(kRestores).toString());
+                restoreOf.insert(id, line.value(kRestores).toString());
                 continue;
             }
             byId.insert(id, batches.size());
-            batches.append(Batch {id, line.value(kMethod).toString(),
-                qint64(line.value(kItems).toDouble()), false, {}});
+            Batch batch;
+            batch.id = id;
+            batch.method = line.value(kMethod).toString();
+            batch.target = takePath(line, kTarget, kTargetBytes);
+            batch.time = line.value(kTime).toString();
+            batch.pid = qint64(line.value(kPid).toDouble());
+            batch.planned = qint64(line.value(kItems).toDouble());
+            batches.append(batch);
+            continue;
+        }
+        if (restoreOf.contains(id)) {
+            // A restore's item: marks the item it put back.
+            const QString of = restoreOf.value(id);
+            const auto at = byId.constFind(of);
+            if (event != kItem || line.value(kResult).toString() != restored
+                || at == byId.constEnd())
+                continue;
+            Batch &batch = batches[at.value()];
+            const qint64 seq = qint64(line.value(kSeq).toDouble(-1));
+            const QString path = takePath(line, kPath, kPathBytes);
+            for (Item &item : batch.items)
+                if (seq >= 0 ? item.seq == seq : item.path == path)
+                    item.restored = true;
             continue;
         }
         const auto at = byId.constFind(id);
@@ -155,14 +280,72 @@ RemovalJournal::Batch RemovalJournal::lastBatch() const
         Batch &batch = batches[at.value()];
         if (event == kEnd) {
             batch.ended = true;
-        } else if (event == kItem) {
-            batch.items.append(Item {line.value(kMethod).toString(),
-                takePath(line, kPath, kPathBytes), takePath(line, kTo, kToBytes),
-                line.value(kResult).toString(), line.value(kReason).toString()});
+            batch.signal = line.value(kSignal).toInt();
+            continue;
+        }
+        if (event == kNoticed) {
+            batch.noticed = true;
+            continue;
+        }
+        if (event != kIntent && event != kItem)
+            continue;
+        const QString path = takePath(line, kPath, kPathBytes);
+        if (path.isEmpty())
+            continue;
+        const qint64 seq = qint64(line.value(kSeq).toDouble(-1));
+        QHash<qint64, qsizetype> &items = bySeq[id];
+        qsizetype index = seq >= 0 ? items.value(seq, -1) : -1;
+        if (index < 0) {
+            index = batch.items.size();
+            batch.items.append(Item {});
+            batch.items.last().seq = seq;
+            if (seq >= 0)
+                items.insert(seq, index);
+        }
+        Item &item = batch.items[index];
+        item.path = path;
+        item.method = line.value(kMethod).toString();
+        if (event == kIntent) {
+            item.intended = true;
+            item.privatePath = takePath(line, kPrivate, kPrivateBytes);
+            item.size = qint64(line.value(kSize).toDouble(-1));
+            item.modifiedNs = line.value(kModified).toString().toLongLong();
+            continue;
+        }
+        item.hasOutcome = true;
+        item.result = line.value(kResult).toString();
+        item.destination = takePath(line, kTo, kToBytes);
+        item.reason = line.value(kReason).toString();
+        if (line.contains(kHash)) {
+            item.size = qint64(line.value(kSize).toDouble());
+            item.modifiedNs = line.value(kModified).toString().toLongLong();
+            item.digest = QByteArray::fromHex(line.value(kHash).toString().toLatin1());
         }
     }
-    for (qsizetype i = batches.size() - 1; i >= 0; --i)
-        if (!undone.contains(batches.at(i).id))
-            return batches.at(i);
+    return batches;
+}
+
+RemovalJournal::Batch RemovalJournal::lastBatch() const
+{
+    const QList<Batch> all = batches();
+    for (qsizetype i = all.size() - 1; i >= 0; --i)
+        if (all.at(i).restorable())
+            return all.at(i);
+    return {};
+}
+
+RemovalJournal::Batch RemovalJournal::interruptedBatch() const
+{
+    const QList<Batch> all = batches();
+    for (qsizetype i = all.size() - 1; i >= 0; --i) {
+        const Batch &batch = all.at(i);
+        // What came before the last notice was told of then, or belongs to older versions.
+        if (batch.noticed)
+            break;
+        // A batch without an end whose process still runs is not interrupted: it is
+        // going on (another window, or the command line).
+        if ((!batch.ended && !processAlive(batch.pid)) || batch.signal != 0)
+            return batch;
+    }
     return {};
 }

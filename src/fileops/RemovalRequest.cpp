@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fileops/RemovalRequest.h"
 
+#include "fileops/TFileDeleter.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
 RemovalRequest RemovalRequest::fromStore(int method, const QString &targetFolder)
 {
     const TFileData *store = TFileData::instance();
@@ -15,4 +21,39 @@ RemovalRequest RemovalRequest::fromStore(int method, const QString &targetFolder
         if (store->groupMatch(it.key()) == TFileData::MatchName)
             request.nameGroups.insert(it.key());
     return request;
+}
+
+QString RemovalRequest::refusal() const
+{
+    if (method != TFileDeleter::moveToFolder)
+        return {};
+    const QFileInfo target(targetFolder);
+    if (targetFolder.isEmpty())
+        return QCoreApplication::translate("RemovalRequest", "No target folder was chosen.");
+    if (target.exists() && !target.isDir())
+        return QCoreApplication::translate("RemovalRequest", "The target %1 is not a folder.")
+            .arg(QDir::toNativeSeparators(targetFolder));
+    // The target's real place, or, for one still to be made, that of its nearest existing
+    // parent plus the rest.
+    QString existing = QDir::cleanPath(target.absoluteFilePath());
+    QString rest;
+    while (!QFileInfo::exists(existing) && existing != QDir::rootPath()) {
+        const QFileInfo part(existing);
+        rest = QLatin1Char('/') + part.fileName() + rest;
+        existing = part.absolutePath();
+    }
+    const QString real = QFileInfo(existing).canonicalFilePath() + rest;
+    for (auto it = selected.cbegin(); it != selected.cend(); ++it) {
+        if (!dirGroups.contains(it.key()))
+            continue;
+        for (const QString &folder : it.value()) {
+            const QString realFolder = QFileInfo(folder).canonicalFilePath();
+            if (!realFolder.isEmpty()
+                && (real == realFolder || real.startsWith(realFolder + QLatin1Char('/'))))
+                return QCoreApplication::translate("RemovalRequest",
+                    "The folder %1 cannot be moved into %2, which lies inside it.")
+                    .arg(QDir::toNativeSeparators(folder), QDir::toNativeSeparators(targetFolder));
+        }
+    }
+    return {};
 }

@@ -15,6 +15,10 @@ struct RemovalRequest
     // Lets a group lose every copy when its whole membership is selected; otherwise the
     // first member in group order stays.
     bool allowAllCopies = false;
+    // Lets a member of a group of similar pictures or of files sharing a name go although
+    // its content differs from every copy that stays (such groups differ by design; the
+    // user has said yes to that).
+    bool allowDifferentContent = false;
     // Checks every item and reports what would happen, removing nothing.
     bool dryRun = false;
 
@@ -23,6 +27,10 @@ struct RemovalRequest
     TFileData::Groups selected;
     TFileData::Stamps stamps;
     QSet<QString> nameGroups;
+
+    // Why the batch cannot start at all, before anything moves (empty: it can): a target
+    // folder that is a file, or a selected folder that holds the target folder.
+    QString refusal() const;
 
     // The store's current groups, selection and stamps.
     static RemovalRequest fromStore(int method, const QString &targetFolder);

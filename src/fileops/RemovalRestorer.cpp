@@ -3,64 +3,192 @@
 
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
+#include "engine/FileStamp.h"
+#include "fileops/ContentHash.h"
+#include "fileops/RemovalCheck.h"
 #include "fileops/TFileDeleter.h"
 #include "platform/Platform.h"
 
 #include <cerrno>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
-bool RemovalRestorer::restoreLastBatch(QList<DeleteResult> &results)
+namespace {
+
+const QString kTag = QStringLiteral("[RemovalRestorer]: ");
+
+std::string nativeOf(const QString &path)
 {
-    const RemovalJournal::Batch batch = m_journal.lastBatch();
+    return FilePathCodec::encode(path).toStdString();
+}
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("RemovalRestorer", source);
+}
+
+bool exists(const QString &path)
+{
+    return QFileInfo(path).exists() || QFileInfo(path).isSymLink();
+}
+
+// Whether what lies at path is the item the journal describes: for a file its size,
+// modification time and, where the journal has it, content hash; for a folder the hash
+// of its files.
+bool isTheItem(const RemovalJournal::Item &item, const QString &path, bool checkContent)
+{
+    const QFileInfo info(path);
+    if (info.isSymLink() || !info.exists())
+        return false;
+    if (info.isDir()) {
+        if (!checkContent || item.digest.isEmpty())
+            return item.size < 0;
+        return RemovalCheck::folderDigest(path) == item.digest;
+    }
+    const FileStamp stamp = FileStamp::of(path);
+    if (!stamp.isValid() || (item.size >= 0 && stamp.size != item.size)
+        || (item.modifiedNs != 0 && stamp.modifiedNs != item.modifiedNs))
+        return false;
+    return !checkContent || item.digest.isEmpty() || ContentHash::ofFile(path) == item.digest;
+}
+
+} // namespace
+
+QString RemovalRestorer::moveBack(const QString &method, const QString &from, const QString &to)
+{
+    const platform::Platform &os = platform::current();
+    if (exists(to))
+        return TFileDeleter::errorText(EEXIST);
+    int error = 0;
+    if (method == RemovalJournal::methodName(TFileDeleter::moveToTrash)) {
+        error = os.restoreFromTrash(nativeOf(from), nativeOf(to));
+    } else {
+        QDir().mkpath(QFileInfo(to).absolutePath());
+        bool crossDevice = false;
+        error = os.renameNoReplace(nativeOf(from), nativeOf(to), crossDevice);
+        if (crossDevice) {
+            // Back across drives: the same checked copy as the move, under the item's own
+            // name (never over an entry that took it meanwhile).
+            QString placed;
+            const QFileInfo target(to);
+            if (TFileDeleter::moveIntoFolder(
+                    from, target.absolutePath(), placed, error, target.fileName())
+                && placed != to) {
+                // Someone took the name in between: the item goes back where it was.
+                TFileDeleter::moveIntoFolder(placed, QFileInfo(from).absolutePath(), placed, error,
+                    QFileInfo(from).fileName());
+                error = EEXIST;
+            }
+        }
+    }
+    return error == 0 ? QString() : TFileDeleter::errorText(error);
+}
+
+QString RemovalRestorer::restoreIntended(
+    const RemovalJournal::Batch &batch, const RemovalJournal::Item &item, DeleteResult &result)
+{
+    // The batch stopped between the intent and the outcome: the item is at its place
+    // (nothing was done), under its private name, or where the act took it.
+    if (isTheItem(item, item.path, false))
+        return {};
+    QStringList places;
+    if (!item.privatePath.isEmpty())
+        places.append(item.privatePath);
+    const QString name = QFileInfo(item.path).fileName();
+    if (item.method == RemovalJournal::methodName(TFileDeleter::moveToTrash)) {
+        for (const std::string &trashed : platform::current().trashedCopiesOf(nativeOf(item.path)))
+            places.append(FilePathCodec::decode(trashed.c_str(), qsizetype(trashed.size())));
+    } else if (item.method == RemovalJournal::methodName(TFileDeleter::moveToFolder)
+        && !batch.target.isEmpty()) {
+        places.append(batch.target + QLatin1Char('/') + name);
+        // The names a move gives when the first is taken: "name (2).ext" and on.
+        const qsizetype dot = item.size < 0 ? -1 : name.lastIndexOf(QLatin1Char('.'));
+        const QString stem = dot > 0 ? name.left(dot) : name;
+        const QString suffix = dot > 0 ? name.mid(dot) : QString();
+        for (int n = 2; n < 10000; ++n) {
+            const QString candidate
+                = batch.target + QStringLiteral("/%1 (%2)%3").arg(stem).arg(n).arg(suffix);
+            if (!exists(candidate))
+                break;
+            places.append(candidate);
+        }
+    }
+    for (const QString &place : std::as_const(places)) {
+        if (!isTheItem(item, place, false))
+            continue;
+        result.destination = place;
+        const QString method = place == item.privatePath
+            ? RemovalJournal::methodName(TFileDeleter::moveToFolder)
+            : item.method;
+        return moveBack(method, place, item.path);
+    }
+    return text("not found where the interrupted removal would have put it");
+}
+
+QString RemovalRestorer::restoreItem(
+    const RemovalJournal::Batch &batch, const RemovalJournal::Item &item, DeleteResult &result)
+{
+    if (!item.hasOutcome)
+        return restoreIntended(batch, item, result);
+    result.destination = item.destination;
+    // Only what went comes back: an unrelated file that has taken its name in the trash
+    // or the target folder since stays there.
+    if (!isTheItem(item, item.destination, true))
+        return exists(item.destination) ? text("what is there now is not the removed item")
+                                        : TFileDeleter::errorText(ENOENT);
+    return moveBack(item.method, item.destination, item.path);
+}
+
+bool RemovalRestorer::restore(const QString &batchId, QList<DeleteResult> &results)
+{
+    RemovalJournal::Batch batch;
+    if (batchId.isEmpty()) {
+        batch = m_journal.lastBatch();
+    } else {
+        for (const RemovalJournal::Batch &candidate : m_journal.batches())
+            if (candidate.id == batchId || candidate.id.startsWith(batchId))
+                batch = candidate;
+    }
     if (batch.id.isEmpty()) {
-        m_error = QStringLiteral("the journal holds no removal to restore");
+        m_error = batchId.isEmpty() ? text("the journal holds no removal to restore")
+                                    : text("the journal holds no batch %1").arg(batchId);
         return false;
     }
-    if (!m_journal.begin(QStringLiteral("restore"), batch.items.size(), batch.id)) {
+    if (!batch.restorable()) {
+        m_error = batch.method == RemovalJournal::methodName(TFileDeleter::removePermanently)
+            ? text("batch %1 removed its files for good; they cannot be restored").arg(batch.id)
+            : text("batch %1 has nothing left to restore").arg(batch.id);
+        return false;
+    }
+    if (!m_journal.begin(QStringLiteral("restore"), batch.restorableCount(), {}, batch.id)) {
         m_error = m_journal.error();
         return false;
     }
-    const platform::Platform &os = platform::current();
     for (const RemovalJournal::Item &item : batch.items) {
-        if (item.result != RemovalJournal::removed)
+        const bool pending = (item.result == RemovalJournal::removed && !item.destination.isEmpty())
+            || (item.intended && !item.hasOutcome);
+        if (item.restored || !pending)
             continue;
         DeleteResult result {item.path};
-        result.destination = item.destination;
-        int error = 0;
-        const std::string from = FilePathCodec::encode(item.destination).toStdString();
-        const std::string to = FilePathCodec::encode(item.path).toStdString();
-        if (item.destination.isEmpty()) {
-            // Removed for good, or sent where the system does not say.
-            error = ENOENT;
-        } else if (item.method == RemovalJournal::methodName(TFileDeleter::moveToTrash)) {
-            error = os.restoreFromTrash(from, to);
-        } else {
-            QDir().mkpath(QFileInfo(item.path).absolutePath());
-            bool crossDevice = false;
-            error = os.renameNoReplace(from, to, crossDevice);
-            if (crossDevice) {
-                // Back across drives: the same checked move. It never replaces either, so
-                // a name taken meanwhile gives a free one, which the result names.
-                QString placed;
-                if (TFileDeleter::moveIntoFolder(
-                        item.destination, QFileInfo(item.path).absolutePath(), placed, error)
-                    && placed != item.path)
-                    result.reason = QStringLiteral("restored as %1").arg(placed);
-            }
-        }
-        if (error != 0) {
+        const QString failure = restoreItem(batch, item, result);
+        if (!failure.isEmpty()) {
             result.success = false;
             result.errorCode = DeleteResult::MoveFailed;
             result.message = QStringLiteral("Restore failed.");
-            result.reason = TFileDeleter::errorText(error);
-            splog_d(QStringLiteral("[RemovalRestorer]: Restore failed. Reason: %1. File: %2")
-                        .arg(result.reason, item.path));
+            result.reason = failure;
+            splog_d(kTag
+                + QStringLiteral("Restore failed. Reason: %1. File: %2").arg(failure, item.path));
         }
-        m_journal.record(QStringLiteral("restore"), result,
-            result.success ? QStringLiteral("restored") : RemovalJournal::failed);
         results.append(result);
+        if (!m_journal.record(QStringLiteral("restore"), result,
+                result.success ? RemovalJournal::restored : RemovalJournal::failed, item.seq,
+                batch.id)) {
+            m_error = m_journal.error();
+            m_journal.end();
+            return false;
+        }
     }
     m_journal.end();
     return true;

@@ -196,30 +196,39 @@ QString TFileDeleter::freeName(const QString &folder, const QString &name, bool 
     }
 }
 
-DeleteResult TFileDeleter::deleteOne(const QString &path, int method, const QString &targetFolder)
+DeleteResult TFileDeleter::deleteOne(
+    const QString &path, int method, const QString &targetFolder, const QString &recordedPath)
 {
+    DeleteResult gone {recordedPath.isEmpty() ? path : recordedPath};
+    gone.alreadyGone = true;
     // A file is the common case: removed outright, the kind asked only when that fails.
     if (method == removePermanently) {
         const int error = platform::current().removePermanently(nativeOf(path));
-        if (error == 0 || error == ENOENT)
-            return DeleteResult {path};
+        if (error == 0)
+            return DeleteResult {gone.path};
+        if (error == ENOENT)
+            return gone;
     }
     switch (kindOf(path)) {
     case Kind::Missing:
-        return DeleteResult {path};
+        return gone;
     case Kind::Folder:
-        return deleteFolder(path, method, targetFolder);
+        return deleteFolder(path, method, targetFolder, recordedPath);
     default:
-        return deleteFile(path, method, targetFolder);
+        return deleteFile(path, method, targetFolder, recordedPath);
     }
 }
 
-DeleteResult TFileDeleter::deleteFile(const QString &path, int method, const QString &targetFolder)
+DeleteResult TFileDeleter::deleteFile(
+    const QString &path, int method, const QString &targetFolder, const QString &recordedPath)
 {
-    DeleteResult result {path};
+    const QString original = recordedPath.isEmpty() ? path : recordedPath;
+    DeleteResult result {original};
     const Kind kind = kindOf(path);
-    if (kind == Kind::Missing)
+    if (kind == Kind::Missing) {
+        result.alreadyGone = true;
         return result;
+    }
     if (kind != Kind::File) {
         result.success = false;
         result.errorCode = DeleteResult::NotAFile;
@@ -231,11 +240,11 @@ DeleteResult TFileDeleter::deleteFile(const QString &path, int method, const QSt
     if (method == removePermanently) {
         done = removeFile(path, error);
     } else if (method == moveToFolder) {
-        done = moveIntoFolder(path, targetFolder, result.destination, error);
+        done = moveIntoFolder(path, targetFolder, result.destination, error, nameOf(original));
         if (!done)
             result.errorCode = DeleteResult::MoveFailed;
     } else {
-        done = moveFileToTrash(path, result.destination, error);
+        done = moveFileToTrash(path, result.destination, error, recordedPath);
     }
     if (!done) {
         result.success = false;
@@ -248,12 +257,15 @@ DeleteResult TFileDeleter::deleteFile(const QString &path, int method, const QSt
 }
 
 DeleteResult TFileDeleter::deleteFolder(
-    const QString &path, int method, const QString &targetFolder)
+    const QString &path, int method, const QString &targetFolder, const QString &recordedPath)
 {
-    DeleteResult result {path};
+    const QString original = recordedPath.isEmpty() ? path : recordedPath;
+    DeleteResult result {original};
     const Kind kind = kindOf(path);
-    if (kind == Kind::Missing)
+    if (kind == Kind::Missing) {
+        result.alreadyGone = true;
         return result;
+    }
     if (kind != Kind::Folder) {
         result.success = false;
         result.errorCode = DeleteResult::NotAFolder;
@@ -269,11 +281,11 @@ DeleteResult TFileDeleter::deleteFolder(
             splog_d(QStringLiteral("[TFileDeleter]: Delete failed. Reason: %1. File: %2")
                         .arg(errorText(error), path));
     } else if (method == moveToFolder) {
-        done = moveIntoFolder(path, targetFolder, result.destination, error);
+        done = moveIntoFolder(path, targetFolder, result.destination, error, nameOf(original));
         if (!done)
             result.errorCode = DeleteResult::MoveFailed;
     } else {
-        done = moveFileToTrash(path, result.destination, error);
+        done = moveFileToTrash(path, result.destination, error, recordedPath);
     }
     if (!done) {
         result.success = false;
@@ -285,10 +297,12 @@ DeleteResult TFileDeleter::deleteFolder(
     return result;
 }
 
-bool TFileDeleter::moveFileToTrash(const QString &path, QString &destination, int &error)
+bool TFileDeleter::moveFileToTrash(
+    const QString &path, QString &destination, int &error, const QString &recordedPath)
 {
     std::string trashed;
-    error = platform::current().moveToTrash(nativeOf(path), trashed);
+    error = platform::current().moveToTrash(
+        nativeOf(path), trashed, recordedPath.isEmpty() ? std::string() : nativeOf(recordedPath));
     if (error != 0) {
         splog_d(QStringLiteral("[TFileDeleter]: moveToTrash Failed. file: %1").arg(path));
         splog_d(QStringLiteral("[TFileDeleter]: RecycleBin Delete Failed. reason: %1. file: %2")
@@ -310,8 +324,8 @@ bool TFileDeleter::removeFile(const QString &path, int &error)
     return false;
 }
 
-bool TFileDeleter::moveIntoFolder(
-    const QString &path, const QString &folder, QString &destination, int &error)
+bool TFileDeleter::moveIntoFolder(const QString &path, const QString &folder, QString &destination,
+    int &error, const QString &name)
 {
     const Kind kind = kindOf(path);
     if (kind == Kind::Missing) {
@@ -327,7 +341,7 @@ bool TFileDeleter::moveIntoFolder(
     // Another program can take a free name between the look and the rename: the rename
     // never replaces, so the next free name is tried then.
     for (int attempt = 0; attempt < 100; ++attempt) {
-        destination = freeName(folder, nameOf(path), kind == Kind::Folder);
+        destination = freeName(folder, name.isEmpty() ? nameOf(path) : name, kind == Kind::Folder);
         bool crossDevice = false;
         error = os.renameNoReplace(nativeOf(path), nativeOf(destination), crossDevice);
         if (error == 0)

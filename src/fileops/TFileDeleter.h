@@ -14,16 +14,23 @@ class TFileDeleter
 public:
     enum Method : int { moveToTrash = 0, removePermanently = 1, moveToFolder = 2 };
 
-    static DeleteResult deleteOne(const QString &path, int method, const QString &targetFolder);
-    static DeleteResult deleteFile(const QString &path, int method, const QString &targetFolder);
-    static DeleteResult deleteFolder(const QString &path, int method, const QString &targetFolder);
+    // recordedPath: where the item belongs when it is at path only under a private name for
+    // the act; the trash and the target folder take its name from there (empty: path).
+    static DeleteResult deleteOne(const QString &path, int method, const QString &targetFolder,
+        const QString &recordedPath = {});
+    static DeleteResult deleteFile(const QString &path, int method, const QString &targetFolder,
+        const QString &recordedPath = {});
+    static DeleteResult deleteFolder(const QString &path, int method, const QString &targetFolder,
+        const QString &recordedPath = {});
 
     // Each returns whether the item is gone; destination receives where it went, error
     // the system's code of the last failure.
-    static bool moveFileToTrash(const QString &path, QString &destination, int &error);
+    static bool moveFileToTrash(
+        const QString &path, QString &destination, int &error, const QString &recordedPath = {});
     static bool removeFile(const QString &path, int &error);
-    static bool moveIntoFolder(
-        const QString &path, const QString &folder, QString &destination, int &error);
+    // name: the name to give it in folder (empty: its own).
+    static bool moveIntoFolder(const QString &path, const QString &folder, QString &destination,
+        int &error, const QString &name = {});
 
     // The first free name for name in folder: "name.ext", then "name (2).ext", and so on
     // (folders: "name (2)").

@@ -3,37 +3,93 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
+#include "engine/FilePathCodec.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/TFileDeleter.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include <QCoreApplication>
-#include <QRegularExpression>
+#include <QRandomGenerator>
 #include <QSet>
 
 const QString TImageDeleteWorker::keptLastCopy
     = QStringLiteral("kept: every copy of its group was selected");
+const QString TImageDeleteWorker::notRecorded
+    = QStringLiteral("not handled: the removal journal cannot be written");
 
 namespace {
 
-// The members a selected path stands for: itself, or in a group of similar pictures the
-// tagged entries of that file.
-QStringList membersFor(const QString &selected, const QStringList &members)
+const QString kTag = QStringLiteral("[TImageDeleteWorker]: ");
+
+std::string nativeOf(const QString &path)
 {
-    if (members.contains(selected))
-        return {selected};
-    const QRegularExpression pattern(
-        QStringLiteral("^%1%2_\\d+$").arg(QRegularExpression::escape(selected), kSimilarTag));
-    QStringList out;
-    for (const QString &member : members)
-        if (pattern.match(member).hasMatch())
-            out.append(member);
-    return out;
+    return FilePathCodec::encode(path).toStdString();
+}
+
+// A name in the item's own folder that nothing else uses: short, whatever the length of
+// the item's name, and hidden from file managers for the moment it exists.
+QString privateNameFor(const QString &path)
+{
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    return path.left(slash + 1)
+        + QStringLiteral(".veltrine-removing-%1")
+              .arg(QRandomGenerator::global()->generate64(), 16, 16, QLatin1Char('0'));
+}
+
+// Puts an item back from its private name: at its own place, or beside it under a free
+// name when another program has put something there meanwhile. Where it ended up.
+QString putBack(const QString &privatePath, const QString &path, bool isFolder)
+{
+    const platform::Platform &os = platform::current();
+    bool crossDevice = false;
+    int error = os.renameNoReplace(nativeOf(privatePath), nativeOf(path), crossDevice);
+    if (error == 0)
+        return path;
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    for (int attempt = 0; error == EEXIST && attempt < 100; ++attempt) {
+        const QString free
+            = TFileDeleter::freeName(path.left(slash), path.mid(slash + 1), isFolder);
+        error = os.renameNoReplace(nativeOf(privatePath), nativeOf(free), crossDevice);
+        if (error == 0)
+            return free;
+    }
+    splog_d(kTag
+        + QStringLiteral("Cannot put back %1 from %2: %3")
+              .arg(path, privatePath, TFileDeleter::errorText(error)));
+    return privatePath;
+}
+
+void keep(DeleteResult &result, const QString &reason, const QString &placed = {})
+{
+    result.success = false;
+    result.errorCode = DeleteResult::Skipped;
+    result.message = QStringLiteral("Skipped.");
+    result.reason = reason;
+    if (!placed.isEmpty() && placed != result.path)
+        result.reason += QStringLiteral(" (kept as %1)").arg(placed);
 }
 
 } // namespace
+
+struct TImageDeleteWorker::Plan
+{
+    QString key;
+    bool folders = false;
+    RemovalCheck::GroupKind kind = RemovalCheck::IdenticalFiles;
+    QStringList members;
+    QStringList selection;
+    // The entries that go, and those that stay.
+    QStringList leaving;
+    QStringList stays;
+    // A selected path's member entries: itself, or in a group of similar pictures its
+    // tagged entries.
+    QHash<QString, QStringList> entriesOf;
+    bool everyCopy = false;
+};
 
 TImageDeleteWorker::TImageDeleteWorker(RemovalRequest request, QObject *parent)
     : QObject(parent), m_request(std::move(request))
@@ -42,31 +98,30 @@ TImageDeleteWorker::TImageDeleteWorker(RemovalRequest request, QObject *parent)
     qRegisterMetaType<DeleteResult>("DeleteResult");
 }
 
-void TImageDeleteWorker::record(const DeleteResult &result, const QString &outcome)
+bool TImageDeleteWorker::stopping() const
 {
-    m_results.append(result);
-    if (m_journal && !m_request.dryRun)
-        m_journal->record(RemovalJournal::methodName(m_request.method), result, outcome);
+    return m_cancelled.load() || (m_stopFlag && m_stopFlag->load() != 0);
 }
 
-void TImageDeleteWorker::doDelete()
+bool TImageDeleteWorker::record(const DeleteResult &result, const QString &outcome, qint64 seq)
 {
-    m_results.clear();
-    // First the plan: per group its members and the entries that go. The whole batch's
-    // leaving paths are known before anything is removed, so that no item counts as kept
-    // a copy that another group of the same batch removes.
-    struct Plan
-    {
-        QString key;
-        bool folders = false;
-        RemovalCheck::GroupKind kind = RemovalCheck::IdenticalFiles;
-        QStringList members;
-        QStringList selection;
-        QStringList leaving;
-        bool everyCopy = false;
-    };
+    m_results.append(result);
+    if (!m_journal || m_request.dryRun)
+        return true;
+    if (m_journal->record(RemovalJournal::methodName(m_request.method), result, outcome, seq))
+        return true;
+    m_journalError = m_journal->error();
+    splog_d(kTag
+        + QStringLiteral("The journal cannot be written, the batch stops: %1").arg(m_journalError));
+    return false;
+}
+
+QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLeaving)
+{
+    // Per group its members and the entries that go. The whole batch's leaving paths are
+    // known before anything is removed, so that no item counts as kept a copy that another
+    // group of the same batch removes.
     QList<Plan> plans;
-    QSet<QString> batchLeaving;
     // A fixed order, so that the same selection is always handled the same way.
     QStringList keys = m_request.selected.keys();
     keys.sort();
@@ -87,73 +142,158 @@ void TImageDeleteWorker::doDelete()
         } else {
             continue;
         }
+        for (const QString &member : std::as_const(plan.members))
+            plan.entriesOf[plan.kind == RemovalCheck::SimilarPictures ? stripSimilarTag(member)
+                                                                      : member]
+                .append(member);
         plan.selection = m_request.selected.value(key);
+        QSet<QString> leaving;
         for (const QString &path : std::as_const(plan.selection))
-            for (const QString &member : membersFor(path, plan.members))
-                if (!plan.leaving.contains(member))
+            for (const QString &member : plan.entriesOf.value(path))
+                if (!leaving.contains(member)) {
+                    leaving.insert(member);
                     plan.leaving.append(member);
+                }
         plan.everyCopy = !plan.members.isEmpty()
-            && std::all_of(plan.members.begin(), plan.members.end(),
-                [&plan](const QString &member) { return plan.leaving.contains(member); });
+            && leaving.size() == QSet(plan.members.cbegin(), plan.members.cend()).size();
         // A selection of every copy keeps the first one, unless the caller said otherwise.
         if (plan.everyCopy && !m_request.allowAllCopies) {
             const QString first = plan.members.first();
             plan.leaving.removeAll(first);
             plan.everyCopy = false;
-            record(DeleteResult {stripSimilarTag(first), false, DeleteResult::Skipped,
-                       QStringLiteral("Skipped."), keptLastCopy},
-                RemovalJournal::skipped);
-            splog_d(
-                QStringLiteral("[TImageDeleteWorker]: Every copy selected, the first is kept: %1")
-                    .arg(first));
+            if (!record(DeleteResult {stripSimilarTag(first), false, DeleteResult::Skipped,
+                            QStringLiteral("Skipped."), keptLastCopy},
+                    RemovalJournal::skipped))
+                return {};
+            splog_d(kTag + QStringLiteral("Every copy selected, the first is kept: %1").arg(first));
         }
         for (const QString &entry : std::as_const(plan.leaving))
-            batchLeaving.insert(stripSimilarTag(entry));
+            batchLeaving.insert(plan.folders ? entry : stripSimilarTag(entry));
         plans.append(plan);
     }
+    for (Plan &plan : plans)
+        plan.stays = RemovalCheck::keptMembers(plan.kind, plan.members, batchLeaving);
+    return plans;
+}
+
+bool TImageDeleteWorker::handle(
+    const Plan &plan, const QString &entry, RemovalCheck &check, qint64 seq, bool &removed)
+{
+    removed = false;
+    const QString path = plan.folders ? entry : stripSimilarTag(entry);
+    const RemovalCheck::Look look = check.look(plan.kind, plan.stays, entry, plan.everyCopy);
+    DeleteResult result {path};
+    if (look.gone) {
+        result.alreadyGone = true;
+        return record(result, RemovalJournal::gone, seq);
+    }
+    if (!look.reason.isEmpty()) {
+        keep(result, look.reason);
+        splog_d(kTag + QStringLiteral("Skipped, %1: %2").arg(look.reason, path));
+        return record(result, RemovalJournal::skipped, seq);
+    }
+    const bool allowDifferent = m_request.allowDifferentContent;
+    if (m_request.dryRun) {
+        const RemovalCheck::Confirmed confirmed
+            = check.confirm(plan.kind, look, path, allowDifferent);
+        if (!confirmed.reason.isEmpty())
+            keep(result, confirmed.reason);
+        return record(result,
+            confirmed.reason.isEmpty() ? RemovalJournal::removed : RemovalJournal::skipped, seq);
+    }
+    // No record, no act.
+    const QString privatePath = privateNameFor(path);
+    const QString method = RemovalJournal::methodName(m_request.method);
+    if (!m_journal
+        || !m_journal->intent(seq, method, path, privatePath, plan.folders ? -1 : look.stamp.size,
+            look.stamp.modifiedNs)) {
+        m_journalError = m_journal ? m_journal->error() : QStringLiteral("no journal");
+        result.success = false;
+        result.errorCode = DeleteResult::NotRecorded;
+        result.reason = notRecorded;
+        m_results.append(result);
+        return false;
+    }
+    if (m_beforeAct)
+        m_beforeAct(path);
+    bool crossDevice = false;
+    const int error
+        = platform::current().renameNoReplace(nativeOf(path), nativeOf(privatePath), crossDevice);
+    if (error == ENOENT) {
+        result.alreadyGone = true;
+        return record(result, RemovalJournal::gone, seq);
+    }
+    if (error != 0) {
+        result.success = false;
+        result.errorCode = DeleteResult::RemovalFailed;
+        result.message = plan.folders ? QStringLiteral("Folder deletion failed.")
+                                      : QStringLiteral("Deletion failed.");
+        result.reason = TFileDeleter::errorText(error);
+        return record(result, RemovalJournal::failed, seq);
+    }
+    const RemovalCheck::Confirmed confirmed
+        = check.confirm(plan.kind, look, privatePath, allowDifferent);
+    if (!confirmed.reason.isEmpty()) {
+        keep(result, confirmed.reason, putBack(privatePath, path, plan.folders));
+        splog_d(kTag + QStringLiteral("Skipped, %1: %2").arg(confirmed.reason, path));
+        return record(result, RemovalJournal::skipped, seq);
+    }
+    result = TFileDeleter::deleteOne(privatePath, m_request.method, m_request.targetFolder, path);
+    result.size = confirmed.size;
+    result.modifiedNs = confirmed.modifiedNs;
+    result.digest = confirmed.digest;
+    if (!result.success) {
+        const QString placed = putBack(privatePath, path, plan.folders);
+        if (placed != path)
+            result.reason += QStringLiteral(" (kept as %1)").arg(placed);
+        return record(result, RemovalJournal::failed, seq);
+    }
+    removed = true;
+    return record(result, RemovalJournal::removed, seq);
+}
+
+void TImageDeleteWorker::doDelete()
+{
+    m_results.clear();
+    m_journalError.clear();
+    const QString refusal = m_request.refusal();
+    QSet<QString> batchLeaving;
+    const QList<Plan> plans = refusal.isEmpty() ? plan(batchLeaving) : QList<Plan>();
+    if (!refusal.isEmpty())
+        splog_d(kTag + QStringLiteral("Refused: %1").arg(refusal));
 
     RemovalCheck check(m_request.stamps);
     TFileData::Groups removedFiles;
     TFileData::Groups removedDirs;
     TFileData::Groups remaining = m_request.selected;
     int count = 0;
+    qint64 seq = 0;
+    bool journalOk = m_journalError.isEmpty();
     for (const Plan &plan : std::as_const(plans)) {
-        if (m_cancelled.load())
+        if (stopping() || !journalOk)
             break;
-        QStringList gone;
+        QSet<QString> gone;
         for (const QString &entry : plan.leaving) {
-            if (m_cancelled.load())
+            if (stopping())
                 break;
-            const QString path = plan.folders ? entry : stripSimilarTag(entry);
-            const QString reason
-                = check.check(plan.kind, plan.members, entry, batchLeaving, plan.everyCopy);
-            DeleteResult result {path};
-            if (!reason.isEmpty()) {
-                result.success = false;
-                result.errorCode = DeleteResult::Skipped;
-                result.message = QStringLiteral("Skipped.");
-                result.reason = reason;
-                record(result, RemovalJournal::skipped);
-                splog_d(QStringLiteral("[TImageDeleteWorker]: Skipped, %1: %2").arg(reason, path));
-            } else if (m_request.dryRun) {
-                record(result, RemovalJournal::removed);
-            } else {
-                result = TFileDeleter::deleteOne(path, m_request.method, m_request.targetFolder);
-                record(result, result.success ? RemovalJournal::removed : RemovalJournal::failed);
-                if (result.success) {
-                    gone.append(entry);
+            bool removed = false;
+            journalOk = handle(plan, entry, check, seq++, removed);
+            if (removed || m_results.constLast().alreadyGone) {
+                gone.insert(entry);
+                if (removed)
                     (plan.folders ? removedDirs : removedFiles)[plan.key].append(entry);
-                }
             }
             ++count;
             emit progressChanged(count);
             if (count % 10 == 0)
                 QCoreApplication::processEvents();
+            if (!journalOk)
+                break;
         }
         // What was not removed stays selected; a group reduced below two members goes.
         QStringList stays;
         for (const QString &path : plan.selection) {
-            const QStringList entries = membersFor(path, plan.members);
+            const QStringList entries = plan.entriesOf.value(path);
             if (std::any_of(entries.begin(), entries.end(),
                     [&gone](const QString &entry) { return !gone.contains(entry); }))
                 stays.append(path);

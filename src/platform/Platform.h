@@ -52,12 +52,18 @@ public:
 
     // Moves a file or folder to the user's trash, from where the desktop can restore it;
     // trashedPath receives its place in the trash where the system tells it (empty
-    // otherwise).
-    virtual int moveToTrash(const std::string &path, std::string &trashedPath) const = 0;
+    // otherwise). recordedPath: where the item belongs, when it is at path only under a
+    // private name for the act; the trash names and restores it as recordedPath. Empty:
+    // path itself.
+    virtual int moveToTrash(const std::string &path, std::string &trashedPath,
+        const std::string &recordedPath) const = 0;
     // Puts an item moved to the trash by moveToTrash back at original, never over an
     // existing entry.
     virtual int restoreFromTrash(
         const std::string &trashedPath, const std::string &original) const = 0;
+    // The places in the trash (as moveToTrash gives them) of items whose recorded original
+    // path is original, newest first; empty where the system does not tell.
+    virtual std::vector<std::string> trashedCopiesOf(const std::string &original) const = 0;
     // Removes a file, or a folder with everything in it.
     virtual int removePermanently(const std::string &path) const = 0;
     // Renames, never replacing an existing entry; crossDevice is set when from and to lie

@@ -9,10 +9,13 @@
 
 #include <fcntl.h>
 #include <fstream>
+#include <functional>
 #include <sstream>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -70,9 +73,16 @@ struct Pair
                     path, DuplicateFileFinder::streamHash(path, 0).toULongLong(nullptr, 16)));
     }
 
-    QList<DeleteResult> run(TFileData::Groups *remaining = nullptr)
+    QList<DeleteResult> run(
+        TFileData::Groups *remaining = nullptr, std::function<void(const QString &)> beforeAct = {})
     {
+        RemovalJournal journal(dir.path() + "/journal.jsonl");
         TImageDeleteWorker worker(request);
+        if (!request.dryRun) {
+            journal.begin(RemovalJournal::methodName(request.method), 1, request.targetFolder);
+            worker.setJournal(&journal);
+        }
+        worker.setBeforeActHook(std::move(beforeAct));
         QObject::connect(&worker, &TImageDeleteWorker::finished,
             [remaining](const TFileData::Groups &, const TFileData::Groups &,
                 const TFileData::Groups &selected) {
@@ -80,9 +90,23 @@ struct Pair
                     *remaining = selected;
             });
         worker.doDelete();
+        journal.end();
         return worker.results();
     }
 };
+
+// Runs a worker on request with a journal at journalPath.
+QList<DeleteResult> runWithJournal(
+    const RemovalRequest &request, const QString &journalPath, TImageDeleteWorker **out = nullptr)
+{
+    RemovalJournal journal(journalPath);
+    TImageDeleteWorker worker(request);
+    journal.begin(RemovalJournal::methodName(request.method), 1, request.targetFolder);
+    worker.setJournal(&journal);
+    worker.doDelete();
+    journal.end();
+    return worker.results();
+}
 
 } // namespace
 
@@ -129,7 +153,8 @@ private slots:
         row("item vanished", ItemVanished, "removed", {});
         row("both members selected: the first stays", BothSelected, "removed", {});
         row("whole group selected, allowed", BothSelectedAllowed, "removed", {});
-        row("similar pictures: tagged entries", SimilarPictures, "removed", {});
+        row("similar pictures, different content", SimilarPictures, "skipped",
+            RemovalCheck::differentContent);
         row("move: name taken", MoveNameTaken, "removed", {}, move);
         // Permission bits do not stop the superuser; the unprivileged run covers this row.
         if (::geteuid() != 0)
@@ -167,6 +192,7 @@ private slots:
             look = ScanTree::write(pair.dir.path(), "c/look.bin", "a similar picture");
             pair.request.groups.insert("S", {pair.kept + "_simlar_100", look + "_simlar_90"});
             pair.request.selected.insert("S", {pair.kept});
+            pair.request.allowDifferentContent = true;
             break;
         case KeptCopyIsLinkToItem:
             QFile::remove(pair.kept);
@@ -245,6 +271,148 @@ private slots:
         }
     }
 
+    // Each row a way the last copy was lost while the removal trusted an earlier look.
+    void lossPaths_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("kept copy rewritten by another program during the batch") << "rewrite";
+        QTest::newRow("kept copy written through a shared mapping, times unchanged") << "mapping";
+        QTest::newRow("files sharing a name, different content") << "name";
+        QTest::newRow("new version renamed over the item before the act") << "renamed";
+        QTest::newRow("kept folder is a bind mount of the removed one") << "bind";
+    }
+    void lossPaths()
+    {
+        QFETCH(QString, path);
+        Pair pair(TFileDeleter::removePermanently);
+        const QByteArray original = ScanTree::read(pair.kept);
+        QByteArray other = original;
+        other[15000] = char(other[15000] ^ 0x55);
+        std::function<void(const QString &)> beforeAct;
+        QString survivor = pair.kept;
+        QByteArray survivorBytes = other;
+        if (path == "rewrite") {
+            // Many copies of one file: another process rewrites the kept copy in place (same
+            // size) while the batch is under way.
+            QStringList members {pair.kept};
+            for (int i = 0; i < 20; ++i)
+                members.append(
+                    ScanTree::write(pair.dir.path(), QString("c/%1.bin").arg(i), original));
+            pair.request.groups["G"] = members;
+            pair.request.selected["G"] = members.mid(1);
+            pair.request.stamps.clear();
+            const QString source = ScanTree::write(pair.dir.path(), "other.bin", other);
+            int items = 0;
+            beforeAct = [&](const QString &) {
+                if (++items == 5)
+                    QCOMPARE(QProcess::execute("cp", {source, pair.kept}), 0);
+            };
+            const QList<DeleteResult> results = pair.run(nullptr, beforeAct);
+            QCOMPARE(results.size(), 20);
+            for (int i = 0; i < 20; ++i)
+                QCOMPARE(results.at(i).success, i < 4);
+            QCOMPARE(ScanTree::read(members.last()), original);
+            return;
+        }
+        if (path == "mapping") {
+            // The first write fault moves the times; a second write to the dirty page does
+            // not, until writeback.
+            const int fd = ::open(QFile::encodeName(pair.kept).constData(), O_RDWR);
+            QVERIFY(fd >= 0);
+            char *map = static_cast<char *>(::mmap(
+                nullptr, size_t(original.size()), PROT_READ | PROT_WRITE, MAP_SHARED, fd, 0));
+            QVERIFY(map != MAP_FAILED);
+            map[15000] = original[15000];
+            FileStamp stamp = FileStamp::of(pair.kept);
+            stamp.contentKey = pair.request.stamps.value(pair.item).contentKey;
+            stamp.hasContentKey = true;
+            pair.request.stamps.insert(pair.kept, stamp);
+            map[15000] = other[15000];
+            QCOMPARE(FileStamp::of(pair.kept).changedNs, stamp.changedNs);
+            ::munmap(map, size_t(original.size()));
+            ::close(fd);
+            survivor = pair.item;
+            survivorBytes = original;
+        } else if (path == "name") {
+            ScanTree::write(pair.dir.path(), "b/x.bin", other);
+            pair.request.stamps.insert(pair.item, FileStamp::of(pair.item));
+            pair.request.nameGroups.insert("G");
+            survivor = pair.item;
+        } else if (path == "renamed") {
+            const QString fresh = ScanTree::write(pair.dir.path(), "b/.x.bin.part", other);
+            beforeAct = [fresh](const QString &item) {
+                QCOMPARE(::rename(QFile::encodeName(fresh).constData(),
+                             QFile::encodeName(item).constData()),
+                    0);
+            };
+            survivor = pair.item;
+        } else if (path == "bind") {
+            if (::geteuid() != 0)
+                QSKIP("bind mounts need root");
+            const QString removed = pair.dir.path() + "/R";
+            const QString kept = pair.dir.path() + "/K";
+            ScanTree::write(removed, "one.bin", original);
+            QDir().mkpath(kept);
+            if (QProcess::execute("mount", {"--bind", removed, kept}) != 0)
+                QSKIP("mount --bind is not allowed here");
+            pair.request.groups.clear();
+            pair.request.dirGroups.insert("D", {{kept, 1, 20000}, {removed, 1, 20000}});
+            pair.request.selected = {{"D", {removed}}};
+            const QList<DeleteResult> results = pair.run();
+            QProcess::execute("umount", {kept});
+            QCOMPARE(results.value(0).reason, RemovalCheck::noKeptCopyLeft);
+            QCOMPARE(ScanTree::read(removed + "/one.bin"), original);
+            return;
+        }
+        const QList<DeleteResult> results = pair.run(nullptr, beforeAct);
+        QVERIFY(!results.value(0).success);
+        QCOMPARE(ScanTree::read(survivor), survivorBytes);
+        if (path == "name") {
+            // With the user's yes it goes: a copy by name is still there.
+            pair.request.allowDifferentContent = true;
+            QVERIFY(pair.run().value(0).success);
+            QVERIFY(!QFileInfo::exists(pair.item));
+        }
+    }
+
+    // A journal that stops taking lines stops the batch: nothing goes unrecorded.
+    void fullJournalStopsTheBatch()
+    {
+        if (::geteuid() != 0)
+            QSKIP("mounting a small tmpfs for the journal needs root");
+        QTemporaryDir dir;
+        const QString data = dir.path() + "/data";
+        QDir().mkpath(data);
+        if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=8k", "tmpfs", data}) != 0)
+            QSKIP("tmpfs cannot be mounted here");
+        QStringList members;
+        for (int i = 0; i < 200; ++i)
+            members.append(ScanTree::write(dir.path(), QString("t/%1.bin").arg(i), "same"));
+        RemovalRequest request;
+        request.method = TFileDeleter::removePermanently;
+        request.groups.insert("G", members);
+        request.selected.insert("G", members.mid(1));
+        RemovalJournal journal(data + "/journal.jsonl");
+        QVERIFY(journal.begin("permanent", 199));
+        TImageDeleteWorker worker(request);
+        worker.setJournal(&journal);
+        worker.doDelete();
+        journal.end();
+        const RemovalJournal::Batch batch = journal.batches().value(0);
+        QProcess::execute("umount", {data});
+        QVERIFY(!worker.journalError().isEmpty());
+        QCOMPARE(worker.results().constLast().errorCode, int(DeleteResult::NotRecorded));
+        // Every file that is gone has its intent on record.
+        int gone = 0;
+        for (const QString &member : members)
+            gone += QFileInfo::exists(member) ? 0 : 1;
+        QVERIFY(gone > 0 && gone < 199);
+        const qsizetype intended = std::count_if(batch.items.cbegin(), batch.items.cend(),
+            [](const RemovalJournal::Item &item) { return item.intended; });
+        QVERIFY2(
+            gone <= intended, qPrintable(QString("%1 gone, %2 on record").arg(gone).arg(intended)));
+    }
+
     void folders_data()
     {
         QTest::addColumn<bool>("extraFile");
@@ -277,9 +445,7 @@ private slots:
         request.dirGroups.insert(
             "D", {{dir.path() + "/F", 2, 16000}, {dir.path() + "/G/F", 2, 16000}});
         request.selected.insert("D", {dir.path() + "/G/F"});
-        TImageDeleteWorker worker(request);
-        worker.doDelete();
-        const DeleteResult result = worker.results().value(0);
+        const DeleteResult result = runWithJournal(request, dir.path() + "/journal").value(0);
         QCOMPARE(result.reason, reason);
         QCOMPARE(QFileInfo::exists(dir.path() + "/G/F"), !reason.isEmpty());
         if (reason.isEmpty()) {
@@ -299,7 +465,10 @@ private slots:
             members.append(ScanTree::write(dir.path(), QString("c%1.bin").arg(i), "same"));
         request.groups.insert("G", members);
         request.selected.insert("G", members.mid(1));
+        RemovalJournal journal(dir.path() + "/journal");
+        QVERIFY(journal.begin("permanent", 4));
         TImageDeleteWorker worker(request);
+        worker.setJournal(&journal);
         TFileData::Groups remaining;
         connect(&worker, &TImageDeleteWorker::progressChanged, &worker, [&worker](int done) {
             if (done == 1)

@@ -5,11 +5,14 @@
 
 #include "platform/linux/LinuxPlatform.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <dirent.h>
 #include <fcntl.h>
+#include <fstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -166,17 +169,20 @@ int LinuxTrash::trashFor(const std::string &path, std::string &trash, std::strin
     return prepareTrash(trash);
 }
 
-int LinuxTrash::moveToTrash(const std::string &path, std::string &trashedPath) const
+int LinuxTrash::moveToTrash(
+    const std::string &path, std::string &trashedPath, const std::string &recordedPath) const
 {
     std::string trash;
     std::string topdir;
     if (const int error = trashFor(path, trash, topdir))
         return error;
+    const std::string &original = recordedPath.empty() ? path : recordedPath;
     // Items in a top folder's trash record their path relative to that folder.
-    std::string recorded = path;
-    if (!topdir.empty() && topdir != "/" && path.compare(0, topdir.size() + 1, topdir + "/") == 0)
-        recorded = path.substr(topdir.size() + 1);
-    const std::string name = nameOf(path);
+    std::string recorded = original;
+    if (!topdir.empty() && topdir != "/"
+        && original.compare(0, topdir.size() + 1, topdir + "/") == 0)
+        recorded = original.substr(topdir.size() + 1);
+    const std::string name = nameOf(original);
     const std::string info = "[Trash Info]\nPath=" + percentEncode(recorded)
         + "\nDeletionDate=" + localTimeText() + "\n";
     // The info file is made first and exclusively: it reserves the name, so two
@@ -210,6 +216,60 @@ int LinuxTrash::moveToTrash(const std::string &path, std::string &trashedPath) c
         return 0;
     }
     return EEXIST;
+}
+
+std::vector<std::string> LinuxTrash::trashedCopiesOf(const std::string &original) const
+{
+    // (trash, top folder its Path= values are relative to) for every trash that could hold it.
+    std::vector<std::pair<std::string, std::string>> trashes {{m_homeTrash, std::string()}};
+    struct stat parent
+    {
+    };
+    if (::stat(parentOf(original).c_str(), &parent) == 0) {
+        const std::string topdir = topFolderOf(parentOf(original), parent.st_dev);
+        const std::string base = topdir == "/" ? std::string() : topdir;
+        const std::string uid = std::to_string(::getuid());
+        trashes.emplace_back(base + "/.Trash/" + uid, topdir);
+        trashes.emplace_back(base + "/.Trash-" + uid, topdir);
+    }
+    std::vector<std::pair<std::string, std::string>> found; // (deletion date, trashed path)
+    for (const auto &[trash, topdir] : trashes) {
+        DIR *dir = ::opendir((trash + "/info").c_str());
+        if (!dir)
+            continue;
+        while (const dirent *entry = ::readdir(dir)) {
+            const std::string infoName = entry->d_name;
+            const std::string suffix = ".trashinfo";
+            if (infoName.size() <= suffix.size()
+                || infoName.compare(infoName.size() - suffix.size(), suffix.size(), suffix) != 0)
+                continue;
+            std::ifstream info(trash + "/info/" + infoName);
+            std::string line;
+            std::string path;
+            std::string date;
+            while (std::getline(info, line)) {
+                if (line.rfind("Path=", 0) == 0)
+                    path = percentDecode(line.substr(5));
+                else if (line.rfind("DeletionDate=", 0) == 0)
+                    date = line.substr(13);
+            }
+            if (!path.empty() && path[0] != '/' && !topdir.empty())
+                path = (topdir == "/" ? std::string() : topdir) + "/" + path;
+            const std::string item
+                = trash + "/files/" + infoName.substr(0, infoName.size() - suffix.size());
+            struct stat there
+            {
+            };
+            if (path == original && ::lstat(item.c_str(), &there) == 0)
+                found.emplace_back(date, item);
+        }
+        ::closedir(dir);
+    }
+    std::sort(found.begin(), found.end(), [](const auto &a, const auto &b) { return a > b; });
+    std::vector<std::string> out;
+    for (const auto &entry : found)
+        out.push_back(entry.second);
+    return out;
 }
 
 int LinuxTrash::restore(const std::string &trashedPath, const std::string &original) const

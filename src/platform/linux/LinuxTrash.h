@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace platform {
 
@@ -21,8 +22,14 @@ public:
     explicit LinuxTrash(std::string homeTrash);
     static LinuxTrash forCurrentUser();
 
-    int moveToTrash(const std::string &path, std::string &trashedPath) const;
+    // recordedPath: the item's own place when it sits at path under a private name; its
+    // name and Path= come from it (empty: path).
+    int moveToTrash(const std::string &path, std::string &trashedPath,
+        const std::string &recordedPath = {}) const;
     int restore(const std::string &trashedPath, const std::string &original) const;
+    // The items in the trashes that serve original's place (home and its mount's top
+    // folder) whose info file records original, newest first.
+    std::vector<std::string> trashedCopiesOf(const std::string &original) const;
 
     // The trash folder for an item on the device of path, made if needed.
     int trashFor(const std::string &path, std::string &trash, std::string &topdir) const;

@@ -280,11 +280,21 @@ public:
     }
 
     // Each route is tried only when the one before failed; the last failure is given.
-    int moveToTrash(const std::string &path, std::string &trashedPath) const override
+    int moveToTrash(const std::string &path, std::string &trashedPath,
+        const std::string &recordedPath) const override
     {
         // The Recycle Bin does not say where an item went.
         trashedPath.clear();
-        const std::wstring native = nativePath(path);
+        std::wstring native = nativePath(path);
+        // The Recycle Bin records the name an item has when it is deleted, and takes no
+        // other: an item under a private name goes back to its own first (never over
+        // another entry).
+        if (!recordedPath.empty() && recordedPath != path) {
+            const std::wstring original = nativePath(recordedPath);
+            if (!MoveFileExW(native.c_str(), original.c_str(), 0))
+                return int(GetLastError());
+            native = original;
+        }
         clearReadOnly(native);
         int error = shellDelete(native, true);
         if (error != 0)
@@ -292,6 +302,12 @@ public:
         if (error != 0)
             error = fileOperationDelete(native, true);
         return error;
+    }
+
+    std::vector<std::string> trashedCopiesOf(const std::string &) const override
+    {
+        // The Recycle Bin is not searched by original path here.
+        return {};
     }
 
     int restoreFromTrash(const std::string &, const std::string &) const override
