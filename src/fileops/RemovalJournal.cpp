@@ -344,7 +344,9 @@ RemovalJournal::Batch RemovalJournal::interruptedBatch() const
             break;
         // A batch without an end whose process still runs is not interrupted: it is
         // going on (another window, or the command line).
-        if ((!batch.ended && !processAlive(batch.pid)) || batch.signal != 0)
+        const bool running
+            = batch.pid != QCoreApplication::applicationPid() && processAlive(batch.pid);
+        if ((!batch.ended && !running) || batch.signal != 0)
             return batch;
     }
     return {};

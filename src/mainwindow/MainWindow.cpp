@@ -132,7 +132,10 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
             QTimer::singleShot(0, this, [this, project] { explainBadProjectArgument(project); });
     }
 
-    if (DFPreferences::instance()->ignoreListPreferences()->deleteException() == 1)
+    // The marker is this window's own; the journal also tells of a batch that the command
+    // line or another window left without an end.
+    if (DFPreferences::instance()->ignoreListPreferences()->deleteException() == 1
+        || !RemovalJournal().interruptedBatch().id.isEmpty())
         QTimer::singleShot(0, this, &MainWindow::showAbnormalExitNotice);
 
     m_runReport = new DailyRunReport(
@@ -1442,20 +1445,36 @@ void MainWindow::on_btn_set_clicked()
 void MainWindow::showAbnormalExitNotice()
 {
     reportFeature(AppIdentity::featureDeletedExcept, QString());
-    QString text = tr("The program exited unexpectedly during the last batch deletion,<br>possibly "
-                      "due to interference from antivirus software.<br><br>Please disable your "
-                      "antivirus temporarily or add this application<br>to its whitelist to avoid "
-                      "deletion failures or crashes.");
+    RemovalJournal journal;
+    const RemovalJournal::Batch batch = journal.interruptedBatch();
+    QString text;
+    if (batch.id.isEmpty() || batch.signal == 0) {
+        text = tr("The program exited unexpectedly during the last batch deletion,<br>possibly "
+                  "due to interference from antivirus software.<br><br>Please disable your "
+                  "antivirus temporarily or add this application<br>to its whitelist to avoid "
+                  "deletion failures or crashes.");
+    } else {
+        text = tr("The last batch removal was stopped before it finished (signal %1).")
+                   .arg(batch.signal);
+    }
     // The journal tells how far the interrupted batch got, item by item.
-    const RemovalJournal journal;
-    const RemovalJournal::Batch batch = journal.lastBatch();
-    if (!batch.id.isEmpty() && !batch.ended)
+    if (!batch.id.isEmpty()) {
+        const qsizetype removed = batch.count(RemovalJournal::removed);
+        const qsizetype unfinished = std::count_if(batch.items.cbegin(), batch.items.cend(),
+            [](const RemovalJournal::Item &item) { return item.intended && !item.hasOutcome; });
         text += QStringLiteral("<br><br>")
-            + tr("Items handled before it stopped: %1 of %2.<br>The removal journal lists each "
-                 "one and where it went:<br>%3")
+            + tr("Items handled before it stopped: %1 of %2 (%3 removed, %4 cut off in the "
+                 "middle).<br>The removal journal lists each one and where it went:<br>%5")
                   .arg(batch.items.size())
                   .arg(batch.planned)
+                  .arg(removed)
+                  .arg(unfinished)
                   .arg(QDir::toNativeSeparators(journal.path()).toHtmlEscaped());
+        if (batch.restorable())
+            text += QStringLiteral("<br><br>")
+                + tr("The command line's \"restore %1\" puts its items back.").arg(batch.id);
+        journal.markNoticed(batch.id);
+    }
     QMessageBox::information(this, tr("Abnormal Exit Detected During Last Deletion"), text);
     DFPreferences::instance()->ignoreListPreferences()->setDeleteException(0);
     DFPreferences::instance()->save();

@@ -42,7 +42,11 @@ RemovalSummaryDialog::RemovalSummaryDialog(
         const bool gone = result.success && result.errorCode == DeleteResult::NoError;
         QString outcome;
         QString details;
-        if (gone) {
+        if (gone && result.alreadyGone) {
+            ++m_alreadyGone;
+            outcome = tr("Already gone");
+            details = tr("It was no longer there when its turn came.");
+        } else if (gone) {
             ++m_removed;
             if (result.destination.isEmpty()) {
                 outcome = tr("Removed");
@@ -91,6 +95,8 @@ RemovalSummaryDialog::RemovalSummaryDialog(
 QString RemovalSummaryDialog::headline() const
 {
     QString text = tr("%n item(s) removed.", nullptr, m_removed);
+    if (m_alreadyGone > 0)
+        text += QLatin1Char(' ') + tr("%n item(s) were already gone.", nullptr, m_alreadyGone);
     if (m_kept > 0)
         text += QLatin1Char(' ')
             + tr("%n item(s) stayed in place; the reasons are listed below.", nullptr, m_kept);

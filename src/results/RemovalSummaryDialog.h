@@ -20,11 +20,13 @@ public:
 
     int removedCount() const { return m_removed; }
     int keptCount() const { return m_kept; }
+    int alreadyGoneCount() const { return m_alreadyGone; }
     QString headline() const;
 
 private:
     int m_removed = 0;
     int m_kept = 0;
+    int m_alreadyGone = 0;
     QLabel *m_headline = nullptr;
     QTreeWidget *m_items = nullptr;
 };

@@ -1277,10 +1277,20 @@ void ResultForm::on_btn_delete_clicked()
     startBatch(selection, allowAllCopies);
 }
 
-void ResultForm::startBatch(const QHash<QString, QStringList> &selection, bool allowAllCopies)
+void ResultForm::startBatch(
+    const QHash<QString, QStringList> &selection, bool allowAllCopies, bool allowDifferentContent)
 {
     const auto [method, folder] = removalMethod();
+    RemovalRequest request = RemovalRequest::fromStore(method, folder);
+    request.selected = selection;
+    request.allowAllCopies = allowAllCopies;
+    request.allowDifferentContent = allowDifferentContent;
+    if (const QString refusal = request.refusal(); !refusal.isEmpty()) {
+        QMessageBox::warning(this, tr("Delete Failed"), tr("Nothing was removed: %1").arg(refusal));
+        return;
+    }
     m_batchMethod = method;
+    m_batchAllowsDifferent = allowDifferentContent;
     qint64 count = 0;
     QStringList paths;
     for (const QStringList &list : selection) {
@@ -1288,7 +1298,7 @@ void ResultForm::startBatch(const QHash<QString, QStringList> &selection, bool a
         paths << list;
     }
     m_journal = new RemovalJournal;
-    if (!m_journal->begin(RemovalJournal::methodName(method), count)) {
+    if (!m_journal->begin(RemovalJournal::methodName(method), count, folder)) {
         QMessageBox::warning(this, tr("Delete Failed"),
             tr("Nothing was removed: the removal record %1 cannot be written (%2).")
                 .arg(QDir::toNativeSeparators(m_journal->path()), m_journal->error()));
@@ -1308,8 +1318,6 @@ void ResultForm::startBatch(const QHash<QString, QStringList> &selection, bool a
     m_progress->setText(tr("Removing the selected files…"));
     m_progress->setProgress(0, double(count));
 
-    RemovalRequest request = RemovalRequest::fromStore(method, folder);
-    request.allowAllCopies = allowAllCopies;
     m_deleteThread = new QThread;
     m_worker = new TImageDeleteWorker(request);
     m_worker->setJournal(m_journal);
@@ -1321,11 +1329,17 @@ void ResultForm::startBatch(const QHash<QString, QStringList> &selection, bool a
     // The results are taken on the worker's thread as it finishes: the worker is deleted
     // with its thread, possibly before the page handles the queued end.
     auto results = std::make_shared<QList<DeleteResult>>();
+    auto journalError = std::make_shared<QString>();
     m_batchResults = results;
+    m_batchJournalError = journalError;
     TImageDeleteWorker *worker = m_worker;
     connect(
         m_worker, &TImageDeleteWorker::finished, m_worker,
-        [worker, results] { *results = worker->results(); }, Qt::DirectConnection);
+        [worker, results, journalError] {
+            *results = worker->results();
+            *journalError = worker->journalError();
+        },
+        Qt::DirectConnection);
     connect(m_worker, &TImageDeleteWorker::finished, m_deleteThread, &QThread::quit);
     connect(m_worker, &TImageDeleteWorker::finished, this, &ResultForm::onDeletedComplated);
     connect(m_progress, &CustomProgressDialog::canceled, m_worker,
@@ -1353,7 +1367,9 @@ void ResultForm::onDeletedComplated(const QHash<QString, QStringList> &files,
 {
     Q_UNUSED(selected)
     const QList<DeleteResult> results = m_batchResults ? *m_batchResults : QList<DeleteResult>();
+    const QString journalError = m_batchJournalError ? *m_batchJournalError : QString();
     m_batchResults.reset();
+    m_batchJournalError.reset();
     if (m_journal) {
         m_journal->end();
         delete m_journal;
@@ -1368,21 +1384,70 @@ void ResultForm::onDeletedComplated(const QHash<QString, QStringList> &files,
         m_progress.clear();
     }
     finishRemoval(files, dirs, results, true);
+    if (!journalError.isEmpty()) {
+        QMessageBox::warning(this, tr("Delete Failed"),
+            tr("The removal stopped: the removal record %1 cannot be written (%2). Nothing "
+               "more was removed.")
+                .arg(QDir::toNativeSeparators(RemovalJournal::defaultPath()), journalError));
+        return;
+    }
+    offerDifferentContent(results);
 }
 
-QList<DeleteResult> ResultForm::removeNow(const QHash<QString, QStringList> &selection)
+bool ResultForm::confirmDifferentContent(qsizetype count)
+{
+    return QMessageBox::question(this, tr("Remove Different Files?"),
+               tr("%n selected file(s) differ in content from every copy that stays: they are "
+                  "similar pictures or files that only share a name. They were kept.\n\nRemove "
+                  "them too?",
+                   nullptr, int(count)),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+        == QMessageBox::Yes;
+}
+
+void ResultForm::offerDifferentContent(const QList<DeleteResult> &results)
+{
+    if (m_batchAllowsDifferent)
+        return;
+    // Similar pictures and files that share a name differ by design: the first batch kept
+    // those that differ from every copy that stays, and only the user's yes lets them go.
+    QSet<QString> differing;
+    for (const DeleteResult &result : results)
+        if (result.errorCode == DeleteResult::Skipped
+            && result.reason == RemovalCheck::differentContent)
+            differing.insert(result.path);
+    if (differing.isEmpty())
+        return;
+    QHash<QString, QStringList> selection;
+    const TFileData::Groups selected = TFileData::instance()->selected();
+    for (auto it = selected.cbegin(); it != selected.cend(); ++it)
+        for (const QString &path : it.value())
+            if (differing.contains(stripSimilarTag(path)))
+                selection[it.key()].append(path);
+    if (selection.isEmpty())
+        return;
+    if (confirmDifferentContent(differing.size()))
+        startBatch(selection, false, true);
+}
+
+QList<DeleteResult> ResultForm::removeNow(
+    const QHash<QString, QStringList> &selection, bool allowDifferentContent)
 {
     const auto [method, folder] = removalMethod();
     RemovalRequest request = RemovalRequest::fromStore(method, folder);
     request.selected = selection;
+    request.allowDifferentContent = allowDifferentContent;
+    const QString refusal = request.refusal();
     qint64 count = 0;
     for (const QStringList &paths : selection)
         count += paths.size();
     RemovalJournal journal;
-    if (!journal.begin(RemovalJournal::methodName(method), count)) {
+    if (!refusal.isEmpty() || !journal.begin(RemovalJournal::methodName(method), count, folder)) {
         DeleteResult refused {
             selection.cbegin().value().value(0), false, DeleteResult::RemovalFailed};
-        refused.reason = tr("the removal record cannot be written: %1").arg(journal.error());
+        refused.reason = !refusal.isEmpty()
+            ? refusal
+            : tr("the removal record cannot be written: %1").arg(journal.error());
         return {refused};
     }
     setDeletionMarker(1);
@@ -1400,6 +1465,10 @@ QList<DeleteResult> ResultForm::removeNow(const QHash<QString, QStringList> &sel
     setDeletionMarker(0);
     const QList<DeleteResult> results = worker.results();
     finishRemoval(removedFiles, removedDirs, results, false);
+    const auto differing = std::count_if(results.cbegin(), results.cend(),
+        [](const DeleteResult &result) { return result.reason == RemovalCheck::differentContent; });
+    if (differing && !allowDifferentContent && confirmDifferentContent(differing))
+        return removeNow(selection, true);
     return results;
 }
 
@@ -1446,6 +1515,8 @@ QString ResultForm::failureText(const DeleteResult &result, int method)
             return tr("No other copy of it would be left.");
         if (result.reason == RemovalCheck::contentDiffers)
             return tr("Its content no longer matches the copy that stays.");
+        if (result.reason == RemovalCheck::differentContent)
+            return tr("Its content differs from every copy that stays.");
         if (result.reason == RemovalCheck::folderNotCovered)
             return tr("Not everything in it has a copy in the folder that stays.");
         if (result.reason == TImageDeleteWorker::keptLastCopy)
@@ -1487,7 +1558,7 @@ qint64 ResultForm::removedBytes(const QList<DeleteResult> &results)
             folders.insert(entry.folderPath, entry.totalSize);
     qint64 bytes = 0;
     for (const DeleteResult &result : results) {
-        if (!result.success || result.errorCode != DeleteResult::NoError)
+        if (!result.success || result.errorCode != DeleteResult::NoError || result.alreadyGone)
             continue;
         const QString path = stripSimilarTag(result.path);
         const auto folder = folders.constFind(path);

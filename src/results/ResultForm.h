@@ -174,8 +174,15 @@ private:
     // The question of the current method; true when the removal may go on.
     bool confirmRemoval();
     // Runs a removal of the given selection on the GUI thread (one file, one group).
-    QList<DeleteResult> removeNow(const QHash<QString, QStringList> &selection);
-    void startBatch(const QHash<QString, QStringList> &selection, bool allowAllCopies);
+    QList<DeleteResult> removeNow(
+        const QHash<QString, QStringList> &selection, bool allowDifferentContent = false);
+    // Asks whether count members that differ from every copy that stays may go.
+    bool confirmDifferentContent(qsizetype count);
+    void startBatch(const QHash<QString, QStringList> &selection, bool allowAllCopies,
+        bool allowDifferentContent = false);
+    // After a batch: asks whether the members kept for differing from every copy that
+    // stays may go too, and removes them on a yes.
+    void offerDifferentContent(const QList<DeleteResult> &results);
     void finishRemoval(const QHash<QString, QStringList> &files,
         const QHash<QString, QStringList> &dirs, const QList<DeleteResult> &results,
         bool showSummary);
@@ -247,6 +254,8 @@ private:
     RemovalJournal *m_journal = nullptr;
     int m_batchMethod = 0;
     std::shared_ptr<QList<DeleteResult>> m_batchResults;
+    std::shared_ptr<QString> m_batchJournalError;
+    bool m_batchAllowsDifferent = false;
     CloudRemoval m_cloudRemoval = NoCloudRemoval;
     // The group and the listed size of each cloud file under removal.
     QHash<QString, QString> m_cloudKeys;

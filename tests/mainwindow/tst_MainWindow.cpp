@@ -456,14 +456,26 @@ private slots:
         qApp->setStyleSheet(QString());
     }
 
+    void abnormalExitNoticeOnce_data()
+    {
+        QTest::addColumn<bool>("marker");
+        QTest::addColumn<int>("signal");
+        QTest::newRow("the window's own batch, cut off") << true << 0;
+        // The command line's batch stopped by SIGTERM: no marker of the window's.
+        QTest::newRow("a command-line batch stopped by a signal") << false << 15;
+    }
     void abnormalExitNoticeOnce()
     {
-        DFPreferences::instance()->ignoreListPreferences()->setDeleteException(1);
+        QFETCH(bool, marker);
+        QFETCH(int, signal);
+        DFPreferences::instance()->ignoreListPreferences()->setDeleteException(marker ? 1 : 0);
         DFPreferences::instance()->save();
         // A batch of three cut off after its first item.
         RemovalJournal journal;
         QVERIFY(journal.begin("trash", 3));
         journal.record("trash", DeleteResult {"/gone/one.jpg"}, RemovalJournal::removed);
+        if (signal)
+            journal.end(signal);
         DialogAnswerer boxes;
         const QStringList &titles = boxes.titles;
         {
