@@ -3,9 +3,12 @@
 #include "TestEnvironment.h"
 #include "engine/ScanTree.h"
 
+#include <csignal>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -76,6 +79,118 @@ private slots:
             QCOMPARE(ScanTree::read(QString("%1/%2/x.bin").arg(root, folder)), x);
         // A batch is restored once.
         QCOMPARE(runCli({"restore"}).exitCode, 5);
+    }
+
+    // SIGTERM in the middle of a batch: the item in hand is finished, the end is written,
+    // and restore brings back every item that went.
+    void stopSignalThenRestore()
+    {
+        QTemporaryDir dir;
+        const QString root = dir.path() + "/tree";
+        for (int i = 0; i < 1500; ++i)
+            for (const char *copy : {"a", "b"})
+                ScanTree::write(
+                    root, QString("%1/%2.bin").arg(copy).arg(i), ScanTree::pattern(600, i));
+        const QString project = dir.path() + "/p.dupproj";
+        QCOMPARE(runCli({"scan", "--method", "full", "--save", project, root}).exitCode, 0);
+        const QString journal = m_environment.path()
+            + "/config/Veltrine/Veltrine Duplicate Finder/removal-journal.jsonl";
+        const qint64 before = QFileInfo(journal).size();
+        QProcess cli;
+        cli.start(QStringLiteral(VELTRINE_CLI_PATH), {"remove", project, "--method", "trash"});
+        QVERIFY(cli.waitForStarted());
+        // Stopped, signalled and let go once the batch is under way, so the signal meets
+        // it mid-batch however fast this machine is.
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(journal).size() > before + 4000, 30000);
+        ::kill(pid_t(cli.processId()), SIGSTOP);
+        ::kill(pid_t(cli.processId()), SIGTERM);
+        ::kill(pid_t(cli.processId()), SIGCONT);
+        QVERIFY(cli.waitForFinished(60000));
+        QCOMPARE(cli.exitCode(), 143);
+        int gone = 0;
+        for (int i = 0; i < 1500; ++i)
+            gone += QFileInfo::exists(QString("%1/a/%2.bin").arg(root).arg(i))
+                    && QFileInfo::exists(QString("%1/b/%2.bin").arg(root).arg(i))
+                ? 0
+                : 1;
+        QVERIFY2(gone > 0 && gone < 1500, qPrintable(QString::number(gone)));
+        const CliRun list = runCli({"restore", "--list"});
+        QVERIFY2(list.out.contains("stopped by signal 15"), list.out.constData());
+        QCOMPARE(runCli({"restore"}).exitCode, 0);
+        for (int i = 0; i < 1500; ++i)
+            for (const char *copy : {"a", "b"})
+                QVERIFY(QFileInfo::exists(QString("%1/%2/%3.bin").arg(root, copy).arg(i)));
+    }
+
+    // Restore puts back what went and nothing else, under its own name, and finishes on a
+    // second run what it could not do on the first.
+    void restoreChecksWhatItPutsBack()
+    {
+        QTemporaryDir dir;
+        const QString root = dir.path() + "/tree";
+        for (int i = 0; i < 3; ++i)
+            for (const char *copy : {"a", "b"})
+                ScanTree::write(
+                    root, QString("%1/f%2.bin").arg(copy).arg(i), ScanTree::pattern(5000, i));
+        const QString project = dir.path() + "/p.dupproj";
+        QCOMPARE(runCli({"scan", "--method", "full", "--select", "oldest", "--save", project, root})
+                     .exitCode,
+            0);
+        // An earlier trash batch must not be shadowed by a later permanent one.
+        const CliRun removed = runCli({"remove", project, "--method", "trash", "--json"});
+        QCOMPARE(removed.exitCode, 0);
+        const QJsonArray items
+            = QJsonDocument::fromJson(removed.out).object().value("items").toArray();
+        QCOMPARE(items.size(), 3);
+        const QString first = items.at(0).toObject().value("path").toString();
+        const QString firstTrashed = items.at(0).toObject().value("to").toString();
+        const QString second = items.at(1).toObject().value("path").toString();
+        const QString third = items.at(2).toObject().value("path").toString();
+
+        // An unrelated file of the same size took the first item's place in the trash; the
+        // second item's own place is taken.
+        QByteArray impostor = ScanTree::read(QFileInfo(first).dir().path() == root + "/a"
+                ? QString(first).replace("/a/", "/b/")
+                : QString(first).replace("/b/", "/a/"));
+        impostor[10] = char(impostor[10] ^ 1);
+        QVERIFY(QFile::remove(firstTrashed));
+        ScanTree::write(
+            QFileInfo(firstTrashed).absolutePath(), QFileInfo(firstTrashed).fileName(), impostor);
+        ScanTree::write(
+            QFileInfo(second).absolutePath(), QFileInfo(second).fileName(), "in the way");
+        const CliRun partial = runCli({"restore"});
+        QCOMPARE(partial.exitCode, 5);
+        QVERIFY(partial.err.contains("not the removed item"));
+        QCOMPARE(ScanTree::read(firstTrashed), impostor);
+        QVERIFY(!QFileInfo::exists(first));
+        const auto patternOf = [](const QString &path) {
+            return ScanTree::pattern(5000, QFileInfo(path).baseName().mid(1).toInt());
+        };
+        QCOMPARE(ScanTree::read(third), patternOf(third));
+        // Once the way is clear, a second run finishes the second item and leaves the rest.
+        QVERIFY(QFile::remove(second));
+        const CliRun again = runCli({"restore", "--json"});
+        QCOMPARE(again.exitCode, 5);
+        QCOMPARE(ScanTree::read(second), patternOf(second));
+        QVERIFY(QJsonDocument::fromJson(again.out).object().value("notHandled").toInt() == 1);
+    }
+
+    void targetFileRefusedBeforeAnythingMoves()
+    {
+        QTemporaryDir dir;
+        const QString root = dir.path() + "/tree";
+        for (const char *folder : {"a/F", "b/F"})
+            ScanTree::write(root, QString("%1/one.bin").arg(folder), ScanTree::pattern(3000, 1));
+        const QString project = dir.path() + "/p.dupproj";
+        QCOMPARE(
+            runCli({"scan", "--folders", "--select", "all", "--save", project, root}).exitCode, 0);
+        const QString target = ScanTree::write(dir.path(), "target", "a file");
+        const CliRun run
+            = runCli({"remove", project, "--method", "move", "--to", target, "--allow-all-copies"});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("nothing removed"), run.err.constData());
+        for (const char *folder : {"a/F", "b/F"})
+            QVERIFY(QFileInfo::exists(QString("%1/%2/one.bin").arg(root, folder)));
     }
 
 private:

@@ -418,15 +418,20 @@ private slots:
         QTest::addColumn<bool>("extraFile");
         QTest::addColumn<bool>("nameTaken");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("alike, moved beside a folder of the same name") << false << true << "";
+        QTest::addColumn<bool>("targetInside");
+        QTest::newRow("alike, moved beside a folder of the same name")
+            << false << true << "" << false;
         QTest::newRow("a file without a copy in the kept folder")
-            << true << false << RemovalCheck::folderNotCovered;
+            << true << false << RemovalCheck::folderNotCovered << false;
+        // Refused before anything moves: nothing is handled at all.
+        QTest::newRow("moved into a folder inside itself") << false << false << "" << true;
     }
     void folders()
     {
         QFETCH(bool, extraFile);
         QFETCH(bool, nameTaken);
         QFETCH(QString, reason);
+        QFETCH(bool, targetInside);
         QTemporaryDir dir;
         for (const char *folder : {"F", "G/F"}) {
             ScanTree::write(
@@ -436,7 +441,7 @@ private slots:
         }
         if (extraFile)
             ScanTree::write(dir.path(), "G/F/sub/extra.bin", "no copy of this anywhere");
-        const QString target = dir.path() + "/moved";
+        const QString target = dir.path() + (targetInside ? "/G/F/sub/moved" : "/moved");
         if (nameTaken)
             ScanTree::write(target, "F/occupant.txt", "stays");
         RemovalRequest request;
@@ -445,7 +450,14 @@ private slots:
         request.dirGroups.insert(
             "D", {{dir.path() + "/F", 2, 16000}, {dir.path() + "/G/F", 2, 16000}});
         request.selected.insert("D", {dir.path() + "/G/F"});
-        const DeleteResult result = runWithJournal(request, dir.path() + "/journal").value(0);
+        const QList<DeleteResult> results = runWithJournal(request, dir.path() + "/journal");
+        if (targetInside) {
+            QVERIFY(!request.refusal().isEmpty());
+            QVERIFY(results.isEmpty());
+            QVERIFY(QFileInfo::exists(dir.path() + "/G/F/one.bin"));
+            return;
+        }
+        const DeleteResult result = results.value(0);
         QCOMPARE(result.reason, reason);
         QCOMPARE(QFileInfo::exists(dir.path() + "/G/F"), !reason.isEmpty());
         if (reason.isEmpty()) {
