@@ -90,8 +90,11 @@ ContentCompare::Outcome ContentCompare::compare(int itemFd, const QString &kept,
         ::close(keptFd);
         return Differs;
     }
-    ::posix_fadvise(itemFd, 0, 0, POSIX_FADV_SEQUENTIAL);
-    ::posix_fadvise(keptFd, 0, 0, POSIX_FADV_SEQUENTIAL);
+    // Larger files are read ahead: both are read once, from start to end.
+    if (item.st_size > qint64(kChunk)) {
+        ::posix_fadvise(itemFd, 0, 0, POSIX_FADV_SEQUENTIAL);
+        ::posix_fadvise(keptFd, 0, 0, POSIX_FADV_SEQUENTIAL);
+    }
 #endif
     if (!rewind(itemFd)) {
         ::close(keptFd);

@@ -5,6 +5,8 @@
 #include "engine/FilePathCodec.h"
 #include "fileops/TFileDeleter.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -93,6 +95,12 @@ bool processAlive(qint64 pid)
 
 RemovalJournal::RemovalJournal(const QString &path) : m_path(path) { }
 
+RemovalJournal::~RemovalJournal()
+{
+    if (m_file.isOpen())
+        flush();
+}
+
 QString RemovalJournal::defaultPath()
 {
     return DataDirectory::base() + QStringLiteral("removal-journal.jsonl");
@@ -133,14 +141,11 @@ bool RemovalJournal::writeLine(const QByteArray &line)
         m_error = QCoreApplication::translate("RemovalJournal", "the journal is not open");
         return false;
     }
-    // One write a line, straight to the system (the file is unbuffered): a crash loses no
-    // handled item, and a full disk shows at once.
-    const QByteArray whole = line + '\n';
-    if (m_file.write(whole) != whole.size()) {
-        m_error = m_file.errorString();
-        return false;
-    }
-    return true;
+    // Straight to the system (the file is unbuffered), the held outcome first: a crash
+    // loses no intent, and a full disk shows at once.
+    m_pending += line;
+    m_pending += '\n';
+    return flush();
 }
 
 bool RemovalJournal::begin(
@@ -196,7 +201,25 @@ bool RemovalJournal::record(const QString &method, const DeleteResult &result,
         line.insert(kModified, QString::number(result.modifiedNs));
         line.insert(kHash, QString::fromLatin1(result.digest.toHex()));
     }
-    return writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
+    if (!m_file.isOpen()) {
+        m_error = QCoreApplication::translate("RemovalJournal", "the journal is not open");
+        return false;
+    }
+    m_pending += QJsonDocument(line).toJson(QJsonDocument::Compact);
+    m_pending += '\n';
+    return true;
+}
+
+bool RemovalJournal::flush()
+{
+    if (m_pending.isEmpty())
+        return true;
+    const QByteArray whole = std::exchange(m_pending, QByteArray());
+    if (m_file.write(whole) != whole.size()) {
+        m_error = m_file.errorString();
+        return false;
+    }
+    return true;
 }
 
 bool RemovalJournal::end(int signal)

@@ -67,6 +67,10 @@ public:
     static const QString restored;
 
     explicit RemovalJournal(const QString &path = defaultPath());
+    // Writes a held outcome.
+    ~RemovalJournal();
+    RemovalJournal(const RemovalJournal &) = delete;
+    RemovalJournal &operator=(const RemovalJournal &) = delete;
     // "removal-journal.jsonl" in the data folder.
     static QString defaultPath();
     QString path() const { return m_path; }
@@ -79,8 +83,13 @@ public:
     // folder), so that an item whose outcome was never written can be recognised.
     bool intent(qint64 seq, const QString &method, const QString &path, const QString &privatePath,
         qint64 size, qint64 modifiedNs);
+    // The outcome line is held until the next line is written (the next item's intent, at
+    // the latest), so that each item costs one write: it follows the act, and comes before
+    // the next act. An intent without its outcome is what a restore looks for anyway.
     bool record(const QString &method, const DeleteResult &result, const QString &outcome,
         qint64 seq = -1, const QString &restores = {});
+    // Writes a held outcome now.
+    bool flush();
     // signal: the signal that cut the batch short, 0 when it ran to its end.
     bool end(int signal = 0);
     // Marks a batch whose interruption the user has been told of.
@@ -105,4 +114,5 @@ private:
     QFile m_file;
     QString m_batch;
     QString m_error;
+    QByteArray m_pending;
 };

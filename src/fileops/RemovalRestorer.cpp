@@ -184,7 +184,8 @@ bool RemovalRestorer::restore(const QString &batchId, QList<DeleteResult> &resul
         results.append(result);
         if (!m_journal.record(QStringLiteral("restore"), result,
                 result.success ? RemovalJournal::restored : RemovalJournal::failed, item.seq,
-                batch.id)) {
+                batch.id)
+            || !m_journal.flush()) {
             m_error = m_journal.error();
             m_journal.end();
             return false;

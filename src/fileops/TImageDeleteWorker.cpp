@@ -278,10 +278,10 @@ void TImageDeleteWorker::doDelete()
                 break;
             bool removed = false;
             journalOk = handle(plan, entry, check, seq++, removed);
+            // An item already gone leaves the results as one removed now does.
             if (removed || m_results.constLast().alreadyGone) {
                 gone.insert(entry);
-                if (removed)
-                    (plan.folders ? removedDirs : removedFiles)[plan.key].append(entry);
+                (plan.folders ? removedDirs : removedFiles)[plan.key].append(entry);
             }
             ++count;
             emit progressChanged(count);

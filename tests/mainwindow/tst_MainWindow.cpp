@@ -474,6 +474,7 @@ private slots:
         RemovalJournal journal;
         QVERIFY(journal.begin("trash", 3));
         journal.record("trash", DeleteResult {"/gone/one.jpg"}, RemovalJournal::removed);
+        QVERIFY(journal.flush());
         if (signal)
             journal.end(signal);
         DialogAnswerer boxes;
