@@ -2,16 +2,37 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTrash.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using platform::LinuxPlatform;
+
+namespace {
+
+// A file by its exact bytes (QFile cannot reach names that are not UTF-8).
+bool writeFile(const QByteArray &path)
+{
+    const int fd = ::open(path.constData(), O_CREAT | O_WRONLY | O_TRUNC, 0644);
+    return fd >= 0 && ::write(fd, "x", 1) == 1 && ::close(fd) == 0;
+}
+
+QList<QByteArray> bytesOf(const std::vector<std::string> &paths)
+{
+    QList<QByteArray> out;
+    for (const std::string &path : paths)
+        out.append(QByteArray::fromStdString(path));
+    return out;
+}
+
+} // namespace
 
 class TestLinuxPlatform : public QObject
 {
@@ -49,6 +70,62 @@ private slots:
         QVERIFY(!LinuxPlatform::isFixedBlockDevice("/nonexistent"));
         for (const std::string &root : platform::current().fixedDiskRoots())
             QVERIFY(QFileInfo(QString::fromStdString(root)).isDir());
+    }
+
+    // Two copies go to the trash under one name: a name too long for its info file is cut
+    // on a character boundary, sparing a short extension; the info file keeps the whole
+    // path, the copies are found newest first and come back.
+    void trashNames_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("recorded"); // the name trashed as; empty: its own
+        QTest::addColumn<QList<QByteArray>>("expected");
+        const QByteArray e = "\xc3\xa9";
+        const QByteArray longName = e.repeated(125) + "x.jpg";
+        const QByteArray longExtension = QByteArray(200, 'x') + "." + QByteArray(54, 'y');
+        QTest::newRow("plain") << QByteArray("photo.jpg") << QByteArray()
+                               << QList<QByteArray> {"photo.jpg", "photo.jpg.2"};
+        QTest::newRow("255 bytes, extension kept")
+            << longName << QByteArray()
+            << QList<QByteArray> {e.repeated(120) + ".jpg", e.repeated(119) + ".jpg.2"};
+        QTest::newRow("255 bytes, long extension cut")
+            << longExtension << QByteArray()
+            << QList<QByteArray> {longExtension.left(245), longExtension.left(243) + ".2"};
+        QTest::newRow("recorded name") << QByteArray("tmp-1234") << QByteArray("kept name.txt")
+                                       << QList<QByteArray> {"kept name.txt", "kept name.txt.2"};
+        QTest::newRow("recorded 255-byte name")
+            << QByteArray("tmp-1234") << longName
+            << QList<QByteArray> {e.repeated(120) + ".jpg", e.repeated(119) + ".jpg.2"};
+    }
+    void trashNames()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, recorded);
+        QFETCH(QList<QByteArray>, expected);
+        QTemporaryDir home;
+        QTemporaryDir items;
+        const QByteArray trashFolder = QFile::encodeName(home.path()) + "/Trash";
+        const QByteArray item = QFile::encodeName(items.path()) + "/" + name;
+        const QByteArray original
+            = recorded.isEmpty() ? item : QFile::encodeName(items.path()) + "/" + recorded;
+        const platform::LinuxTrash trash(trashFolder.toStdString());
+        std::vector<std::string> trashed;
+        for (const QByteArray &want : expected) {
+            QVERIFY(writeFile(item));
+            std::string place;
+            QCOMPARE(trash.moveToTrash(item.toStdString(), place,
+                         recorded.isEmpty() ? std::string() : original.toStdString()),
+                0);
+            QCOMPARE(QByteArray::fromStdString(place), trashFolder + "/files/" + want);
+            QFile info(QFile::decodeName(trashFolder + "/info/" + want + ".trashinfo"));
+            QVERIFY(info.open(QIODevice::ReadOnly));
+            QVERIFY(info.readAll().contains("\nPath=" + original.toPercentEncoding("/") + "\n"));
+            trashed.insert(trashed.begin(), place);
+        }
+        QCOMPARE(bytesOf(trash.trashedCopiesOf(original.toStdString())), bytesOf(trashed));
+        QCOMPARE(trash.restore(trashed.front(), original.toStdString()), 0);
+        QVERIFY(::access(original.constData(), F_OK) == 0);
+        QCOMPARE(bytesOf(trash.trashedCopiesOf(original.toStdString())), bytesOf({trashed.back()}));
     }
 
     // An item on another file system than the home trash goes to that file system's own
