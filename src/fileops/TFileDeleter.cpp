@@ -235,14 +235,15 @@ DeleteResult TFileDeleter::deleteFile(const QString &path, int method, const QSt
         if (!done)
             result.errorCode = DeleteResult::MoveFailed;
     } else {
-        done = moveFileToTrash(path, result.destination, error);
+        done = moveFileToTrash(path, result.destination, error, &result.reason);
     }
     if (!done) {
         result.success = false;
         if (result.errorCode == DeleteResult::NoError)
             result.errorCode = DeleteResult::RemovalFailed;
         result.message = QStringLiteral("Deletion failed.");
-        result.reason = errorText(error);
+        if (result.reason.isEmpty())
+            result.reason = errorText(error);
     }
     return result;
 }
@@ -273,26 +274,37 @@ DeleteResult TFileDeleter::deleteFolder(
         if (!done)
             result.errorCode = DeleteResult::MoveFailed;
     } else {
-        done = moveFileToTrash(path, result.destination, error);
+        done = moveFileToTrash(path, result.destination, error, &result.reason);
     }
     if (!done) {
         result.success = false;
         if (result.errorCode == DeleteResult::NoError)
             result.errorCode = DeleteResult::RemovalFailed;
         result.message = QStringLiteral("Folder deletion failed.");
-        result.reason = errorText(error);
+        if (result.reason.isEmpty())
+            result.reason = errorText(error);
     }
     return result;
 }
 
-bool TFileDeleter::moveFileToTrash(const QString &path, QString &destination, int &error)
+bool TFileDeleter::moveFileToTrash(
+    const QString &path, QString &destination, int &error, QString *reason)
 {
     std::string trashed;
-    error = platform::current().moveToTrash(nativeOf(path), trashed);
+    std::string trashFolder;
+    error = platform::current().moveToTrash(nativeOf(path), trashed, std::string(), trashFolder);
     if (error != 0) {
+        // The system's words alone would not tell which folder the trash needed.
+        const QString words = trashFolder.empty()
+            ? errorText(error)
+            : QStringLiteral("cannot make the trash folder %1: %2")
+                  .arg(FilePathCodec::decode(trashFolder.c_str(), qsizetype(trashFolder.size())),
+                      errorText(error));
+        if (reason)
+            *reason = words;
         splog_d(QStringLiteral("[TFileDeleter]: moveToTrash Failed. file: %1").arg(path));
         splog_d(QStringLiteral("[TFileDeleter]: RecycleBin Delete Failed. reason: %1. file: %2")
-                    .arg(errorText(error), path));
+                    .arg(words, path));
         return false;
     }
     destination = FilePathCodec::decode(trashed.c_str(), qsizetype(trashed.size()));

@@ -19,8 +19,10 @@ public:
     static DeleteResult deleteFolder(const QString &path, int method, const QString &targetFolder);
 
     // Each returns whether the item is gone; destination receives where it went, error
-    // the system's code of the last failure.
-    static bool moveFileToTrash(const QString &path, QString &destination, int &error);
+    // the system's code of the last failure. reason, when given, receives the words for a
+    // failure to trash, naming the trash folder that could not be made.
+    static bool moveFileToTrash(
+        const QString &path, QString &destination, int &error, QString *reason = nullptr);
     static bool removeFile(const QString &path, int &error);
     static bool moveIntoFolder(
         const QString &path, const QString &folder, QString &destination, int &error);

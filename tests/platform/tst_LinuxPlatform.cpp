@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fileops/TFileDeleter.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTrash.h"
 
@@ -126,6 +127,54 @@ private slots:
         QCOMPARE(trash.restore(trashed.front(), original.toStdString()), 0);
         QVERIFY(::access(original.constData(), F_OK) == 0);
         QCOMPARE(bytesOf(trash.trashedCopiesOf(original.toStdString())), bytesOf({trashed.back()}));
+    }
+
+    // A trash that cannot be made is named, down to the reason a removal gives.
+    void unmakeableTrash_data()
+    {
+        QTest::addColumn<QString>("dataHome");
+        QTest::addColumn<QString>("blocker"); // a file where a folder belongs
+        QTest::addColumn<QString>("failed");
+        QTest::newRow("file where the trash belongs") << "data"
+                                                      << "data/Trash"
+                                                      << "data/Trash";
+        QTest::newRow("file where files/ belongs") << "data"
+                                                   << "data/Trash/files"
+                                                   << "data/Trash/files";
+        // Permission bits do not stop the superuser.
+        if (::geteuid() != 0)
+            QTest::newRow("read-only folder above") << "locked/data" << QString() << "locked/data";
+    }
+    void unmakeableTrash()
+    {
+        QFETCH(QString, dataHome);
+        QFETCH(QString, blocker);
+        QFETCH(QString, failed);
+        QTemporaryDir dir;
+        const QString base = dir.path();
+        QVERIFY(QDir().mkpath(base + "/locked"));
+        QFile::setPermissions(base + "/locked", QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        if (!blocker.isEmpty()) {
+            QVERIFY(QDir().mkpath(QFileInfo(base + "/" + blocker).absolutePath()));
+            QVERIFY(writeFile(QFile::encodeName(base + "/" + blocker)));
+        }
+        const QString item = base + "/item.txt";
+        QVERIFY(writeFile(QFile::encodeName(item)));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(base + "/" + dataHome));
+        std::string trashed;
+        std::string folder;
+        const int error = platform::current().moveToTrash(
+            QFile::encodeName(item).toStdString(), trashed, std::string(), folder);
+        const DeleteResult result = TFileDeleter::deleteOne(item, TFileDeleter::moveToTrash, {});
+        qunsetenv("XDG_DATA_HOME");
+        QFile::setPermissions(base + "/locked",
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QVERIFY(error != 0);
+        QCOMPARE(QString::fromStdString(folder), base + "/" + failed);
+        QVERIFY2(
+            result.reason.startsWith("cannot make the trash folder " + base + "/" + failed + ": "),
+            qPrintable(result.reason));
+        QVERIFY(QFile::exists(item));
     }
 
     // An item on another file system than the home trash goes to that file system's own
