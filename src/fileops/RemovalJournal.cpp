@@ -45,12 +45,19 @@ void putPath(QJsonObject &line, const QString &key, const QString &bytesKey, con
             bytesKey, QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
 }
 
-QString takePath(const QJsonObject &line, const QString &key, const QString &bytesKey)
+// Nothing, with refused set, for a path holding a NUL byte: no file name does, and the
+// system would read the path only up to it, at another file.
+QString takePath(
+    const QJsonObject &line, const QString &key, const QString &bytesKey, bool &refused)
 {
-    if (line.contains(bytesKey))
-        return FilePathCodec::decode(
-            QByteArray::fromPercentEncoding(line.value(bytesKey).toString().toLatin1()));
-    return line.value(key).toString();
+    const QString path = line.contains(bytesKey)
+        ? FilePathCodec::decode(
+            QByteArray::fromPercentEncoding(line.value(bytesKey).toString().toLatin1()))
+        : line.value(key).toString();
+    if (!path.contains(QChar(0)))
+        return path;
+    refused = true;
+    return {};
 }
 
 } // namespace
@@ -156,9 +163,16 @@ RemovalJournal::Batch RemovalJournal::lastBatch() const
         if (event == kEnd) {
             batch.ended = true;
         } else if (event == kItem) {
-            batch.items.append(Item {line.value(kMethod).toString(),
-                takePath(line, kPath, kPathBytes), takePath(line, kTo, kToBytes),
-                line.value(kResult).toString(), line.value(kReason).toString()});
+            bool refused = false;
+            Item item {line.value(kMethod).toString(), takePath(line, kPath, kPathBytes, refused),
+                takePath(line, kTo, kToBytes, refused), line.value(kResult).toString(),
+                line.value(kReason).toString()};
+            // An item whose path cannot be read back is never acted on.
+            if (refused) {
+                item.result = failed;
+                item.reason = QStringLiteral("its path in the journal holds a NUL byte (%00)");
+            }
+            batch.items.append(item);
         }
     }
     for (qsizetype i = batches.size() - 1; i >= 0; --i)

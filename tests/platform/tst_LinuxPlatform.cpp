@@ -73,6 +73,30 @@ private slots:
             QVERIFY(QFileInfo(QString::fromStdString(root)).isDir());
     }
 
+    // An info file's Path= that would cut the path short, or that has no byte where an
+    // escape stands, is refused rather than read as some other path.
+    void percentDecode_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("valid");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("escapes") << QByteArray("/a%20b/caf%c3%A9") << true
+                                 << QByteArray("/a b/caf\xc3\xa9");
+        QTest::newRow("NUL") << QByteArray("/a/x%00/y") << false << QByteArray();
+        QTest::newRow("not hexadecimal") << QByteArray("/a/%zz") << false << QByteArray();
+        QTest::newRow("cut short") << QByteArray("/a/%4") << false << QByteArray();
+    }
+    void percentDecode()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, valid);
+        QFETCH(QByteArray, bytes);
+        std::string decoded;
+        QCOMPARE(platform::LinuxTrash::percentDecode(text.toStdString(), decoded), valid);
+        if (valid)
+            QCOMPARE(QByteArray::fromStdString(decoded), bytes);
+    }
+
     // Two copies go to the trash under one name: a name too long for its info file is cut
     // on a character boundary, sparing a short extension; the info file keeps the whole
     // path, the copies are found newest first and come back.
