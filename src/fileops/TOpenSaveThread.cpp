@@ -356,7 +356,9 @@ int TOpenSaveThread::saveDocument(
             for (const DirGroupEntry &entry : dirGroups.value(key))
                 members.append(entry.folderPath);
         }
-        const QStringList chosen = selected.value(key);
+        const QStringList chosenList = selected.value(key);
+        // Looked up per member: a list would cost a large group time in its size squared.
+        const QSet<QString> chosen(chosenList.cbegin(), chosenList.cend());
         xml.writeStartElement(kGroupElement);
         // A reserved pair kept in the format: always 0 when written, ignored when read.
         xml.writeAttribute(QStringLiteral("GroupType"), QStringLiteral("0"));
