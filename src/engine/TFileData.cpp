@@ -8,6 +8,19 @@
 #include <QCryptographicHash>
 #include <QFileInfo>
 
+namespace {
+
+QHash<QString, QSet<QString>> lookupOf(const TFileData::Groups &selected)
+{
+    QHash<QString, QSet<QString>> lookup;
+    lookup.reserve(selected.size());
+    for (auto it = selected.cbegin(); it != selected.cend(); ++it)
+        lookup.insert(it.key(), QSet<QString>(it->cbegin(), it->cend()));
+    return lookup;
+}
+
+} // namespace
+
 TFileData::TFileData(QObject *parent) : QObject(parent) { }
 
 TFileData *TFileData::instance()
@@ -54,14 +67,17 @@ void TFileData::insertDirGroup(const QString &key, const QList<DirGroupEntry> &e
 
 bool TFileData::setSelected(const QString &key, const QStringList &paths)
 {
+    const QSet<QString> lookup(paths.cbegin(), paths.cend());
     QWriteLocker locker(&m_lock);
     m_selected.insert(key, paths);
+    m_selectedLookup.insert(key, lookup);
     return true;
 }
 
 bool TFileData::removeSelected(const QString &key)
 {
     QWriteLocker locker(&m_lock);
+    m_selectedLookup.remove(key);
     return m_selected.remove(key) > 0;
 }
 
@@ -71,24 +87,29 @@ int TFileData::updateSelected(const QString &key, const QString &path, bool add)
     auto it = m_selected.find(key);
     if (it == m_selected.end())
         return 0;
+    QSet<QString> &lookup = m_selectedLookup[key];
     if (!add) {
-        it->removeAll(path);
+        if (lookup.remove(path))
+            it->removeAll(path);
         if (it->isEmpty()) {
             m_selected.erase(it);
+            m_selectedLookup.remove(key);
             return 0;
         }
         return int(it->size());
     }
-    if (!it->contains(path))
+    if (!lookup.contains(path)) {
         it->append(path);
+        lookup.insert(path);
+    }
     return int(it->size());
 }
 
 bool TFileData::isSelected(const QString &key, const QString &path) const
 {
     QReadLocker locker(&m_lock);
-    auto it = m_selected.constFind(key);
-    return it != m_selected.constEnd() && it->contains(path);
+    auto it = m_selectedLookup.constFind(key);
+    return it != m_selectedLookup.constEnd() && it->contains(path);
 }
 
 int TFileData::selectedCount(const QString &key) const
@@ -171,10 +192,12 @@ bool TFileData::removePath(const QString &key, const QString &path)
 {
     QWriteLocker locker(&m_lock);
     auto selected = m_selected.find(key);
-    if (selected != m_selected.end()) {
+    if (selected != m_selected.end() && m_selectedLookup[key].remove(path)) {
         selected->removeAll(path);
-        if (selected->isEmpty())
+        if (selected->isEmpty()) {
             m_selected.erase(selected);
+            m_selectedLookup.remove(key);
+        }
     }
     auto group = m_groups.find(key);
     if (group == m_groups.end())
@@ -184,6 +207,7 @@ bool TFileData::removePath(const QString &key, const QString &path)
         return true;
     m_groups.erase(group);
     m_selected.remove(key);
+    m_selectedLookup.remove(key);
     return false;
 }
 
@@ -191,6 +215,7 @@ bool TFileData::removeGroup(const QString &key)
 {
     QWriteLocker locker(&m_lock);
     m_selected.remove(key);
+    m_selectedLookup.remove(key);
     return m_groups.remove(key) > 0;
 }
 
@@ -198,6 +223,7 @@ bool TFileData::removeDirGroup(const QString &key)
 {
     QWriteLocker locker(&m_lock);
     m_selected.remove(key);
+    m_selectedLookup.remove(key);
     return m_dirGroups.remove(key) > 0;
 }
 
@@ -207,6 +233,7 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     m_groups = groups;
     m_dirGroups = dirGroups;
     m_selected = selected;
+    m_selectedLookup = lookupOf(selected);
     m_stamps.clear();
     m_nameGroups.clear();
 }
@@ -217,6 +244,7 @@ void TFileData::clear()
     m_groups.clear();
     m_dirGroups.clear();
     m_selected.clear();
+    m_selectedLookup.clear();
     m_stamps.clear();
     m_nameGroups.clear();
 }

@@ -83,6 +83,9 @@ private:
     Groups m_groups;
     DirGroups m_dirGroups;
     Groups m_selected;
+    // The same selection as sets, so that asking after one member of a large group does
+    // not read the whole list.
+    QHash<QString, QSet<QString>> m_selectedLookup;
     Stamps m_stamps;
     QSet<QString> m_nameGroups;
 };

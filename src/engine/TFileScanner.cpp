@@ -132,6 +132,9 @@ struct TFileScanner::Folder
     int driveType = DriveUnknown;
     // A chosen root: when it cannot be listed, the scan read nothing of it.
     bool root = false;
+    // Reached only through a link: some of its files may have been reported already, as
+    // targets of other links.
+    bool linked = false;
 };
 
 struct TFileScanner::Seen
@@ -145,6 +148,10 @@ struct TFileScanner::Seen
     // resolved after the ordinary entries, so they are only collected here and looked up
     // when links are resolved.
     std::vector<Identity> singleFiles;
+    // Files with one name reported as targets of links: a folder the walk could not list
+    // (searchable but not readable) is walked once a link leads into it, and must not
+    // report them again.
+    IdentitySet linkedFiles;
     // Device numbers of pseudo file systems, never entered.
     std::vector<unsigned long long> pseudoDevices;
 #ifdef Q_OS_UNIX
@@ -332,6 +339,21 @@ const TFileScanner::Root *TFileScanner::rootHolding(const QByteArray &native) co
             best = &root;
     }
     return best;
+}
+
+bool TFileScanner::isHiddenBelow(const Root &root, const QByteArray &native) const
+{
+    const platform::Platform &os = platform::current();
+    // Each folder below the root in turn, then the entry itself; the root and what lies
+    // above it were chosen by the user and count as visible.
+    qsizetype end = root.native.endsWith('/') ? root.native.size() - 1 : root.native.size();
+    while (end < native.size()) {
+        const qsizetype next = native.indexOf('/', end + 1);
+        end = next < 0 ? native.size() : next;
+        if (os.isHiddenOrSystem(native.left(end).toStdString()))
+            return true;
+    }
+    return false;
 }
 
 void TFileScanner::noteProblem(ScanProblems::Kind kind, const QString &path)
@@ -547,6 +569,11 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                     QMutexLocker locker(&m_seen->mutex);
                     if (!m_seen->multiLinkFiles.insert(id).second)
                         continue;
+                } else if (folder.linked) {
+                    QMutexLocker locker(&m_seen->mutex);
+                    if (m_seen->linkedFiles.count(id))
+                        continue;
+                    singles.push_back(id);
                 } else {
                     singles.push_back(id);
                 }
@@ -744,6 +771,16 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         // The ordinary walk never enters an ignored folder; neither does a link.
         if (filtered && isUnderIgnoredPath(target.real.path))
             continue;
+        // Nor is a link a way round the hidden-files setting: followed, it would report
+        // a hidden copy as if it were visible, or a hidden folder's file twice (through
+        // the link to the file and through the link to its folder).
+        if (filtered && skipHiddenSystem && isHiddenBelow(*root, target.real.native)) {
+            splog_repeated("[TFileScanner]: Link leads to a hidden entry",
+                QStringLiteral("[TFileScanner]: Link leads to a hidden entry, not followed: "
+                               "[%1] -> [%2].")
+                    .arg(link.path, target.real.path));
+            continue;
+        }
 #ifdef Q_OS_UNIX
         struct stat info
         {
@@ -800,6 +837,7 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
 #endif
             QMutexLocker locker(&state.mutex);
             state.queue.push_back(target.real);
+            state.queue.back().linked = true;
             continue;
         }
         const qsizetype slash = target.real.path.lastIndexOf(QLatin1Char('/'));
@@ -813,8 +851,10 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
                                                 : singles.insert(target.id).second;
             if (!fresh)
                 continue;
-            if (!target.multiLink)
+            if (!target.multiLink) {
                 m_seen->singleFiles.push_back(target.id);
+                m_seen->linkedFiles.insert(target.id);
+            }
         }
 #endif
         const QString folder = slash <= 0 ? QStringLiteral("/") : target.real.path.left(slash);

@@ -25,8 +25,10 @@ class QWaitCondition;
 // and inode) is walked at most once per scan, so link loops end, and each file (device
 // and inode) is reported at most once, so a hard link or a link to a file never turns up
 // as a copy of itself and no group ever holds a link. Links are resolved after every
-// root's ordinary walk. Links leading outside the roots, unreadable folders and files,
-// and pseudo file systems (never entered) are counted in the scan's problems.
+// root's ordinary walk. While hidden entries are skipped, a link whose target is hidden or
+// lies in a hidden folder below its root is not followed. Links leading outside the
+// roots, unreadable folders and files, and pseudo file systems (never entered) are
+// counted in the scan's problems.
 class TFileScanner : public QThread
 {
     Q_OBJECT
@@ -94,6 +96,8 @@ private:
     Root resolveRoot(const QString &root) const;
     // The innermost root whose real path holds native, or null.
     const Root *rootHolding(const QByteArray &native) const;
+    // Whether native, a path inside root, or one of its folders below root is hidden.
+    bool isHiddenBelow(const Root &root, const QByteArray &native) const;
     void noteProblem(ScanProblems::Kind kind, const QString &path);
     void unreadableFile(const QString &path, int error);
     bool isIgnoredPath(const QString &path) const;

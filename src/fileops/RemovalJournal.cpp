@@ -69,16 +69,20 @@ void putPath(QJsonObject &line, const QString &key, const QString &bytesKey, con
             bytesKey, QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
 }
 
-// Empty for bytes that no path can hold (a NUL): such a line names nothing to act on.
-QString takePath(const QJsonObject &line, const QString &key, const QString &bytesKey)
+// Nothing, with refused set, for a path holding a NUL byte: no file name does, and the
+// system would read the path only up to it, at another file.
+QString takePath(
+    const QJsonObject &line, const QString &key, const QString &bytesKey, bool *refused = nullptr)
 {
-    if (line.contains(bytesKey)) {
-        const QByteArray bytes
-            = QByteArray::fromPercentEncoding(line.value(bytesKey).toString().toLatin1());
-        return bytes.contains('\0') ? QString() : FilePathCodec::decode(bytes);
-    }
-    const QString text = line.value(key).toString();
-    return text.contains(QChar(0)) ? QString() : text;
+    const QString path = line.contains(bytesKey)
+        ? FilePathCodec::decode(
+            QByteArray::fromPercentEncoding(line.value(bytesKey).toString().toLatin1()))
+        : line.value(key).toString();
+    if (!path.contains(QChar(0)))
+        return path;
+    if (refused)
+        *refused = true;
+    return {};
 }
 
 bool processAlive(qint64 pid)
@@ -312,8 +316,9 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
         }
         if (event != kIntent && event != kItem)
             continue;
-        const QString path = takePath(line, kPath, kPathBytes);
-        if (path.isEmpty())
+        bool refused = false;
+        const QString path = takePath(line, kPath, kPathBytes, &refused);
+        if (path.isEmpty() && !refused)
             continue;
         const qint64 seq = qint64(line.value(kSeq).toDouble(-1));
         QHash<qint64, qsizetype> &items = bySeq[id];
@@ -337,8 +342,14 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
         }
         item.hasOutcome = true;
         item.result = line.value(kResult).toString();
-        item.destination = takePath(line, kTo, kToBytes);
+        item.destination = takePath(line, kTo, kToBytes, &refused);
         item.reason = line.value(kReason).toString();
+        // An item whose paths cannot be read back is never acted on.
+        if (refused) {
+            item.result = failed;
+            item.reason = QCoreApplication::translate(
+                "RemovalJournal", "its path in the journal holds a NUL byte (%00)");
+        }
         if (line.contains(kHash)) {
             item.size = qint64(line.value(kSize).toDouble());
             item.modifiedNs = line.value(kModified).toString().toLongLong();

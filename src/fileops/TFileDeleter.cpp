@@ -244,14 +244,15 @@ DeleteResult TFileDeleter::deleteFile(
         if (!done)
             result.errorCode = DeleteResult::MoveFailed;
     } else {
-        done = moveFileToTrash(path, result.destination, error, recordedPath);
+        done = moveFileToTrash(path, result.destination, error, recordedPath, &result.reason);
     }
     if (!done) {
         result.success = false;
         if (result.errorCode == DeleteResult::NoError)
             result.errorCode = DeleteResult::RemovalFailed;
         result.message = QStringLiteral("Deletion failed.");
-        result.reason = errorText(error);
+        if (result.reason.isEmpty())
+            result.reason = errorText(error);
     }
     return result;
 }
@@ -285,28 +286,38 @@ DeleteResult TFileDeleter::deleteFolder(
         if (!done)
             result.errorCode = DeleteResult::MoveFailed;
     } else {
-        done = moveFileToTrash(path, result.destination, error, recordedPath);
+        done = moveFileToTrash(path, result.destination, error, recordedPath, &result.reason);
     }
     if (!done) {
         result.success = false;
         if (result.errorCode == DeleteResult::NoError)
             result.errorCode = DeleteResult::RemovalFailed;
         result.message = QStringLiteral("Folder deletion failed.");
-        result.reason = errorText(error);
+        if (result.reason.isEmpty())
+            result.reason = errorText(error);
     }
     return result;
 }
 
-bool TFileDeleter::moveFileToTrash(
-    const QString &path, QString &destination, int &error, const QString &recordedPath)
+bool TFileDeleter::moveFileToTrash(const QString &path, QString &destination, int &error,
+    const QString &recordedPath, QString *reason)
 {
     std::string trashed;
-    error = platform::current().moveToTrash(
-        nativeOf(path), trashed, recordedPath.isEmpty() ? std::string() : nativeOf(recordedPath));
+    std::string trashFolder;
+    error = platform::current().moveToTrash(nativeOf(path), trashed,
+        recordedPath.isEmpty() ? std::string() : nativeOf(recordedPath), trashFolder);
     if (error != 0) {
+        // The system's words alone would not tell which folder the trash needed.
+        const QString words = trashFolder.empty()
+            ? errorText(error)
+            : QStringLiteral("cannot make the trash folder %1: %2")
+                  .arg(FilePathCodec::decode(trashFolder.c_str(), qsizetype(trashFolder.size())),
+                      errorText(error));
+        if (reason)
+            *reason = words;
         splog_d(QStringLiteral("[TFileDeleter]: moveToTrash Failed. file: %1").arg(path));
         splog_d(QStringLiteral("[TFileDeleter]: RecycleBin Delete Failed. reason: %1. file: %2")
-                    .arg(errorText(error), path));
+                    .arg(words, path));
         return false;
     }
     destination = FilePathCodec::decode(trashed.c_str(), qsizetype(trashed.size()));

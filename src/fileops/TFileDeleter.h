@@ -24,9 +24,10 @@ public:
         const QString &recordedPath = {});
 
     // Each returns whether the item is gone; destination receives where it went, error
-    // the system's code of the last failure.
-    static bool moveFileToTrash(
-        const QString &path, QString &destination, int &error, const QString &recordedPath = {});
+    // the system's code of the last failure. reason, when given, receives the words for a
+    // failure to trash, naming the trash folder that could not be made.
+    static bool moveFileToTrash(const QString &path, QString &destination, int &error,
+        const QString &recordedPath = {}, QString *reason = nullptr);
     static bool removeFile(const QString &path, int &error);
     // name: the name to give it in folder (empty: its own).
     static bool moveIntoFolder(const QString &path, const QString &folder, QString &destination,

@@ -57,6 +57,8 @@ struct ReadGroup
     QSet<QString> selected;
     bool nameMatch = false;
     QHash<QString, FileStamp> stamps;
+    // Entries left out as repeats of a path listed before.
+    int repeats = 0;
 };
 
 // A failure while reading: the flag and a reason that names the place in the file.
@@ -354,7 +356,9 @@ int TOpenSaveThread::saveDocument(
             for (const DirGroupEntry &entry : dirGroups.value(key))
                 members.append(entry.folderPath);
         }
-        const QStringList chosen = selected.value(key);
+        const QStringList chosenList = selected.value(key);
+        // Looked up per member: a list would cost a large group time in its size squared.
+        const QSet<QString> chosen(chosenList.cbegin(), chosenList.cend());
         xml.writeStartElement(kGroupElement);
         // A reserved pair kept in the format: always 0 when written, ignored when read.
         xml.writeAttribute(QStringLiteral("GroupType"), QStringLiteral("0"));
@@ -447,6 +451,10 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
     QString scanTime = kDefaultScanTime;
     QList<ReadGroup> readGroups;
     QSet<QString> keys;
+    // Paths of the groups taken so far: a file listed in two groups would let a removal
+    // take it through one while the other counts on it as the copy that stays.
+    QSet<QString> taken;
+    qsizetype listedGroups = 0;
     qint64 entryCount = 0;
     bool sawRoot = false;
     bool sawGroups = false;
@@ -572,8 +580,19 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             QString entry = xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
             if (xml.hasError())
                 break;
-            if (!encoding.isEmpty())
-                entry = FilePathCodec::decode(QByteArray::fromPercentEncoding(entry.toLatin1()));
+            if (!encoding.isEmpty()) {
+                const QByteArray bytes = QByteArray::fromPercentEncoding(entry.toLatin1());
+                // No file name holds a NUL byte; the system would read the path only up to
+                // it and reach another file.
+                if (bytes.contains('\0')) {
+                    refuse(ProjectInvalidContent,
+                        at(xml,
+                            QStringLiteral("group %1 holds a path with a NUL byte (%00)")
+                                .arg(group.key)));
+                    break;
+                }
+                entry = FilePathCodec::decode(bytes);
+            }
             if (++entryCount > maxEntries) {
                 refuse(ProjectInvalidContent,
                     at(xml, QStringLiteral("more than %1 entries").arg(maxEntries)));
@@ -585,11 +604,14 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
                     at(xml, QStringLiteral("group %1 holds an invalid path").arg(group.key)));
                 break;
             }
-            // The same file twice in one group would let the removal take every copy.
-            if (seen.contains(path)) {
-                refuse(ProjectInvalidContent,
-                    at(xml, QStringLiteral("group %1 lists %2 twice").arg(group.key, path)));
-                break;
+            // The same file twice in one group would let the removal take every copy. Only
+            // the repeat is left out: the rest of the project is still sound.
+            if (seen.contains(path) || taken.contains(path)) {
+                ++group.repeats;
+                splog_d(QStringLiteral("[TOpenSaveThread]: %1 is listed again in group %2; the "
+                                       "repeat is left out. file=%3")
+                            .arg(path, group.key, filepath));
+                continue;
             }
             seen.insert(path);
             group.entries.append(entry);
@@ -600,12 +622,20 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
         }
         if (failure.flag != ProjectSucceeded || xml.hasError())
             break;
-        if (group.entries.size() < 2) {
+        ++listedGroups;
+        if (group.entries.size() < 2 && group.repeats == 0) {
             refuse(ProjectInvalidContent,
                 at(xml, QStringLiteral("group %1 has fewer than two entries").arg(group.key)));
             break;
         }
-        readGroups.append(std::move(group));
+        if (group.entries.size() < 2) {
+            splog_d(QStringLiteral("[TOpenSaveThread]: group %1 keeps fewer than two members "
+                                   "once repeats are left out, and is left out. file=%2")
+                        .arg(group.key, filepath));
+        } else {
+            taken.unite(seen);
+            readGroups.append(std::move(group));
+        }
         const double position = double(file.pos());
         if (position - lastReported >= fileSize / 100) {
             lastReported = position;
@@ -709,10 +739,9 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             groups.insert(group.key, present);
         }
     }
-    if (!readGroups.isEmpty() && groups.isEmpty() && dirGroups.isEmpty())
+    if (listedGroups > 0 && groups.isEmpty() && dirGroups.isEmpty())
         return fail(ProjectNothingLeft,
-            QStringLiteral("none of the %1 groups has two members left on disk")
-                .arg(readGroups.size()));
+            QStringLiteral("none of the %1 groups has two members left").arg(listedGroups));
 
     TFileData *store = TFileData::instance();
     store->replaceAll(groups, dirGroups, selected);

@@ -52,18 +52,26 @@ public:
 
     // Moves a file or folder to the user's trash, from where the desktop can restore it;
     // trashedPath receives its place in the trash where the system tells it (empty
-    // otherwise). recordedPath: where the item belongs, when it is at path only under a
-    // private name for the act; the trash names and restores it as recordedPath. Empty:
-    // path itself.
+    // otherwise). The item now at path (a private temporary name) goes as if it were
+    // recordedPath: the trash names it after recordedPath and restores it there (empty
+    // recordedPath: path). trashFolder receives the trash folder that could not be made
+    // when the failure lies there (empty otherwise).
     virtual int moveToTrash(const std::string &path, std::string &trashedPath,
-        const std::string &recordedPath) const = 0;
+        const std::string &recordedPath, std::string &trashFolder) const = 0;
+    int moveToTrash(const std::string &path, std::string &trashedPath,
+        const std::string &recordedPath = {}) const
+    {
+        std::string trashFolder;
+        return moveToTrash(path, trashedPath, recordedPath, trashFolder);
+    }
+    // The places in the trash (as moveToTrash gives them) of the items trashed from
+    // original, in every trash the user has on original's drive, the newest first; empty
+    // where the system does not tell where trashed items went.
+    virtual std::vector<std::string> trashedCopiesOf(const std::string &original) const = 0;
     // Puts an item moved to the trash by moveToTrash back at original, never over an
     // existing entry.
     virtual int restoreFromTrash(
         const std::string &trashedPath, const std::string &original) const = 0;
-    // The places in the trash (as moveToTrash gives them) of items whose recorded original
-    // path is original, newest first; empty where the system does not tell.
-    virtual std::vector<std::string> trashedCopiesOf(const std::string &original) const = 0;
     // Removes a file, or a folder with everything in it.
     virtual int removePermanently(const std::string &path) const = 0;
     // Renames, never replacing an existing entry; crossDevice is set when from and to lie

@@ -41,6 +41,7 @@ private slots:
         QCOMPARE(store()->selectedOf("K"), after);
         QCOMPARE(store()->selected().contains("K"), !after.isEmpty());
         QCOMPARE(store()->selectedCount("K"), int(after.size()));
+        QCOMPARE(store()->isSelected("K", path), after.contains(path));
     }
 
     void imageGroupsLookAtTheFirstPathOnly()
@@ -60,7 +61,9 @@ private slots:
         store()->setSelected("G", {"/b", "/c"});
         QVERIFY(store()->removePath("G", "/b"));
         QCOMPARE(store()->selectedOf("G"), QStringList {"/c"});
+        QVERIFY(!store()->isSelected("G", "/b") && store()->isSelected("G", "/c"));
         QVERIFY(!store()->removePath("G", "/c"));
+        QVERIFY(!store()->isSelected("G", "/c"));
         QVERIFY(!store()->groups().contains("G"));
         QVERIFY(!store()->selected().contains("G"));
     }

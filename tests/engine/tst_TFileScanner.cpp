@@ -198,6 +198,47 @@ private slots:
         QCOMPARE(problems.count(ScanProblems::LinkOutsideRoots), qint64(outside));
     }
 
+    // Links into hidden places are not followed while hidden entries are skipped; a
+    // folder the walk could not list but a link leads into reports each file once.
+    void linksIntoHidden_data()
+    {
+        QTest::addColumn<bool>("hidden");
+        QTest::addColumn<bool>("lock");
+        QTest::addColumn<QStringList>("expected");
+        const QStringList visible {"a.txt", "shut/sub/f.txt"};
+        const QStringList all = QStringList {".dot.txt", ".h/copy.txt", ".h/deep/d.txt"} + visible;
+        QTest::newRow("hidden skipped") << false << false << visible;
+        QTest::newRow("hidden included") << true << false << all;
+        // Permission bits do not stop the superuser.
+        if (::geteuid() != 0)
+            QTest::newRow("searchable, unlistable folder") << true << true << all;
+    }
+    void linksIntoHidden()
+    {
+        QFETCH(bool, hidden);
+        QFETCH(bool, lock);
+        QFETCH(QStringList, expected);
+        QTemporaryDir dir;
+        const QString root = QFileInfo(dir.path()).canonicalFilePath();
+        ScanTree::write(root, "a.txt", "same");
+        ScanTree::write(root, ".h/copy.txt", "same");
+        ScanTree::write(root, ".h/deep/d.txt", "d");
+        ScanTree::write(root, ".dot.txt", "same");
+        ScanTree::write(root, "shut/sub/f.txt", "f");
+        const QStringList links {
+            ".h", ".h/copy.txt", ".h/deep", ".dot.txt", "shut/sub", "shut/sub/f.txt"};
+        for (qsizetype i = 0; i < links.size(); ++i)
+            QVERIFY(QFile::link(root + "/" + links.at(i), root + QString("/link%1").arg(i)));
+        if (lock)
+            QFile::setPermissions(root + "/shut", QFileDevice::ExeOwner | QFileDevice::WriteOwner);
+        TFileScanner scanner;
+        scanner.applyConfig({{"IgnoreSystemHidden", !hidden}});
+        const ScanOutcome outcome = runScan(scanner, {root});
+        QFile::setPermissions(root + "/shut",
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QCOMPARE(ScanTree::relative(outcome.files, root), expected);
+    }
+
     void pseudoFileSystemsNotEntered()
     {
         QTemporaryDir dir;

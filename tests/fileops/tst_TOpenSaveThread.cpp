@@ -196,6 +196,31 @@ private slots:
         TFileData::instance()->clear();
     }
 
+    // A path listed again is left out, not the project: the first listing stays, and a
+    // group that the repeats leave with fewer than two members goes.
+    void repeatedPathsAreLeftOut()
+    {
+        const QString d = makeFile("repeat/d.txt", "same content");
+        const QString e = makeFile("repeat/e.txt", "same content");
+        const QString text
+            = QString(R"(<VeltrineDuplicateFinder fileCount="5" version="4.5.0"><groups>
+<GroupItem GroupType="0" GroupFlag="0" key="K1"><Item selected="0">%A%</Item><Item selected="1">%B%</Item><Item selected="1">%A%</Item></GroupItem>
+<GroupItem GroupType="0" GroupFlag="0" key="K2"><Item selected="0">%B%</Item><Item selected="1">%D%</Item></GroupItem>
+<GroupItem GroupType="0" GroupFlag="0" key="K3"><Item selected="1">%A%</Item><Item selected="0">%D%</Item><Item selected="1">%E%</Item></GroupItem>
+</groups></VeltrineDuplicateFinder>)")
+                  .replace("%D%", d)
+                  .replace("%E%", e);
+        const QString path = writeProject("repeats.dupproj", text);
+        fillSentinel();
+        TOpenSaveThread thread;
+        QCOMPARE(runOpen(thread, path), int(TOpenSaveThread::ProjectSucceeded));
+        QCOMPARE(TFileData::instance()->groups(),
+            (TFileData::Groups {{"K1", {m_fileA, m_fileB}}, {"K3", {d, e}}}));
+        QCOMPARE(TFileData::instance()->selected(),
+            (TFileData::Groups {{"K1", {m_fileB}}, {"K3", {e}}}));
+        TFileData::instance()->clear();
+    }
+
     void emptyResultsRoundTrip()
     {
         TFileData::instance()->clear();
@@ -260,7 +285,8 @@ private slots:
         invalid("missing selected", "<Item selected=\"0\">", "<Item>");
         invalid("selected not 0 or 1", "<Item selected=\"0\">", "<Item selected=\"yes\">");
         invalid("group of one", "      <Item selected=\"1\">%B%</Item>\n", "");
-        invalid("same path twice", "%B%", "%A%");
+        invalid("percent-encoded NUL", "<Item selected=\"1\">%B%",
+            "<Item selected=\"1\" encoding=\"percent\">%B%%00.gone");
         invalid("relative path", "%B%", "plain/b.txt");
         invalid("empty path", "%B%", "");
         invalid("files and folders mixed", "%B%", "%C%");
@@ -273,6 +299,7 @@ private slots:
             T::ProjectInvalidContent);
         row("nonexistent paths", mutate("%A%", "%M%").replace("%B%", "%M%2"),
             T::ProjectNothingLeft);
+        row("one path twice", mutate("%B%", "%A%"), T::ProjectNothingLeft);
     }
     void malformedProjects()
     {
@@ -306,10 +333,12 @@ private slots:
     {
         QString text = "<VeltrineDuplicateFinder fileCount=\"1\" version=\"4.5.0\"><groups>";
         for (int g = 0; g < 3; ++g) {
-            text += QStringLiteral(
-                "<GroupItem GroupType=\"0\" GroupFlag=\"0\" key=\"G%1\">"
-                "<Item selected=\"0\">%A%</Item><Item selected=\"0\">%B%</Item></GroupItem>")
-                        .arg(g);
+            text += QStringLiteral("<GroupItem GroupType=\"0\" GroupFlag=\"0\" key=\"G%1\">"
+                                   "<Item selected=\"0\">%2</Item><Item selected=\"0\">%3</Item>"
+                                   "</GroupItem>")
+                        .arg(g)
+                        .arg(makeFile(QString("limit/%1a").arg(g), "x"),
+                            makeFile(QString("limit/%1b").arg(g), "x"));
         }
         text += "</groups></VeltrineDuplicateFinder>";
         const QString path = writeProject("many.dupproj", text);

@@ -1,17 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fileops/TFileDeleter.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTrash.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using platform::LinuxPlatform;
+
+namespace {
+
+// A file by its exact bytes (QFile cannot reach names that are not UTF-8).
+bool writeFile(const QByteArray &path)
+{
+    const int fd = ::open(path.constData(), O_CREAT | O_WRONLY | O_TRUNC, 0644);
+    return fd >= 0 && ::write(fd, "x", 1) == 1 && ::close(fd) == 0;
+}
+
+QList<QByteArray> bytesOf(const std::vector<std::string> &paths)
+{
+    QList<QByteArray> out;
+    for (const std::string &path : paths)
+        out.append(QByteArray::fromStdString(path));
+    return out;
+}
+
+} // namespace
 
 class TestLinuxPlatform : public QObject
 {
@@ -49,6 +71,134 @@ private slots:
         QVERIFY(!LinuxPlatform::isFixedBlockDevice("/nonexistent"));
         for (const std::string &root : platform::current().fixedDiskRoots())
             QVERIFY(QFileInfo(QString::fromStdString(root)).isDir());
+    }
+
+    // An info file's Path= that would cut the path short, or that has no byte where an
+    // escape stands, is refused rather than read as some other path.
+    void percentDecode_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("valid");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("escapes") << QByteArray("/a%20b/caf%c3%A9") << true
+                                 << QByteArray("/a b/caf\xc3\xa9");
+        QTest::newRow("NUL") << QByteArray("/a/x%00/y") << false << QByteArray();
+        QTest::newRow("not hexadecimal") << QByteArray("/a/%zz") << false << QByteArray();
+        QTest::newRow("cut short") << QByteArray("/a/%4") << false << QByteArray();
+    }
+    void percentDecode()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, valid);
+        QFETCH(QByteArray, bytes);
+        std::string decoded;
+        QCOMPARE(platform::LinuxTrash::percentDecode(text.toStdString(), decoded), valid);
+        if (valid)
+            QCOMPARE(QByteArray::fromStdString(decoded), bytes);
+    }
+
+    // Two copies go to the trash under one name: a name too long for its info file is cut
+    // on a character boundary, sparing a short extension; the info file keeps the whole
+    // path, the copies are found newest first and come back.
+    void trashNames_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("recorded"); // the name trashed as; empty: its own
+        QTest::addColumn<QList<QByteArray>>("expected");
+        const QByteArray e = "\xc3\xa9";
+        const QByteArray longName = e.repeated(125) + "x.jpg";
+        const QByteArray longExtension = QByteArray(200, 'x') + "." + QByteArray(54, 'y');
+        QTest::newRow("plain") << QByteArray("photo.jpg") << QByteArray()
+                               << QList<QByteArray> {"photo.jpg", "photo.jpg.2"};
+        QTest::newRow("255 bytes, extension kept")
+            << longName << QByteArray()
+            << QList<QByteArray> {e.repeated(120) + ".jpg", e.repeated(119) + ".jpg.2"};
+        QTest::newRow("255 bytes, long extension cut")
+            << longExtension << QByteArray()
+            << QList<QByteArray> {longExtension.left(245), longExtension.left(243) + ".2"};
+        QTest::newRow("recorded name") << QByteArray("tmp-1234") << QByteArray("kept name.txt")
+                                       << QList<QByteArray> {"kept name.txt", "kept name.txt.2"};
+        QTest::newRow("recorded 255-byte name")
+            << QByteArray("tmp-1234") << longName
+            << QList<QByteArray> {e.repeated(120) + ".jpg", e.repeated(119) + ".jpg.2"};
+    }
+    void trashNames()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, recorded);
+        QFETCH(QList<QByteArray>, expected);
+        QTemporaryDir home;
+        QTemporaryDir items;
+        const QByteArray trashFolder = QFile::encodeName(home.path()) + "/Trash";
+        const QByteArray item = QFile::encodeName(items.path()) + "/" + name;
+        const QByteArray original
+            = recorded.isEmpty() ? item : QFile::encodeName(items.path()) + "/" + recorded;
+        const platform::LinuxTrash trash(trashFolder.toStdString());
+        std::vector<std::string> trashed;
+        for (const QByteArray &want : expected) {
+            QVERIFY(writeFile(item));
+            std::string place;
+            QCOMPARE(trash.moveToTrash(item.toStdString(), place,
+                         recorded.isEmpty() ? std::string() : original.toStdString()),
+                0);
+            QCOMPARE(QByteArray::fromStdString(place), trashFolder + "/files/" + want);
+            QFile info(QFile::decodeName(trashFolder + "/info/" + want + ".trashinfo"));
+            QVERIFY(info.open(QIODevice::ReadOnly));
+            QVERIFY(info.readAll().contains("\nPath=" + original.toPercentEncoding("/") + "\n"));
+            trashed.insert(trashed.begin(), place);
+        }
+        QCOMPARE(bytesOf(trash.trashedCopiesOf(original.toStdString())), bytesOf(trashed));
+        QCOMPARE(trash.restore(trashed.front(), original.toStdString()), 0);
+        QVERIFY(::access(original.constData(), F_OK) == 0);
+        QCOMPARE(bytesOf(trash.trashedCopiesOf(original.toStdString())), bytesOf({trashed.back()}));
+    }
+
+    // A trash that cannot be made is named, down to the reason a removal gives.
+    void unmakeableTrash_data()
+    {
+        QTest::addColumn<QString>("dataHome");
+        QTest::addColumn<QString>("blocker"); // a file where a folder belongs
+        QTest::addColumn<QString>("failed");
+        QTest::newRow("file where the trash belongs") << "data"
+                                                      << "data/Trash"
+                                                      << "data/Trash";
+        QTest::newRow("file where files/ belongs") << "data"
+                                                   << "data/Trash/files"
+                                                   << "data/Trash/files";
+        // Permission bits do not stop the superuser.
+        if (::geteuid() != 0)
+            QTest::newRow("read-only folder above") << "locked/data" << QString() << "locked/data";
+    }
+    void unmakeableTrash()
+    {
+        QFETCH(QString, dataHome);
+        QFETCH(QString, blocker);
+        QFETCH(QString, failed);
+        QTemporaryDir dir;
+        const QString base = dir.path();
+        QVERIFY(QDir().mkpath(base + "/locked"));
+        QFile::setPermissions(base + "/locked", QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        if (!blocker.isEmpty()) {
+            QVERIFY(QDir().mkpath(QFileInfo(base + "/" + blocker).absolutePath()));
+            QVERIFY(writeFile(QFile::encodeName(base + "/" + blocker)));
+        }
+        const QString item = base + "/item.txt";
+        QVERIFY(writeFile(QFile::encodeName(item)));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(base + "/" + dataHome));
+        std::string trashed;
+        std::string folder;
+        const int error = platform::current().moveToTrash(
+            QFile::encodeName(item).toStdString(), trashed, std::string(), folder);
+        const DeleteResult result = TFileDeleter::deleteOne(item, TFileDeleter::moveToTrash, {});
+        qunsetenv("XDG_DATA_HOME");
+        QFile::setPermissions(base + "/locked",
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QVERIFY(error != 0);
+        QCOMPARE(QString::fromStdString(folder), base + "/" + failed);
+        QVERIFY2(
+            result.reason.startsWith("cannot make the trash folder " + base + "/" + failed + ": "),
+            qPrintable(result.reason));
+        QVERIFY(QFile::exists(item));
     }
 
     // An item on another file system than the home trash goes to that file system's own

@@ -177,10 +177,11 @@ int renameNoReplace(const std::string &from, const std::string &to)
     return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
 }
 
-int LinuxPlatform::moveToTrash(
-    const std::string &path, std::string &trashedPath, const std::string &recordedPath) const
+int LinuxPlatform::moveToTrash(const std::string &path, std::string &trashedPath,
+    const std::string &recordedPath, std::string &trashFolder) const
 {
-    return LinuxTrash::forCurrentUser().moveToTrash(path, trashedPath, recordedPath);
+    trashFolder.clear();
+    return LinuxTrash::forCurrentUser().moveToTrash(path, trashedPath, recordedPath, &trashFolder);
 }
 
 std::vector<std::string> LinuxPlatform::trashedCopiesOf(const std::string &original) const

@@ -29,8 +29,9 @@ public:
     std::vector<unsigned long long> pseudoFileSystemDevices() const override;
     std::vector<std::string> showItemCommand(
         const std::string &path, const std::string &uri) const override;
+    using Platform::moveToTrash;
     int moveToTrash(const std::string &path, std::string &trashedPath,
-        const std::string &recordedPath) const override;
+        const std::string &recordedPath, std::string &trashFolder) const override;
     std::vector<std::string> trashedCopiesOf(const std::string &original) const override;
     int restoreFromTrash(
         const std::string &trashedPath, const std::string &original) const override;

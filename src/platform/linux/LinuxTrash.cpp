@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -20,12 +21,20 @@ namespace platform {
 
 namespace {
 
-    int makeFolders(const std::string &path, mode_t mode)
+    // ".trashinfo" goes after a trash name, and the whole must still fit one name.
+    constexpr size_t kInfoSuffixLength = 10;
+    // An extension at most this long (with its dot) is kept when a name is shortened.
+    constexpr size_t kShortExtension = 16;
+
+    // failed receives the folder that could not be made.
+    int makeFolders(const std::string &path, mode_t mode, std::string &failed)
     {
         for (size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
             const std::string part = slash == std::string::npos ? path : path.substr(0, slash);
-            if (!part.empty() && ::mkdir(part.c_str(), mode) != 0 && errno != EEXIST)
+            if (!part.empty() && ::mkdir(part.c_str(), mode) != 0 && errno != EEXIST) {
+                failed = part;
                 return errno;
+            }
             if (slash == std::string::npos)
                 return 0;
         }
@@ -41,14 +50,19 @@ namespace {
         return ::lstat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
     }
 
-    int prepareTrash(const std::string &trash)
+    int prepareTrash(const std::string &trash, std::string &failed)
     {
         for (const char *sub : {"", "/files", "/info"}) {
             const std::string folder = trash + sub;
+            int error = 0;
             if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST)
-                return errno;
-            if (!isPlainFolder(folder))
-                return ENOTDIR;
+                error = errno;
+            else if (!isPlainFolder(folder))
+                error = ENOTDIR;
+            if (error) {
+                failed = folder;
+                return error;
+            }
         }
         return 0;
     }
@@ -90,6 +104,74 @@ namespace {
         return text;
     }
 
+    // The longest name the trash's file system takes.
+    size_t nameLimit(const std::string &folder)
+    {
+        const long limit = ::pathconf(folder.c_str(), _PC_NAME_MAX);
+        return limit > 0 ? size_t(limit) : size_t(NAME_MAX);
+    }
+
+    // name with the counter, cut so that the whole takes at most limit bytes: the cut
+    // falls on a character boundary of UTF-8 and spares a short extension.
+    std::string fittedName(const std::string &name, const std::string &counter, size_t limit)
+    {
+        if (name.size() + counter.size() <= limit)
+            return name + counter;
+        const size_t dot = name.rfind('.');
+        const bool keepExtension
+            = dot != std::string::npos && dot > 0 && name.size() - dot <= kShortExtension;
+        const std::string extension = keepExtension ? name.substr(dot) : std::string();
+        const std::string stem = keepExtension ? name.substr(0, dot) : name;
+        const size_t fixed = counter.size() + extension.size();
+        size_t cut = std::min(stem.size(), limit > fixed ? limit - fixed : 0);
+        // A UTF-8 character is at most four bytes: at most three continuation bytes to
+        // step back over.
+        for (int step = 0; step < 3 && cut > 0 && (stem[cut] & 0xC0) == 0x80; ++step)
+            --cut;
+        return stem.substr(0, cut) + extension + counter;
+    }
+
+    // The ".N" a trash name ends with when its name was taken; 1 without.
+    unsigned long counterOf(const std::string &trashed)
+    {
+        const size_t dot = trashed.rfind('.');
+        if (dot == std::string::npos || dot + 1 == trashed.size()
+            || trashed.find_first_not_of("0123456789", dot + 1) != std::string::npos
+            || trashed.size() - dot > 6)
+            return 1;
+        return std::stoul(trashed.substr(dot + 1));
+    }
+
+    struct TrashInfo
+    {
+        std::string path;
+        std::string deletionDate;
+        bool valid = false;
+    };
+
+    TrashInfo readTrashInfo(const std::string &infoPath)
+    {
+        TrashInfo info;
+        std::ifstream in(infoPath);
+        std::string line;
+        bool inGroup = false;
+        bool hasPath = false;
+        while (std::getline(in, line)) {
+            if (!line.empty() && line[0] == '[') {
+                inGroup = line == "[Trash Info]";
+                continue;
+            }
+            if (!inGroup)
+                continue;
+            if (line.compare(0, 5, "Path=") == 0)
+                hasPath = LinuxTrash::percentDecode(line.substr(5), info.path);
+            else if (line.compare(0, 13, "DeletionDate=") == 0)
+                info.deletionDate = line.substr(13);
+        }
+        info.valid = hasPath && !info.path.empty();
+        return info;
+    }
+
 } // namespace
 
 LinuxTrash::LinuxTrash(std::string homeTrash) : m_homeTrash(std::move(homeTrash)) { }
@@ -121,18 +203,30 @@ std::string LinuxTrash::percentEncode(const std::string &bytes)
     return out;
 }
 
-std::string LinuxTrash::percentDecode(const std::string &text)
+bool LinuxTrash::percentDecode(const std::string &text, std::string &bytes)
 {
-    std::string out;
+    const auto hex = [](char c) {
+        return c >= '0' && c <= '9' ? c - '0'
+            : c >= 'A' && c <= 'F'  ? c - 'A' + 10
+            : c >= 'a' && c <= 'f'  ? c - 'a' + 10
+                                    : -1;
+    };
+    bytes.clear();
     for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '%' && i + 2 < text.size()) {
-            out.push_back(char(std::strtol(text.substr(i + 1, 2).c_str(), nullptr, 16)));
-            i += 2;
-        } else {
-            out.push_back(text[i]);
+        if (text[i] != '%') {
+            bytes.push_back(text[i]);
+            continue;
         }
+        const int first = i + 1 < text.size() ? hex(text[i + 1]) : -1;
+        const int second = i + 2 < text.size() ? hex(text[i + 2]) : -1;
+        // A NUL byte would end the path where the system reads it, at another file; a
+        // broken escape has no byte at all.
+        if (first < 0 || second < 0 || (first == 0 && second == 0))
+            return false;
+        bytes.push_back(char(first * 16 + second));
+        i += 2;
     }
-    return out;
+    return true;
 }
 
 int LinuxTrash::trashFor(const std::string &path, std::string &trash, std::string &topdir) const
@@ -144,38 +238,55 @@ int LinuxTrash::trashFor(const std::string &path, std::string &trash, std::strin
         return errno;
     topdir.clear();
     // The home trash serves every item on its own file system.
-    if (const int error = makeFolders(parentOf(m_homeTrash), 0700))
+    if (const int error = makeFolders(parentOf(m_homeTrash), 0700, trash))
         return error;
     struct stat home
     {
     };
     if (::stat(parentOf(m_homeTrash).c_str(), &home) == 0 && home.st_dev == item.st_dev) {
+        if (const int error = prepareTrash(m_homeTrash, trash))
+            return error;
         trash = m_homeTrash;
-        return prepareTrash(trash);
+        return 0;
     }
     topdir = topFolderOf(parentOf(path), item.st_dev);
-    const std::string uid = std::to_string(::getuid());
-    const std::string shared = (topdir == "/" ? std::string() : topdir) + "/.Trash";
-    struct stat sharedInfo
-    {
-    };
-    if (::lstat(shared.c_str(), &sharedInfo) == 0 && S_ISDIR(sharedInfo.st_mode)
-        && (sharedInfo.st_mode & S_ISVTX)) {
-        trash = shared + "/" + uid;
-        if (prepareTrash(trash) == 0)
+    int error = ENOENT;
+    for (const std::string &candidate : topTrashes(topdir)) {
+        error = prepareTrash(candidate, trash);
+        if (error == 0) {
+            trash = candidate;
             return 0;
+        }
     }
-    trash = (topdir == "/" ? std::string() : topdir) + "/.Trash-" + uid;
-    return prepareTrash(trash);
+    return error;
 }
 
-int LinuxTrash::moveToTrash(
-    const std::string &path, std::string &trashedPath, const std::string &recordedPath) const
+std::vector<std::string> LinuxTrash::topTrashes(const std::string &topdir)
+{
+    const std::string uid = std::to_string(::getuid());
+    const std::string base = topdir == "/" ? std::string() : topdir;
+    std::vector<std::string> trashes;
+    // An administrator's shared trash counts only when it is a sticky folder, not a link.
+    struct stat shared
+    {
+    };
+    if (::lstat((base + "/.Trash").c_str(), &shared) == 0 && S_ISDIR(shared.st_mode)
+        && (shared.st_mode & S_ISVTX))
+        trashes.push_back(base + "/.Trash/" + uid);
+    trashes.push_back(base + "/.Trash-" + uid);
+    return trashes;
+}
+
+int LinuxTrash::moveToTrash(const std::string &path, std::string &trashedPath,
+    const std::string &recordedPath, std::string *failedFolder) const
 {
     std::string trash;
     std::string topdir;
-    if (const int error = trashFor(path, trash, topdir))
+    if (const int error = trashFor(path, trash, topdir)) {
+        if (failedFolder && !trash.empty())
+            *failedFolder = trash;
         return error;
+    }
     const std::string &original = recordedPath.empty() ? path : recordedPath;
     // Items in a top folder's trash record their path relative to that folder.
     std::string recorded = original;
@@ -183,12 +294,14 @@ int LinuxTrash::moveToTrash(
         && original.compare(0, topdir.size() + 1, topdir + "/") == 0)
         recorded = original.substr(topdir.size() + 1);
     const std::string name = nameOf(original);
+    const size_t limit = nameLimit(trash + "/info") - kInfoSuffixLength;
     const std::string info = "[Trash Info]\nPath=" + percentEncode(recorded)
         + "\nDeletionDate=" + localTimeText() + "\n";
     // The info file is made first and exclusively: it reserves the name, so two
     // programs trashing at once never take the same one.
     for (int attempt = 1; attempt < 10000; ++attempt) {
-        const std::string candidate = attempt == 1 ? name : name + "." + std::to_string(attempt);
+        const std::string candidate
+            = fittedName(name, attempt == 1 ? std::string() : "." + std::to_string(attempt), limit);
         const std::string infoPath = trash + "/info/" + candidate + ".trashinfo";
         const int fd = ::open(infoPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
         if (fd < 0) {
@@ -220,61 +333,84 @@ int LinuxTrash::moveToTrash(
 
 std::vector<std::string> LinuxTrash::trashedCopiesOf(const std::string &original) const
 {
-    // (trash, top folder its Path= values are relative to) for every trash that could hold it.
-    std::vector<std::pair<std::string, std::string>> trashes {{m_homeTrash, std::string()}};
-    struct stat parent
+    // The original is gone; its nearest folder still on disk tells the device.
+    std::string folder = parentOf(original);
+    struct stat place
     {
     };
-    if (::stat(parentOf(original).c_str(), &parent) == 0) {
-        const std::string topdir = topFolderOf(parentOf(original), parent.st_dev);
-        const std::string base = topdir == "/" ? std::string() : topdir;
-        const std::string uid = std::to_string(::getuid());
-        trashes.emplace_back(base + "/.Trash/" + uid, topdir);
-        trashes.emplace_back(base + "/.Trash-" + uid, topdir);
+    while (::stat(folder.c_str(), &place) != 0) {
+        if (folder == "/")
+            return {};
+        folder = parentOf(folder);
     }
-    std::vector<std::pair<std::string, std::string>> found; // (deletion date, trashed path)
+    std::vector<std::pair<std::string, std::string>> trashes; // trash folder, top folder
+    struct stat home
+    {
+    };
+    if (::stat(parentOf(m_homeTrash).c_str(), &home) == 0 && home.st_dev == place.st_dev) {
+        trashes.emplace_back(m_homeTrash, std::string());
+    } else {
+        const std::string topdir = topFolderOf(folder, place.st_dev);
+        for (const std::string &trash : topTrashes(topdir))
+            trashes.emplace_back(trash, topdir == "/" ? std::string() : topdir);
+    }
+    struct Found
+    {
+        std::string path;
+        std::string deletionDate;
+        long long infoModifiedNs = 0;
+    };
+    std::vector<Found> found;
     for (const auto &[trash, topdir] : trashes) {
+        if (!isPlainFolder(trash + "/info"))
+            continue;
         DIR *dir = ::opendir((trash + "/info").c_str());
         if (!dir)
             continue;
+        static const std::string suffix = ".trashinfo";
         while (const dirent *entry = ::readdir(dir)) {
             const std::string infoName = entry->d_name;
-            const std::string suffix = ".trashinfo";
             if (infoName.size() <= suffix.size()
                 || infoName.compare(infoName.size() - suffix.size(), suffix.size(), suffix) != 0)
                 continue;
-            std::ifstream info(trash + "/info/" + infoName);
-            std::string line;
-            std::string path;
-            std::string date;
-            while (std::getline(info, line)) {
-                if (line.rfind("Path=", 0) == 0)
-                    path = percentDecode(line.substr(5));
-                else if (line.rfind("DeletionDate=", 0) == 0)
-                    date = line.substr(13);
-            }
-            if (!path.empty() && path[0] != '/' && !topdir.empty())
-                path = (topdir == "/" ? std::string() : topdir) + "/" + path;
-            const std::string item
+            const std::string infoPath = trash + "/info/" + infoName;
+            const TrashInfo info = readTrashInfo(infoPath);
+            if (!info.valid)
+                continue;
+            const std::string path = info.path[0] == '/' ? info.path : topdir + "/" + info.path;
+            const std::string trashed
                 = trash + "/files/" + infoName.substr(0, infoName.size() - suffix.size());
-            struct stat there
+            struct stat infoStat
             {
-            };
-            if (path == original && ::lstat(item.c_str(), &there) == 0)
-                found.emplace_back(date, item);
+            }, item {};
+            if (path != original || ::lstat(trashed.c_str(), &item) != 0
+                || ::stat(infoPath.c_str(), &infoStat) != 0)
+                continue;
+            found.push_back(Found {trashed, info.deletionDate,
+                infoStat.st_mtim.tv_sec * 1000000000LL + infoStat.st_mtim.tv_nsec});
         }
         ::closedir(dir);
     }
-    std::sort(found.begin(), found.end(), [](const auto &a, const auto &b) { return a > b; });
-    std::vector<std::string> out;
-    for (const auto &entry : found)
-        out.push_back(entry.second);
-    return out;
+    // Dates are to the second; within one second the info file's own time decides, and
+    // within one tick of the file system's clock the name's counter, which grows as
+    // copies of one name come in.
+    std::sort(found.begin(), found.end(), [](const Found &a, const Found &b) {
+        if (a.deletionDate != b.deletionDate)
+            return a.deletionDate > b.deletionDate;
+        if (a.infoModifiedNs != b.infoModifiedNs)
+            return a.infoModifiedNs > b.infoModifiedNs;
+        return counterOf(a.path) > counterOf(b.path);
+    });
+    std::vector<std::string> paths;
+    for (const Found &item : found)
+        paths.push_back(item.path);
+    return paths;
 }
 
 int LinuxTrash::restore(const std::string &trashedPath, const std::string &original) const
 {
-    if (const int error = makeFolders(parentOf(original), 0755))
+    std::string failed;
+    if (const int error = makeFolders(parentOf(original), 0755, failed))
         return error;
     if (const int error = renameNoReplace(trashedPath, original))
         return error;

@@ -22,22 +22,29 @@ public:
     explicit LinuxTrash(std::string homeTrash);
     static LinuxTrash forCurrentUser();
 
-    // recordedPath: the item's own place when it sits at path under a private name; its
-    // name and Path= come from it (empty: path).
+    // The item at path goes to the trash as recordedPath (empty: path): named after it,
+    // and restored there. A name too long for the trash's "NAME.trashinfo" is shortened;
+    // the info file keeps the whole path. failedFolder, when given, receives the trash
+    // folder that could not be made.
     int moveToTrash(const std::string &path, std::string &trashedPath,
-        const std::string &recordedPath = {}) const;
+        const std::string &recordedPath = {}, std::string *failedFolder = nullptr) const;
     int restore(const std::string &trashedPath, const std::string &original) const;
-    // The items in the trashes that serve original's place (home and its mount's top
-    // folder) whose info file records original, newest first.
+    // Trashed items (their place in "files/") whose info file names original, in the
+    // trashes of original's device, the newest first.
     std::vector<std::string> trashedCopiesOf(const std::string &original) const;
 
-    // The trash folder for an item on the device of path, made if needed.
+    // The trash folder for an item on the device of path, made if needed. When it cannot
+    // be made, trash names the folder that failed (empty when path itself failed).
     int trashFor(const std::string &path, std::string &trash, std::string &topdir) const;
     // "Path=" value: bytes outside the unreserved set and "/" as %XX.
     static std::string percentEncode(const std::string &bytes);
-    static std::string percentDecode(const std::string &text);
+    // False for a broken escape and for %00, which would cut the path short.
+    static bool percentDecode(const std::string &text, std::string &bytes);
 
 private:
+    // The trash folders of a mount's top folder, in the order they are tried.
+    static std::vector<std::string> topTrashes(const std::string &topdir);
+
     std::string m_homeTrash;
 };
 

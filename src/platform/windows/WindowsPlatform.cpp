@@ -279,36 +279,34 @@ public:
         return {"explorer.exe", "/select," + native};
     }
 
+    using Platform::moveToTrash;
     // Each route is tried only when the one before failed; the last failure is given.
     int moveToTrash(const std::string &path, std::string &trashedPath,
-        const std::string &recordedPath) const override
+        const std::string &recordedPath, std::string &trashFolder) const override
     {
-        // The Recycle Bin does not say where an item went.
+        // The Recycle Bin does not say where an item went, and makes its own folders.
         trashedPath.clear();
-        std::wstring native = nativePath(path);
-        // The Recycle Bin records the name an item has when it is deleted, and takes no
-        // other: an item under a private name goes back to its own first (never over
-        // another entry).
-        if (!recordedPath.empty() && recordedPath != path) {
-            const std::wstring original = nativePath(recordedPath);
-            if (!MoveFileExW(native.c_str(), original.c_str(), 0))
-                return int(GetLastError());
-            native = original;
-        }
+        trashFolder.clear();
+        // It also records the place an item was sent from and has no way to name another:
+        // the item takes the recorded name again first (never over one that took it
+        // meanwhile), so that a restore puts it there.
+        const bool renamed = !recordedPath.empty() && recordedPath != path;
+        if (renamed && !MoveFileExW(nativePath(path).c_str(), nativePath(recordedPath).c_str(), 0))
+            return int(GetLastError());
+        const std::wstring native = nativePath(renamed ? recordedPath : path);
         clearReadOnly(native);
         int error = shellDelete(native, true);
         if (error != 0)
             error = sendToTrash(native);
         if (error != 0)
             error = fileOperationDelete(native, true);
+        // Not trashed: the item goes back to the name the caller holds it by.
+        if (error != 0 && renamed)
+            MoveFileExW(native.c_str(), nativePath(path).c_str(), 0);
         return error;
     }
 
-    std::vector<std::string> trashedCopiesOf(const std::string &) const override
-    {
-        // The Recycle Bin is not searched by original path here.
-        return {};
-    }
+    std::vector<std::string> trashedCopiesOf(const std::string &) const override { return {}; }
 
     int restoreFromTrash(const std::string &, const std::string &) const override
     {
