@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHostAddress>
+#include <QProcessEnvironment>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -162,6 +163,16 @@ QString RcloneProcess::start(const RcloneSettings &settings)
     m_lastLine.clear();
     m_user = randomToken();
     m_password = randomToken();
+    // Any local user can read a command line; the environment only its owner. The
+    // remote-control settings of the user's own environment (no authentication, a job
+    // expiry shorter than a poll) must not reach this daemon.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString &name : environment.keys())
+        if (name.startsWith(QLatin1String("RCLONE_RC_")))
+            environment.remove(name);
+    environment.insert(QStringLiteral("RCLONE_RC_USER"), QString::fromLatin1(m_user));
+    environment.insert(QStringLiteral("RCLONE_RC_PASS"), QString::fromLatin1(m_password));
+    m_process.setProcessEnvironment(environment);
     QString problem;
     // A few tries in case another program takes the free port first.
     for (int attempt = 0; attempt < 3; ++attempt) {
@@ -172,10 +183,8 @@ QString RcloneProcess::start(const RcloneSettings &settings)
         m_stopping = true;
         m_process.start(program,
             {QStringLiteral("rcd"), QStringLiteral("--rc-addr"),
-                QStringLiteral("127.0.0.1:%1").arg(port), QStringLiteral("--rc-user"),
-                QString::fromLatin1(m_user), QStringLiteral("--rc-pass"),
-                QString::fromLatin1(m_password), QStringLiteral("--config"), settings.configFile,
-                QStringLiteral("--log-level"), QStringLiteral("NOTICE")});
+                QStringLiteral("127.0.0.1:%1").arg(port), QStringLiteral("--config"),
+                settings.configFile, QStringLiteral("--log-level"), QStringLiteral("NOTICE")});
         if (!m_process.waitForStarted(10000))
             return QStringLiteral("rclone could not be started (%1): %2")
                 .arg(program, m_process.errorString());

@@ -3,6 +3,8 @@
 #include "app/FileTypeCatalogue.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
+#include "cloud/RcloneClient.h"
+#include "cloud/RcloneProcess.h"
 #include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 #include "preferences/DFGenernalPreferences.h"
@@ -356,6 +358,28 @@ private slots:
         QVERIFY2(reason.contains("rclone stopped unexpectedly")
                 || reason.contains("rclone did not answer"),
             qPrintable(reason));
+    }
+
+    void credentialsStayOffTheCommandLine()
+    {
+        // Any local user can read a command line.
+        RcloneProcess daemon;
+        QCOMPARE(daemon.start({QString(), m_data.filePath("rclone/rclone.conf")}), QString());
+        QFile commandLine(QStringLiteral("/proc/%1/cmdline").arg(daemon.processId()));
+        QVERIFY(commandLine.open(QIODevice::ReadOnly));
+        const QByteArray arguments = commandLine.readAll();
+        QVERIFY(arguments.contains("rcd"));
+        QVERIFY(!arguments.contains(daemon.password()) && !arguments.contains(daemon.user()));
+        // rclone took them all the same: it answers with them only.
+        const auto answer = [&](const QByteArray &password) {
+            RcloneClient client;
+            client.setEndpoint(daemon.baseUrl(), daemon.user(), password);
+            QString error = QStringLiteral("no answer");
+            client.call("rc/noop", {}, [&](const QJsonObject &, const QString &e) { error = e; });
+            return QTest::qWaitFor([&] { return error != "no answer"; }, 20000) ? error : "";
+        };
+        QCOMPARE(answer(daemon.password()), QString());
+        QVERIFY(answer("wrong").contains("401"));
     }
 
     void unusableRclone_data()
