@@ -3,6 +3,9 @@
 
 #include "app/TLogger.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
@@ -39,6 +42,15 @@ quint16 freePort()
     if (!probe.listen(QHostAddress::LocalHost, 0))
         return 0;
     return probe.serverPort();
+}
+
+// rclone's own marks of a line that tells what went wrong.
+bool isErrorLine(const QString &line)
+{
+    static const QLatin1String marks[] {QLatin1String("ERROR :"), QLatin1String("CRITICAL:"),
+        QLatin1String("Failed to"), QLatin1String("Fatal error")};
+    return std::any_of(std::begin(marks), std::end(marks),
+        [&line](QLatin1String mark) { return line.contains(mark); });
 }
 
 constexpr const char *kInstallHint = "Install rclone %1.%2 or newer (Debian package \"rclone\").";
@@ -132,6 +144,8 @@ void RcloneProcess::readErrorLines()
         if (line.isEmpty())
             continue;
         m_lastLine = line;
+        if (isErrorLine(line))
+            m_lastErrorLine = line;
         // The OAuth sign-in of a remote being created tells where it waits.
         static const QLatin1String marker("go to the following link: ");
         if (const qsizetype at = line.indexOf(marker); at >= 0) {
@@ -146,6 +160,12 @@ QString RcloneProcess::lastErrorLine()
 {
     readErrorLines();
     const QString partial = QString::fromUtf8(m_partialLine).trimmed();
+    // A notice logged after the error (a retry, a shutdown step) does not say what went
+    // wrong.
+    if (isErrorLine(partial))
+        return partial;
+    if (!m_lastErrorLine.isEmpty())
+        return m_lastErrorLine;
     return partial.isEmpty() ? m_lastLine : partial;
 }
 
@@ -161,6 +181,7 @@ QString RcloneProcess::start(const RcloneSettings &settings)
     QDir().mkpath(QFileInfo(settings.configFile).absolutePath());
     m_partialLine.clear();
     m_lastLine.clear();
+    m_lastErrorLine.clear();
     m_user = randomToken();
     m_password = randomToken();
     // Any local user can read a command line; the environment only its owner. The

@@ -382,6 +382,23 @@ private slots:
         QVERIFY(answer("wrong").contains("401"));
     }
 
+    void deathQuotesRclonesError()
+    {
+        // The error rclone logged says why it stopped, not a notice logged after it.
+        QTemporaryDir bin;
+        const QString script = fakeRclone(bin,
+            "[ \"$1\" = rcd ] && echo '2024/01/01 00:00:00 ERROR : here: token expired' >&2 "
+            "&& echo '2024/01/01 00:00:01 NOTICE: here: retrying' >&2\n"
+            "exec rclone \"$@\"");
+        RcloneProcess daemon;
+        QSignalSpy died(&daemon, &RcloneProcess::died);
+        QCOMPARE(daemon.start({script, m_data.filePath("rclone/rclone.conf")}), QString());
+        ::kill(pid_t(daemon.processId()), SIGKILL);
+        QVERIFY(died.wait(20000));
+        const QString reason = died.first().first().toString();
+        QVERIFY2(reason.endsWith("ERROR : here: token expired"), qPrintable(reason));
+    }
+
     void unusableRclone_data()
     {
         QTest::addColumn<QByteArray>("script");
@@ -393,6 +410,10 @@ private slots:
             << QByteArray("[ \"$1\" = version ] && echo 'rclone v1.60.1' && exit 0\n"
                           "echo 'Fatal error: bad rc address' >&2; exit 1")
             << "rclone failed to start: Fatal error: bad rc address";
+        QTest::newRow("fails to start, a notice after its error")
+            << QByteArray("[ \"$1\" = version ] && echo 'rclone v1.60.1' && exit 0\n"
+                          "echo 'ERROR : here: bad flag' >&2; echo 'NOTICE: exiting' >&2; exit 1")
+            << "rclone failed to start: ERROR : here: bad flag";
     }
 
     void unusableRclone()
