@@ -6,7 +6,9 @@
 #include "engine/FileStamp.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <limits>
 #include <sqlite3.h>
 
 #ifdef Q_OS_UNIX
@@ -15,6 +17,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
@@ -36,7 +39,10 @@ const char *const kPictureTable
       "INTEGER NOT NULL, height INTEGER NOT NULL, rows INTEGER NOT NULL, cols INTEGER NOT NULL, "
       "type INTEGER NOT NULL, data BLOB NOT NULL, seen INTEGER NOT NULL, checksum INTEGER NOT "
       "NULL, PRIMARY KEY(device, inode, measure))";
-constexpr int kBusyMs = 5000;
+// Short, so that a lock let go is taken soon after.
+constexpr int kBusyStepMs = 10;
+std::atomic<int> busyGiveUpCount {0};
+std::atomic<qint64> lastBusyGiveUpMs {std::numeric_limits<qint64>::min() / 2};
 constexpr int kSampledFlag = 1;
 constexpr int kFullFlag = 2;
 const char *const kSuffixes[] = {"", "-wal", "-shm"};
@@ -102,6 +108,11 @@ qint64 ContentKeyCache::sizeOnDisk(const QString &path)
     return total;
 }
 
+int ContentKeyCache::busyGiveUps()
+{
+    return busyGiveUpCount.load();
+}
+
 bool ContentKeyCache::clear(const QString &path)
 {
     if (!QFileInfo::exists(path))
@@ -138,6 +149,39 @@ bool ContentKeyCache::exec(const char *sql)
     return false;
 }
 
+int ContentKeyCache::onBusy(void *self, int)
+{
+    return static_cast<ContentKeyCache *>(self)->waitForLock() ? 1 : 0;
+}
+
+bool ContentKeyCache::waitForLock()
+{
+    if (m_busyWaitedMs < kBusyBudgetMs) {
+        QElapsedTimer slept;
+        slept.start();
+        QThread::msleep(std::min(kBusyStepMs, kBusyBudgetMs - m_busyWaitedMs));
+        m_busyWaitedMs += std::max(1, int(slept.elapsed()));
+        return true;
+    }
+    if (!std::exchange(m_busyGivenUp, true)) {
+        busyGiveUpCount.fetch_add(1);
+        lastBusyGiveUpMs.store(QDateTime::currentMSecsSinceEpoch());
+        splog_d(QStringLiteral("[ContentKeyCache]: %1 stayed locked for %2 ms (by another scan or "
+                               "program); this scan goes on without it.")
+                    .arg(m_path)
+                    .arg(kBusyBudgetMs));
+    }
+    return false;
+}
+
+bool ContentKeyCache::usable()
+{
+    // Given up inside a call of SQLite's, closed at the next one.
+    if (m_busyGivenUp && m_db)
+        close();
+    return m_db != nullptr;
+}
+
 void ContentKeyCache::close()
 {
     sqlite3_finalize(m_select);
@@ -159,7 +203,9 @@ bool ContentKeyCache::open()
     }
     m_identity = identityOf(m_path);
     sqlite3_extended_result_codes(m_db, 1);
-    sqlite3_busy_timeout(m_db, kBusyMs);
+    if (QDateTime::currentMSecsSinceEpoch() - lastBusyGiveUpMs.load() < kBusyQuietMs)
+        m_busyWaitedMs = kBusyBudgetMs;
+    sqlite3_busy_handler(m_db, &ContentKeyCache::onBusy, this);
     // A cache lost with the last commit before a power cut costs only reads: the log is
     // not flushed at every commit.
     sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
@@ -255,12 +301,9 @@ bool ContentKeyCache::prepareSchema()
         return false;
     // The switch to the write-ahead log takes an exclusive lock without waiting for a
     // busy one, so a second process starting at the same moment tries again.
-    code = SQLITE_BUSY;
-    for (int attempt = 0; attempt < 50 && (code & 0xFF) == SQLITE_BUSY; ++attempt) {
-        if (attempt)
-            QThread::msleep(20);
+    code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    while ((code & 0xFF) == SQLITE_BUSY && waitForLock())
         code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
-    }
     if (code != SQLITE_OK) {
         if (isDamage(code))
             reject("damaged");
@@ -411,7 +454,7 @@ const char *const kScanRows = "SELECT size, mtime, ctime, sampled, full, flags, 
 bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
     const std::function<void(size_t, const Entry &)> &found)
 {
-    if (!m_db || count == 0)
+    if (!usable() || count == 0)
         return true;
     const qint64 readNs = nowNs();
     const std::vector<quint32> order = tableOrder(count, stampOf);
@@ -438,16 +481,18 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
         const size_t half = order.size() >= kSplitFrom ? order.size() / 2 : order.size();
         int upperCode = SQLITE_DONE;
         QThread *upper = nullptr;
+        // Its own connection waits as long as this object may still wait in all.
+        const int busyLeftMs = std::max(0, kBusyBudgetMs - m_busyWaitedMs);
         if (half < order.size()) {
             const Stamp from = stampOf(order[half]);
-            upper = QThread::create([&, from] {
+            upper = QThread::create([&, from, busyLeftMs] {
                 sqlite3 *db = nullptr;
                 sqlite3_stmt *statement = nullptr;
                 upperCode = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &db,
                     SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
                 if (upperCode == SQLITE_OK) {
                     sqlite3_extended_result_codes(db, 1);
-                    sqlite3_busy_timeout(db, kBusyMs);
+                    sqlite3_busy_timeout(db, busyLeftMs);
                     upperCode = sqlite3_prepare_v2(db,
                         (QByteArray(kScanRows)
                             + " WHERE (device, inode) >= (?, ?) ORDER BY device, inode")
@@ -545,7 +590,7 @@ bool ContentKeyCache::prune(qint32 day)
 
 void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &stampOf)
 {
-    if (!m_db || count == 0)
+    if (!usable() || count == 0)
         return;
     const qint32 day = today();
     const std::vector<quint32> order = tableOrder(count, stampOf);
@@ -583,7 +628,7 @@ void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &st
 
 void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
 {
-    if (!m_db)
+    if (!usable())
         return;
     const qint32 day = today();
     std::vector<quint32> rows
@@ -673,7 +718,7 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
 {
     for (Picture &picture : pictures)
         picture.found = false;
-    if (!m_db || pictures.empty())
+    if (!usable() || pictures.empty())
         return;
     const qint64 readNs = nowNs();
     sqlite3_stmt *select = nullptr;
@@ -742,7 +787,7 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
 
 void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64 readNs)
 {
-    if (!m_db)
+    if (!usable())
         return;
     const qint32 day = today();
     std::vector<quint32> rows

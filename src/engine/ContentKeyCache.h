@@ -20,7 +20,7 @@ struct sqlite3_stmt;
 // that had settled (FileStamp::settled) when it was read. Every row carries its own check
 // digest; a file that is no cache of ours, has a newer layout, or fails a check is renamed
 // aside and a new one started: a cache can only spare reads, never decide a group. Several
-// processes may use one file at once (write-ahead log, busy wait).
+// processes may use one file at once (write-ahead log, busy wait of at most kBusyBudgetMs).
 // One object belongs to one thread.
 class ContentKeyCache
 {
@@ -84,6 +84,12 @@ public:
         bool fresh = false;
     };
 
+    // The waits for another's lock, summed over an object's life, end here; the scan then
+    // goes on without the cache, since the other may hold the lock for hours.
+    static constexpr int kBusyBudgetMs = 2000;
+    // After one object gave up, the others of this process do not wait for this long: the
+    // several users of the cache in one scan share one wait.
+    static constexpr int kBusyQuietMs = 60000;
     // Entries of files not seen by any scan for this long are dropped.
     static constexpr int kKeepDays = 90;
 
@@ -95,6 +101,8 @@ public:
     // Empties the cache and gives its room back, through the same locks as every scan;
     // false when it could not (a scan of another process kept it busy).
     static bool clear(const QString &path);
+    // How often an object of this process gave the cache up for another's lock.
+    static int busyGiveUps();
 
     explicit ContentKeyCache(const QString &path);
     ~ContentKeyCache();
@@ -134,9 +142,13 @@ private:
     bool open();
     bool prepareSchema();
     void close();
+    // Closes a connection given up for another's lock; whether one is open.
+    bool usable();
     // Renames the file (and its log) aside and starts a new one.
     void reject(const char *why);
-
+    // SQLite's busy handler: waits a step while the budget lasts.
+    static int onBusy(void *self, int count);
+    bool waitForLock();
     bool exec(const char *sql);
     static std::vector<quint32> tableOrder(
         size_t count, const std::function<Stamp(size_t)> &stampOf);
@@ -149,7 +161,8 @@ private:
     bool m_setAside = false;
     // The file this object opened (device, inode), told from one put in its place since.
     std::pair<quint64, quint64> m_identity;
-
+    int m_busyWaitedMs = 0;
+    bool m_busyGivenUp = false;
     // Counts the files opened, so that a caller can tell whether a failure started anew.
     int m_generation = 0;
 };

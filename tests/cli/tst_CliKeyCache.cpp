@@ -31,6 +31,66 @@ class TestCliKeyCache : public QObject
     }
 
 private slots:
+    void busyCacheGivenUp_data()
+    {
+        // Run in the other program, which then holds its lock until its input closes.
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<bool>("cacheFirst");
+        QTest::newRow("rollback journal, exclusive lock")
+            << "PRAGMA journal_mode=DELETE; BEGIN EXCLUSIVE; CREATE TABLE t(x)" << false;
+        QTest::newRow("write-ahead log, exclusive locking mode")
+            << "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; SELECT count(*) FROM keys" << true;
+        QTest::newRow("write-ahead log, a writer") << "PRAGMA journal_mode=WAL; CREATE TABLE t(x); "
+                                                      "BEGIN IMMEDIATE; INSERT INTO t VALUES (1)"
+                                                   << false;
+    }
+    void busyCacheGivenUp()
+    {
+        QFETCH(QString, sql);
+        QFETCH(bool, cacheFirst);
+        // Keys of files just written are stored, so that the scan has something to write.
+        qputenv(FileStamp::kSettleOverride, "0");
+        QTemporaryDir root;
+        const QByteArray copy = ScanTree::pattern(30000, 2);
+        QByteArray trap = copy;
+        trap[20000] = char(trap[20000] ^ 1);
+        ScanTree::write(root.path(), "a.bin", copy);
+        ScanTree::write(root.path(), "b.bin", copy);
+        ScanTree::write(root.path(), "c.bin", trap);
+        const QString cache = ContentKeyCache::defaultPath();
+        for (const QString &file : {cache, cache + "-wal", cache + "-shm"})
+            QFile::remove(file);
+        QDir().mkpath(QFileInfo(cache).absolutePath());
+        if (cacheFirst)
+            QCOMPARE(runCli(scanOf(root.path()) + QStringList {"--no-overlap"}).exitCode, 0);
+        const QStringList expected = reportGroups(
+            runCli(scanOf(root.path()) + QStringList {"--no-cache"}).out, root.path(), false);
+        QCOMPARE(expected, QStringList {"files:a.bin,b.bin"});
+
+        QProcess holder;
+        holder.start("python3",
+            {"-c",
+                "import sqlite3, sys\n"
+                "db = sqlite3.connect(sys.argv[1], isolation_level=None)\n"
+                "for statement in sys.argv[2].split(';'): db.execute(statement).fetchall()\n"
+                "print('locked', flush=True)\n"
+                "sys.stdin.read()\n",
+                cache, sql});
+        QVERIFY2(holder.waitForReadyRead(20000), holder.readAllStandardError());
+        QVERIFY(holder.readAllStandardOutput().startsWith("locked"));
+        QProcess scan;
+        scan.start(QStringLiteral(VELTRINE_CLI_PATH), scanOf(root.path()));
+        // Well past the cache's own bound, far short of a wait for the other program.
+        const bool ended = scan.waitForFinished(20000);
+        holder.closeWriteChannel();
+        QVERIFY(holder.waitForFinished(20000));
+        QVERIFY(ended);
+        QCOMPARE(scan.exitCode(), 0);
+        QCOMPARE(reportGroups(scan.readAllStandardOutput(), root.path(), false), expected);
+        const QByteArray err = scan.readAllStandardError();
+        QVERIFY2(err.contains("the key cache was busy; the scan went on without it"), err);
+    }
+
     void keyFollowsWriteToDirtyPage()
     {
         // The scans wait out the kernel's own write-back delay.
