@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -30,6 +32,9 @@ public:
 
     quint16 port() const { return m_server.serverPort(); }
     QList<Request> requests;
+    // When set, answers each request in place of the fixed answer (n counts from 0): it
+    // may write what it likes, when it likes, or nothing at all.
+    std::function<void(QTcpSocket *socket, int n)> respond;
 
     // A JSON answer; without its length, the body is known to end only when the
     // connection closes.
@@ -60,6 +65,10 @@ private:
             return;
         requests.append({head, buffer.mid(end + 4, length)});
         m_buffers.remove(socket);
+        if (respond) {
+            respond(socket, int(requests.size()) - 1);
+            return;
+        }
         socket->write(m_response);
         socket->disconnectFromHost();
     }

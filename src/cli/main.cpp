@@ -396,6 +396,9 @@ int main(int argc, char *argv[])
     if (terminal)
         std::fprintf(stderr, "\r%d files scanned, 100.0%%, elapsed %s   \n",
             controller.scannedFileCount(), qPrintable(TControlUI::formatSeconds(qint64(seconds))));
+    if (ContentKeyCache::busyGiveUps() > 0)
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: the key cache was busy; the scan went on without it\n");
 
     if (options.selectAll()) {
         QList<GroupItemAutoSelector::KeyedGroup> groups;

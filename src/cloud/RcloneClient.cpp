@@ -1,29 +1,67 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cloud/RcloneClient.h"
 
+#include "cloud/HttpAnswer.h"
 #include "cloud/JsonEntryStream.h"
 
-#include <memory>
-
-namespace {
-constexpr qint64 kListBuffer = 256 * 1024;
-}
+#include <algorithm>
+#include <utility>
 
 #include <QHostAddress>
 #include <QJsonDocument>
 #include <QJsonParseError>
-#include <QNetworkAccessManager>
-#include <QNetworkProxy>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QTcpSocket>
+#include <QTimer>
 
-RcloneClient::RcloneClient(QObject *parent)
-    : QObject(parent), m_network(new QNetworkAccessManager(this))
+namespace {
+
+// rclone writes a listing in one piece once it has it all; with a small read buffer the
+// rest waits in rclone's socket until the entries before it are read.
+constexpr qint64 kReadBuffer = 256 * 1024;
+// A job is asked after soon, then less often: a short call (a stat) ends within a few
+// polls, and a listing that takes minutes costs a request every half second.
+constexpr int kFirstPollMs = 10;
+constexpr int kLongestPollMs = 500;
+
+QString malformed(const QString &method, const QString &why)
 {
-    // The daemon is local: a proxy of the user's environment must never see its password.
-    m_network->setProxy(QNetworkProxy::NoProxy);
+    return QStringLiteral("rclone answered %1 with malformed JSON (%2)").arg(method, why);
 }
+
+QString givenUp(const QString &method, const QString &why)
+{
+    return QStringLiteral("rclone's answer to %1 was given up: %2").arg(method, why);
+}
+
+// A small answer, collected whole.
+std::function<QString(const QByteArray &)> collect(
+    const std::shared_ptr<QByteArray> &body, const QString &method)
+{
+    return [body, method](const QByteArray &bytes) {
+        body->append(bytes);
+        if (body->size() <= JsonEntryStream::kMaxPending)
+            return QString();
+        return givenUp(
+            method, QStringLiteral("more than %1 MiB").arg(JsonEntryStream::kMaxPending >> 20));
+    };
+}
+
+} // namespace
+
+struct RcloneClient::Job
+{
+    QString method;
+    // Empty for a call; a listing's entries are handed over as they arrive.
+    Entry entry;
+    Done done;
+    qint64 id = 0;
+    int delayMs = kFirstPollMs;
+    bool dropped = false;
+};
+
+RcloneClient::RcloneClient(QObject *parent, int idleTimeoutMs, qint64 maxEntries)
+    : QObject(parent), m_idleTimeoutMs(idleTimeoutMs), m_maxEntries(maxEntries)
+{ }
 
 void RcloneClient::setEndpoint(const QUrl &base, const QByteArray &user, const QByteArray &password)
 {
@@ -31,196 +69,186 @@ void RcloneClient::setEndpoint(const QUrl &base, const QByteArray &user, const Q
     m_authorization = "Basic " + (user + ':' + password).toBase64();
 }
 
-QNetworkReply *RcloneClient::post(const QString &method, const QJsonObject &input)
-{
-    QNetworkRequest request(m_base.resolved(QUrl(method)));
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/json"));
-    request.setRawHeader("Authorization", m_authorization);
-    // A listing of a large tree can take as long as the service needs to walk it.
-    request.setTransferTimeout(0);
-    QNetworkReply *reply
-        = m_network->post(request, QJsonDocument(input).toJson(QJsonDocument::Compact));
-    m_replies.removeAll(nullptr);
-    m_replies.append(reply);
-    return reply;
-}
-
-QString RcloneClient::failure(const QString &method, QNetworkReply *reply, const QByteArray &body)
-{
-    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (status == 0)
-        return QStringLiteral("rclone did not answer %1: %2").arg(method, reply->errorString());
-    // rclone sends {"error": "...", "status": N} with its reason.
-    const QJsonObject answer = QJsonDocument::fromJson(body).object();
-    const QString words = answer.value(QLatin1String("error")).toString();
-    if (!words.isEmpty())
-        return QStringLiteral("%1 failed: %2").arg(method, words);
-    return QStringLiteral("%1 failed with HTTP status %2").arg(method).arg(status);
-}
-
 void RcloneClient::call(const QString &method, const QJsonObject &input, Done done)
 {
-    QNetworkReply *reply = post(method, input);
-    connect(reply, &QNetworkReply::finished, this, [reply, method, done = std::move(done)] {
-        reply->deleteLater();
-        const QByteArray body = reply->readAll();
-        if (reply->error() != QNetworkReply::NoError) {
-            done({}, failure(method, reply, body));
-            return;
-        }
-        QJsonParseError parseError;
-        const QJsonDocument document = QJsonDocument::fromJson(body, &parseError);
-        if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
-            done({},
-                QStringLiteral("rclone answered %1 with malformed JSON (%2)")
-                    .arg(method, parseError.errorString()));
-            return;
-        }
-        done(document.object(), {});
-    });
+    startJob(method, input, {}, std::move(done));
 }
-
-namespace {
-
-// One HTTP/1.1 answer read off a socket as it arrives: the status, then the body, whole
-// or in chunks, handed on piece by piece.
-struct ListAnswer
-{
-    QByteArray head;
-    bool headDone = false;
-    int status = 0;
-    bool chunked = false;
-    qint64 chunkLeft = -1; // -1: a chunk-size line is due
-    bool complete = false;
-    QByteArray pending;
-    QByteArray errorBody;
-
-    // Returns the body bytes found in data.
-    QByteArray take(const QByteArray &data)
-    {
-        QByteArray body;
-        pending += data;
-        if (!headDone) {
-            const qsizetype end = pending.indexOf("\r\n\r\n");
-            if (end < 0)
-                return body;
-            head = pending.left(end);
-            pending.remove(0, end + 4);
-            headDone = true;
-            const QList<QByteArray> lines = head.split('\n');
-            const QList<QByteArray> statusLine = lines.value(0).split(' ');
-            status = statusLine.value(1).toInt();
-            for (const QByteArray &line : lines)
-                if (line.toLower().startsWith("transfer-encoding:")
-                    && line.toLower().contains("chunked"))
-                    chunked = true;
-        }
-        if (!chunked) {
-            body = std::exchange(pending, {});
-            return body;
-        }
-        while (!complete) {
-            if (chunkLeft < 0) {
-                const qsizetype end = pending.indexOf("\r\n");
-                if (end < 0)
-                    break;
-                bool ok = false;
-                chunkLeft = pending.left(end).split(';').first().trimmed().toLongLong(&ok, 16);
-                pending.remove(0, end + 2);
-                if (!ok)
-                    chunkLeft = 0;
-                if (chunkLeft == 0)
-                    complete = true;
-                continue;
-            }
-            const qint64 n = std::min<qint64>(chunkLeft, pending.size());
-            body += pending.left(n);
-            pending.remove(0, n);
-            chunkLeft -= n;
-            if (chunkLeft > 0 || pending.size() < 2)
-                break;
-            pending.remove(0, 2);
-            chunkLeft = -1;
-        }
-        return body;
-    }
-};
-
-} // namespace
 
 void RcloneClient::list(const QJsonObject &input, Entry entry, Done done)
 {
-    // The listing is read off a socket of its own rather than through the network access
-    // manager: rclone writes a listing in one piece once it has it all, and the manager
-    // would hold all of it (about 300 bytes a file, twice) however small its read buffer.
-    // A socket with a small read buffer leaves the rest in rclone's socket until the
-    // entries before it are read.
-    static const QString method = QStringLiteral("operations/list");
+    startJob(QStringLiteral("operations/list"), input, std::move(entry), std::move(done));
+}
+
+void RcloneClient::startJob(const QString &method, const QJsonObject &input, Entry entry, Done done)
+{
+    auto job = std::make_shared<Job>();
+    job->method = method;
+    job->entry = std::move(entry);
+    job->done = std::move(done);
+    m_jobs.append(job);
+    QJsonObject asJob = input;
+    asJob.insert(QStringLiteral("_async"), true);
+    auto body = std::make_shared<QByteArray>();
+    send(method, method, asJob, collect(body, method), [this, job, body](QString error) {
+        if (job->dropped)
+            return;
+        job->id = QJsonDocument::fromJson(*body).object().value(QLatin1String("jobid")).toInteger();
+        if (error.isEmpty() && job->id <= 0)
+            error = malformed(job->method, QStringLiteral("no job number"));
+        if (!error.isEmpty()) {
+            endJob(job, {}, error);
+            return;
+        }
+        poll(job);
+    });
+}
+
+void RcloneClient::poll(const std::shared_ptr<Job> &job)
+{
+    QTimer::singleShot(job->delayMs, this, [this, job] {
+        if (job->dropped)
+            return;
+        job->delayMs = std::min(job->delayMs * 2, kLongestPollMs);
+        static const QString path = QStringLiteral("job/status");
+        const QJsonObject input {{"jobid", job->id}};
+        if (!job->entry) {
+            auto body = std::make_shared<QByteArray>();
+            send(path, job->method, input, collect(body, job->method),
+                [this, job, body](QString error) {
+                    if (job->dropped)
+                        return;
+                    QJsonParseError parseError;
+                    const QJsonDocument status = QJsonDocument::fromJson(*body, &parseError);
+                    if (error.isEmpty() && !status.isObject())
+                        error = malformed(job->method, parseError.errorString());
+                    endJob(job, status.object(), error);
+                });
+            return;
+        }
+        // The entries are in the finished job's {"output": {"list": [...]}}.
+        auto stream = std::make_shared<JsonEntryStream>(job->entry, 2, m_maxEntries);
+        send(
+            path, job->method, input,
+            [stream, method = job->method](const QByteArray &bytes) {
+                if (stream->feed(bytes))
+                    return QString();
+                return stream->overLimit() ? givenUp(method, stream->error())
+                                           : malformed(method, stream->error());
+            },
+            [this, job, stream](QString error) {
+                if (job->dropped)
+                    return;
+                if (error.isEmpty() && !stream->finish())
+                    error = malformed(job->method, stream->error());
+                endJob(job, stream->rest(), error);
+            });
+    });
+}
+
+void RcloneClient::endJob(
+    const std::shared_ptr<Job> &job, const QJsonObject &status, const QString &error)
+{
+    if (error.isEmpty() && !status.value(QLatin1String("finished")).toBool()) {
+        poll(job);
+        return;
+    }
+    m_jobs.removeOne(job);
+    QString failure = error;
+    if (failure.isEmpty() && !status.value(QLatin1String("success")).toBool()) {
+        const QString words = status.value(QLatin1String("error")).toString();
+        failure = words.isEmpty() ? QStringLiteral("%1 failed").arg(job->method)
+                                  : QStringLiteral("%1 failed: %2").arg(job->method, words);
+    }
+    job->done(failure.isEmpty() ? status.value(QLatin1String("output")).toObject() : QJsonObject(),
+        failure);
+}
+
+void RcloneClient::send(
+    const QString &path, const QString &method, const QJsonObject &input, Part part, End end)
+{
     auto *socket = new QTcpSocket(this);
-    socket->setReadBufferSize(kListBuffer);
+    socket->setReadBufferSize(kReadBuffer);
     m_sockets.removeAll(nullptr);
     m_sockets.append(socket);
-    auto stream = std::make_shared<JsonEntryStream>(std::move(entry));
-    auto answer = std::make_shared<ListAnswer>();
+    // Restarted by every byte either way: a long answer goes on as long as it flows.
+    auto *idle = new QTimer(socket);
+    idle->setSingleShot(true);
+    idle->setInterval(m_idleTimeoutMs);
+    auto answer = std::make_shared<HttpAnswer>();
+    auto errorBody = std::make_shared<QByteArray>();
     auto finished = std::make_shared<bool>(false);
     const QByteArray body = QJsonDocument(input).toJson(QJsonDocument::Compact);
-    const QByteArray request = "POST /" + method.toLatin1()
+    const QByteArray request = "POST /" + path.toLatin1()
         + " HTTP/1.1\r\nHost: " + m_base.host().toLatin1() + ':' + QByteArray::number(m_base.port())
         + "\r\nAuthorization: " + m_authorization
         + "\r\nContent-Type: application/json\r\nContent-Length: " + QByteArray::number(body.size())
         + "\r\nConnection: close\r\n\r\n" + body;
-    const auto end = [socket, stream, answer, finished, done](const QString &socketError) {
+    const auto finish = [socket, idle, finished, end = std::move(end)](const QString &error) {
         if (std::exchange(*finished, true))
             return;
+        idle->stop();
         socket->disconnect();
+        socket->abort();
         socket->deleteLater();
-        if (answer->status == 0) {
-            done({}, QStringLiteral("rclone did not answer %1: %2").arg(method, socketError));
-            return;
-        }
-        if (answer->status != 200) {
-            const QString words = QJsonDocument::fromJson(answer->errorBody)
+        end(error);
+    };
+    // What the answer amounts to once the connection has ended.
+    const auto outcome = [answer, errorBody, method](const QString &socketError) {
+        if (answer->status() == 0)
+            return QStringLiteral("rclone did not answer %1: %2").arg(method, socketError);
+        if (answer->status() != 200) {
+            // rclone sends {"error": "...", "status": N} with its reason.
+            const QString words = QJsonDocument::fromJson(*errorBody)
                                       .object()
                                       .value(QLatin1String("error"))
                                       .toString();
-            done({},
-                words.isEmpty() ? QStringLiteral("%1 failed with HTTP status %2")
-                                      .arg(method)
-                                      .arg(answer->status)
-                                : QStringLiteral("%1 failed: %2").arg(method, words));
-            return;
+            return words.isEmpty()
+                ? QStringLiteral("%1 failed with HTTP status %2").arg(method).arg(answer->status())
+                : QStringLiteral("%1 failed: %2").arg(method, words);
         }
-        if (answer->chunked && !answer->complete) {
-            done(
-                {}, QStringLiteral("rclone's answer to %1 broke off: %2").arg(method, socketError));
-            return;
-        }
-        if (!stream->finish()) {
-            done({},
-                QStringLiteral("rclone answered %1 with malformed JSON (%2)")
-                    .arg(method, stream->error()));
-            return;
-        }
-        done({}, {});
+        if (answer->chunked() && !answer->complete())
+            return QStringLiteral("rclone's answer to %1 broke off: %2").arg(method, socketError);
+        return QString();
     };
-    connect(socket, &QTcpSocket::connected, socket, [socket, request] { socket->write(request); });
-    connect(socket, &QTcpSocket::readyRead, this, [socket, stream, answer, end] {
-        const QByteArray bytes = answer->take(socket->readAll());
-        if (answer->status == 200)
-            stream->feed(bytes);
-        else
-            answer->errorBody += bytes;
-        if (answer->complete)
-            end({});
+    connect(idle, &QTimer::timeout, this, [this, finish, method] {
+        finish(QStringLiteral("rclone did not answer %1 for %2 s")
+                   .arg(method)
+                   .arg(m_idleTimeoutMs / 1000.0));
     });
+    connect(socket, &QTcpSocket::connected, this, [socket, idle, request] {
+        idle->start();
+        socket->write(request);
+    });
+    connect(socket, &QTcpSocket::bytesWritten, idle, qOverload<>(&QTimer::start));
+    connect(socket, &QTcpSocket::readyRead, this,
+        [socket, idle, answer, errorBody, part, finish, outcome, method] {
+            idle->start();
+            const QByteArray bytes = answer->take(socket->readAll());
+            if (answer->overlong()) {
+                finish(givenUp(method,
+                    QStringLiteral("a line longer than %1 KiB").arg(HttpAnswer::kMaxLine >> 10)));
+                return;
+            }
+            if (answer->status() == 200) {
+                if (const QString error = part(bytes); !error.isEmpty()) {
+                    finish(error);
+                    return;
+                }
+            } else if (errorBody->size() < JsonEntryStream::kMaxPending) {
+                errorBody->append(bytes);
+            }
+            if (answer->complete())
+                finish(outcome({}));
+        });
     connect(socket, &QTcpSocket::disconnected, this,
-        [socket, answer, end] { end(socket->errorString()); });
+        [socket, finish, outcome] { finish(outcome(socket->errorString())); });
     connect(socket, &QTcpSocket::errorOccurred, this,
-        [socket, end](QAbstractSocket::SocketError error) {
+        [socket, finish, outcome](QAbstractSocket::SocketError error) {
             // The daemon closing the connection after the answer is the normal end.
             if (error != QAbstractSocket::RemoteHostClosedError)
-                end(socket->errorString());
+                finish(outcome(socket->errorString()));
         });
+    idle->start();
     socket->connectToHost(QHostAddress(m_base.host()), quint16(m_base.port()));
 }
 
@@ -234,12 +262,13 @@ void RcloneClient::abortAll()
         socket->abort();
         socket->deleteLater();
     }
-    const QList<QPointer<QNetworkReply>> replies = std::exchange(m_replies, {});
-    for (const QPointer<QNetworkReply> &reply : replies) {
-        if (!reply)
-            continue;
-        reply->disconnect(this);
-        reply->abort();
-        reply->deleteLater();
+    const QList<std::shared_ptr<Job>> jobs = std::exchange(m_jobs, {});
+    for (const std::shared_ptr<Job> &job : jobs) {
+        job->dropped = true;
+        // The job would otherwise go on in the daemon, listing or fetching for nobody.
+        if (job->id > 0)
+            send(
+                QStringLiteral("job/stop"), job->method, {{"jobid", job->id}},
+                [](const QByteArray &) { return QString(); }, [](const QString &) {});
     }
 }

@@ -3,10 +3,14 @@
 
 #include "app/TLogger.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QHostAddress>
+#include <QProcessEnvironment>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -38,6 +42,15 @@ quint16 freePort()
     if (!probe.listen(QHostAddress::LocalHost, 0))
         return 0;
     return probe.serverPort();
+}
+
+// rclone's own marks of a line that tells what went wrong.
+bool isErrorLine(const QString &line)
+{
+    static const QLatin1String marks[] {QLatin1String("ERROR :"), QLatin1String("CRITICAL:"),
+        QLatin1String("Failed to"), QLatin1String("Fatal error")};
+    return std::any_of(std::begin(marks), std::end(marks),
+        [&line](QLatin1String mark) { return line.contains(mark); });
 }
 
 constexpr const char *kInstallHint = "Install rclone %1.%2 or newer (Debian package \"rclone\").";
@@ -131,6 +144,8 @@ void RcloneProcess::readErrorLines()
         if (line.isEmpty())
             continue;
         m_lastLine = line;
+        if (isErrorLine(line))
+            m_lastErrorLine = line;
         // The OAuth sign-in of a remote being created tells where it waits.
         static const QLatin1String marker("go to the following link: ");
         if (const qsizetype at = line.indexOf(marker); at >= 0) {
@@ -145,6 +160,12 @@ QString RcloneProcess::lastErrorLine()
 {
     readErrorLines();
     const QString partial = QString::fromUtf8(m_partialLine).trimmed();
+    // A notice logged after the error (a retry, a shutdown step) does not say what went
+    // wrong.
+    if (isErrorLine(partial))
+        return partial;
+    if (!m_lastErrorLine.isEmpty())
+        return m_lastErrorLine;
     return partial.isEmpty() ? m_lastLine : partial;
 }
 
@@ -160,8 +181,19 @@ QString RcloneProcess::start(const RcloneSettings &settings)
     QDir().mkpath(QFileInfo(settings.configFile).absolutePath());
     m_partialLine.clear();
     m_lastLine.clear();
+    m_lastErrorLine.clear();
     m_user = randomToken();
     m_password = randomToken();
+    // Any local user can read a command line; the environment only its owner. The
+    // remote-control settings of the user's own environment (no authentication, a job
+    // expiry shorter than a poll) must not reach this daemon.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString &name : environment.keys())
+        if (name.startsWith(QLatin1String("RCLONE_RC_")))
+            environment.remove(name);
+    environment.insert(QStringLiteral("RCLONE_RC_USER"), QString::fromLatin1(m_user));
+    environment.insert(QStringLiteral("RCLONE_RC_PASS"), QString::fromLatin1(m_password));
+    m_process.setProcessEnvironment(environment);
     QString problem;
     // A few tries in case another program takes the free port first.
     for (int attempt = 0; attempt < 3; ++attempt) {
@@ -172,10 +204,8 @@ QString RcloneProcess::start(const RcloneSettings &settings)
         m_stopping = true;
         m_process.start(program,
             {QStringLiteral("rcd"), QStringLiteral("--rc-addr"),
-                QStringLiteral("127.0.0.1:%1").arg(port), QStringLiteral("--rc-user"),
-                QString::fromLatin1(m_user), QStringLiteral("--rc-pass"),
-                QString::fromLatin1(m_password), QStringLiteral("--config"), settings.configFile,
-                QStringLiteral("--log-level"), QStringLiteral("NOTICE")});
+                QStringLiteral("127.0.0.1:%1").arg(port), QStringLiteral("--config"),
+                settings.configFile, QStringLiteral("--log-level"), QStringLiteral("NOTICE")});
         if (!m_process.waitForStarted(10000))
             return QStringLiteral("rclone could not be started (%1): %2")
                 .arg(program, m_process.errorString());

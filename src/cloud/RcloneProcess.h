@@ -64,4 +64,5 @@ private:
     bool m_stopping = false;
     QByteArray m_partialLine;
     QString m_lastLine;
+    QString m_lastErrorLine;
 };

@@ -3,12 +3,21 @@
 
 #include "app/DataDirectory.h"
 #include "app/TLogger.h"
+#include "engine/FileStamp.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <limits>
 #include <sqlite3.h>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 #include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
@@ -20,15 +29,20 @@ namespace {
 
 // "VKC1" in the file header: a file without it was not written by this program.
 constexpr int kApplicationId = 0x564B4331;
-// 1: content keys only; 2: picture measures beside them (a cache of 1 is extended).
-constexpr int kSchemaVersion = 2;
+// 1: content keys only; 2: picture measures beside them; 3: the same, stored only from
+// files that had settled when read. The rows of 1 and 2 may hold keys of files a mapped
+// write changed behind their times: they are dropped, the tables kept.
+constexpr int kSchemaVersion = 3;
 const char *const kPictureTable
     = "CREATE TABLE pictures(device INTEGER NOT NULL, inode INTEGER NOT NULL, measure INTEGER "
       "NOT NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime INTEGER NOT NULL, width "
       "INTEGER NOT NULL, height INTEGER NOT NULL, rows INTEGER NOT NULL, cols INTEGER NOT NULL, "
       "type INTEGER NOT NULL, data BLOB NOT NULL, seen INTEGER NOT NULL, checksum INTEGER NOT "
       "NULL, PRIMARY KEY(device, inode, measure))";
-constexpr int kBusyMs = 5000;
+// Short, so that a lock let go is taken soon after.
+constexpr int kBusyStepMs = 10;
+std::atomic<int> busyGiveUpCount {0};
+std::atomic<qint64> lastBusyGiveUpMs {std::numeric_limits<qint64>::min() / 2};
 constexpr int kSampledFlag = 1;
 constexpr int kFullFlag = 2;
 const char *const kSuffixes[] = {"", "-wal", "-shm"};
@@ -44,6 +58,28 @@ qint64 rowCheck(const ContentKeyCache::Stamp &stamp, quint64 sampled, quint64 fu
     const quint64 fields[] = {stamp.device, stamp.inode, quint64(stamp.size),
         quint64(stamp.modifiedNs), quint64(stamp.changedNs), sampled, full, quint64(flags)};
     return qint64(XXH3_64bits(fields, sizeof fields));
+}
+
+qint64 nowNs()
+{
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(
+        std::chrono::system_clock::now().time_since_epoch())
+        .count();
+}
+
+// (device, inode) of the file at path; zeros when there is none or it cannot be told.
+std::pair<quint64, quint64> identityOf(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::stat(QFile::encodeName(path).constData(), &info) == 0)
+        return {quint64(info.st_dev), quint64(info.st_ino)};
+#else
+    Q_UNUSED(path)
+#endif
+    return {0, 0};
 }
 
 bool isDamage(int code)
@@ -70,6 +106,11 @@ qint64 ContentKeyCache::sizeOnDisk(const QString &path)
     for (const char *suffix : {"", "-wal"})
         total += QFileInfo(path + QLatin1String(suffix)).size();
     return total;
+}
+
+int ContentKeyCache::busyGiveUps()
+{
+    return busyGiveUpCount.load();
 }
 
 bool ContentKeyCache::clear(const QString &path)
@@ -108,6 +149,39 @@ bool ContentKeyCache::exec(const char *sql)
     return false;
 }
 
+int ContentKeyCache::onBusy(void *self, int)
+{
+    return static_cast<ContentKeyCache *>(self)->waitForLock() ? 1 : 0;
+}
+
+bool ContentKeyCache::waitForLock()
+{
+    if (m_busyWaitedMs < kBusyBudgetMs) {
+        QElapsedTimer slept;
+        slept.start();
+        QThread::msleep(std::min(kBusyStepMs, kBusyBudgetMs - m_busyWaitedMs));
+        m_busyWaitedMs += std::max(1, int(slept.elapsed()));
+        return true;
+    }
+    if (!std::exchange(m_busyGivenUp, true)) {
+        busyGiveUpCount.fetch_add(1);
+        lastBusyGiveUpMs.store(QDateTime::currentMSecsSinceEpoch());
+        splog_d(QStringLiteral("[ContentKeyCache]: %1 stayed locked for %2 ms (by another scan or "
+                               "program); this scan goes on without it.")
+                    .arg(m_path)
+                    .arg(kBusyBudgetMs));
+    }
+    return false;
+}
+
+bool ContentKeyCache::usable()
+{
+    // Given up inside a call of SQLite's, closed at the next one.
+    if (m_busyGivenUp && m_db)
+        close();
+    return m_db != nullptr;
+}
+
 void ContentKeyCache::close()
 {
     sqlite3_finalize(m_select);
@@ -127,8 +201,11 @@ bool ContentKeyCache::open()
         close();
         return false;
     }
+    m_identity = identityOf(m_path);
     sqlite3_extended_result_codes(m_db, 1);
-    sqlite3_busy_timeout(m_db, kBusyMs);
+    if (QDateTime::currentMSecsSinceEpoch() - lastBusyGiveUpMs.load() < kBusyQuietMs)
+        m_busyWaitedMs = kBusyBudgetMs;
+    sqlite3_busy_handler(m_db, &ContentKeyCache::onBusy, this);
     // A cache lost with the last commit before a power cut costs only reads: the log is
     // not flushed at every commit.
     sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
@@ -137,21 +214,6 @@ bool ContentKeyCache::open()
 
 bool ContentKeyCache::prepareSchema()
 {
-    // The switch to the write-ahead log takes an exclusive lock without waiting for a
-    // busy one, so a second process starting at the same moment tries again.
-    int code = SQLITE_BUSY;
-    for (int attempt = 0; attempt < 50 && (code & 0xFF) == SQLITE_BUSY; ++attempt) {
-        if (attempt)
-            QThread::msleep(20);
-        code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
-    }
-    if (code != SQLITE_OK) {
-        if (isDamage(code))
-            reject("not a database");
-        else
-            close();
-        return m_db != nullptr;
-    }
     const auto pragma = [this](const char *sql, int &value) {
         sqlite3_stmt *statement = nullptr;
         int result = sqlite3_prepare_v2(m_db, sql, -1, &statement, nullptr);
@@ -164,7 +226,8 @@ bool ContentKeyCache::prepareSchema()
         return result;
     };
     // Read and, for a new file, written in one write transaction: two processes creating
-    // the cache at once must not both lay out its tables.
+    // the cache at once must not both lay out its tables. The file is still in whatever
+    // journal mode it came in, so one that is refused is set aside as it was found.
     const int generation = m_generation;
     if (!exec("BEGIN IMMEDIATE")) {
         // Busy past the wait: this scan does without. Damaged: exec() started anew.
@@ -175,11 +238,14 @@ bool ContentKeyCache::prepareSchema()
     int id = 0;
     int version = 0;
     int tables = 0;
-    code = pragma("PRAGMA application_id", id);
+    int pictureTables = 0;
+    int code = pragma("PRAGMA application_id", id);
     if (code == SQLITE_OK)
         code = pragma("PRAGMA user_version", version);
     if (code == SQLITE_OK)
         code = pragma("SELECT count(*) FROM sqlite_master", tables);
+    if (code == SQLITE_OK)
+        code = pragma("SELECT count(*) FROM sqlite_master WHERE name = 'pictures'", pictureTables);
     if (code != SQLITE_OK) {
         exec("ROLLBACK");
         // Only damage sets the file aside; a passing read error leaves it for the next scan.
@@ -189,50 +255,62 @@ bool ContentKeyCache::prepareSchema()
             close();
         return m_db != nullptr;
     }
+    const QByteArray setVersion = "PRAGMA user_version=" + QByteArray::number(kSchemaVersion);
+    const char *refusal = nullptr;
+    bool laidOut = true;
     if (id == 0 && version == 0 && tables == 0) {
-        const bool created = exec("CREATE TABLE keys(device INTEGER NOT NULL, inode INTEGER NOT "
-                                  "NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime "
-                                  "INTEGER NOT NULL, sampled INTEGER NOT NULL, full INTEGER NOT "
-                                  "NULL, flags INTEGER NOT NULL, seen INTEGER NOT NULL, "
-                                  "checksum INTEGER NOT NULL, PRIMARY KEY(device, inode)) "
-                                  "WITHOUT ROWID")
+        laidOut = exec("CREATE TABLE keys(device INTEGER NOT NULL, inode INTEGER NOT "
+                       "NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime "
+                       "INTEGER NOT NULL, sampled INTEGER NOT NULL, full INTEGER NOT "
+                       "NULL, flags INTEGER NOT NULL, seen INTEGER NOT NULL, "
+                       "checksum INTEGER NOT NULL, PRIMARY KEY(device, inode)) "
+                       "WITHOUT ROWID")
             && exec(kPictureTable)
             && exec(QByteArray("PRAGMA application_id=" + QByteArray::number(kApplicationId))
                         .constData())
-            && exec(
-                QByteArray("PRAGMA user_version=" + QByteArray::number(kSchemaVersion)).constData())
-            && exec("COMMIT");
-        if (!created) {
-            if (m_db)
-                exec("ROLLBACK");
-            close();
-            return false;
-        }
-    } else if (id == kApplicationId && version == 1) {
-        // The key table stays as it is; the picture table joins it.
-        const bool extended = exec(kPictureTable)
-            && exec(
-                QByteArray("PRAGMA user_version=" + QByteArray::number(kSchemaVersion)).constData())
-            && exec("COMMIT");
-        if (!extended) {
-            if (m_db)
-                exec("ROLLBACK");
-            close();
-            return false;
-        }
+            && exec(setVersion.constData()) && exec("COMMIT");
+    } else if (id != kApplicationId) {
+        refusal = "not a cache of this program";
+    } else if (version > kSchemaVersion) {
+        refusal = "written by a newer version";
+    } else if (version < 1 || (version == 1 && pictureTables != 0)
+        || (version == 2 && pictureTables == 0)) {
+        // Never written so by any version: to be extended it would have to be guessed at.
+        refusal = "of an unknown layout";
+    } else if (version < kSchemaVersion) {
+        splog_d(QStringLiteral("[ContentKeyCache]: %1 is of layout %2; its entries are dropped.")
+                    .arg(m_path)
+                    .arg(version));
+        laidOut = (version > 1 || exec(kPictureTable)) && exec("DELETE FROM keys")
+            && exec("DELETE FROM pictures") && exec(setVersion.constData()) && exec("COMMIT");
     } else {
         exec("ROLLBACK");
-        if (id != kApplicationId) {
-            reject("not a cache of this program");
-            return m_db != nullptr;
-        }
-        if (version != kSchemaVersion) {
-            reject(version > kSchemaVersion ? "written by a newer version" : "old layout");
-            return m_db != nullptr;
-        }
+    }
+    if (refusal) {
+        exec("ROLLBACK");
+        reject(refusal);
+        return m_db != nullptr;
+    }
+    if (!laidOut) {
+        if (m_db)
+            exec("ROLLBACK");
+        close();
+        return false;
     }
     if (!m_db)
         return false;
+    // The switch to the write-ahead log takes an exclusive lock without waiting for a
+    // busy one, so a second process starting at the same moment tries again.
+    code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    while ((code & 0xFF) == SQLITE_BUSY && waitForLock())
+        code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK) {
+        if (isDamage(code))
+            reject("damaged");
+        else
+            close();
+        return m_db != nullptr;
+    }
     code = sqlite3_prepare_v3(m_db,
         "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum FROM keys WHERE "
         "device = ? AND inode = ?",
@@ -250,18 +328,28 @@ void ContentKeyCache::reject(const char *why)
     if (m_setAside)
         return; // A file just created and still refused: do without a cache this time.
     m_setAside = true;
-    splog_d(QStringLiteral("[ContentKeyCache]: %1 is %2; set aside and started anew.")
-                .arg(m_path, QLatin1String(why)));
-    const QString aside = setAsidePath(m_path);
-    for (const char *suffix : kSuffixes) {
-        const QString from = m_path + QLatin1String(suffix);
-        const QString to = aside + QLatin1String(suffix);
-        QFile::remove(to);
-        if (QFileInfo::exists(from) && !QFile::rename(from, to))
-            QFile::remove(from);
+    // Another user of the cache (a second connection of this scan, another program) that
+    // met the same fault may have set the file aside and started a new one already: the
+    // new one must not go aside in place of the original.
+    const bool replaced
+        = m_identity.second != 0 && QFileInfo::exists(m_path) && identityOf(m_path) != m_identity;
+    if (replaced) {
+        splog_d(QStringLiteral("[ContentKeyCache]: %1 is %2, and was set aside already.")
+                    .arg(m_path, QLatin1String(why)));
+    } else {
+        splog_d(QStringLiteral("[ContentKeyCache]: %1 is %2; set aside and started anew.")
+                    .arg(m_path, QLatin1String(why)));
+        const QString aside = setAsidePath(m_path);
+        for (const char *suffix : kSuffixes) {
+            const QString from = m_path + QLatin1String(suffix);
+            const QString to = aside + QLatin1String(suffix);
+            QFile::remove(to);
+            if (QFileInfo::exists(from) && !QFile::rename(from, to))
+                QFile::remove(from);
+        }
     }
     // A file that can neither be moved nor removed is never opened again by this object.
-    if (!QFileInfo::exists(m_path))
+    if (replaced || !QFileInfo::exists(m_path))
         open();
 }
 
@@ -309,9 +397,10 @@ namespace {
 
 // Merges one stretch of a key-ordered pass over the table (statement: the row columns of
 // the select below) with the files order[begin, end) in the same order; calls found for
-// each stored one. The step's last result, or SQLITE_CORRUPT for a row failing its check.
+// each stored one that has settled at readNs. The step's last result, or SQLITE_CORRUPT for a row
+// failing its check.
 int mergeRows(sqlite3_stmt *statement, const std::vector<quint32> &order, size_t begin, size_t end,
-    const std::function<ContentKeyCache::Stamp(size_t)> &stampOf,
+    qint64 readNs, const std::function<ContentKeyCache::Stamp(size_t)> &stampOf,
     const std::function<void(size_t, const ContentKeyCache::Entry &)> &found)
 {
     size_t next = begin;
@@ -339,7 +428,8 @@ int mergeRows(sqlite3_stmt *statement, const std::vector<quint32> &order, size_t
         const int flags = sqlite3_column_int(statement, 5);
         if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(statement, 7))
             return SQLITE_CORRUPT;
-        if (stored == current) {
+        if (stored == current
+            && FileStamp::settled(current.modifiedNs, current.changedNs, readNs)) {
             ContentKeyCache::Entry entry {current};
             entry.found = true;
             entry.seenDay = qint32(sqlite3_column_int(statement, 6));
@@ -364,8 +454,9 @@ const char *const kScanRows = "SELECT size, mtime, ctime, sampled, full, flags, 
 bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
     const std::function<void(size_t, const Entry &)> &found)
 {
-    if (!m_db || count == 0)
+    if (!usable() || count == 0)
         return true;
+    const qint64 readNs = nowNs();
     const std::vector<quint32> order = tableOrder(count, stampOf);
     // One snapshot for the whole batch: no lock is taken per row.
     if (order.empty() || !exec("BEGIN"))
@@ -390,16 +481,18 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
         const size_t half = order.size() >= kSplitFrom ? order.size() / 2 : order.size();
         int upperCode = SQLITE_DONE;
         QThread *upper = nullptr;
+        // Its own connection waits as long as this object may still wait in all.
+        const int busyLeftMs = std::max(0, kBusyBudgetMs - m_busyWaitedMs);
         if (half < order.size()) {
             const Stamp from = stampOf(order[half]);
-            upper = QThread::create([&, from] {
+            upper = QThread::create([&, from, busyLeftMs] {
                 sqlite3 *db = nullptr;
                 sqlite3_stmt *statement = nullptr;
                 upperCode = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &db,
                     SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
                 if (upperCode == SQLITE_OK) {
                     sqlite3_extended_result_codes(db, 1);
-                    sqlite3_busy_timeout(db, kBusyMs);
+                    sqlite3_busy_timeout(db, busyLeftMs);
                     upperCode = sqlite3_prepare_v2(db,
                         (QByteArray(kScanRows)
                             + " WHERE (device, inode) >= (?, ?) ORDER BY device, inode")
@@ -409,7 +502,8 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
                 if (upperCode == SQLITE_OK) {
                     sqlite3_bind_int64(statement, 1, sqlite3_int64(from.device));
                     sqlite3_bind_int64(statement, 2, sqlite3_int64(from.inode));
-                    upperCode = mergeRows(statement, order, half, order.size(), stampOf, found);
+                    upperCode
+                        = mergeRows(statement, order, half, order.size(), readNs, stampOf, found);
                 }
                 sqlite3_finalize(statement);
                 sqlite3_close_v2(db);
@@ -421,7 +515,7 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
             (QByteArray(kScanRows) + " ORDER BY device, inode").constData(), -1, &statement,
             nullptr);
         if (code == SQLITE_OK)
-            code = mergeRows(statement, order, 0, half, stampOf, found);
+            code = mergeRows(statement, order, 0, half, readNs, stampOf, found);
         sqlite3_finalize(statement);
         if (upper) {
             upper->wait();
@@ -451,7 +545,8 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
                 const int flags = sqlite3_column_int(m_select, 5);
                 if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(m_select, 7)) {
                     code = SQLITE_CORRUPT;
-                } else if (stored == current) {
+                } else if (stored == current
+                    && FileStamp::settled(current.modifiedNs, current.changedNs, readNs)) {
                     Entry entry {current};
                     entry.found = true;
                     entry.seenDay = qint32(sqlite3_column_int(m_select, 6));
@@ -495,7 +590,7 @@ bool ContentKeyCache::prune(qint32 day)
 
 void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &stampOf)
 {
-    if (!m_db || count == 0)
+    if (!usable() || count == 0)
         return;
     const qint32 day = today();
     const std::vector<quint32> order = tableOrder(count, stampOf);
@@ -533,7 +628,7 @@ void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &st
 
 void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
 {
-    if (!m_db)
+    if (!usable())
         return;
     const qint32 day = today();
     std::vector<quint32> rows
@@ -543,8 +638,8 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
                        const Entry &entry = entries[index];
                        return !(entry.hasSampled || entry.hasFull)
                            || (!entry.fresh && (!entry.found || entry.seenDay >= day))
-                           || readNs - std::max(entry.stamp.modifiedNs, entry.stamp.changedNs)
-                           < kRacyNs;
+                           || !FileStamp::settled(
+                               entry.stamp.modifiedNs, entry.stamp.changedNs, readNs);
                    }),
         rows.end());
     // Nothing new: a scan of an unchanged tree writes nothing (and the pruning ran the day
@@ -623,8 +718,9 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
 {
     for (Picture &picture : pictures)
         picture.found = false;
-    if (!m_db || pictures.empty())
+    if (!usable() || pictures.empty())
         return;
+    const qint64 readNs = nowNs();
     sqlite3_stmt *select = nullptr;
     if (sqlite3_prepare_v2(m_db,
             "SELECT size, mtime, ctime, width, height, rows, cols, type, data, seen, checksum "
@@ -661,7 +757,8 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
             stored.seenDay = sqlite3_column_int(select, 9);
             if (pictureCheck(stored) != sqlite3_column_int64(select, 10)) {
                 damaged = true;
-            } else if (stored.stamp == picture.stamp) {
+            } else if (stored.stamp == picture.stamp
+                && FileStamp::settled(picture.stamp.modifiedNs, picture.stamp.changedNs, readNs)) {
                 picture = stored;
                 picture.found = true;
             }
@@ -690,7 +787,7 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
 
 void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64 readNs)
 {
-    if (!m_db)
+    if (!usable())
         return;
     const qint32 day = today();
     std::vector<quint32> rows
@@ -701,8 +798,8 @@ void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64
                        if (picture.found)
                            return picture.seenDay >= day;
                        return !picture.fresh || picture.data.isEmpty()
-                           || readNs - std::max(picture.stamp.modifiedNs, picture.stamp.changedNs)
-                           < kRacyNs;
+                           || !FileStamp::settled(
+                               picture.stamp.modifiedNs, picture.stamp.changedNs, readNs);
                    }),
         rows.end());
     if (rows.empty())

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include <QByteArray>
@@ -15,10 +16,11 @@ struct sqlite3_stmt;
 // that a second scan of an unchanged tree reads nothing again. An entry stands only for the
 // exact file it was computed from: same device and inode, same size, and the same
 // modification and change times to the nanosecond (the change time cannot be set back, so
-// an edit hidden behind a restored modification time still misses). Every row carries its
-// own check digest; a file that is no cache of ours, has a newer layout, or fails a check
-// is renamed aside and a new one started: a cache can only spare reads, never decide a
-// group. Several processes may use one file at once (write-ahead log, busy wait).
+// an edit hidden behind a restored modification time still misses), and only for a file
+// that had settled (FileStamp::settled) when it was read. Every row carries its own check
+// digest; a file that is no cache of ours, has a newer layout, or fails a check is renamed
+// aside and a new one started: a cache can only spare reads, never decide a group. Several
+// processes may use one file at once (write-ahead log, busy wait of at most kBusyBudgetMs).
 // One object belongs to one thread.
 class ContentKeyCache
 {
@@ -82,9 +84,12 @@ public:
         bool fresh = false;
     };
 
-    // A file modified or changed this recently before it was read may be written again
-    // within the file system's time step without any time stamp moving.
-    static constexpr qint64 kRacyNs = 2'000'000'000LL;
+    // The waits for another's lock, summed over an object's life, end here; the scan then
+    // goes on without the cache, since the other may hold the lock for hours.
+    static constexpr int kBusyBudgetMs = 2000;
+    // After one object gave up, the others of this process do not wait for this long: the
+    // several users of the cache in one scan share one wait.
+    static constexpr int kBusyQuietMs = 60000;
     // Entries of files not seen by any scan for this long are dropped.
     static constexpr int kKeepDays = 90;
 
@@ -96,6 +101,8 @@ public:
     // Empties the cache and gives its room back, through the same locks as every scan;
     // false when it could not (a scan of another process kept it busy).
     static bool clear(const QString &path);
+    // How often an object of this process gave the cache up for another's lock.
+    static int busyGiveUps();
 
     explicit ContentKeyCache(const QString &path);
     ~ContentKeyCache();
@@ -106,8 +113,8 @@ public:
     // Whether this object had to set a cache file aside.
     bool setAside() const { return m_setAside; }
 
-    // Fills every entry whose exact stamp is stored, in one read transaction. A damaged
-    // cache is set aside and leaves every entry unfound.
+    // Fills every entry whose exact stamp is stored (and has settled by now), in one read
+    // transaction. A damaged cache is set aside and leaves every entry unfound.
     void lookup(std::vector<Entry> &entries);
     // The same for count files whose stamps stampOf(i) gives (size -1: not looked up),
     // without an entry per file: found(i, entry) is called for each stored one, from two
@@ -119,14 +126,14 @@ public:
     // Fills every picture whose exact stamp and measure are stored, in one read
     // transaction; a damaged cache is set aside and leaves every picture unfound.
     void lookupPictures(std::vector<Picture> &pictures);
-    // Writes the fresh pictures (unless modified within kRacyNs of readNs, the time their
-    // stamps were taken) and marks found ones as seen today, in one write transaction.
+    // Writes the fresh pictures (unless not settled at readNs, the time their stamps were
+    // taken) and marks found ones as seen today, in one write transaction.
     void storePictures(const std::vector<Picture> &pictures, qint64 readNs);
     // Marks the stored entries of these files as seen today (an entry not seen for
     // kKeepDays is dropped), in one write transaction, and drops the old ones.
     void touch(size_t count, const std::function<Stamp(size_t)> &stampOf);
-    // Writes the entries with a key (unless they were modified within kRacyNs of readNs,
-    // the time their reading began) and marks found ones as seen today, in one write
+    // Writes the entries with a key (unless not settled at readNs, the time their reading
+    // began) and marks found ones as seen today, in one write
     // transaction; then drops entries not seen for kKeepDays. Failure leaves the cache as
     // it was.
     void store(const std::vector<Entry> &entries, qint64 readNs);
@@ -135,8 +142,13 @@ private:
     bool open();
     bool prepareSchema();
     void close();
+    // Closes a connection given up for another's lock; whether one is open.
+    bool usable();
     // Renames the file (and its log) aside and starts a new one.
     void reject(const char *why);
+    // SQLite's busy handler: waits a step while the budget lasts.
+    static int onBusy(void *self, int count);
+    bool waitForLock();
     bool exec(const char *sql);
     static std::vector<quint32> tableOrder(
         size_t count, const std::function<Stamp(size_t)> &stampOf);
@@ -147,6 +159,10 @@ private:
     sqlite3 *m_db = nullptr;
     sqlite3_stmt *m_select = nullptr;
     bool m_setAside = false;
+    // The file this object opened (device, inode), told from one put in its place since.
+    std::pair<quint64, quint64> m_identity;
+    int m_busyWaitedMs = 0;
+    bool m_busyGivenUp = false;
     // Counts the files opened, so that a caller can tell whether a failure started anew.
     int m_generation = 0;
 };

@@ -1118,9 +1118,7 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
         stamp.changedNs = stat.changedNs;
         stamp.device = folder.device;
         stamp.inode = stat.inode;
-        if (wholeContent
-            && folder.listedNs - std::max(stat.modifiedNs, stat.changedNs)
-                > ContentKeyCache::kRacyNs) {
+        if (wholeContent && FileStamp::settled(stat.modifiedNs, stat.changedNs, folder.listedNs)) {
             stamp.contentKey = key;
             stamp.hasContentKey = true;
         }

@@ -2,6 +2,9 @@
 #include "engine/FileStamp.h"
 
 #include "engine/FilePathCodec.h"
+#include "platform/Platform.h"
+
+#include <chrono>
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -43,14 +46,25 @@ FileStamp FileStamp::fromStat(const struct stat &info)
 }
 #endif
 
+qint64 FileStamp::settleNs()
+{
+    static const qint64 settle = [] {
+        bool overridden = false;
+        const qint64 ms = qEnvironmentVariableIntValue(kSettleOverride, &overridden);
+        if (overridden && ms >= 0)
+            return ms * 1'000'000LL;
+        return platform::current().dirtyPageDelayMs() * 1'000'000LL + kSettleMarginNs;
+    }();
+    return settle;
+}
+
 FileStamp FileStamp::withContentKey(const QString &path, quint64 key)
 {
-    // A write within the file system's time stamp step of the read could leave size and
-    // time as they were; two seconds covers every common file system.
-    constexpr qint64 kRacyNs = 2'000'000'000LL;
     FileStamp stamp = of(path);
-    const qint64 now = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
-    if (stamp.isValid() && now - stamp.modifiedNs > kRacyNs) {
+    const qint64 now = std::chrono::duration_cast<std::chrono::nanoseconds>(
+        std::chrono::system_clock::now().time_since_epoch())
+                           .count();
+    if (stamp.isValid() && settled(stamp.modifiedNs, stamp.changedNs, now)) {
         stamp.contentKey = key;
         stamp.hasContentKey = true;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
+
 #include <QString>
 
 struct stat;
@@ -39,6 +41,23 @@ struct FileStamp
             && changedNs == current.changedNs;
     }
 
+    // A key of a file's content stands for it later only when the file was left alone
+    // long enough before the read: a write through a shared memory mapping to a page that
+    // is dirty already changes the file without moving either time until the page has been
+    // written back, while a write after that moves the change time, which nobody can set
+    // back. The margin covers the time stamps' step and the write-back's own lag.
+    static constexpr qint64 kSettleMarginNs = 5'000'000'000LL;
+    // The platform's dirty-page delay plus the margin, read once. Tests of the cache set it
+    // (in milliseconds) through this environment variable: they cannot set a change time
+    // back, and would otherwise wait out the kernel's delay after writing their files.
+    static constexpr const char *kSettleOverride = "VELTRINE_KEY_SETTLE_MS";
+    static qint64 settleNs();
+    // Whether a key of content read at readNs from a file with these times may be kept.
+    static bool settled(qint64 modifiedNs, qint64 changedNs, qint64 readNs)
+    {
+        return readNs - std::max(modifiedNs, changedNs) > settleNs();
+    }
+
     // The stamp of a regular file at path (the link itself is not followed); an invalid
     // stamp when there is no regular file there.
     static FileStamp of(const QString &path);
@@ -47,6 +66,6 @@ struct FileStamp
     static FileStamp fromStat(const struct stat &info);
 #endif
     // The same, carrying the whole-content key the scan just computed, unless the file
-    // was modified so recently that a later write could still share its time stamp.
+    // has not settled().
     static FileStamp withContentKey(const QString &path, quint64 key);
 };

@@ -47,6 +47,12 @@ public:
     // endless, change while read, or block. Empty where there is no such thing.
     virtual std::vector<unsigned long long> pseudoFileSystemDevices() const = 0;
 
+    // How long, in milliseconds, writes through a shared memory mapping can go on changing
+    // a file without moving its modification or change time: the times are set when a page
+    // first turns dirty, and a write to a page that is dirty already sets nothing until the
+    // page has been written back (Linux: the dirty expiry plus the write-back interval).
+    virtual long long dirtyPageDelayMs() const = 0;
+
     // Removal. Each call returns 0 on success or the system's error code (errno on
     // Linux, a Win32 error on Windows), which errorText() turns into the system's words.
 

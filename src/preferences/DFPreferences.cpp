@@ -19,6 +19,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMap>
 #include <QMetaEnum>
 #include <QMetaProperty>
@@ -161,8 +162,26 @@ DFPreferences::DFPreferences(const QString &settingsPath, QObject *parent)
     , m_ignoreList(new DFIgnoreListPreferences)
     , m_selection(new DFSelectionPreferences)
     , m_settingsPath(settingsPath)
+    , m_fileProblem(notSettingsFile(settingsPath))
 {
-    load();
+    if (m_fileProblem.isEmpty()) {
+        load();
+        return;
+    }
+    const QString words = QStringLiteral("The settings file %1 %2: the default settings are used "
+                                         "and no settings are saved.")
+                              .arg(m_settingsPath, m_fileProblem);
+    splog_d(QStringLiteral("[DFPreferences]: ") + words);
+    qWarning().noquote() << words;
+}
+
+QString DFPreferences::notSettingsFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists() || info.isFile())
+        return {};
+    return info.isDir() ? QStringLiteral("is a folder")
+                        : QStringLiteral("is not a regular file (a pipe, socket or device)");
 }
 
 DFPreferences::~DFPreferences()
@@ -221,6 +240,8 @@ void DFPreferences::keepCopyOfFile() const
 
 void DFPreferences::save()
 {
+    if (!m_fileProblem.isEmpty())
+        return;
     QSettings settings(m_settingsPath, QSettings::IniFormat);
     saveGroup(settings, m_ignoreList, kCommonGroup);
     saveGroup(settings, m_selection, kDuplicateGroup);
@@ -330,6 +351,8 @@ QString DFPreferences::settingsFilePath()
     if (!QDir(folder).exists())
         QDir().mkpath(folder);
     const QString path = folder + kFileName;
+    if (!notSettingsFile(path).isEmpty())
+        return path;
 
     // Append mode, so probing never truncates an existing file.
     QFile probe(path);

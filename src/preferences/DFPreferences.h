@@ -31,8 +31,16 @@ public:
     DFIgnoreListPreferences *ignoreListPreferences() const { return m_ignoreList; }
     DFSelectionPreferences *selectionPreferences() const { return m_selection; }
     QString settingsPath() const { return m_settingsPath; }
+    // Why the settings file is not used: something other than a regular file (a folder, a
+    // pipe, a device) stands at its path. The store then runs on the defaults and writes
+    // no settings anywhere. Empty when the file is used.
+    QString fileProblem() const { return m_fileProblem; }
+    // Why path cannot hold the settings file, without opening it (opening a pipe would wait
+    // for a writer); empty when a regular file or nothing is there.
+    static QString notSettingsFile(const QString &path);
 
-    // Writes the three groups to the file ("Common", "Duplicate_files", "Similar_images").
+    // Writes the three groups to the file ("Common", "Duplicate_files", "Similar_images"),
+    // unless fileProblem() says it is not one.
     void save();
 
     // Reflective reader and writer of one group. "Duplicate_files" also reads and writes
@@ -44,7 +52,9 @@ public:
     static void saveGroup(QSettings &settings, QObject *group, const QString &name);
 
     // "<generic config>/Veltrine/Veltrine Duplicate Finder/preferences.cfg", or, when
-    // that cannot be written, the same file name in a folder on another fixed disk.
+    // that cannot be written, the same file name in a folder on another fixed disk. Not
+    // when something other than a file stands there: that is the user's to sort out, and
+    // the settings are not moved away behind their back.
     static QString settingsFilePath();
 
     // The first folder "<root>/Veltrine Duplicate Finder" that exists or can be created,
@@ -63,4 +73,5 @@ private:
     DFIgnoreListPreferences *m_ignoreList = nullptr;
     DFSelectionPreferences *m_selection = nullptr;
     QString m_settingsPath;
+    QString m_fileProblem;
 };

@@ -3,6 +3,7 @@
 #include "ReportGroups.h"
 #include "TestEnvironment.h"
 #include "engine/ContentKeyCache.h"
+#include "engine/FileStamp.h"
 #include "engine/ScanTree.h"
 
 #include <fcntl.h>
@@ -30,6 +31,8 @@ class TestCli : public QObject
 private slots:
     void initTestCase()
     {
+        // The scans this test runs store the keys of files two seconds old.
+        qputenv(FileStamp::kSettleOverride, "2000");
         m_root = m_dir.path();
         const QByteArray big = ScanTree::pattern(30000, 1);
         QByteArray trap = big;
@@ -238,7 +241,7 @@ private slots:
                          {qEnvironmentVariable("VELTRINE_TEST_SHARED") + "/bench/make_tree.py",
                              "--preset", "small", "-q", tree}),
                 0);
-            QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
+            QThread::msleep(FileStamp::settleNs() / 1'000'000 + 100);
         }
         const QStringList scan {"scan", "--json", "--select", "none", "--method", method, tree};
         const auto keys = [](const CliRun &run, const char *source) {

@@ -3,6 +3,8 @@
 #include "app/FileTypeCatalogue.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
+#include "cloud/RcloneClient.h"
+#include "cloud/RcloneProcess.h"
 #include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 #include "preferences/DFGenernalPreferences.h"
@@ -358,6 +360,45 @@ private slots:
             qPrintable(reason));
     }
 
+    void credentialsStayOffTheCommandLine()
+    {
+        // Any local user can read a command line.
+        RcloneProcess daemon;
+        QCOMPARE(daemon.start({QString(), m_data.filePath("rclone/rclone.conf")}), QString());
+        QFile commandLine(QStringLiteral("/proc/%1/cmdline").arg(daemon.processId()));
+        QVERIFY(commandLine.open(QIODevice::ReadOnly));
+        const QByteArray arguments = commandLine.readAll();
+        QVERIFY(arguments.contains("rcd"));
+        QVERIFY(!arguments.contains(daemon.password()) && !arguments.contains(daemon.user()));
+        // rclone took them all the same: it answers with them only.
+        const auto answer = [&](const QByteArray &password) {
+            RcloneClient client;
+            client.setEndpoint(daemon.baseUrl(), daemon.user(), password);
+            QString error = QStringLiteral("no answer");
+            client.call("rc/noop", {}, [&](const QJsonObject &, const QString &e) { error = e; });
+            return QTest::qWaitFor([&] { return error != "no answer"; }, 20000) ? error : "";
+        };
+        QCOMPARE(answer(daemon.password()), QString());
+        QVERIFY(answer("wrong").contains("401"));
+    }
+
+    void deathQuotesRclonesError()
+    {
+        // The error rclone logged says why it stopped, not a notice logged after it.
+        QTemporaryDir bin;
+        const QString script = fakeRclone(bin,
+            "[ \"$1\" = rcd ] && echo '2024/01/01 00:00:00 ERROR : here: token expired' >&2 "
+            "&& echo '2024/01/01 00:00:01 NOTICE: here: retrying' >&2\n"
+            "exec rclone \"$@\"");
+        RcloneProcess daemon;
+        QSignalSpy died(&daemon, &RcloneProcess::died);
+        QCOMPARE(daemon.start({script, m_data.filePath("rclone/rclone.conf")}), QString());
+        ::kill(pid_t(daemon.processId()), SIGKILL);
+        QVERIFY(died.wait(20000));
+        const QString reason = died.first().first().toString();
+        QVERIFY2(reason.endsWith("ERROR : here: token expired"), qPrintable(reason));
+    }
+
     void unusableRclone_data()
     {
         QTest::addColumn<QByteArray>("script");
@@ -369,6 +410,10 @@ private slots:
             << QByteArray("[ \"$1\" = version ] && echo 'rclone v1.60.1' && exit 0\n"
                           "echo 'Fatal error: bad rc address' >&2; exit 1")
             << "rclone failed to start: Fatal error: bad rc address";
+        QTest::newRow("fails to start, a notice after its error")
+            << QByteArray("[ \"$1\" = version ] && echo 'rclone v1.60.1' && exit 0\n"
+                          "echo 'ERROR : here: bad flag' >&2; echo 'NOTICE: exiting' >&2; exit 1")
+            << "rclone failed to start: ERROR : here: bad flag";
     }
 
     void unusableRclone()

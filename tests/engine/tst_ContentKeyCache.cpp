@@ -4,6 +4,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "engine/ContentKeyCache.h"
 #include "engine/DuplicateFileFinder.h"
+#include "engine/FileStamp.h"
 #include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
 
@@ -120,11 +121,12 @@ class TestContentKeyCache : public QObject
 private slots:
     void initTestCase()
     {
+        qputenv(FileStamp::kSettleOverride, "2000");
         for (const char *row : {"unchanged", "rewritten", "replaced", "racy"})
             for (const char *how : {"", " walked"})
                 writeTree(m_dir.filePath(QLatin1String(row) + QLatin1String(how)));
-        for (const char *row :
-            {"not a database", "foreign database", "newer layout", "damaged row", "keys only"})
+        for (const char *row : {"not a database", "foreign database", "newer layout", "damaged row",
+                 "keys only", "layout 2", "keys only with pictures"})
             writeTree(m_dir.filePath(QLatin1String(row)));
         // More candidates than one run of folders takes, in 170 folders of 200 files: 17,000
         // pairs of one size.
@@ -140,8 +142,8 @@ private slots:
             QVERIFY(cv::imwrite(QFile::encodeName(root + "/c.png").toStdString(),
                 fixtures::makeScene(320, 240, 12)));
         }
-        // Files younger than the racy window are never stored; the trees must age past it.
-        QThread::msleep(ContentKeyCache::kRacyNs / 1'000'000 + 100);
+        // Files that have not settled are never stored; the trees must age past it.
+        QThread::msleep(FileStamp::settleNs() / 1'000'000 + 100);
     }
 
     void stampDecides_data()
@@ -176,7 +178,7 @@ private slots:
         }
         if (!QFileInfo::exists(path))
             ContentKeyCache(path).store(
-                stored, stored[0].stamp.changedNs + ContentKeyCache::kRacyNs);
+                stored, stored[0].stamp.changedNs + FileStamp::settleNs() + 1);
         ContentKeyCache::Stamp stamp = stored[200].stamp;
         qint64 *fields[]
             = {reinterpret_cast<qint64 *>(&stamp.device), reinterpret_cast<qint64 *>(&stamp.inode),
@@ -250,40 +252,51 @@ private slots:
     void rejectedCacheSetAside_data()
     {
         QTest::addColumn<QString>("row");
+        QTest::addColumn<QByteArray>("damage");
         QTest::addColumn<bool>("setAside");
-        QTest::newRow("not a database") << "not a database" << true;
-        QTest::newRow("foreign database") << "foreign database" << true;
-        QTest::newRow("newer layout") << "newer layout" << true;
-        QTest::newRow("damaged row") << "damaged row" << true;
-        // A cache of the first layout (keys, no picture table) keeps its keys and gains the
-        // picture table.
-        QTest::newRow("keys only layout extended") << "keys only" << false;
+        QTest::newRow("not a database") << "not a database" << QByteArray() << true;
+        QTest::newRow("foreign database")
+            << "foreign database"
+            << QByteArray("CREATE TABLE keys(device, inode); PRAGMA user_version=1") << true;
+        QTest::newRow("newer layout")
+            << "newer layout" << QByteArray("PRAGMA user_version=99") << true;
+        // Damage that, if believed, would join the trap to the copies.
+        QTest::newRow("damaged row")
+            << "damaged row"
+            << QByteArray("UPDATE keys SET full = (SELECT full FROM keys WHERE full != 0 LIMIT "
+                          "1), sampled = (SELECT sampled FROM keys LIMIT 1)")
+            << true;
+        QTest::newRow("layout 1 holding a picture table")
+            << "keys only with pictures" << QByteArray("PRAGMA user_version=1") << true;
+        // The earlier layouts keep their tables and lose their entries: those may have been
+        // stored from files a mapped write changed behind their times.
+        QTest::newRow("layout 1 extended")
+            << "keys only" << QByteArray("DROP TABLE pictures; PRAGMA user_version=1") << false;
+        QTest::newRow("layout 2 taken on")
+            << "layout 2" << QByteArray("PRAGMA user_version=2") << false;
     }
     void rejectedCacheSetAside()
     {
         QFETCH(QString, row);
+        QFETCH(QByteArray, damage);
         QFETCH(bool, setAside);
         const QString root = m_dir.filePath(row);
         const QString cache = m_dir.filePath(row + ".sqlite");
         const QList<QStringList> expected {{"a.bin", "b.bin"}};
         if (row == "not a database") {
             ScanTree::write(m_dir.path(), row + ".sqlite", QByteArray(8192, 'x'));
-        } else if (row == "foreign database") {
-            QVERIFY(runSql(cache, "CREATE TABLE keys(device, inode); PRAGMA user_version=1"));
         } else {
-            QCOMPARE(scan(root, cache), expected);
-            // Damage that, if believed, would join the trap to the copies.
-            QVERIFY(runSql(cache,
-                row == "newer layout" ? "PRAGMA user_version=3"
-                    : row == "keys only"
-                    ? "DROP TABLE pictures; PRAGMA user_version=1"
-                    : "UPDATE keys SET full = (SELECT full FROM keys WHERE full "
-                      "!= 0 LIMIT 1), sampled = (SELECT sampled FROM keys LIMIT 1)"));
+            if (row != "foreign database")
+                QCOMPARE(scan(root, cache), expected);
+            QVERIFY(runSql(cache, damage.constData()));
         }
+        const QByteArray original = ScanTree::read(cache);
         qint64 taken = -1;
         QCOMPARE(scan(root, cache, &taken), expected);
-        QCOMPARE(taken, setAside ? 0 : 6);
+        QCOMPARE(taken, 0);
         QCOMPARE(QFile::exists(ContentKeyCache::setAsidePath(cache)), setAside);
+        if (setAside)
+            QVERIFY(ScanTree::read(ContentKeyCache::setAsidePath(cache)) == original);
         // The new (or extended) cache works.
         QCOMPARE(scan(root, cache, &taken), expected);
         QCOMPARE(taken, 6);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/FilePathCodec.h"
+#include "engine/FileStamp.h"
 #include "engine/ScanTree.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRestorer.h"

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -361,6 +362,45 @@ private slots:
         store.save();
         QCOMPARE(store.generalPreferences()->SimilarityValue(), 80);
         QCOMPARE(store.ignoreListPreferences()->MaxFileSize(), quint64(100000));
+    }
+
+    void notAFileLeftAlone_data()
+    {
+        QTest::addColumn<bool>("pipe");
+        QTest::addColumn<QString>("problem");
+        // Opening a pipe waits for a writer; a folder made the file move to another disk.
+        QTest::newRow("a named pipe") << true << "is not a regular file";
+        QTest::newRow("a folder") << false << "is a folder";
+    }
+    void notAFileLeftAlone()
+    {
+        QFETCH(bool, pipe);
+        QFETCH(QString, problem);
+        const QByteArray savedHome = qgetenv("XDG_CONFIG_HOME");
+        QTemporaryDir home;
+        const QString folder = home.filePath("Veltrine/Veltrine Duplicate Finder");
+        const QString expected = folder + "/preferences.cfg";
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(pipe ? ::mkfifo(QFile::encodeName(expected).constData(), 0600) == 0
+                     : QDir().mkdir(expected));
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+        const QString path = DFPreferences::settingsFilePath();
+        qputenv("XDG_CONFIG_HOME", savedHome);
+        QCOMPARE(path, expected);
+        {
+            DFPreferences store(path);
+            QVERIFY2(store.fileProblem().contains(problem), qPrintable(store.fileProblem()));
+            QCOMPARE(store.generalPreferences()->toJson(), DFGenernalPreferences().toJson());
+            QCOMPARE(store.ignoreListPreferences()->toJson(), DFIgnoreListPreferences().toJson());
+            store.generalPreferences()->setSimilarityValue(80);
+            store.save();
+        }
+        // Nothing written into it (a pipe's writer would still wait) or beside it.
+        QCOMPARE(QDir(folder).entryList(
+                     QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot | QDir::Hidden),
+            QStringList {"preferences.cfg"});
+        QCOMPARE(QFileInfo(expected).isDir(), !pipe);
+        QVERIFY(pipe || QDir(expected).isEmpty());
     }
 
     void instanceIsOneStoreInTheConfigFolder()

@@ -2,6 +2,7 @@
 #include "DialogAnswerer.h"
 #include "TestEnvironment.h"
 #include "engine/ContentKeyCache.h"
+#include "engine/FileStamp.h"
 #include "engine/ScanTree.h"
 #include "preferences/DFGeneralWidget.h"
 #include "preferences/DFGenernalPreferences.h"
@@ -353,7 +354,7 @@ private slots:
             stored.back().fresh = true;
         }
         const ContentKeyCache::Entry entry = stored.front();
-        ContentKeyCache(path).store(stored, ContentKeyCache::kRacyNs * 2);
+        ContentKeyCache(path).store(stored, FileStamp::settleNs() * 2);
         const qint64 before = ContentKeyCache::sizeOnDisk(path);
         QVERIFY(before > 0);
 

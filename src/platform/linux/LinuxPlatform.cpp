@@ -158,6 +158,24 @@ std::vector<unsigned long long> LinuxPlatform::pseudoFileSystemDevices() const
     return devices;
 }
 
+long long LinuxPlatform::dirtyPageDelayMs() const
+{
+    // Read once: the settings change rarely, and a scan asks for every file.
+    static const long long delay = [] {
+        const auto centiseconds = [](const char *path, long long fallback) {
+            std::ifstream in(path);
+            long long value = 0;
+            // 0 switches the periodic write-back off, and then no time bounds the delay;
+            // the kernel's default is the best guess left.
+            return (in >> value) && value > 0 ? value : fallback;
+        };
+        return (centiseconds("/proc/sys/vm/dirty_expire_centisecs", 3000)
+                   + centiseconds("/proc/sys/vm/dirty_writeback_centisecs", 500))
+            * 10;
+    }();
+    return delay;
+}
+
 int renameNoReplace(const std::string &from, const std::string &to)
 {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)

@@ -27,6 +27,7 @@ public:
     int driveTypeOf(const std::string &path) const override;
     bool isHiddenOrSystem(const std::string &path) const override;
     std::vector<unsigned long long> pseudoFileSystemDevices() const override;
+    long long dirtyPageDelayMs() const override;
     std::vector<std::string> showItemCommand(
         const std::string &path, const std::string &uri) const override;
     using Platform::moveToTrash;

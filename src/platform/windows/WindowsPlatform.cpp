@@ -268,6 +268,10 @@ public:
     // Windows mounts no kernel tables into the folder tree.
     std::vector<unsigned long long> pseudoFileSystemDevices() const override { return {}; }
 
+    // No one setting bounds the write-back of mapped pages here: a fixed minute, well past
+    // what it takes in practice.
+    long long dirtyPageDelayMs() const override { return 60000; }
+
     std::vector<std::string> showItemCommand(
         const std::string &path, const std::string &uri) const override
     {
