@@ -132,6 +132,15 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
             QTimer::singleShot(0, this, [this, project] { explainBadProjectArgument(project); });
     }
 
+    // Settings that could not be read are in force as defaults and are not written back.
+    if (const QString problem = DFPreferences::instance()->fileProblem(); !problem.isEmpty())
+        QTimer::singleShot(0, this, [this, problem] {
+            QMessageBox::warning(this, tr("Settings Not Loaded"),
+                tr("The settings file cannot be used: %1\n\nThe program runs with the default "
+                   "settings and will not save any changes there.")
+                    .arg(problem));
+        });
+
     // The marker is this window's own; the journal also tells of a batch that the command
     // line or another window left without an end.
     if (DFPreferences::instance()->ignoreListPreferences()->deleteException() == 1
