@@ -2,6 +2,7 @@
 #include "app/FileTypeCatalogue.h"
 
 #include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
 
 namespace FileTypeCatalogue {
@@ -165,6 +166,17 @@ bool isRawFormat(const QString &suffix)
 bool isHeifFormat(const QString &suffix)
 {
     return FileTypeCatalogue::heifFormats().contains(suffix, Qt::CaseInsensitive);
+}
+
+QString pictureFormatOf(const QString &suffix)
+{
+    static const QHash<QString, QString> spellings {{QStringLiteral("jpeg"), QStringLiteral("jpg")},
+        {QStringLiteral("jpe"), QStringLiteral("jpg")},
+        {QStringLiteral("jfif"), QStringLiteral("jpg")},
+        {QStringLiteral("tif"), QStringLiteral("tiff")},
+        {QStringLiteral("heif"), QStringLiteral("heic")}};
+    const QString lower = suffix.toLower();
+    return spellings.value(lower, lower);
 }
 
 bool isSimilarExcludedFormat(const QString &suffix)

@@ -54,3 +54,6 @@ bool isSimilarEntry(const QString &entry);
 bool isRawFormat(const QString &suffix);
 bool isHeifFormat(const QString &suffix);
 bool isSimilarExcludedFormat(const QString &suffix);
+// The format a picture's suffix names, in lower case, one spelling per format: "JPEG",
+// "jpe" and "jfif" are "jpg", "tif" is "tiff", "heif" is "heic".
+QString pictureFormatOf(const QString &suffix);

@@ -72,7 +72,8 @@ private:
     QStringList m_folders;
     QStringList m_cloudFolders;
     QString m_rcloneConfig;
-    int m_method = 0;
+    // The whole content by default: groups are real duplicates unless asked otherwise.
+    int m_method = 2;
     int m_selectHint = 2;
     bool m_selectAll = false;
     bool m_folderGroups = false;

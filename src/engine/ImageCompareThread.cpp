@@ -213,8 +213,9 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
     }
     ImageData *first = images.data();
     QtConcurrent::blockingMap(images, [&, this, measure](ImageData &data) {
-        data.fileType = QFileInfo(data.path).suffix().toLower();
-        if (isCancelled() || isSimilarExcludedFormat(data.fileType))
+        const QString suffix = QFileInfo(data.path).suffix();
+        data.fileType = pictureFormatOf(suffix);
+        if (isCancelled() || isSimilarExcludedFormat(suffix))
             return;
         ContentKeyCache::Picture *record = cache ? &records[size_t(&data - first)] : nullptr;
         if (record && record->found) {

@@ -12,7 +12,8 @@
 struct ImageData
 {
     QString path;
-    // Suffix in lower case, compared when only pictures of one type may be compared.
+    // The picture's format by its suffix (pictureFormatOf: one spelling per format),
+    // compared when only pictures of one type may be compared.
     QString fileType;
     // Size of the picture as decoded, before the reduction to the working size.
     qint32 width = 0;

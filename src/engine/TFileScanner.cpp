@@ -395,9 +395,10 @@ bool TFileScanner::passesFileFilters(const QString &fileName, qint64 size) const
         return true;
     const qsizetype dot = fileName.lastIndexOf(QLatin1Char('.'));
     const QString suffix = dot < 0 ? QString() : fileName.mid(dot + 1).toLower();
-    if (!onlyTypes.isEmpty() && !onlyTypes.contains(suffix))
+    // The lists hold what the user typed: "JPG" and "jpg" are one format.
+    if (!onlyTypes.isEmpty() && !onlyTypes.contains(suffix, Qt::CaseInsensitive))
         return false;
-    return !ignoreTypes.contains(suffix);
+    return !ignoreTypes.contains(suffix, Qt::CaseInsensitive);
 }
 
 void TFileScanner::reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size,

@@ -58,7 +58,9 @@ public:
     void setSimilarSelectHint(DFSelectionHint value) { m_similarSelectHint = value; }
 
 private:
-    DFScanMethod m_scanMethod = scanContent;
+    // A new settings file compares whole contents, so that a group is a real duplicate;
+    // a file that holds another choice keeps it.
+    DFScanMethod m_scanMethod = scanAllContent;
     DFSelectionHint m_selectDuplicate = autoSelect;
     QMap<QString, qint32> m_mapPriority;
     bool m_scanDupDirectory = false;

@@ -485,6 +485,17 @@ void ResultForm::setActiveDeleteAction(QAction *newAction)
         // icon of its own would take the indicator's place and hide the mark.
         newAction->setChecked(true);
     }
+    // The button says what a click does.
+    if (newAction == m_actPermanent) {
+        ui->btn_delete->setText(tr("Remove permanently…"));
+        ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_DialogDiscardButton));
+    } else if (newAction == m_actFolder) {
+        ui->btn_delete->setText(tr("Move to folder…"));
+        ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
+    } else {
+        ui->btn_delete->setText(tr("Remove Selected"));
+        ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
+    }
 }
 
 void ResultForm::setProblemText(const QString &html)
@@ -1094,7 +1105,7 @@ void ResultForm::onBtnDeletedClick(const QModelIndex &index)
         startCloudRemoval({{key, {path}}}, CloudOne);
         return;
     }
-    if (method == DFIgnoreListPreferences::removePermanently && !confirmRemoval())
+    if (method == DFIgnoreListPreferences::removePermanently && !confirmRemoval({{key, {path}}}))
         return;
     const QList<DeleteResult> results = removeNow({{key, {path}}});
     const bool removed = std::any_of(results.cbegin(), results.cend(),
@@ -1167,7 +1178,8 @@ void ResultForm::onMenuDeleteGroup(const QString &key, int row, int count)
         return;
     }
     const auto [method, folder] = removalMethod();
-    if ((m_isCloud || method == DFIgnoreListPreferences::removePermanently) && !confirmRemoval())
+    if ((m_isCloud || method == DFIgnoreListPreferences::removePermanently)
+        && !confirmRemoval({{key, selected}}))
         return;
     splog_d(kTag
         + QStringLiteral("onMenuDeleteGroup. DeleteMode:%1. Remove Path:%2. files:[%3]")
@@ -1199,7 +1211,7 @@ QPair<int, QString> ResultForm::removalMethod() const
         method, method == DFIgnoreListPreferences::moveToFolder ? prefs->TrashFolder() : QString()};
 }
 
-bool ResultForm::confirmRemoval()
+bool ResultForm::confirmRemoval(const QHash<QString, QStringList> &selection)
 {
     const int method = removalMethod().first;
     QString question;
@@ -1215,9 +1227,38 @@ bool ResultForm::confirmRemoval()
                       "to delete them?");
     else
         return true;
+    // What the answer is about: the number of items and their size as the scan saw them.
+    TFileData *store = TFileData::instance();
+    QHash<QString, qint64> folders;
+    for (const QList<DirGroupEntry> &entries : store->dirGroups())
+        for (const DirGroupEntry &entry : entries)
+            folders.insert(entry.folderPath, entry.totalSize);
+    qint64 count = 0;
+    qint64 bytes = 0;
+    for (const QStringList &entries : selection) {
+        for (const QString &entry : entries) {
+            const QString path = stripSimilarTag(entry);
+            ++count;
+            const FileStamp stamp = store->stamp(path);
+            if (m_isCloud)
+                bytes += TImageModel::cloudProperty(m_cloud, path, QStringLiteral("size"))
+                             .toLongLong();
+            else if (folders.contains(path))
+                bytes += folders.value(path);
+            else
+                bytes += stamp.isValid() ? stamp.size : SelectionTotals::bytesOf(path);
+        }
+    }
+    question += QStringLiteral("\n\n")
+        + tr("%n item(s), %1.", nullptr, int(std::min<qint64>(count, INT_MAX)))
+              .arg(TImageModel::sizeText(bytes));
+    // Losing files for good is never the default answer.
+    const auto defaultAnswer = method == DFIgnoreListPreferences::removePermanently && !m_isCloud
+        ? QMessageBox::No
+        : QMessageBox::Yes;
     return QMessageBox::question(this, AppIdentity::applicationName, question,
-               QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
-        != QMessageBox::No;
+               QMessageBox::Yes | QMessageBox::No, defaultAnswer)
+        == QMessageBox::Yes;
 }
 
 bool ResultForm::removesEveryCopy(
@@ -1256,7 +1297,7 @@ void ResultForm::on_btn_delete_clicked()
         QMessageBox::warning(this, tr("Warning"), tr("No Selected Files!"));
         return;
     }
-    if (!confirmRemoval())
+    if (!confirmRemoval(selection))
         return;
     if (m_isCloud) {
         // A cloud group always keeps a copy: the service's copies cannot be compared

@@ -172,7 +172,9 @@ private:
     QModelIndex currentGroupIndex() const;
     QPair<int, QString> removalMethod() const;
     // The question of the current method; true when the removal may go on.
-    bool confirmRemoval();
+    // Asks before a removal, naming how many items of what size go; No is the default
+    // answer for a permanent one.
+    bool confirmRemoval(const QHash<QString, QStringList> &selection);
     // Runs a removal of the given selection on the GUI thread (one file, one group).
     QList<DeleteResult> removeNow(
         const QHash<QString, QStringList> &selection, bool allowDifferentContent = false);

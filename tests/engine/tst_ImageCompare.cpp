@@ -95,15 +95,26 @@ private slots:
     void identicalPictures_data()
     {
         QTest::addColumn<int>("algorithm");
-        QTest::newRow("histogram") << 1;
-        QTest::newRow("phash") << 2;
+        QTest::addColumn<QString>("nameA");
+        QTest::addColumn<QString>("nameB");
+        QTest::newRow("histogram") << 1 << "same_a.png"
+                                   << "same_b.png";
+        QTest::newRow("phash") << 2 << "same_a.png"
+                               << "same_b.png";
+        // One format under three spellings is one type to the same-type rule.
+        QTest::newRow("phash, .jpg and .JPEG") << 2 << "same_a.jpg"
+                                               << "same_b.JPEG";
+        QTest::newRow("phash, .jpe and .jpeg") << 2 << "same_a.jpe"
+                                               << "same_b.jpeg";
     }
     void identicalPictures()
     {
         QFETCH(int, algorithm);
+        QFETCH(QString, nameA);
+        QFETCH(QString, nameB);
         const cv::Mat scene = fixtures::makeScene(300, 200, 11);
-        const QString a = write("same_a.png", scene);
-        const QString b = write("same_b.png", scene);
+        const QString a = write(nameA, scene);
+        const QString b = write(nameB, scene);
         ImageCompareThread thread;
         thread.applyConfig(config(algorithm));
         QList<ImageData> images = load(thread, {a, b});

@@ -93,6 +93,11 @@ private slots:
         filterRow("maximum below the big file", {{"MinFileSize", 1.9}, {"MaxFileSize", 0.99}}, {});
         filterRow("only list, suffix lower-cased, no-dot file skipped",
             {{"OnlyFileType", QJsonArray {"jpg", "bin"}}}, {"b.JPG", "big.bin", "kib.bin"});
+        // The lists hold what the user typed.
+        filterRow("only list in upper case", {{"OnlyFileType", QJsonArray {"JPG", "Txt"}}},
+            {"a.txt", "b.JPG", "sub/c.txt", "Skip/d.txt"});
+        filterRow("ignore list in upper case",
+            {{"ScanFileType", 1}, {"IgnoreFileType", QJsonArray {"TXT", "BIN", "jpg"}}}, {"noext"});
         filterRow("ignore list has no effect in only mode",
             {{"ScanFileType", 0}, {"IgnoreFileType", QJsonArray {"txt"}}}, everything);
         filterRow("ignore list governs when ScanFileType > 0",

@@ -94,7 +94,7 @@ private slots:
               "[Duplicate_files]\n"
               "objectName=\n"
               "scanDupDirectory=false\n"
-              "scanMethod=0\n"
+              "scanMethod=2\n"
               "selectDuplicate=2\n"
               "\n"
               "[Similar_images]\n"

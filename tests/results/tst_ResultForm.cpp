@@ -196,6 +196,29 @@ private slots:
         QTRY_VERIFY(m_page->isDataLoaded());
     }
 
+    // The permanent question names what goes and falls back on No; the button says what a
+    // click does.
+    void permanentQuestionDefaultsToNo()
+    {
+        const QString key = writeGroup("same.bin", 2, ScanTree::pattern(3000, 'p'));
+        const QString item = TFileData::instance()->group(key).last();
+        TFileData::instance()->setSelected(key, {item});
+        DFPreferences::instance()->ignoreListPreferences()->setRemovealMethod(
+            DFIgnoreListPreferences::removePermanently);
+        m_page = new ResultForm;
+        QTRY_VERIFY(m_page->isDataLoaded());
+        QCOMPARE(child<QToolButton>(m_page, "btn_delete")->text(), "Remove permanently…");
+        DialogAnswerer answers;
+        m_page->on_btn_delete_clicked();
+        QTRY_COMPARE(answers.defaults.size(), 1);
+        QCOMPARE(answers.defaults.first(), QMessageBox::No);
+        const QString question = answers.texts.first();
+        QVERIFY2(
+            question.contains("1 item") && question.contains(", 2.92 KB."), qPrintable(question));
+        QVERIFY(QFileInfo::exists(item));
+        QVERIFY(!m_page->isRemoving());
+    }
+
     void searchFiltersAndSlider()
     {
         writeGroup("holiday.jpg", 3, jpeg(3));
