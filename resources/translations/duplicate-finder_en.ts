@@ -918,6 +918,13 @@
             <numerusform>%n items stayed in place; the reasons are listed below.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) were already gone.</source>
+        <translation>
+            <numerusform>%n item was already gone.</numerusform>
+            <numerusform>%n items were already gone.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1424,6 +1431,26 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n item(s), %1.</source>
+        <translation>
+            <numerusform>%n item, %1.</numerusform>
+            <numerusform>%n items, %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected file(s) differ in content from every copy that stays: they are similar pictures or files that only share a name. They were kept.
+
+Remove them too?</source>
+        <translation>
+            <numerusform>%n selected file differs in content from every copy that stays: it is a similar picture or a file that only shares a name. It was kept.
+
+Remove it too?</numerusform>
+            <numerusform>%n selected files differ in content from every copy that stays: they are similar pictures or files that only share a name. They were kept.
+
+Remove them too?</numerusform>
+        </translation>
     </message>
 </context>
 <context>
