@@ -15,7 +15,7 @@
 #include <QVBoxLayout>
 
 RemovalSummaryDialog::RemovalSummaryDialog(
-    const QList<DeleteResult> &results, int method, qint64 bytes, QWidget *parent)
+    const QList<DeleteResult> &results, int method, qint64 bytes, bool freed, QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("RemovalSummaryDialog"));
@@ -73,10 +73,12 @@ RemovalSummaryDialog::RemovalSummaryDialog(
     m_items->addTopLevelItems(kept);
     m_items->addTopLevelItems(removed);
 
-    m_headline = new QLabel(QStringLiteral("<b>%1</b><br>%2")
-                                .arg(headline().toHtmlEscaped(),
-                                    tr("Space freed: %1").arg(TImageModel::sizeText(bytes))),
-        this);
+    m_headline
+        = new QLabel(QStringLiteral("<b>%1</b><br>%2")
+                         .arg(headline().toHtmlEscaped(),
+                             (freed ? tr("Space freed: %1") : tr("Moved: %1, on the same disk"))
+                                 .arg(TImageModel::sizeText(bytes))),
+            this);
     m_headline->setObjectName(QStringLiteral("lab_summary"));
     m_headline->setTextFormat(Qt::RichText);
     m_headline->setWordWrap(true);

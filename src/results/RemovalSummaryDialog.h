@@ -14,9 +14,10 @@ class RemovalSummaryDialog : public QDialog
 {
     Q_OBJECT
 public:
-    // bytes: the size of what was removed, as the scan saw it.
-    RemovalSummaryDialog(
-        const QList<DeleteResult> &results, int method, qint64 bytes, QWidget *parent = nullptr);
+    // bytes: the size of what was removed, as the scan saw it; freed: whether that space
+    // came free (not after a move to another folder of the same disk).
+    RemovalSummaryDialog(const QList<DeleteResult> &results, int method, qint64 bytes,
+        bool freed = true, QWidget *parent = nullptr);
 
     int removedCount() const { return m_removed; }
     int keptCount() const { return m_kept; }

@@ -51,6 +51,7 @@
 #include <QSettings>
 #include <QSlider>
 #include <QStandardPaths>
+#include <QStorageInfo>
 #include <QThread>
 #include <QTimer>
 #include <QUrl>
@@ -1623,7 +1624,16 @@ void ResultForm::showRemovalSummary(const QList<DeleteResult> &results, int meth
     } else {
         bytes = removedBytes(results);
     }
-    RemovalSummaryDialog dialog(results, method, bytes, this);
+    // A move within one disk frees nothing: the files only have another place.
+    bool freed = method != DFIgnoreListPreferences::moveToFolder;
+    for (const DeleteResult &result : results) {
+        if (freed || !result.success || result.destination.isEmpty())
+            continue;
+        const QStorageInfo target(QFileInfo(result.destination).absolutePath());
+        const QStorageInfo source(QFileInfo(result.path).absolutePath());
+        freed = !target.isValid() || !source.isValid() || target.device() != source.device();
+    }
+    RemovalSummaryDialog dialog(results, method, bytes, freed, this);
     dialog.exec();
 }
 
