@@ -46,8 +46,9 @@ bool rewind(int fd)
 int ContentCompare::openRegular(const QString &path)
 {
 #ifdef Q_OS_UNIX
-    const int fd = ::open(
-        FilePathCodec::encode(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY);
+    // Never waits: a pipe put in a file's place would block the open until a writer came.
+    const int fd = ::open(FilePathCodec::encode(path).constData(),
+        O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY | O_NONBLOCK);
     if (fd < 0)
         return -1;
     struct stat info

@@ -112,14 +112,40 @@ struct FolderTree
     // Every folder in it, itself included, by device and inode: a bind mount or a linked
     // folder shows up here however its path reads.
     QSet<Identity> folders;
+    quint64 device = 0;
 
-    explicit FolderTree(const QString &root) { add(root, QString()); }
+    explicit FolderTree(const QString &root)
+    {
+        add(root, QString());
+        std::sort(files.begin(), files.end(),
+            [](const File &a, const File &b) { return a.relative < b.relative; });
+    }
+
+    // The same entries with the same sizes: nothing was added, removed or resized.
+    bool sameAs(const FolderTree &other) const
+    {
+        if (complete != other.complete || files.size() != other.files.size()
+            || folders != other.folders)
+            return false;
+        for (qsizetype i = 0; i < files.size(); ++i)
+            if (files.at(i).relative != other.files.at(i).relative
+                || files.at(i).size != other.files.at(i).size)
+                return false;
+        return true;
+    }
 
 private:
     void add(const QString &folder, const QString &relative)
     {
         const Entry self = entryOf(folder);
         if (self.kind != Kind::Folder) {
+            complete = false;
+            return;
+        }
+        // Another file system mounted inside goes with no folder: it is not the folder's.
+        if (device == 0)
+            device = self.stamp.device;
+        if (self.stamp.device != device) {
             complete = false;
             return;
         }
@@ -157,6 +183,26 @@ private:
         }
     }
 };
+
+// Whether the open file still has the size and times it had before it was read: a write
+// through another handle during the comparison moves them (the change time always).
+bool unchangedSince(int fd, const FileStamp &before)
+{
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::fstat(fd, &info) != 0)
+        return false;
+    const FileStamp after = FileStamp::fromStat(info);
+    return after.size == before.size && after.modifiedNs == before.modifiedNs
+        && after.changedNs == before.changedNs;
+#else
+    Q_UNUSED(fd)
+    Q_UNUSED(before)
+    return true;
+#endif
+}
 
 // A folder's digest: its files' relative paths and content hashes, in path order.
 QByteArray digestOfFiles(QList<QPair<QString, QByteArray>> &files)
@@ -282,15 +328,21 @@ RemovalCheck::Confirmed RemovalCheck::confirmFile(
     }
     if (look.everyCopy) {
         out.digest = ContentHash::ofFd(fd);
-        ::close(fd);
-        if (out.digest.isEmpty())
+        if (out.digest.isEmpty() || !unchangedSince(fd, now))
             out.reason = changedSinceScan;
+        ::close(fd);
         return out;
     }
     bool anyKept = false;
     for (const QString &kept : look.kept) {
         switch (ContentCompare::compare(fd, kept, &out.digest)) {
         case ContentCompare::Same:
+            // Written to while it was read (through a handle another program holds open):
+            // what was compared is no longer what would go.
+            if (!unchangedSince(fd, now)) {
+                out.reason = changedSinceScan;
+                out.digest.clear();
+            }
             ::close(fd);
             return out;
         case ContentCompare::Differs:
@@ -307,9 +359,9 @@ RemovalCheck::Confirmed RemovalCheck::confirmFile(
     }
     if (anyKept && kind != IdenticalFiles && allowDifferentContent) {
         out.digest = ContentHash::ofFd(fd);
-        ::close(fd);
-        if (out.digest.isEmpty())
+        if (out.digest.isEmpty() || !unchangedSince(fd, now))
             out.reason = changedSinceScan;
+        ::close(fd);
         return out;
     }
     ::close(fd);
@@ -419,6 +471,11 @@ RemovalCheck::Confirmed RemovalCheck::confirmFolder(const Look &look, const QStr
     }
     if (!covered) {
         out.reason = anyKept ? folderNotCovered : noKeptCopyLeft;
+        return out;
+    }
+    // Something added to it while it was compared has no copy anywhere.
+    if (!FolderTree(current).sameAs(item)) {
+        out.reason = changedSinceScan;
         return out;
     }
     if (look.everyCopy) {

@@ -85,6 +85,25 @@ QString takePath(
     return {};
 }
 
+// Appends bytes as a whole or not at all: a line cut short by a full disk is taken back.
+// With closeUnfinished, a last line that a crash left unfinished is closed first, so the
+// next line is never glued to it and lost to the reader.
+bool appendWhole(QFile &file, const QByteArray &bytes, bool closeUnfinished, QString &error)
+{
+    const qint64 before = file.size();
+    QByteArray out = bytes;
+    if (closeUnfinished && before > 0) {
+        QFile tail(file.fileName());
+        if (tail.open(QIODevice::ReadOnly) && tail.seek(before - 1) && tail.read(1) != "\n")
+            out.prepend('\n');
+    }
+    if (file.write(out) == out.size())
+        return true;
+    error = file.errorString();
+    file.resize(before);
+    return false;
+}
+
 bool processAlive(qint64 pid)
 {
 #ifdef Q_OS_UNIX
@@ -161,6 +180,7 @@ bool RemovalJournal::begin(
         m_error = m_file.errorString();
         return false;
     }
+    m_firstWrite = true;
     m_batch = QUuid::createUuid().toString(QUuid::WithoutBraces);
     QJsonObject line {{kBatch, m_batch}, {kEvent, kBegin}, {kMethod, method}, {kItems, items},
         {kPid, QCoreApplication::applicationPid()},
@@ -219,11 +239,7 @@ bool RemovalJournal::flush()
     if (m_pending.isEmpty())
         return true;
     const QByteArray whole = std::exchange(m_pending, QByteArray());
-    if (m_file.write(whole) != whole.size()) {
-        m_error = m_file.errorString();
-        return false;
-    }
-    return true;
+    return appendWhole(m_file, whole, std::exchange(m_firstWrite, false), m_error);
 }
 
 bool RemovalJournal::end(int signal)
@@ -247,11 +263,7 @@ bool RemovalJournal::markNoticed(const QString &batch)
     const QByteArray line = QJsonDocument(QJsonObject {{kBatch, batch}, {kEvent, kNoticed}})
                                 .toJson(QJsonDocument::Compact)
         + '\n';
-    if (file.write(line) != line.size()) {
-        m_error = file.errorString();
-        return false;
-    }
-    return true;
+    return appendWhole(file, line, true, m_error);
 }
 
 QList<RemovalJournal::Batch> RemovalJournal::batches() const

@@ -115,4 +115,6 @@ private:
     QString m_batch;
     QString m_error;
     QByteArray m_pending;
+    // The batch's first write looks at how the file ends.
+    bool m_firstWrite = false;
 };

@@ -11,6 +11,10 @@
 
 #include <cerrno>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -29,9 +33,29 @@ QString text(const char *source)
     return QCoreApplication::translate("RemovalRestorer", source);
 }
 
+// Names are looked at by their bytes: a name that is not UTF-8 is found as it is.
+enum class Kind { Missing, File, Folder, Other };
+
+Kind kindOf(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::lstat(FilePathCodec::encode(path).constData(), &info) != 0)
+        return errno == ENOENT ? Kind::Missing : Kind::Other;
+    return S_ISDIR(info.st_mode) ? Kind::Folder : S_ISREG(info.st_mode) ? Kind::File : Kind::Other;
+#else
+    const QFileInfo info(path);
+    if (info.isSymLink())
+        return Kind::Other;
+    return !info.exists() ? Kind::Missing : info.isDir() ? Kind::Folder : Kind::File;
+#endif
+}
+
 bool exists(const QString &path)
 {
-    return QFileInfo(path).exists() || QFileInfo(path).isSymLink();
+    return kindOf(path) != Kind::Missing;
 }
 
 // Whether what lies at path is the item the journal describes: for a file its size,
@@ -39,14 +63,14 @@ bool exists(const QString &path)
 // of its files.
 bool isTheItem(const RemovalJournal::Item &item, const QString &path, bool checkContent)
 {
-    const QFileInfo info(path);
-    if (info.isSymLink() || !info.exists())
-        return false;
-    if (info.isDir()) {
+    const Kind kind = kindOf(path);
+    if (kind == Kind::Folder) {
         if (!checkContent || item.digest.isEmpty())
             return item.size < 0;
         return RemovalCheck::folderDigest(path) == item.digest;
     }
+    if (kind != Kind::File)
+        return false;
     const FileStamp stamp = FileStamp::of(path);
     if (!stamp.isValid() || (item.size >= 0 && stamp.size != item.size)
         || (item.modifiedNs != 0 && stamp.modifiedNs != item.modifiedNs))
@@ -97,14 +121,17 @@ QString RemovalRestorer::restoreIntended(
     if (!item.privatePath.isEmpty())
         places.append(item.privatePath);
     const QString name = QFileInfo(item.path).fileName();
-    if (item.method == RemovalJournal::methodName(TFileDeleter::moveToTrash)) {
+    // A folder cut off before its outcome has nothing recorded to tell it from another
+    // folder of the same name: only its private name, which nothing else has, is taken.
+    const bool isFile = item.size >= 0;
+    if (isFile && item.method == RemovalJournal::methodName(TFileDeleter::moveToTrash)) {
         for (const std::string &trashed : platform::current().trashedCopiesOf(nativeOf(item.path)))
             places.append(FilePathCodec::decode(trashed.c_str(), qsizetype(trashed.size())));
-    } else if (item.method == RemovalJournal::methodName(TFileDeleter::moveToFolder)
+    } else if (isFile && item.method == RemovalJournal::methodName(TFileDeleter::moveToFolder)
         && !batch.target.isEmpty()) {
         places.append(batch.target + QLatin1Char('/') + name);
         // The names a move gives when the first is taken: "name (2).ext" and on.
-        const qsizetype dot = item.size < 0 ? -1 : name.lastIndexOf(QLatin1Char('.'));
+        const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
         const QString stem = dot > 0 ? name.left(dot) : name;
         const QString suffix = dot > 0 ? name.mid(dot) : QString();
         for (int n = 2; n < 10000; ++n) {
@@ -147,9 +174,22 @@ bool RemovalRestorer::restore(const QString &batchId, QList<DeleteResult> &resul
     if (batchId.isEmpty()) {
         batch = m_journal.lastBatch();
     } else {
-        for (const RemovalJournal::Batch &candidate : m_journal.batches())
-            if (candidate.id == batchId || candidate.id.startsWith(batchId))
+        int matches = 0;
+        for (const RemovalJournal::Batch &candidate : m_journal.batches()) {
+            if (candidate.id == batchId) {
                 batch = candidate;
+                matches = 1;
+                break;
+            }
+            if (candidate.id.startsWith(batchId)) {
+                batch = candidate;
+                ++matches;
+            }
+        }
+        if (matches > 1) {
+            m_error = text("%1 starts the ids of several batches; give more of it").arg(batchId);
+            return false;
+        }
     }
     if (batch.id.isEmpty()) {
         m_error = batchId.isEmpty() ? text("the journal holds no removal to restore")

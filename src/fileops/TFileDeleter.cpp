@@ -189,11 +189,20 @@ QString TFileDeleter::freeName(const QString &folder, const QString &name, bool 
     const qsizetype dot = isFolder ? -1 : name.lastIndexOf(QLatin1Char('.'));
     const QString stem = dot > 0 ? name.left(dot) : name;
     const QString suffix = dot > 0 ? name.mid(dot) : QString();
-    for (int n = 2;; ++n) {
-        const QString candidate = base + QStringLiteral("%1 (%2)%3").arg(stem).arg(n).arg(suffix);
-        if (kindOf(candidate) == Kind::Missing)
-            return candidate;
+    // A name at the length limit has no room for " (n)": its stem is shortened, a whole
+    // character at a time.
+    constexpr qsizetype kNameMax = 255;
+    for (int n = 2; n < 100000; ++n) {
+        QString shortened = stem;
+        QString name = QStringLiteral("%1 (%2)%3").arg(shortened).arg(n).arg(suffix);
+        while (FilePathCodec::encode(name).size() > kNameMax && !shortened.isEmpty()) {
+            shortened.chop(shortened.size() >= 2 && shortened.back().isLowSurrogate() ? 2 : 1);
+            name = QStringLiteral("%1 (%2)%3").arg(shortened).arg(n).arg(suffix);
+        }
+        if (kindOf(base + name) == Kind::Missing)
+            return base + name;
     }
+    return {};
 }
 
 DeleteResult TFileDeleter::deleteOne(
@@ -295,6 +304,11 @@ DeleteResult TFileDeleter::deleteFolder(
         result.message = QStringLiteral("Folder deletion failed.");
         if (result.reason.isEmpty())
             result.reason = errorText(error);
+        // A move across drives that could not remove all of the original: nothing is lost,
+        // the checked copy is whole.
+        if (!result.destination.isEmpty())
+            result.reason = QStringLiteral("moved in part (%1); the whole copy is at %2")
+                                .arg(result.reason, result.destination);
     }
     return result;
 }
@@ -353,6 +367,10 @@ bool TFileDeleter::moveIntoFolder(const QString &path, const QString &folder, QS
     // never replaces, so the next free name is tried then.
     for (int attempt = 0; attempt < 100; ++attempt) {
         destination = freeName(folder, name.isEmpty() ? nameOf(path) : name, kind == Kind::Folder);
+        if (destination.isEmpty()) {
+            error = ENAMETOOLONG;
+            break;
+        }
         bool crossDevice = false;
         error = os.renameNoReplace(nativeOf(path), nativeOf(destination), crossDevice);
         if (error == 0)
@@ -371,7 +389,15 @@ bool TFileDeleter::moveIntoFolder(const QString &path, const QString &folder, QS
             error = os.removePermanently(nativeOf(path));
             if (error == 0)
                 return true;
-            // The original stays; so must nothing else: the copy goes again.
+            // A folder may have lost part of its content before the failure: the checked
+            // copy is then the only whole one, and it stays. A file that could not be
+            // removed is still whole, and its copy goes again.
+            if (kind == Kind::Folder) {
+                splog_d(QStringLiteral("[TFileDeleter]: Moved in part: the copy %1 is whole, "
+                                       "the original %2 could not be removed: %3")
+                            .arg(destination, path, errorText(error)));
+                return false;
+            }
             os.removePermanently(nativeOf(destination));
         }
 #endif

@@ -53,6 +53,8 @@ QString putBack(const QString &privatePath, const QString &path, bool isFolder)
     for (int attempt = 0; error == EEXIST && attempt < 100; ++attempt) {
         const QString free
             = TFileDeleter::freeName(path.left(slash), path.mid(slash + 1), isFolder);
+        if (free.isEmpty())
+            break;
         error = os.renameNoReplace(nativeOf(privatePath), nativeOf(free), crossDevice);
         if (error == 0)
             return free;

@@ -104,9 +104,29 @@ private slots:
         QVERIFY2(results.first().success, qPrintable(results.first().reason));
         QCOMPARE(ScanTree::read(path), bytes);
         if (where == "move")
-            QCOMPARE(ScanTree::read(target + "/photo.jpg"), QByteArray("another photo.jpg, not ours"));
+            QCOMPARE(
+                ScanTree::read(target + "/photo.jpg"), QByteArray("another photo.jpg, not ours"));
         // Done once: nothing is left to restore.
         QVERIFY(!restorer.restore({}, results));
+    }
+
+    // A line a full disk or a crash cut short does not swallow the next batch's first line.
+    void unfinishedLineLeavesTheNextBatchWhole()
+    {
+        QTemporaryDir dir;
+        QFile file(dir.filePath("journal.jsonl"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        // The first batch's second line ends in the middle of a key.
+        file.write("{\"batch\":\"cut\",\"event\":\"begin\",\"method\":\"trash\",\"items\":1}\n"
+                   "{\"batch\":\"cut\",\"ev");
+        file.close();
+        RemovalJournal journal(file.fileName());
+        QVERIFY(journal.begin("trash", 1));
+        DeleteResult trashed {"/a/x"};
+        trashed.destination = "/t/files/x";
+        QVERIFY(journal.record("trash", trashed, RemovalJournal::removed, 0));
+        QVERIFY(journal.end());
+        QCOMPARE(journal.lastBatch().id, journal.batchId());
     }
 
     // A batch that removed for good is listed but never restored, and does not hide an

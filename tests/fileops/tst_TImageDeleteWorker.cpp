@@ -4,6 +4,7 @@
 #include "engine/ScanTree.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
+#include "fileops/RemovalRestorer.h"
 #include "fileops/TFileDeleter.h"
 #include "fileops/TImageDeleteWorker.h"
 
@@ -526,6 +527,32 @@ private slots:
         QVERIFY(QRegularExpression("\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n")
                     .match(QString::fromLatin1(info))
                     .hasMatch());
+        // And it comes back under that name.
+        RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+        QList<DeleteResult> restored;
+        QVERIFY(RemovalRestorer(journal).restore({}, restored));
+        QVERIFY2(restored.value(0).success, qPrintable(restored.value(0).reason));
+        QVERIFY(::access(odd.constData(), F_OK) == 0);
+    }
+
+    // A name at the length limit, taken in the target folder: the move shortens it to make
+    // room for " (2)" instead of looking for a free name for ever.
+    void longNameMovedBesideItsTwin()
+    {
+        Pair pair(TFileDeleter::moveToFolder);
+        const QString name = QString(247, QLatin1Char('n')) + ".bin";
+        const QString item = pair.dir.path() + "/b/" + name;
+        QVERIFY(QFile::rename(pair.item, item));
+        pair.request.groups["G"] = {pair.kept, item};
+        pair.request.selected["G"] = {item};
+        pair.request.stamps.insert(item, FileStamp::of(item));
+        ScanTree::write(pair.request.targetFolder, name, "already here");
+        const DeleteResult result = pair.run().value(0);
+        QVERIFY2(result.success, qPrintable(result.reason));
+        QCOMPARE(QFileInfo(result.destination).fileName().toUtf8().size(), 255);
+        QVERIFY(result.destination.endsWith(" (2).bin"));
+        QCOMPARE(
+            ScanTree::read(pair.request.targetFolder + "/" + name), QByteArray("already here"));
     }
 
 private:

@@ -237,7 +237,8 @@ int LinuxPlatform::removePermanently(const std::string &path) const
             }
             return 0;
         },
-        32, FTW_DEPTH | FTW_PHYS);
+        // Another file system mounted inside is not part of the folder: never entered.
+        32, FTW_DEPTH | FTW_PHYS | FTW_MOUNT);
     if (walked != 0)
         return failure ? failure : errno;
     return 0;
