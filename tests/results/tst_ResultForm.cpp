@@ -300,6 +300,40 @@ private slots:
         QCOMPARE(page->lastRemoval().first().reason, TImageDeleteWorker::keptLastCopy);
     }
 
+    // Files that only share a name: the batch keeps the one that differs and asks, naming
+    // how many; No keeps it, Yes lets it go while its namesake stays.
+    void differentContentNeedsAYes_data()
+    {
+        QTest::addColumn<QMessageBox::StandardButton>("answer");
+        QTest::newRow("no: kept") << QMessageBox::No;
+        QTest::newRow("yes: removed") << QMessageBox::Yes;
+    }
+    void differentContentNeedsAYes()
+    {
+        QFETCH(QMessageBox::StandardButton, answer);
+        const QString kept = file("a/report.txt", ScanTree::pattern(900, 'a'));
+        const QString other = file("b/report.txt", ScanTree::pattern(900, 'b'));
+        const QString key = TFileData::groupKey(kept);
+        TFileData::instance()->insertGroup(key, {kept, other});
+        TFileData::instance()->setGroupMatch(key, TFileData::MatchName);
+        TFileData::instance()->setSelected(key, {other});
+        ResultForm *page = openPage();
+        // Yes to the removal, the summary closed, the answer to the question, the second
+        // summary closed.
+        DialogAnswerer answers(
+            {QMessageBox::Yes, QMessageBox::NoButton, answer, QMessageBox::NoButton});
+        answers.closeOtherDialogs = true;
+        page->on_btn_delete_clicked();
+        QTRY_VERIFY(answers.titles.contains("Remove Different Files?"));
+        QTRY_VERIFY(!page->isRemoving());
+        const qsizetype asked = answers.titles.indexOf("Remove Different Files?");
+        QVERIFY2(answers.texts.at(asked).startsWith("1 selected file differs"),
+            qPrintable(answers.texts.at(asked)));
+        QCOMPARE(answers.defaults.at(asked), QMessageBox::No);
+        QTRY_COMPARE(QFileInfo::exists(other), answer == QMessageBox::No);
+        QCOMPARE(ScanTree::read(kept), ScanTree::pattern(900, 'a'));
+    }
+
     void similarMembersShowRealFiles()
     {
         const QByteArray picture = jpeg(5);
