@@ -85,22 +85,23 @@ QString takePath(
     return {};
 }
 
-// Appends bytes as a whole or not at all: a line cut short by a full disk is taken back.
-// With closeUnfinished, a last line that a crash left unfinished is closed first, so the
-// next line is never glued to it and lost to the reader.
+// Appends bytes in one write. With closeUnfinished, a last line that a full disk or a crash
+// left unfinished (another process's, or an earlier batch's) is closed first, so the next
+// line is never glued to it and lost to the reader. Nothing is ever cut off: other
+// processes may append to the same file at any moment.
 bool appendWhole(QFile &file, const QByteArray &bytes, bool closeUnfinished, QString &error)
 {
-    const qint64 before = file.size();
     QByteArray out = bytes;
-    if (closeUnfinished && before > 0) {
+    if (closeUnfinished) {
         QFile tail(file.fileName());
-        if (tail.open(QIODevice::ReadOnly) && tail.seek(before - 1) && tail.read(1) != "\n")
+        const qint64 size = tail.size();
+        if (size > 0 && tail.open(QIODevice::ReadOnly) && tail.seek(size - 1)
+            && tail.read(1) != "\n")
             out.prepend('\n');
     }
     if (file.write(out) == out.size())
         return true;
     error = file.errorString();
-    file.resize(before);
     return false;
 }
 
@@ -180,7 +181,7 @@ bool RemovalJournal::begin(
         m_error = m_file.errorString();
         return false;
     }
-    m_firstWrite = true;
+    m_checkTail = true;
     m_batch = QUuid::createUuid().toString(QUuid::WithoutBraces);
     QJsonObject line {{kBatch, m_batch}, {kEvent, kBegin}, {kMethod, method}, {kItems, items},
         {kPid, QCoreApplication::applicationPid()},
@@ -239,7 +240,9 @@ bool RemovalJournal::flush()
     if (m_pending.isEmpty())
         return true;
     const QByteArray whole = std::exchange(m_pending, QByteArray());
-    return appendWhole(m_file, whole, std::exchange(m_firstWrite, false), m_error);
+    // After a failed write the line may have gone out in part: the next write closes it.
+    m_checkTail = !appendWhole(m_file, whole, m_checkTail, m_error);
+    return !m_checkTail;
 }
 
 bool RemovalJournal::end(int signal)

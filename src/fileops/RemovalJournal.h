@@ -115,6 +115,6 @@ private:
     QString m_batch;
     QString m_error;
     QByteArray m_pending;
-    // The batch's first write looks at how the file ends.
-    bool m_firstWrite = false;
+    // The next write looks at how the file ends: the batch's first, and any after a failure.
+    bool m_checkTail = false;
 };
