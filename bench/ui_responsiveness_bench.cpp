@@ -17,16 +17,25 @@
 //                                              "Select by Filename" over every group;
 //   ui_responsiveness_bench thumbnails <dir>   one group of the pictures in dir opened in the
 //                                              page's thumbnail grid: time until every cell
-//                                              of the first screen has its thumbnail.
+//                                              of the first screen has its thumbnail;
+//   ui_responsiveness_bench pictures <dir>     scans dir with similar pictures on through the
+//                                              window twice, once to the end and once stopped
+//                                              in the middle of the picture stage: the longest
+//                                              gap between two paints of the scan page while
+//                                              the scan runs, and how long Stop took.
 //
-// Run on the offscreen platform: QT_QPA_PLATFORM=offscreen.
+// Run on the offscreen platform (QT_QPA_PLATFORM=offscreen); "pictures" is meant for a real
+// display server: xvfb-run -a -s "-screen 0 1920x1080x24" ... with QT_QPA_PLATFORM=xcb.
 #include "app/DataDirectory.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
+#include "engine/ContentKeyCache.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
+#include "preferences/DFGenernalPreferences.h"
+#include "preferences/DFPreferences.h"
 #include "results/ResultForm.h"
 #include "results/TImageListView.h"
 #include "results/TImageModel.h"
@@ -38,6 +47,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -139,6 +149,143 @@ bool waitFor(const std::function<bool()> &done, int timeoutMs)
 }
 
 void storeGroups(const QString &tree, int groups);
+
+// Times between paints of one widget and its children: how long the user saw a frozen
+// picture of it.
+class PaintProbe : public QObject
+{
+public:
+    explicit PaintProbe(QWidget *watched) : m_watched(watched)
+    {
+        qApp->installEventFilter(this);
+        m_clock.start();
+    }
+    ~PaintProbe() override { qApp->removeEventFilter(this); }
+    void arm()
+    {
+        m_armed = true;
+        m_last = m_clock.nsecsElapsed();
+        m_worst = 0;
+    }
+    void disarm() { m_armed = false; }
+    double worstMs() const { return m_worst / 1e6; }
+    double worstEndS() const { return m_worstEnd / 1e9; }
+    qint64 paints() const { return m_paints; }
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (m_armed && event->type() == QEvent::Paint && object->isWidgetType()
+            && (object == m_watched || m_watched->isAncestorOf(static_cast<QWidget *>(object)))) {
+            const qint64 now = m_clock.nsecsElapsed();
+            if (now - m_last > m_worst) {
+                m_worst = now - m_last;
+                m_worstEnd = now;
+            }
+            m_last = now;
+            ++m_paints;
+        }
+        return false;
+    }
+
+private:
+    QWidget *m_watched;
+    QElapsedTimer m_clock;
+    bool m_armed = false;
+    qint64 m_last = 0;
+    qint64 m_worst = 0;
+    qint64 m_worstEnd = 0;
+    qint64 m_paints = 0;
+};
+
+struct PictureRun
+{
+    double seconds = 0;
+    double worstStallMs = 0;
+    double stopMs = -1;
+    qint64 paints = 0;
+    int groups = 0;
+};
+
+// One scan of dir through a fresh window; stopAfterMs >= 0 presses Stop that long after
+// the picture stage began. The pictures' stored measures are removed first, so that
+// every run decodes them.
+PictureRun pictureRun(const QString &dir, int stopAfterMs)
+{
+    QFile::remove(ContentKeyCache::defaultPath());
+    TFileData::instance()->clear();
+    PictureRun run;
+    MainWindow window({QStringLiteral("bench")});
+    window.setShowResultsWhenDone(false);
+    window.resize(1366, 768);
+    window.show();
+    window.addFolder(dir);
+    auto *page = window.findChild<QWidget *>(QStringLiteral("page_scan"));
+    auto *stopButton = window.findChild<QPushButton *>(QStringLiteral("btnAdd"));
+    PaintProbe probe(page);
+    QEventLoop loop;
+    bool ended = false;
+    QElapsedTimer clock;
+    QElapsedTimer stopClock;
+    QMetaObject::Connection end
+        = QObject::connect(TControlUI::instance(), &TControlUI::onAllComplate, &loop, [&] {
+              ended = true;
+              probe.disarm();
+              if (stopClock.isValid())
+                  run.stopMs = stopClock.nsecsElapsed() / 1e6;
+              loop.quit();
+          });
+    QTimer stopper;
+    QElapsedTimer stageClock;
+    if (stopAfterMs >= 0) {
+        stopper.setInterval(10);
+        QObject::connect(&stopper, &QTimer::timeout, [&] {
+            if (TControlUI::instance()->stage() != TControlUI::StageSimilar)
+                return;
+            if (!stageClock.isValid())
+                stageClock.start();
+            if (stageClock.elapsed() < stopAfterMs || stopClock.isValid())
+                return;
+            stopper.stop();
+            stopClock.start();
+            stopButton->click();
+        });
+        stopper.start();
+    }
+    clock.start();
+    probe.arm();
+    window.findChild<QPushButton *>(QStringLiteral("btn_scan"))->click();
+    if (!ended)
+        loop.exec();
+    QObject::disconnect(end);
+    run.seconds = clock.nsecsElapsed() / 1e9;
+    run.worstStallMs = probe.worstMs();
+    run.paints = probe.paints();
+    run.groups = TFileData::instance()->groupCount();
+    TFileData::instance()->clear();
+    return run;
+}
+
+int pictureBench(const QString &dir)
+{
+    DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
+    similar->setHasSimilar(true);
+    const PictureRun full = pictureRun(dir, -1);
+    std::printf("full scan: %.3f s, %d groups, %lld paints of the scan page\n", full.seconds,
+        full.groups, full.paints);
+    // Stopped in the middle of the picture stage, as far as the first run tells where
+    // that lies.
+    const int stageMs = std::max(200, int(full.seconds * 1000 / 3));
+    const PictureRun stopped = pictureRun(dir, stageMs);
+    std::printf("stopped scan: %.3f s (Stop pressed %d ms into the picture stage), %d groups\n",
+        stopped.seconds, stageMs, stopped.groups);
+    std::printf("worst stall: %.0f ms\n", std::max(full.worstStallMs, stopped.worstStallMs));
+    std::printf("stop: %.0f ms\n", stopped.stopMs);
+    return std::max(full.worstStallMs, stopped.worstStallMs) <= 100.0 && stopped.stopMs >= 0
+            && stopped.stopMs <= 1000.0
+        ? 0
+        : 1;
+}
 
 int pageBench(const QString &tree, int groups)
 {
@@ -297,7 +444,8 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     if (argc < 3) {
-        std::fprintf(stderr, "usage: %s scan|model|page|thumbnails <tree> [groups]\n", argv[0]);
+        std::fprintf(
+            stderr, "usage: %s scan|model|page|thumbnails|pictures <tree> [groups]\n", argv[0]);
         return 2;
     }
     initLogger(DataDirectory::base());
@@ -309,5 +457,7 @@ int main(int argc, char *argv[])
         return pageBench(tree, argc > 3 ? QString::fromLocal8Bit(argv[3]).toInt() : 100000);
     if (mode == QLatin1String("thumbnails"))
         return thumbnailBench(tree);
+    if (mode == QLatin1String("pictures"))
+        return pictureBench(tree);
     return modelBench(tree, argc > 3 ? QString::fromLocal8Bit(argv[3]).toInt() : 100000);
 }

@@ -6,6 +6,7 @@
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TReadImage.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +19,7 @@
 #include <opencv2/imgproc.hpp>
 #include <vector>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
@@ -48,11 +50,47 @@ void logSkipped(const QString &path, const char *reason)
         kind.constData(), QStringLiteral("%1. File: %2").arg(QString::fromUtf8(kind), path));
 }
 
+// Every worker of the stage runs below the window: on two processors, decoding and
+// comparing at the window's priority left it (and the display server) waiting for whole
+// seconds. A caller on the program's main thread (a test driving one stage) keeps its own.
+void runInBackground()
+{
+    thread_local bool lowered = false;
+    if (lowered)
+        return;
+    lowered = true;
+    if (QCoreApplication::instance()
+        && QThread::currentThread() == QCoreApplication::instance()->thread())
+        return;
+    platform::current().lowerThreadPriority();
+}
+
 } // namespace
 
 ImageCompareThread::ImageCompareThread(QObject *parent) : QThread(parent)
 {
     qRegisterMetaType<ImageData>("ImageData");
+    m_pool.setMaxThreadCount(QThread::idealThreadCount());
+}
+
+void ImageCompareThread::reportProgress(int progressType, int done, int total, bool force)
+{
+    const qint64 now = m_timer.isValid() ? m_timer.elapsed() : 0;
+    qint64 last = m_lastReportMs.load();
+    if (!force && (now - last < 100 || !m_lastReportMs.compare_exchange_strong(last, now)))
+        return;
+    if (force)
+        m_lastReportMs.store(now);
+    const int percent = total > 0 ? int(qint64(done) * 100 / total) : 100;
+    emit progressChanged(progressType, percent);
+    emit progressCounted(progressType, done, total);
+    emit similarFound(m_foundCount.load(), m_foundBytes.load());
+}
+
+void ImageCompareThread::addFound(qint64 bytes)
+{
+    m_foundCount.fetch_add(1);
+    m_foundBytes.fetch_add(bytes);
 }
 
 ImageCompareThread::~ImageCompareThread()
@@ -204,7 +242,8 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
     const qint64 readNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
     std::vector<ContentKeyCache::Picture> records(cache ? size_t(images.size()) : 0);
     if (cache) {
-        QtConcurrent::blockingMap(records, [&](ContentKeyCache::Picture &record) {
+        QtConcurrent::blockingMap(&m_pool, records, [&](ContentKeyCache::Picture &record) {
+            runInBackground();
             const ImageData &data = images.at(qsizetype(&record - records.data()));
             record.stamp = pictureStamp(data.path);
             record.measure = measure;
@@ -212,12 +251,19 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
         cache->lookupPictures(records);
     }
     ImageData *first = images.data();
-    QtConcurrent::blockingMap(images, [&, this, measure](ImageData &data) {
+    const int total = int(images.size());
+    std::atomic_int handled {0};
+    reportProgress(2, 0, total, true);
+    QtConcurrent::blockingMap(&m_pool, images, [&, this, measure](ImageData &data) {
+        runInBackground();
+        const auto counted
+            = qScopeGuard([&] { reportProgress(2, handled.fetch_add(1) + 1, total); });
         const QString suffix = QFileInfo(data.path).suffix();
         data.fileType = pictureFormatOf(suffix);
         if (isCancelled() || isSimilarExcludedFormat(suffix))
             return;
         ContentKeyCache::Picture *record = cache ? &records[size_t(&data - first)] : nullptr;
+        data.bytes = record ? record->stamp.size : QFileInfo(data.path).size();
         if (record && record->found) {
             data.width = record->width;
             data.height = record->height;
@@ -294,7 +340,8 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
     images.erase(std::remove_if(images.begin(), images.end(),
                      [](const ImageData &data) { return data.hash.empty(); }),
         images.end());
-    emit progressChanged(2, 100);
+    if (!isCancelled())
+        reportProgress(2, total, total, true);
     splog_d(QStringLiteral("[TImageCompareThread]: Image data loading completed. Time taken: [%1] "
                            "seconds. Quantity: [%2]")
                 .arg(elapsedSeconds())
@@ -391,12 +438,16 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
 
     QList<int> indexes(n);
     std::iota(indexes.begin(), indexes.end(), 0);
-    QtConcurrent::blockingMap(indexes, [&](int i) {
+    // Without the feature re-check a picture counts as found once it is linked.
+    const bool foundWhenLinked = !m_isAddFeatures;
+    reportProgress(3, 0, n, true);
+    QtConcurrent::blockingMap(&m_pool, indexes, [&](int i) {
+        runInBackground();
+        const auto counted
+            = qScopeGuard([&] { reportProgress(3, finishedIndexes.fetch_add(1) + 1, n); });
         const ImageData &a = images.at(i);
-        if (!measured[size_t(i)]) {
-            finishedIndexes.fetch_add(1);
+        if (!measured[size_t(i)])
             return;
-        }
         const bool aHash = hasBits[size_t(i)];
         const bool aEarlier = earlier[size_t(i)];
         const quint64 aBits = bits[size_t(i)];
@@ -436,9 +487,16 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
         }
         if (!local.empty()) {
             QMutexLocker locker(&m_linkMutex);
-            linked[size_t(i)] = 1;
+            const auto link = [&](int k) {
+                if (linked[size_t(k)])
+                    return;
+                linked[size_t(k)] = 1;
+                if (foundWhenLinked && !earlier[size_t(k)])
+                    addFound(images.at(k).bytes);
+            };
+            link(i);
             for (int j : local) {
-                linked[size_t(j)] = 1;
+                link(j);
                 const int a = root(i);
                 const int b = root(j);
                 // The smaller index stays the root: a group is known by its first picture.
@@ -446,7 +504,6 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
                     parent[size_t(std::max(a, b))] = std::min(a, b);
             }
         }
-        finishedIndexes.fetch_add(1);
     });
     for (int j = 0; j < n; ++j) {
         const quint64 packed = written[size_t(j)].load();
@@ -472,7 +529,8 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
         std::stable_sort(group->begin(), group->end(),
             [](const ImageData &x, const ImageData &y) { return x.similarity > y.similarity; });
 
-    emit progressChanged(3, 100);
+    if (!isCancelled())
+        reportProgress(3, n, n, true);
     if (m_measure == MeasurePHash)
         splog_d(
             QStringLiteral("[TImageCompareThread]: Hash matching process completed. Time taken: "
@@ -560,11 +618,8 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
         total += int(group.size());
     std::atomic_int done {0};
     const double passMark = double(m_featuresValue);
-    auto step = [&] {
-        const int now = done.fetch_add(1) + 1;
-        if (total > 0)
-            emit progressChanged(4, now * 100 / total);
-    };
+    auto step = [&] { reportProgress(4, done.fetch_add(1) + 1, total); };
+    reportProgress(4, 0, total, true);
     // The feature points of each picture come from the cache where its stamp is stored,
     // under a measure of their own; those computed from the file stamped are stored after.
     std::unique_ptr<ContentKeyCache> cache = openCache();
@@ -610,7 +665,8 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
         }
         return descriptors;
     };
-    QtConcurrent::blockingMap(groups, [&](QList<ImageData> &group) {
+    QtConcurrent::blockingMap(&m_pool, groups, [&](QList<ImageData> &group) {
+        runInBackground();
         if (isCancelled() || group.isEmpty())
             return;
         try {
@@ -628,8 +684,13 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
                 if (candidate.descriptors.empty())
                     continue;
                 step();
-                if (compareFeatures(reference.descriptors, candidate.descriptors) >= passMark)
-                    kept.append(candidate);
+                if (compareFeatures(reference.descriptors, candidate.descriptors) < passMark)
+                    continue;
+                kept.append(candidate);
+                // Counted as they are confirmed: the reference with the first one kept.
+                for (qsizetype m = kept.size() == 2 ? 0 : kept.size() - 1; m < kept.size(); ++m)
+                    if (!kept.at(m).fromEarlierResult)
+                        addFound(kept.at(m).bytes);
             }
             group = kept;
         } catch (const cv::Exception &e) {
@@ -646,7 +707,8 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
     groups.erase(std::remove_if(groups.begin(), groups.end(),
                      [](const QList<ImageData> &g) { return g.size() < 2; }),
         groups.end());
-    emit progressChanged(4, 100);
+    if (!isCancelled())
+        reportProgress(4, total, total, true);
     splog_d(QStringLiteral("[TImageCompareThread]: OBR special point deduplication completed. Time "
                            "taken: [%1] seconds. Quantity: [%2]")
                 .arg(elapsedSeconds())
@@ -661,7 +723,8 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
     auto entryOf = [](const ImageData &image) {
         return image.path + kSimilarTag + QLatin1Char('_') + QString::number(image.similarity);
     };
-    QtConcurrent::blockingMap(groups, [&](const QList<ImageData> &group) {
+    QtConcurrent::blockingMap(&m_pool, groups, [&](const QList<ImageData> &group) {
+        runInBackground();
         QList<ImageData> earlier;
         QStringList entries;
         for (const ImageData &image : group) {
@@ -717,9 +780,13 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
 
 void ImageCompareThread::run()
 {
+    runInBackground();
     m_timer.restart();
+    m_lastReportMs.store(0);
     m_fileCount.store(0);
     m_fileBytes.store(0);
+    m_foundCount.store(0);
+    m_foundBytes.store(0);
     QList<ImageData> images;
     QList<QList<ImageData>> groups;
     auto guarded = [](const auto &stage) {

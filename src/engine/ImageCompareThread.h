@@ -15,12 +15,14 @@
 #include <QPair>
 #include <QStringList>
 #include <QThread>
+#include <QThreadPool>
 
 // Finds groups of similar pictures among the image files of a scan: decodes every picture
 // to the working size, scores every pair with a perceptual hash or a colour histogram,
 // links the pairs that pass into connected groups, optionally re-checks each group with
 // ORB feature points, and writes the groups into TFileData with tagged member entries.
-// Runs on its own thread; reports only through queued signals.
+// Runs on its own thread, with a pool of workers of its own, all below the window's
+// priority; reports only through queued signals.
 class ImageCompareThread : public QThread
 {
     Q_OBJECT
@@ -79,7 +81,15 @@ public:
 
 signals:
     void finished(int count, qint64 size);
+    // progressType: 2 loading the pictures, 3 comparing them in pairs, 4 the feature
+    // re-check; progress in percent. Sent while a stage runs, at most every 100 ms, and
+    // with 100 at its end.
     void progressChanged(int progressType, int progress);
+    // The same moments counted: pictures the stage has handled and its total.
+    void progressCounted(int progressType, int done, int total);
+    // Pictures found similar to another one so far and their bytes: grows while the run
+    // goes on; finished() gives what was stored.
+    void similarFound(int count, qint64 size);
 
 protected:
     void run() override;
@@ -91,6 +101,10 @@ private:
     // A picture file's stamp as the cache keys it (size -1 when it is no regular file).
     static ContentKeyCache::Stamp pictureStamp(const QString &path);
     void chooseMeasure(int imageCount);
+    // Sends the stage's progress (and the pictures found so far) when 100 ms have passed
+    // since the last report, or when forced.
+    void reportProgress(int progressType, int done, int total, bool force = false);
+    void addFound(qint64 bytes);
 
     // Settings.
     float m_similarityValue = 0.0f;
@@ -116,4 +130,9 @@ private:
     std::atomic_int m_fileCount {0};
     std::atomic<qint64> m_fileBytes {0};
     QMutex m_linkMutex;
+    std::atomic<qint64> m_lastReportMs {0};
+    std::atomic_int m_foundCount {0};
+    std::atomic<qint64> m_foundBytes {0};
+    // Declared last: its threads finish before the state above goes.
+    QThreadPool m_pool;
 };

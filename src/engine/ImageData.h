@@ -18,6 +18,8 @@ struct ImageData
     // Size of the picture as decoded, before the reduction to the working size.
     qint32 width = 0;
     qint32 height = 0;
+    // Size of the file in bytes, for the running total of similar pictures found.
+    qint64 bytes = 0;
     // Entry of an earlier result (a group of identical pictures); key is that group's key.
     bool fromEarlierResult = false;
     QString key;

@@ -359,10 +359,14 @@ QWidget *MainWindow::buildScanPage()
     addRow(3, QStringLiteral("lab_progress"), tr("Progress"), m_labProgress);
     addRow(4, QStringLiteral("lab_findTime"), tr("Elapsed time"), m_labFindTime);
     m_labFindTime->setText(QStringLiteral("00:00:00"));
+    m_labStage = new QLabel(page);
+    m_labStage->setObjectName(QStringLiteral("lab_stage"));
     layout->addSpacing(48);
     auto *column = new QVBoxLayout;
     column->addStretch(1);
     column->addLayout(grid);
+    column->addSpacing(22);
+    column->addWidget(m_labStage);
     column->addStretch(1);
     layout->addLayout(column);
     layout->addStretch(1);
@@ -475,6 +479,8 @@ void MainWindow::connectController()
     connect(controller, &TControlUI::processChange, this, &MainWindow::onProcessChange);
     connect(controller, &TControlUI::onDuplicateItemFound, this, &MainWindow::onItemFound);
     connect(controller, &TControlUI::onUpdateTimer, this, &MainWindow::onUpdateTimer);
+    connect(controller, &TControlUI::stageChanged, this, &MainWindow::onStageChanged);
+    connect(controller, &TControlUI::picturesCounted, this, &MainWindow::onPicturesCounted);
     connect(controller, &TControlUI::onAllComplate, this, &MainWindow::allThreadComplate);
     connect(
         controller, &TControlUI::openProjectComplated, this, &MainWindow::onProjectOpenComplated);
@@ -1012,6 +1018,7 @@ void MainWindow::startLocalScan()
 void MainWindow::showScanStarted(bool local)
 {
     m_localScan = local;
+    m_scanRunning = true;
     clearScanProblems();
     m_projectPath.clear();
     m_resultKind = ResultsFound;
@@ -1022,6 +1029,7 @@ void MainWindow::showScanStarted(bool local)
     m_labFindNumber->setText(QStringLiteral("0"));
     m_labFindSize->setText(TImageModel::sizeText(0));
     m_labFindTime->setText(QStringLiteral("00:00:00"));
+    m_labStage->setText(local ? tr("Looking for files…") : tr("Listing the cloud folders…"));
     m_pages->setCurrentIndex(1);
     setStatus(StateScanning);
 }
@@ -1048,6 +1056,43 @@ void MainWindow::onUpdateTimer(const QString &time)
 {
     m_elapsed = time;
     m_labFindTime->setText(time);
+}
+
+void MainWindow::onStageChanged(int stage)
+{
+    switch (stage) {
+    case TControlUI::StageScanning:
+        m_labStage->setText(tr("Looking for files…"));
+        break;
+    case TControlUI::StageMatching:
+        m_labStage->setText(tr("Comparing files of the same size…"));
+        break;
+    case TControlUI::StageSimilar:
+        m_labStage->setText(tr("Reading pictures…"));
+        break;
+    default:
+        break;
+    }
+}
+
+void MainWindow::onPicturesCounted(int progressType, int done, int total)
+{
+    const QLocale locale;
+    const QString counted
+        = QStringLiteral("%1 / %2").arg(locale.toString(done), locale.toString(total));
+    switch (progressType) {
+    case 2:
+        m_labStage->setText(tr("Reading pictures %1").arg(counted));
+        break;
+    case 3:
+        m_labStage->setText(tr("Comparing pictures %1").arg(counted));
+        break;
+    case 4:
+        m_labStage->setText(tr("Checking picture details %1").arg(counted));
+        break;
+    default:
+        break;
+    }
 }
 
 QString MainWindow::unreadableText(qint64 folders, qint64 files)
@@ -1147,8 +1192,20 @@ bool MainWindow::hasResults() const
 
 void MainWindow::allThreadComplate()
 {
+    // A project that was opened is no scan that ended.
+    m_scanStopped = std::exchange(m_scanRunning, false)
+        && (m_localScan ? TControlUI::instance()->wasStopped() : m_cloudStopped);
+    const bool stopped = m_scanStopped;
     setStatus(StateFinished);
-    onProcessChange(100.0);
+    // A stopped scan's progress stays where it stopped.
+    if (!stopped)
+        onProcessChange(100.0);
+    m_labStage->setText(
+        stopped ? tr("Scan stopped – results are incomplete") : tr("Scan complete"));
+    if (m_localScan)
+        showScanProblems(TControlUI::instance()->problems());
+    else
+        clearScanProblems();
     if (hasResults()) {
         m_resultKind = ResultsFound;
         setStatus(StateFinished);
@@ -1158,11 +1215,27 @@ void MainWindow::allThreadComplate()
         m_resultKind = NoResults;
         m_pages->setCurrentIndex(2);
         m_btnScan->setEnabled(false);
+        if (stopped)
+            showStoppedWithoutResults(
+                TControlUI::instance()->stoppedStage() == TControlUI::StageScanning);
     }
-    if (m_localScan)
-        showScanProblems(TControlUI::instance()->problems());
-    else
-        clearScanProblems();
+}
+
+void MainWindow::showStoppedWithoutResults(bool beforeComparing)
+{
+    if (TControlUI::instance()->problems().allRootsUnreadable())
+        return;
+    m_noResultRing->setPixmap(picture(QStringLiteral("unreadable_ring_bg.png")));
+    m_noResultText->setVisible(false);
+    m_labUnreadable->setText(
+        QStringLiteral("<b>%1</b><br>%2")
+            .arg(tr("Scan stopped – results are incomplete").toHtmlEscaped(),
+                (beforeComparing
+                        ? tr("The scan was stopped before any files were compared.")
+                        : tr("No duplicates were found among the files compared before the "
+                             "stop."))
+                    .toHtmlEscaped()));
+    m_labUnreadable->setVisible(true);
 }
 
 void MainWindow::allCloudThreadComplated(bool isAbort)
@@ -1195,6 +1268,7 @@ void MainWindow::allCloudThreadComplated(bool isAbort)
     select(copies, int(preferences->selectionPreferences()->selectDuplicate()));
     if (preferences->generalPreferences()->selectedSimilar())
         select(pictures, int(preferences->generalPreferences()->selectionHint()));
+    m_cloudStopped = isAbort;
     allThreadComplate();
     if (const QString failure = std::exchange(m_cloudFailure, QString()); !failure.isEmpty()) {
         QMessageBox::warning(this, tr("Cloud Scan Failed"),
@@ -1222,6 +1296,7 @@ void MainWindow::openResultPage()
             [this] { showProblemDetails(m_resultPage); });
         m_resultPage->setProblemText(
             m_labProblems->isVisibleTo(this) ? m_labProblems->text() : QString());
+        m_resultPage->setIncompleteScan(!m_cloudMode && m_scanStopped);
     }
     hide();
     m_resultPage->show();

@@ -69,6 +69,8 @@ public:
     // Shows on the finished pages what a scan could not read or did not follow; with
     // every root unreadable the "nothing found" page turns into a warning.
     void showScanProblems(const ScanProblems &problems);
+    // The no-results page after a stop: no all-clear, the stop said instead.
+    void showStoppedWithoutResults(bool beforeComparing);
     // "3 folders and 1 file could not be read" in the current language; empty when both
     // counts are 0.
     static QString unreadableText(qint64 folders, qint64 files);
@@ -92,6 +94,8 @@ public slots:
     void onProcessChange(double value);
     void onItemFound(int number, qint64 total);
     void onUpdateTimer(const QString &time);
+    void onStageChanged(int stage);
+    void onPicturesCounted(int progressType, int done, int total);
     void allThreadComplate();
     void allCloudThreadComplated(bool isAbort);
     // The chooser of the account's folders, after a sign-in.
@@ -182,6 +186,12 @@ private:
     // Set while the finished pages belong to a local scan started here: only then do the
     // controller's scan problems describe what is shown (not after a project or cloud scan).
     bool m_localScan = false;
+    // The last cloud scan was stopped or cut short.
+    bool m_cloudStopped = false;
+    // A scan runs (not a project being opened); the results shown are those of a scan
+    // stopped before its end.
+    bool m_scanRunning = false;
+    bool m_scanStopped = false;
     QList<ProblemListDialog::Section> m_problemSections;
 
     QFrame *m_titleFrame = nullptr;
@@ -199,6 +209,8 @@ private:
     QLabel *m_labFindSize = nullptr;
     QLabel *m_labProgress = nullptr;
     QLabel *m_labFindTime = nullptr;
+    // What the scan is doing, or that it was stopped.
+    QLabel *m_labStage = nullptr;
     QLabel *m_labProblems = nullptr;
     QLabel *m_noResultRing = nullptr;
     QLabel *m_noResultText = nullptr;

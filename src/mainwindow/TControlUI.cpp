@@ -44,6 +44,10 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
             SLOT(onCompareFinished(int, qint64)), Qt::QueuedConnection);
         connect(m_compare, SIGNAL(progressChanged(int, int)), this,
             SLOT(onCompareProgress(int, int)), Qt::QueuedConnection);
+        connect(m_compare, SIGNAL(progressCounted(int, int, int)), this,
+            SIGNAL(picturesCounted(int, int, int)), Qt::QueuedConnection);
+        connect(m_compare, SIGNAL(similarFound(int, qint64)), this,
+            SLOT(onCompareFound(int, qint64)), Qt::QueuedConnection);
     }
     connect(&m_openSave, &TOpenSaveThread::openProjectComplated, this,
         &TControlUI::openProjectComplated, Qt::QueuedConnection);
@@ -54,7 +58,7 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
     // Scans of the program reuse the keys of earlier ones; the command line can say no.
     m_finder.setCacheOptions(ContentKeyCache::Options {true, {}});
     m_finder.setOverlappedReader(&m_reader);
-    m_timer.setInterval(1000);
+    m_timer.setInterval(250);
     connect(&m_timer, &QTimer::timeout, this, &TControlUI::onTimerTick);
 }
 
@@ -125,8 +129,9 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
     m_similarSize = 0;
     m_duplicateCount = 0;
     m_duplicateSize = 0;
-    m_stage = StageScanning;
+    m_stoppedStage = 0;
     m_runState = Running;
+    setStage(StageScanning);
     m_cloudMode = false;
     m_projectPath.clear();
 
@@ -156,6 +161,8 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
 
 void TControlUI::stop()
 {
+    if (m_runState == Running)
+        m_stoppedStage = m_stage;
     m_runState = Stopped;
     m_timer.stop();
     switch (m_stage) {
@@ -213,7 +220,7 @@ void TControlUI::onScannerFinished()
     m_finder.setInput(std::move(m_table));
     m_table.clear();
     m_finder.setCollectsPictures(m_similarEnabled && m_compare);
-    m_stage = StageMatching;
+    setStage(StageMatching);
     m_finder.start(QThread::InheritPriority);
 }
 
@@ -252,7 +259,7 @@ void TControlUI::onFinderFinished()
                     .arg(seconds()));
         PictureStage::setInput(m_compare, imageGroups, uniqueImages);
         PictureStage::setCacheOptions(m_compare, m_finder.cacheOptions());
-        m_stage = StageSimilar;
+        setStage(StageSimilar);
         m_compare->start(QThread::InheritPriority);
         return;
     }
@@ -280,6 +287,18 @@ void TControlUI::onCompareProgress(int, int progress)
     emit processChange(progress);
 }
 
+void TControlUI::onCompareFound(int count, qint64 size)
+{
+    if (m_runState == Running)
+        emit onDuplicateItemFound(m_duplicateCount + count, m_duplicateSize + size);
+}
+
+void TControlUI::setStage(int stage)
+{
+    m_stage = stage;
+    emit stageChanged(stage);
+}
+
 void TControlUI::endScan()
 {
     splog_d(QStringLiteral("[TControlUI]: All tasks are completed. This task takes:[%1] seconds.")
@@ -301,6 +320,9 @@ void TControlUI::onTimerTick()
 {
     if (m_runState != Running)
         return;
-    ++m_seconds;
+    const qint64 seconds = m_clock.elapsed() / 1000;
+    if (seconds == m_seconds)
+        return;
+    m_seconds = seconds;
     emit onUpdateTimer(formatSeconds(m_seconds));
 }

@@ -42,6 +42,10 @@ public:
     // Stops the running stage and waits for its thread; the scan then ends through the
     // usual chain, with onAllComplate().
     void stop();
+    // Whether the current (or last) scan was stopped before its end, and in which stage:
+    // its results are then those found until the stop.
+    bool wasStopped() const { return m_stoppedStage != 0; }
+    int stoppedStage() const { return m_stoppedStage; }
 
     int stage() const { return m_stage; }
     int runState() const { return m_runState; }
@@ -50,7 +54,7 @@ public:
     // Files reported by the scanner in the current (or last) scan.
     int scannedFileCount() const { return m_scannedFiles; }
     double elapsedSeconds() const;
-    // "hh:mm:ss" of the timer's seconds.
+    // "hh:mm:ss" of the elapsed clock, as last shown.
     QString elapsedText() const;
     static QString formatSeconds(qint64 seconds);
 
@@ -77,6 +81,11 @@ signals:
     void processChange(double value);
     void onDuplicateItemFound(int number, qint64 total);
     void onUpdateTimer(const QString &time);
+    // The scan entered a stage (a Stage value).
+    void stageChanged(int stage);
+    // Progress of the picture stage counted: progressType 2 loading, 3 comparing, 4 the
+    // feature re-check; pictures handled and the stage's total.
+    void picturesCounted(int progressType, int done, int total);
     void onAllComplate();
     void openProjectComplated(int flag, int files, qint64 size);
     void saveComplated(int flag);
@@ -87,12 +96,14 @@ private slots:
     void onFinderFinished();
     void onCompareFinished(int count, qint64 size);
     void onCompareProgress(int progressType, int progress);
+    void onCompareFound(int count, qint64 size);
     void onFinderProgress(int progressType, double percent);
     void onFinderItems(int number, qint64 total);
     void onTimerTick();
 
 private:
     void endScan();
+    void setStage(int stage);
     QString seconds() const;
 
     TFileScanner m_scanner;
@@ -112,8 +123,11 @@ private:
     int m_stage = StageScanning;
     int m_runState = Stopped;
     QElapsedTimer m_clock;
+    // Shows the clock's seconds; it reads the clock at each tick, so a late tick never
+    // makes the time shown fall behind.
     QTimer m_timer;
     qint64 m_seconds = 0;
+    int m_stoppedStage = 0;
     int m_similarCount = 0;
     qint64 m_similarSize = 0;
     int m_duplicateCount = 0;

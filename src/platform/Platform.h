@@ -53,6 +53,11 @@ public:
     // page has been written back (Linux: the dirty expiry plus the write-back interval).
     virtual long long dirtyPageDelayMs() const = 0;
 
+    // Lowers the calling thread's share of the processors below the program's other
+    // threads (and the display server's), for work the user waits on but does not watch:
+    // the window keeps painting while it runs. Lasts for the thread's life.
+    virtual void lowerThreadPriority() const = 0;
+
     // Removal. Each call returns 0 on success or the system's error code (errno on
     // Linux, a Win32 error on Windows), which errorText() turns into the system's words.
 

@@ -2,8 +2,6 @@
 #include "results/ResultForm.h"
 
 #include "app/AppIdentity.h"
-#include "app/BuildSettings.h"
-#include "app/DataDirectory.h"
 #include "app/FeatureReporter.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
@@ -115,21 +113,6 @@ int similarityOf(const QString &entry)
         QStringLiteral("^.*%1_(\\d+)$").arg(QRegularExpression::escape(kSimilarTag)));
     const QRegularExpressionMatch match = pattern.match(entry);
     return match.hasMatch() ? match.captured(1).toInt() : 0;
-}
-
-// The contact sentence of the incomplete-scan notice: the support address when the build
-// names one, else where the logs that help a report are.
-QString supportSentence()
-{
-    const QString address = QStringLiteral(VELTRINE_SUPPORT_EMAIL);
-    if (!address.isEmpty())
-        return ResultForm::tr("If it keeps happening, write to <a href=\"mailto:%1\">%1</a>.")
-            .arg(address.toHtmlEscaped());
-    const QString logs = DataDirectory::logDirectory();
-    return ResultForm::tr("If it keeps happening, please send us the log files from "
-                          "<a href=\"%1\">%2</a>.")
-        .arg(QUrl::fromLocalFile(logs).toString(QUrl::FullyEncoded),
-            QDir::toNativeSeparators(logs).toHtmlEscaped());
 }
 
 } // namespace
@@ -1816,12 +1799,12 @@ void ResultForm::showInfoDialog()
 {
     splog_d(kTag + QStringLiteral("****************This scan is incomplete.*****************"));
     reportFeature(AppIdentity::featureIncompleteScan, QString());
+    // The scan ends short only when the user stops it: the page says what that means for
+    // what it shows.
     QMessageBox box(QMessageBox::Information, tr("Incomplete scan"),
-        tr("This scan could not complete the image matching process due to <br>memory and disk "
-           "space limitations. Please delete duplicate files<br>or select fewer folders and try "
-           "again. Ensure at least 1GB of <br>memory and 1GB of free space on the system drive "
-           "is available. <br>")
-            + supportSentence(),
+        tr("The scan was stopped before it ended.<br>These results hold only what it found "
+           "until then: files it had not yet compared may have copies that are not shown "
+           "here.<br>Scan again and let it finish to see them all."),
         QMessageBox::Ok, this);
     box.setTextFormat(Qt::RichText);
     box.exec();

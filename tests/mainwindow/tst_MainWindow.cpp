@@ -23,11 +23,14 @@
 #include <QAction>
 #include <QClipboard>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPainter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -244,7 +247,82 @@ private slots:
                                         "process.")));
         QVERIFY(log.lastIndexOf("All tasks are completed")
             > log.lastIndexOf("The user clicks Stop during the scanning"));
+        // Nothing was compared: no all-clear, and the page says why.
+        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), 2);
+        QVERIFY(!child<QLabel>("lab_noDuplicates")->isVisible());
+        QVERIFY(child<QLabel>("lab_rootsUnreadable")
+                    ->text()
+                    .contains("Scan stopped – results are incomplete"));
+        QCOMPARE(child<QLabel>("lab_stage")->text(), "Scan stopped – results are incomplete");
         QDir(m_tree.filePath("many")).removeRecursively();
+    }
+
+    void stopInThePictureStage()
+    {
+        // Pictures alike enough to form one group, so that the feature re-check runs long
+        // enough to be stopped in its middle, and a pair of identical files found before.
+        const QString root = m_tree.filePath("photos");
+        QVERIFY(QDir().mkpath(root));
+        for (int i = 0; i < 150; ++i)
+            QVERIFY(alikePicture(i).save(QStringLiteral("%1/p%2.jpg").arg(root).arg(i), "JPG", 90));
+        makeFile("photos/copy-a.bin", QByteArray(4000, 'p'));
+        makeFile("photos/copy-b.bin", QByteArray(4000, 'p'));
+        DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
+        const DFGenernalPreferences saved(*similar);
+        similar->setHasSimilar(true);
+        QVERIFY(m_window->addFolder(root));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QSignalSpy counted(TControlUI::instance(), &TControlUI::picturesCounted);
+        // The longest time the event loop did not turn while the pictures were compared.
+        QElapsedTimer clock;
+        clock.start();
+        qint64 last = 0;
+        qint64 worst = 0;
+        QTimer probe;
+        connect(&probe, &QTimer::timeout, this, [&] {
+            const qint64 now = clock.elapsed();
+            if (TControlUI::instance()->stage() == TControlUI::StageSimilar)
+                worst = std::max(worst, now - last);
+            last = now;
+        });
+        probe.start(5);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        const auto inFeatureCheck = [&] {
+            return std::any_of(counted.cbegin(), counted.cend(), [](const QList<QVariant> &row) {
+                return row.at(0).toInt() == 4 && row.at(1).toInt() > 0
+                    && row.at(1).toInt() < row.at(2).toInt();
+            });
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(inFeatureCheck() || done.count() > 0, 120000);
+        *similar = saved;
+        if (done.count() > 0)
+            QSKIP("the pictures were compared before the test could stop them");
+        QVERIFY(std::any_of(counted.cbegin(), counted.cend(), [](const QList<QVariant> &row) {
+            return row.at(0).toInt() == 2 && row.at(2).toInt() == 150;
+        }));
+        QCOMPARE(child<QLabel>("lab_stage")->text().left(24), "Checking picture details");
+        QVERIFY(child<QLabel>("lab_findNumber")->text().toInt() > 2);
+        clock.restart();
+        last = 0;
+        QTest::mouseClick(child<QPushButton>("btnAdd"), Qt::LeftButton);
+        QVERIFY(done.count() == 1 || done.wait(5000));
+        const qint64 stopMs = clock.elapsed();
+        probe.stop();
+        QVERIFY2(stopMs < 2000, qPrintable(QString::number(stopMs)));
+        QVERIFY2(worst < 1000, qPrintable(QString::number(worst)));
+
+        // The identical pair found before the stop is shown, under the stopped wording.
+        QCOMPARE(m_window->state(), 4);
+        QCOMPARE(child<QLabel>("lab_stage")->text(), "Scan stopped – results are incomplete");
+        QVERIFY(child<QLabel>("lab_progress")->text() != "100.00%");
+        QCOMPARE(child<QPushButton>("btn_scan")->text(), "Show results");
+        QVERIFY(TFileData::instance()->groupCount() >= 1);
+        DialogAnswerer boxes;
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QTRY_VERIFY(m_window->resultPage() && m_window->resultPage()->isDataLoaded());
+        QTRY_COMPARE(boxes.titles, QStringList {"Incomplete scan"});
+        m_window->resultPage()->close();
+        QDir(root).removeRecursively();
     }
 
     void projectFromCommandLine()
@@ -540,6 +618,25 @@ private:
     T *child(const char *name) const
     {
         return m_window->findChild<T *>(QString::fromLatin1(name));
+    }
+    // The same scene with a small mark that moves with n: alike, never identical.
+    static QImage alikePicture(int n)
+    {
+        QImage image(1024, 768, QImage::Format_RGB32);
+        QPainter painter(&image);
+        QLinearGradient sky(0, 0, 1024, 768);
+        sky.setColorAt(0, QColor(40, 90, 160));
+        sky.setColorAt(1, QColor(230, 200, 120));
+        painter.fillRect(image.rect(), sky);
+        painter.setBrush(QColor(30, 120, 40));
+        painter.drawEllipse(QPoint(300, 600), 260, 180);
+        painter.setBrush(QColor(250, 250, 240));
+        painter.drawRect(620, 240, 180, 260);
+        for (int k = 0; k < 40; ++k)
+            painter.drawLine(k * 25, 700, k * 25 + 60, 740);
+        painter.setBrush(Qt::red);
+        painter.drawEllipse(QPoint(40 + (n * 37) % 900, 60 + (n * 13) % 100), 6, 6);
+        return image;
     }
     void makeFile(const QString &relative, const QByteArray &content)
     {

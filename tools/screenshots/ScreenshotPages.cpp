@@ -13,6 +13,7 @@
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TCloudFolderDialog.h"
+#include "mainwindow/TControlUI.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFPreferencesDialog.h"
@@ -80,6 +81,9 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
     window.onItemFound(1375, qint64(3) * 1024 * 1024 * 1024 + 400 * 1024 * 1024);
     window.onUpdateTimer(QStringLiteral("00:01:37"));
     save(&window, out, prefix + QStringLiteral("4-scanning"));
+    window.onStageChanged(TControlUI::StageSimilar);
+    window.onPicturesCounted(3, 412, 1050);
+    save(&window, out, prefix + QStringLiteral("4-scanning-pictures"));
 
     // The scanning page in its finished state, with what the scan could not read.
     ScanProblems problems;
@@ -110,6 +114,9 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
     unreadable.addUnreadableRoot(root + QStringLiteral("/Photos"));
     window.showScanProblems(unreadable);
     save(&window, out, prefix + QStringLiteral("7-roots-unreadable"));
+    window.showScanProblems(ScanProblems());
+    window.showStoppedWithoutResults(false);
+    save(&window, out, prefix + QStringLiteral("7-stopped-without-results"));
 
     if (size == kSizes[0]) {
         window.showScanProblems(problems);

@@ -28,6 +28,7 @@ public:
     bool isHiddenOrSystem(const std::string &path) const override;
     std::vector<unsigned long long> pseudoFileSystemDevices() const override;
     long long dirtyPageDelayMs() const override;
+    void lowerThreadPriority() const override;
     std::vector<std::string> showItemCommand(
         const std::string &path, const std::string &uri) const override;
     using Platform::moveToTrash;

@@ -272,6 +272,11 @@ public:
     // what it takes in practice.
     long long dirtyPageDelayMs() const override { return 60000; }
 
+    void lowerThreadPriority() const override
+    {
+        SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL);
+    }
+
     std::vector<std::string> showItemCommand(
         const std::string &path, const std::string &uri) const override
     {
