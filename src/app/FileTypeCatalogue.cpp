@@ -158,6 +158,13 @@ bool isSimilarEntry(const QString &entry)
     return entry.contains(kSimilarTag);
 }
 
+int similarityOfEntry(const QString &entry)
+{
+    const QString path = stripSimilarTag(entry);
+    return path.size() == entry.size() ? 0
+                                       : entry.mid(path.size() + kSimilarTag.size() + 1).toInt();
+}
+
 bool isRawFormat(const QString &suffix)
 {
     return FileTypeCatalogue::rawFormats().contains(suffix, Qt::CaseInsensitive);

@@ -50,6 +50,8 @@ QString stripSimilarTag(const QString &key);
 void stripSimilarTag(QStringList &keys);
 // True when entry is a tagged member of a similar-picture group.
 bool isSimilarEntry(const QString &entry);
+// The percent a tagged entry carries ("abc_simlar_12" -> 12); 0 for any other.
+int similarityOfEntry(const QString &entry);
 
 bool isRawFormat(const QString &suffix);
 bool isHeifFormat(const QString &suffix);

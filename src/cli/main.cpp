@@ -45,9 +45,18 @@ struct OutputGroup
 {
     QString key;
     QString kind;
+    // Members as stored: similar pictures carry their similarity after the path.
     QStringList files;
     QStringList selected;
+    // Whole contents compared (false for groups of the sampled and the name mode).
+    bool verified = true;
 };
+
+// A member's real path.
+QString pathOf(const QString &entry)
+{
+    return isSimilarEntry(entry) ? stripSimilarTag(entry) : entry;
+}
 
 QList<OutputGroup> collectGroups()
 {
@@ -60,7 +69,8 @@ QList<OutputGroup> collectGroups()
             [](const QString &entry) { return isSimilarEntry(entry); });
         groups.append(
             OutputGroup {it.key(), similar ? QStringLiteral("similar") : QStringLiteral("files"),
-                it.value(), selected.value(it.key())});
+                it.value(), selected.value(it.key()),
+                similar || store->groupMatch(it.key()) == TFileData::MatchContent});
     }
     const TFileData::DirGroups folders = store->dirGroups();
     for (auto it = folders.begin(); it != folders.end(); ++it) {
@@ -142,10 +152,30 @@ void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &gr
         writeJsonString(out, group.key);
         std::fputs(", \"kind\": ", out);
         writeJsonString(out, group.kind);
+        const bool similar = group.kind == QLatin1String("similar");
+        if (group.kind == QLatin1String("files"))
+            std::fputs(group.verified ? ", \"verified\": true" : ", \"verified\": false", out);
         std::fputs(", \"files\": ", out);
-        writeJsonList(out, group.files);
-        std::fputs(", \"selected\": ", out);
-        writeJsonList(out, group.selected);
+        if (similar) {
+            QStringList paths;
+            QStringList percents;
+            for (const QString &entry : group.files) {
+                paths.append(pathOf(entry));
+                percents.append(QString::number(similarityOfEntry(entry)));
+            }
+            writeJsonList(out, paths);
+            std::fprintf(
+                out, ", \"similarity\": [%s]", qPrintable(percents.join(QStringLiteral(", "))));
+            QStringList chosen;
+            for (const QString &entry : group.selected)
+                chosen.append(pathOf(entry));
+            std::fputs(", \"selected\": ", out);
+            writeJsonList(out, chosen);
+        } else {
+            writeJsonList(out, group.files);
+            std::fputs(", \"selected\": ", out);
+            writeJsonList(out, group.selected);
+        }
         std::fputc('}', out);
     }
     std::fputs(groups.isEmpty() ? "]}\n" : "\n]}\n", out);
@@ -159,12 +189,13 @@ void printText(const QList<OutputGroup> &groups)
         for (const QString &path : group.files) {
             // Similar entries carry their percent as a tag; the text shows the real path
             // and the percent beside it.
-            const QString file = isSimilarEntry(path) ? stripSimilarTag(path) : path;
+            const QString file = pathOf(path);
             const QByteArray bytes = lineText(file);
             std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
             if (file.size() != path.size())
-                std::fprintf(stdout, "\t[similar %s%%]",
-                    qPrintable(path.mid(file.size() + kSimilarTag.size() + 1)));
+                std::fprintf(stdout, "\t[similar %d%%]", similarityOfEntry(path));
+            else if (!group.verified)
+                std::fputs("\t[not verified]", stdout);
             if (selected.contains(path))
                 std::fputs("\t[selected]", stdout);
             if (group.kind == QLatin1String("folders"))

@@ -216,6 +216,7 @@ bool TFileData::removeGroup(const QString &key)
     QWriteLocker locker(&m_lock);
     m_selected.remove(key);
     m_selectedLookup.remove(key);
+    m_groupMatches.remove(key);
     return m_groups.remove(key) > 0;
 }
 
@@ -235,7 +236,7 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     m_selected = selected;
     m_selectedLookup = lookupOf(selected);
     m_stamps.clear();
-    m_nameGroups.clear();
+    m_groupMatches.clear();
 }
 
 void TFileData::clear()
@@ -246,7 +247,7 @@ void TFileData::clear()
     m_selected.clear();
     m_selectedLookup.clear();
     m_stamps.clear();
-    m_nameGroups.clear();
+    m_groupMatches.clear();
 }
 
 void TFileData::insertStamp(const QString &path, const FileStamp &stamp)
@@ -276,14 +277,14 @@ void TFileData::setStamps(const Stamps &stamps)
 void TFileData::setGroupMatch(const QString &key, GroupMatch match)
 {
     QWriteLocker locker(&m_lock);
-    if (match == MatchName)
-        m_nameGroups.insert(key);
+    if (match == MatchContent)
+        m_groupMatches.remove(key);
     else
-        m_nameGroups.remove(key);
+        m_groupMatches.insert(key, match);
 }
 
 TFileData::GroupMatch TFileData::groupMatch(const QString &key) const
 {
     QReadLocker locker(&m_lock);
-    return m_nameGroups.contains(key) ? MatchName : MatchContent;
+    return m_groupMatches.value(key, MatchContent);
 }

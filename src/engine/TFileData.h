@@ -21,9 +21,10 @@ public:
     using Groups = QHash<QString, QStringList>;
     using DirGroups = QHash<QString, QList<DirGroupEntry>>;
     using Stamps = QHash<QString, FileStamp>;
-    // What the members of a file group share: their content (the default), or only
-    // their name (the name mode), where a removal need not compare contents.
-    enum GroupMatch : int { MatchContent = 0, MatchName = 1 };
+    // What the members of a file group were found to share: their whole content (the
+    // default), only their name (the name mode), or the parts of their content the sampled
+    // mode reads. Only the first is verified: the others may hold different files.
+    enum GroupMatch : int { MatchContent = 0, MatchName = 1, MatchSampled = 2 };
 
     static TFileData *instance();
 
@@ -87,5 +88,6 @@ private:
     // not read the whole list.
     QHash<QString, QSet<QString>> m_selectedLookup;
     Stamps m_stamps;
-    QSet<QString> m_nameGroups;
+    // Groups whose match is not MatchContent.
+    QHash<QString, GroupMatch> m_groupMatches;
 };

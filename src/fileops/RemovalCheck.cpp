@@ -26,6 +26,8 @@ const QString RemovalCheck::noKeptCopyLeft = QStringLiteral("no kept copy left")
 const QString RemovalCheck::contentDiffers = QStringLiteral("content differs from the kept copy");
 const QString RemovalCheck::differentContent
     = QStringLiteral("content differs from every kept copy");
+const QString RemovalCheck::notIdentical
+    = QStringLiteral("not identical (only parts were compared)");
 const QString RemovalCheck::folderNotCovered
     = QStringLiteral("not everything in it has a copy in the kept folder");
 
@@ -357,7 +359,7 @@ RemovalCheck::Confirmed RemovalCheck::confirmFile(
             break;
         }
     }
-    if (anyKept && kind != IdenticalFiles && allowDifferentContent) {
+    if (anyKept && (kind == NamedFiles || kind == SimilarPictures) && allowDifferentContent) {
         out.digest = ContentHash::ofFd(fd);
         if (out.digest.isEmpty() || !unchangedSince(fd, now))
             out.reason = changedSinceScan;
@@ -367,6 +369,7 @@ RemovalCheck::Confirmed RemovalCheck::confirmFile(
     ::close(fd);
     out.reason = !anyKept        ? noKeptCopyLeft
         : kind == IdenticalFiles ? contentDiffers
+        : kind == SampledFiles   ? notIdentical
                                  : differentContent;
     return out;
 }

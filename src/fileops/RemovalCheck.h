@@ -29,9 +29,11 @@ public:
     static const QString noKeptCopyLeft;
     static const QString contentDiffers;
     static const QString differentContent;
+    static const QString notIdentical;
     static const QString folderNotCovered;
 
-    enum GroupKind { IdenticalFiles, NamedFiles, SimilarPictures, Folders };
+    // SampledFiles: found alike by parts of their content only, meant to be identical.
+    enum GroupKind { IdenticalFiles, NamedFiles, SimilarPictures, Folders, SampledFiles };
 
     // What the look before the act found.
     struct Look

@@ -17,9 +17,13 @@ RemovalRequest RemovalRequest::fromStore(int method, const QString &targetFolder
     request.dirGroups = store->dirGroups();
     request.selected = store->selected();
     request.stamps = store->stamps();
-    for (auto it = request.groups.cbegin(); it != request.groups.cend(); ++it)
-        if (store->groupMatch(it.key()) == TFileData::MatchName)
+    for (auto it = request.groups.cbegin(); it != request.groups.cend(); ++it) {
+        const TFileData::GroupMatch match = store->groupMatch(it.key());
+        if (match == TFileData::MatchName)
             request.nameGroups.insert(it.key());
+        else if (match == TFileData::MatchSampled)
+            request.sampledGroups.insert(it.key());
+    }
     return request;
 }
 

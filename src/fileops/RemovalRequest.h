@@ -27,6 +27,8 @@ struct RemovalRequest
     TFileData::Groups selected;
     TFileData::Stamps stamps;
     QSet<QString> nameGroups;
+    // Groups the sampled mode found: their members may differ outside the parts it read.
+    QSet<QString> sampledGroups;
 
     // Why the batch cannot start at all, before anything moves (empty: it can): a target
     // folder that is a file, or a selected folder that holds the target folder.

@@ -141,6 +141,8 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
                 plan.kind = RemovalCheck::SimilarPictures;
             else if (m_request.nameGroups.contains(key))
                 plan.kind = RemovalCheck::NamedFiles;
+            else if (m_request.sampledGroups.contains(key))
+                plan.kind = RemovalCheck::SampledFiles;
         } else {
             continue;
         }

@@ -37,6 +37,7 @@ const QString kPercentEncoding = QStringLiteral("percent");
 // A group whose members share only their name (the name mode).
 const QString kMatchAttribute = QStringLiteral("match");
 const QString kMatchName = QStringLiteral("name");
+const QString kMatchSampled = QStringLiteral("sampled");
 // An item's stamp as the scan saw it: size, modification time in nanoseconds, device and
 // inode.
 const QString kSizeAttribute = QStringLiteral("size");
@@ -55,7 +56,7 @@ struct ReadGroup
     QString key;
     QStringList entries;
     QSet<QString> selected;
-    bool nameMatch = false;
+    TFileData::GroupMatch match = TFileData::MatchContent;
     QHash<QString, FileStamp> stamps;
     // Entries left out as repeats of a path listed before.
     int repeats = 0;
@@ -364,8 +365,16 @@ int TOpenSaveThread::saveDocument(
         xml.writeAttribute(QStringLiteral("GroupType"), QStringLiteral("0"));
         xml.writeAttribute(QStringLiteral("GroupFlag"), QStringLiteral("0"));
         xml.writeAttribute(QStringLiteral("key"), key);
-        if (store->groupMatch(key) == TFileData::MatchName)
+        switch (store->groupMatch(key)) {
+        case TFileData::MatchName:
             xml.writeAttribute(kMatchAttribute, kMatchName);
+            break;
+        case TFileData::MatchSampled:
+            xml.writeAttribute(kMatchAttribute, kMatchSampled);
+            break;
+        case TFileData::MatchContent:
+            break;
+        }
         for (const QString &path : std::as_const(members)) {
             xml.writeStartElement(kItemElement);
             xml.writeAttribute(QStringLiteral("selected"),
@@ -515,7 +524,10 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
         const QXmlStreamAttributes attributes = xml.attributes();
         ReadGroup group;
         group.key = attributes.value(QStringLiteral("key")).toString();
-        group.nameMatch = attributes.value(kMatchAttribute) == kMatchName;
+        if (attributes.value(kMatchAttribute) == kMatchName)
+            group.match = TFileData::MatchName;
+        else if (attributes.value(kMatchAttribute) == kMatchSampled)
+            group.match = TFileData::MatchSampled;
         qint64 reserved = 0;
         if (group.key.isEmpty() || group.key.size() > kMaxKeyLength) {
             refuse(ProjectInvalidContent, at(xml, QStringLiteral("a group has no valid \"key\"")));
@@ -749,8 +761,8 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
     for (const ReadGroup &group : std::as_const(readGroups)) {
         for (auto it = group.stamps.cbegin(); it != group.stamps.cend(); ++it)
             stamps.insert(it.key(), it.value());
-        if (group.nameMatch && groups.contains(group.key))
-            store->setGroupMatch(group.key, TFileData::MatchName);
+        if (group.match != TFileData::MatchContent && groups.contains(group.key))
+            store->setGroupMatch(group.key, group.match);
     }
     store->setStamps(stamps);
     emit openProjectProcess(fileSize, fileSize);

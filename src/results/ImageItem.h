@@ -18,6 +18,9 @@ struct ImageItem
     bool checked = false;
     int type = 7;
     int similarity = 0;
+    // A member of a group whose files were compared only in part (or by name): its
+    // similarity to the others is not known.
+    bool unverified = false;
     QString displayName;
 };
 

@@ -179,7 +179,12 @@ void PicturePreviewPane::showRow(TImageModel *model, int row)
     m_size->setText(m_index.data(TImageModel::SizeTextRole).toString());
     m_date->setText(m_index.data(TImageModel::DateRole).toString());
     const int similarity = m_index.data(TImageModel::SimilarityRole).toInt();
-    m_similarity->setText(tr("%1%").arg(similarity));
+    const bool unverified = m_index.data(TImageModel::UnverifiedRole).toBool();
+    m_similarity->setText(unverified ? tr("Not verified") : tr("%1%").arg(similarity));
+    m_similarity->setToolTip(unverified
+            ? tr("Only parts of these files (or only their names) were compared: they may "
+                 "differ. A scan that compares whole files verifies them.")
+            : QString());
     setDetailVisible(m_similarity, similarity > 0);
     syncCheck();
 

@@ -107,14 +107,6 @@ QString chartLabelKey(int code)
     }
 }
 
-int similarityOf(const QString &entry)
-{
-    static const QRegularExpression pattern(
-        QStringLiteral("^.*%1_(\\d+)$").arg(QRegularExpression::escape(kSimilarTag)));
-    const QRegularExpressionMatch match = pattern.match(entry);
-    return match.hasMatch() ? match.captured(1).toInt() : 0;
-}
-
 } // namespace
 
 ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
@@ -791,7 +783,8 @@ void ResultForm::loadGroupMembers(const GroupItem &group)
             member.path = stripSimilarTag(member.entry);
             // Identical copies are as similar as files can be: the slider's floor never
             // hides them.
-            member.similarity = isSimilarEntry(member.entry) ? similarityOf(member.entry) : 100;
+            member.similarity
+                = isSimilarEntry(member.entry) ? similarityOfEntry(member.entry) : 100;
             if (isCloud) {
                 auto property = [cloud, &member](const char *name) {
                     return TImageModel::cloudProperty(
@@ -818,6 +811,8 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
     int groupIndex = currentGroupIndex().row();
     TFileData *store = TFileData::instance();
     const QStringList selected = store->selectedOf(m_memberKey);
+    const TFileData::GroupMatch match = store->groupMatch(m_memberKey);
+    const bool unverified = match != TFileData::MatchContent;
     QList<ImageItem> items;
     items.reserve(members.size());
     for (const IndexFileGroup &member : members) {
@@ -831,9 +826,11 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
         item.type = m_isCloud ? getFileType(QFileInfo(member.name).suffix())
                               : getPathCategory(member.path);
         item.similarity = member.similarity;
+        item.unverified = unverified;
         item.displayName = member.name;
-        item.extra
-            = isSimilarEntry(member.entry) ? tr("%1% similar").arg(member.similarity) : QString();
+        item.extra = isSimilarEntry(member.entry) ? tr("%1% similar").arg(member.similarity)
+            : unverified                          ? tr("not verified")
+                                                  : QString();
         items.append(item);
     }
     m_itemModel->setItems(items);
@@ -845,8 +842,12 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
     const int row = currentGroupIndex().row();
     if (row >= 0 && row < m_groupModel->displayedGroups().size()) {
         const GroupItem &group = m_groupModel->displayedGroups().at(row);
-        const QString title = tr("%1 · %n copies · %2", nullptr, group.count)
-                                  .arg(group.name, TImageModel::sizeText(group.totalSize));
+        QString title = tr("%1 · %n copies · %2", nullptr, group.count)
+                            .arg(group.name, TImageModel::sizeText(group.totalSize));
+        if (match == TFileData::MatchSampled)
+            title += tr(" · not verified: only parts of the files were compared");
+        else if (match == TFileData::MatchName)
+            title += tr(" · not verified: only the names were compared");
         ui->lab_group_title->setToolTip(title);
         ui->lab_group_title->setText(ui->lab_group_title->fontMetrics().elidedText(
             title, Qt::ElideMiddle, std::max(200, ui->widget_members->width() - 20)));
@@ -1508,6 +1509,22 @@ void ResultForm::finishRemoval(const QHash<QString, QStringList> &files,
     for (auto it = removed.cbegin(); it != removed.cend(); ++it)
         for (const QString &entry : it.value())
             store->removePath(it.key(), entry);
+    // A group the removal found not to be identical (the sampled mode compared parts of
+    // its files) is no group of copies: it leaves the page whole.
+    QSet<QString> notIdentical;
+    for (const DeleteResult &result : results)
+        if (result.reason == RemovalCheck::notIdentical)
+            notIdentical.insert(result.path);
+    if (!notIdentical.isEmpty()) {
+        const TFileData::Groups groups = store->groups();
+        for (auto it = groups.cbegin(); it != groups.cend(); ++it) {
+            if (std::none_of(it.value().cbegin(), it.value().cend(),
+                    [&](const QString &member) { return notIdentical.contains(member); }))
+                continue;
+            removed[it.key()] << it.value();
+            store->removeGroup(it.key());
+        }
+    }
     const QString current = m_memberKey;
     m_groupModel->removeDeletedFiles(removed);
     // Groups that the removal emptied leave the list; the others show their new members.
@@ -1542,6 +1559,8 @@ QString ResultForm::failureText(const DeleteResult &result, int method)
             return tr("Its content no longer matches the copy that stays.");
         if (result.reason == RemovalCheck::differentContent)
             return tr("Its content differs from every copy that stays.");
+        if (result.reason == RemovalCheck::notIdentical)
+            return tr("Not identical (only parts were compared).");
         if (result.reason == RemovalCheck::folderNotCovered)
             return tr("Not everything in it has a copy in the folder that stays.");
         if (result.reason == TImageDeleteWorker::keptLastCopy)

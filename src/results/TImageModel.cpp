@@ -258,6 +258,8 @@ QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, 
         return item.similarity;
     case DisplayNameRole:
         return item.displayName;
+    case UnverifiedRole:
+        return item.unverified;
     default:
         return {};
     }

@@ -55,6 +55,7 @@ public:
         GroupIndexRole = 272,
         SimilarityRole = 273,
         DisplayNameRole = 274,
+        UnverifiedRole = 275,
     };
 
     static constexpr int kPathNameMode = 20;

@@ -121,6 +121,8 @@ private slots:
         const TFileData::Groups selected {
             {dupKey, {c2, c3}}, {simKey, {similar.at(1)}}, {dirKey, {d2}}};
         store->replaceAll(groups, dirGroups, selected);
+        // Found by the sampled mode: it stays marked as not compared whole.
+        store->setGroupMatch(dupKey, TFileData::MatchSampled);
 
         TOpenSaveThread thread;
         thread.setGroupOrder({simKey, "NOT-A-GROUP", dupKey});
@@ -152,6 +154,8 @@ private slots:
         QCOMPARE(store->groups(), groups);
         QCOMPARE(store->dirGroups(), dirGroups);
         QCOMPARE(store->selected(), selected);
+        QCOMPARE(store->groupMatch(dupKey), TFileData::MatchSampled);
+        QCOMPARE(store->groupMatch(simKey), TFileData::MatchContent);
         // Members: 3 duplicates + 2 pictures + the 2 + 2 files of the two folders.
         QCOMPARE(completion.at(1).toInt(), 9);
         QCOMPARE(completion.at(2).toLongLong(), qint64(3 * 100 + 40 + 60 + 5 + 5));

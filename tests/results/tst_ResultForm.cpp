@@ -8,6 +8,7 @@
 #include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
+#include "fileops/RemovalCheck.h"
 #include "fileops/TImageDeleteWorker.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TControlUI.h"
@@ -332,6 +333,39 @@ private slots:
         QCOMPARE(answers.defaults.at(asked), QMessageBox::No);
         QTRY_COMPARE(QFileInfo::exists(other), answer == QMessageBox::No);
         QCOMPARE(ScanTree::read(kept), ScanTree::pattern(900, 'a'));
+    }
+
+    void sampledGroupThatDiffersLeavesThePage()
+    {
+        // The sampled mode reads parts of a file: two files that agree there may differ
+        // elsewhere. Shown as not verified; the removal finds out, keeps the file without
+        // asking about different content, and the group leaves the page.
+        const QByteArray content = ScanTree::pattern(40000, 'a');
+        QByteArray changed = content;
+        changed[20000] = char(changed[20000] ^ 1);
+        const QString kept = file("a/data.bin", content);
+        const QString other = file("b/data.bin", changed);
+        const QString key = TFileData::groupKey(kept);
+        TFileData::instance()->insertGroup(key, {kept, other});
+        TFileData::instance()->setGroupMatch(key, TFileData::MatchSampled);
+        TFileData::instance()->setSelected(key, {other});
+        ResultForm *page = openPage();
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        QVERIFY(page->itemModel()->displayedItems().at(1).unverified);
+        QCOMPARE(page->itemModel()->displayedItems().at(1).extra, "not verified");
+        DialogAnswerer answers({QMessageBox::Yes, QMessageBox::NoButton});
+        answers.closeOtherDialogs = true;
+        page->on_btn_delete_clicked();
+        QTRY_VERIFY(answers.titles.size() >= 2);
+        QTRY_VERIFY(!page->isRemoving());
+        QCOMPARE(ScanTree::read(other), changed);
+        QVERIFY(!answers.titles.contains("Remove Different Files?"));
+        QVERIFY(TFileData::instance()->group(key).isEmpty());
+        QCOMPARE(page->groupModel()->rowCount(), 0);
+        DeleteResult refused;
+        refused.errorCode = DeleteResult::Skipped;
+        refused.reason = RemovalCheck::notIdentical;
+        QCOMPARE(ResultForm::failureText(refused, 0), "Not identical (only parts were compared).");
     }
 
     void similarMembersShowRealFiles()
