@@ -1368,7 +1368,11 @@ void DuplicateFileFinder::processDirectories()
             duplicateFileCount.fetch_add(digest.fileCount);
             duplicateTotalSize.fetch_add(digest.totalSize);
         }
-        store->insertDirGroup(TFileData::groupKey(folders.first()), entries);
+        const QString key = TFileData::groupKey(folders.first());
+        store->insertDirGroup(key, entries);
+        // Selected by the same rule as the copies of files.
+        if (duplicateSelectHint != 8)
+            GroupItemAutoSelector::applyToGroup(key, folders, duplicateSelectHint, mapPriority);
     }
     pruneMatchedFolders(matched);
 }

@@ -62,6 +62,7 @@ bool TFileData::replaceGroup(const QString &key, const QStringList &paths)
 
 void TFileData::insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries)
 {
+    QWriteLocker locker(&m_lock);
     m_dirGroups.insert(key, entries);
 }
 

@@ -33,7 +33,13 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
 {
     GroupItem item;
     item.key = key;
-    item.files = source.groups.value(key);
+    // A folder group's members are its folders.
+    const auto folders = source.dirGroups.constFind(key);
+    if (folders != source.dirGroups.cend() && !source.groups.contains(key))
+        for (const DirGroupEntry &entry : folders.value())
+            item.files.append(entry.folderPath);
+    else
+        item.files = source.groups.value(key);
     item.count = int(item.files.size());
     item.firstFile = item.files.isEmpty() ? QString() : item.files.first();
     item.selectedCount = int(source.selected.value(key).size());
@@ -356,7 +362,10 @@ TImageModel::BuiltGroups TImageModel::buildAllGroups(bool isCloud, KvCloudObject
     source.dirGroups = store->dirGroups();
     source.isCloud = isCloud;
     source.cloud = cloud;
-    const QStringList keys = source.groups.keys();
+    QStringList keys = source.groups.keys();
+    for (auto it = source.dirGroups.cbegin(); it != source.dirGroups.cend(); ++it)
+        if (!source.groups.contains(it.key()))
+            keys.append(it.key());
 
     std::atomic<qint64> totalSize {0};
     std::atomic<int> selectedTotal {0};

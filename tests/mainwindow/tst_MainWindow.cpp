@@ -2,6 +2,7 @@
 #include "DialogAnswerer.h"
 #include "TestEnvironment.h"
 #include "app/DataDirectory.h"
+#include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
 #include "engine/ScanProblems.h"
@@ -15,6 +16,7 @@
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFPreferencesDialog.h"
+#include "preferences/DFSelectionPreferences.h"
 #include "widgets/ProblemListDialog.h"
 #include "widgets/RoundTextButton.h"
 
@@ -255,6 +257,53 @@ private slots:
                     .contains("Scan stopped – results are incomplete"));
         QCOMPARE(child<QLabel>("lab_stage")->text(), "Scan stopped – results are incomplete");
         QDir(m_tree.filePath("many")).removeRecursively();
+    }
+
+    void folderGroupShownAndRemoved()
+    {
+        // Two folders with the same files: with folder matching on, the result is one
+        // folder group, shown in the Folders category and removed as a folder.
+        for (const char *folder : {"twins/A", "twins/B"}) {
+            makeFile(QStringLiteral("%1/x.bin").arg(QLatin1String(folder)), QByteArray(3000, 'x'));
+            makeFile(QStringLiteral("%1/y.txt").arg(QLatin1String(folder)), QByteArray(2000, 'y'));
+        }
+        DFSelectionPreferences *duplicates = DFPreferences::instance()->selectionPreferences();
+        const bool matchedFolders = duplicates->scanDupDirectory();
+        duplicates->setScanDupDirectory(true);
+        QVERIFY(m_window->addFolder(m_tree.filePath("twins")));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QVERIFY(done.wait(30000));
+        duplicates->setScanDupDirectory(matchedFolders);
+        QCOMPARE(TFileData::instance()->dirGroups().size(), 1);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        ResultForm *page = m_window->resultPage();
+        QVERIFY(page);
+        QTRY_VERIFY(page->isDataLoaded());
+        auto *folders = page->findChild<QPushButton *>("btn_archives");
+        QVERIFY(folders->isVisible());
+        QVERIFY2(folders->text().startsWith("Folders  1 ·"), qPrintable(folders->text()));
+        QTest::mouseClick(folders, Qt::LeftButton);
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+        QCOMPARE(page->groupModel()->displayedGroups().first().type, int(CategoryFolders));
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        const QString removed = TFileData::instance()
+                                    ->selected()
+                                    .value(page->groupModel()->displayedGroups().first().key)
+                                    .value(0);
+        QVERIFY(removed.endsWith("/twins/B") || removed.endsWith("/twins/A"));
+        DialogAnswerer answers({QMessageBox::Yes, QMessageBox::NoButton});
+        answers.closeOtherDialogs = true;
+        page->on_btn_delete_clicked();
+        QTRY_VERIFY(!answers.titles.isEmpty());
+        QTRY_VERIFY(!page->isRemoving());
+        QVERIFY(!QFileInfo::exists(removed));
+        const QString kept
+            = removed.endsWith("B") ? m_tree.filePath("twins/A") : m_tree.filePath("twins/B");
+        QCOMPARE(ScanTree::read(kept + "/x.bin"), QByteArray(3000, 'x'));
+        QTRY_COMPARE(page->groupModel()->rowCount(), 0);
+        page->close();
+        QDir(m_tree.filePath("twins")).removeRecursively();
     }
 
     void stopInThePictureStage()
