@@ -120,26 +120,25 @@ void DFPreferencesDialog::on_btnDefault_clicked()
 {
     if (refusedDuringScan())
         return;
-    // The tunables go back to their defaults; the user's lists, folders and priorities
-    // are data, not tunables, and stay.
-    ui->tabGeneral->preferences().resetDefaults();
-
-    DFGenernalPreferences &similar = ui->tabSimilarImages->preferences();
-    const DFGenernalPreferences similarDefaults;
-    const DFSelectionPreferences::DFAlgorithmsHint algorithm = similar.algorithmHint();
-    similar = similarDefaults;
-    similar.setAlgorithmHint(algorithm);
-
-    DFSelectionPreferences &duplicate = ui->tabDuplicateFiles->preferences();
-    const DFSelectionPreferences duplicateDefaults;
-    duplicate.setSelectDuplicate(duplicateDefaults.selectDuplicate());
-    duplicate.setSimilarSelectHint(duplicateDefaults.similarSelectHint());
-    duplicate.setScanMethod(duplicateDefaults.scanMethod());
-    duplicate.setScanDupDirectory(duplicateDefaults.scanDupDirectory());
-
-    ui->tabGeneral->refresh();
-    ui->tabDuplicateFiles->refresh();
-    ui->tabSimilarImages->refresh();
+    // Every value of the tab shown goes back to what a new settings file holds, its lists
+    // and table included; the other tabs keep theirs. The folders the file dialogs
+    // remember and the removal marker are no values of a tab and stay.
+    QWidget *tab = ui->tabWidget->currentWidget();
+    if (tab == ui->tabGeneral) {
+        DFIgnoreListPreferences &common = ui->tabGeneral->preferences();
+        DFIgnoreListPreferences defaults;
+        defaults.setOpenFolder(common.OpenFolder());
+        defaults.setSaveFolder(common.SaveFolder());
+        defaults.setDeleteException(common.deleteException());
+        common = defaults;
+        ui->tabGeneral->refresh();
+    } else if (tab == ui->tabDuplicateFiles) {
+        ui->tabDuplicateFiles->preferences() = DFSelectionPreferences();
+        ui->tabDuplicateFiles->refresh();
+    } else if (tab == ui->tabSimilarImages) {
+        ui->tabSimilarImages->preferences() = DFGenernalPreferences();
+        ui->tabSimilarImages->refresh();
+    }
     // Default takes effect at once, without OK; Cancel afterwards does not undo it.
     copyToStore();
 }

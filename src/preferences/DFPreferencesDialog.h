@@ -16,7 +16,7 @@ class DFPreferencesDialog;
 }
 
 // The settings dialog: three tabs, each editing a copy of one group of the store. OK
-// checks the copies and hands them to the store, Default resets the tunables at once,
+// checks the copies and hands them to the store, Default resets the tab shown at once,
 // Cancel leaves the store as it was. While a scan runs nothing is changed: the engines
 // were configured from the store when the scan started.
 class DFPreferencesDialog : public QDialog

@@ -23,6 +23,7 @@
 #include <QSettings>
 #include <QSlider>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -124,8 +125,23 @@ private slots:
         QCOMPARE(stored(key), expected);
     }
 
-    void defaultRestoresAndKeeps()
+    void defaultRestoresItsTab_data()
     {
+        // The tab shown, and the settings group it edits: Default restores every value of
+        // that group, lists and table included, and no other.
+        QTest::addColumn<QString>("tab");
+        QTest::addColumn<QString>("group");
+        QTest::newRow("general") << "tabGeneral"
+                                 << "Common";
+        QTest::newRow("duplicate files") << "tabDuplicateFiles"
+                                         << "Duplicate_files";
+        QTest::newRow("similar images") << "tabSimilarImages"
+                                        << "Similar_images";
+    }
+    void defaultRestoresItsTab()
+    {
+        QFETCH(QString, tab);
+        QFETCH(QString, group);
         DFIgnoreListPreferences *common = m_store->ignoreListPreferences();
         common->setRemovealMethod(DFIgnoreListPreferences::moveToFolder);
         common->setTrashFolder(QStringLiteral("/srv/moved"));
@@ -136,6 +152,8 @@ private slots:
         common->setThreadCount(1);
         common->setIgnorePathFile({QStringLiteral("/skip/me")});
         common->setIgnoreFileType({QStringLiteral("tmp")});
+        common->setOnlyFileType({QStringLiteral("JPG")});
+        common->setOpenFolder(QStringLiteral("/projects"));
         DFSelectionPreferences *duplicate = m_store->selectionPreferences();
         duplicate->setScanMethod(DFSelectionPreferences::scanName);
         duplicate->setSelectDuplicate(DFSelectionPreferences::NoSelected);
@@ -151,27 +169,36 @@ private slots:
         similar->setImageMinSize(9);
         similar->setIsImageSize(false);
         similar->setAlgorithmHint(DFSelectionPreferences::rbPhash);
+        m_store->save();
+        const QSettings before(m_path, QSettings::IniFormat);
+        QHash<QString, QVariant> changed;
+        for (const QString &key : before.allKeys())
+            changed.insert(key, before.value(key));
         m_dialog->hide();
         m_dialog->show();
+        auto *tabs = m_dialog->findChild<QTabWidget *>(QStringLiteral("tabWidget"));
+        tabs->setCurrentWidget(m_dialog->findChild<QWidget *>(tab));
 
         // Written at once, and the dialog stays open.
         run(QStringLiteral("btnDefault"));
         QVERIFY(m_dialog->isVisible());
-        // Every setting is back at what a new store writes, except what the user collected.
         const QString defaultsPath = m_dir.filePath(QStringLiteral("defaults.cfg"));
         DFPreferences(defaultsPath).save();
         const QSettings defaults(defaultsPath, QSettings::IniFormat);
         const QSettings now(m_path, QSettings::IniFormat);
-        const QStringList kept {"Common/IgnorePathFile", "Common/IgnoreFileType",
-            "Common/TrashFolder", "Similar_images/algorithmHint"};
-        for (const QString &key : defaults.allKeys())
-            if (!kept.contains(key))
-                QVERIFY2(now.value(key) == defaults.value(key), qPrintable(key));
-        QCOMPARE(stored("Common/IgnorePathFile"), "/skip/me");
-        QCOMPARE(stored("Common/IgnoreFileType"), "tmp");
-        QCOMPARE(stored("Common/TrashFolder"), "/srv/moved");
-        QCOMPARE(stored("Similar_images/algorithmHint"), "2");
-        QCOMPARE(stored("map/4"), "/data/a");
+        // The priority table is the duplicate tab's, stored apart.
+        const auto ofTab = [&group](const QString &key) {
+            return key.startsWith(group + QLatin1Char('/'))
+                || (group == QLatin1String("Duplicate_files") && key.startsWith("map/"));
+        };
+        const QStringList remembered {
+            "Common/OpenFolder", "Common/SaveFolder", "Common/deleteException"};
+        for (const QString &key : changed.keys() + defaults.allKeys()) {
+            const QVariant expected = ofTab(key) && !remembered.contains(key) ? defaults.value(key)
+                                                                              : changed.value(key);
+            QVERIFY2(now.value(key) == expected, qPrintable(key));
+        }
+        QCOMPARE(stored("Common/OpenFolder"), "/projects");
     }
 
     void cancelLeavesFileUntouched()
