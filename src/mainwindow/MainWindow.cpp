@@ -361,12 +361,19 @@ QWidget *MainWindow::buildScanPage()
     m_labFindTime->setText(QStringLiteral("00:00:00"));
     m_labStage = new QLabel(page);
     m_labStage->setObjectName(QStringLiteral("lab_stage"));
+    m_labFilter = new QLabel(page);
+    m_labFilter->setObjectName(QStringLiteral("lab_filter"));
+    m_labFilter->setWordWrap(true);
+    m_labFilter->setMaximumWidth(420);
+    m_labFilter->setVisible(false);
     layout->addSpacing(48);
     auto *column = new QVBoxLayout;
     column->addStretch(1);
     column->addLayout(grid);
     column->addSpacing(22);
     column->addWidget(m_labStage);
+    column->addSpacing(6);
+    column->addWidget(m_labFilter);
     column->addStretch(1);
     layout->addLayout(column);
     layout->addStretch(1);
@@ -1030,8 +1037,21 @@ void MainWindow::showScanStarted(bool local)
     m_labFindSize->setText(TImageModel::sizeText(0));
     m_labFindTime->setText(QStringLiteral("00:00:00"));
     m_labStage->setText(local ? tr("Looking for files…") : tr("Listing the cloud folders…"));
+    showTypeFilter();
     m_pages->setCurrentIndex(1);
     setStatus(StateScanning);
+}
+
+void MainWindow::showTypeFilter()
+{
+    const DFIgnoreListPreferences *common = DFPreferences::instance()->ignoreListPreferences();
+    const bool onlyList = common->ScanFileType() == 0;
+    const QStringList types = onlyList ? common->OnlyFileType() : common->IgnoreFileType();
+    const QString listed = types.join(QStringLiteral(", "));
+    m_labFilter->setText(onlyList ? tr("Only these file types are scanned: %1").arg(listed)
+                                  : tr("These file types are skipped: %1").arg(listed));
+    m_labFilter->setToolTip(m_labFilter->text());
+    m_labFilter->setVisible(!types.isEmpty());
 }
 
 void MainWindow::filesCountChange(int fileCount)

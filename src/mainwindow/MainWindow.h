@@ -71,6 +71,9 @@ public:
     void showScanProblems(const ScanProblems &problems);
     // The no-results page after a stop: no all-clear, the stop said instead.
     void showStoppedWithoutResults(bool beforeComparing);
+    // The scanning page names the file-type filter of the settings, when one is in force:
+    // a scan that leaves files out by their type says so while it runs.
+    void showTypeFilter();
     // "3 folders and 1 file could not be read" in the current language; empty when both
     // counts are 0.
     static QString unreadableText(qint64 folders, qint64 files);
@@ -211,6 +214,8 @@ private:
     QLabel *m_labFindTime = nullptr;
     // What the scan is doing, or that it was stopped.
     QLabel *m_labStage = nullptr;
+    // The file-type filter in force, when there is one.
+    QLabel *m_labFilter = nullptr;
     QLabel *m_labProblems = nullptr;
     QLabel *m_noResultRing = nullptr;
     QLabel *m_noResultText = nullptr;

@@ -259,6 +259,39 @@ private slots:
         QDir(m_tree.filePath("many")).removeRecursively();
     }
 
+    void typeFilterShownWhileScanning_data()
+    {
+        QTest::addColumn<int>("scanFileType");
+        QTest::addColumn<QStringList>("only");
+        QTest::addColumn<QStringList>("ignored");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("no filter") << 0 << QStringList() << QStringList {"tmp"} << QString();
+        QTest::newRow("only list") << 0 << QStringList {"JPG", "png"} << QStringList()
+                                   << "Only these file types are scanned: JPG, png";
+        QTest::newRow("ignore list") << 1 << QStringList {"jpg"} << QStringList {"tmp"}
+                                     << "These file types are skipped: tmp";
+    }
+    void typeFilterShownWhileScanning()
+    {
+        QFETCH(int, scanFileType);
+        QFETCH(QStringList, only);
+        QFETCH(QStringList, ignored);
+        QFETCH(QString, shown);
+        DFIgnoreListPreferences *common = DFPreferences::instance()->ignoreListPreferences();
+        const DFIgnoreListPreferences saved(*common);
+        common->setScanFileType(scanFileType);
+        common->setOnlyFileType(only);
+        common->setIgnoreFileType(ignored);
+        QVERIFY(m_window->addFolder(m_tree.filePath("a")));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        *common = saved;
+        QCOMPARE(child<QLabel>("lab_filter")->isVisible(), !shown.isEmpty());
+        if (!shown.isEmpty())
+            QCOMPARE(child<QLabel>("lab_filter")->text(), shown);
+        QVERIFY(done.count() > 0 || done.wait(30000));
+    }
+
     void folderGroupShownAndRemoved()
     {
         // Two folders with the same files: with folder matching on, the result is one

@@ -83,6 +83,13 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
     save(&window, out, prefix + QStringLiteral("4-scanning"));
     window.onStageChanged(TControlUI::StageSimilar);
     window.onPicturesCounted(3, 412, 1050);
+    DFIgnoreListPreferences *common = DFPreferences::instance()->ignoreListPreferences();
+    const DFIgnoreListPreferences saved(*common);
+    common->setScanFileType(0);
+    common->setOnlyFileType({QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("png"),
+        QStringLiteral("heic")});
+    window.showTypeFilter();
+    *common = saved;
     save(&window, out, prefix + QStringLiteral("4-scanning-pictures"));
 
     // The scanning page in its finished state, with what the scan could not read.
