@@ -39,6 +39,7 @@ QString TFileData::groupKey(const QString &firstPath)
 bool TFileData::insertGroup(const QString &key, const QStringList &paths)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_groups.insert(key, paths);
     return true;
 }
@@ -47,6 +48,7 @@ void TFileData::insertGroup(
     const QString &key, const QStringList &paths, const QList<FileStamp> &stamps)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_groups.insert(key, paths);
     for (qsizetype i = 0; i < paths.size() && i < stamps.size(); ++i)
         m_stamps.insert(paths[i], stamps[i]);
@@ -55,6 +57,7 @@ void TFileData::insertGroup(
 bool TFileData::replaceGroup(const QString &key, const QStringList &paths)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_groups.remove(key);
     m_groups.insert(key, paths);
     return true;
@@ -63,6 +66,7 @@ bool TFileData::replaceGroup(const QString &key, const QStringList &paths)
 void TFileData::insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_dirGroups.insert(key, entries);
 }
 
@@ -70,6 +74,7 @@ bool TFileData::setSelected(const QString &key, const QStringList &paths)
 {
     const QSet<QString> lookup(paths.cbegin(), paths.cend());
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_selected.insert(key, paths);
     m_selectedLookup.insert(key, lookup);
     return true;
@@ -78,6 +83,7 @@ bool TFileData::setSelected(const QString &key, const QStringList &paths)
 bool TFileData::removeSelected(const QString &key)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_selectedLookup.remove(key);
     return m_selected.remove(key) > 0;
 }
@@ -85,6 +91,7 @@ bool TFileData::removeSelected(const QString &key)
 int TFileData::updateSelected(const QString &key, const QString &path, bool add)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     auto it = m_selected.find(key);
     if (it == m_selected.end())
         return 0;
@@ -192,6 +199,7 @@ bool TFileData::isEmpty() const
 bool TFileData::removePath(const QString &key, const QString &path)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     auto selected = m_selected.find(key);
     if (selected != m_selected.end() && m_selectedLookup[key].remove(path)) {
         selected->removeAll(path);
@@ -201,8 +209,19 @@ bool TFileData::removePath(const QString &key, const QString &path)
         }
     }
     auto group = m_groups.find(key);
-    if (group == m_groups.end())
+    if (group == m_groups.end()) {
+        // A folder group loses the folder; with one left it is no group any more.
+        auto folders = m_dirGroups.find(key);
+        if (folders == m_dirGroups.end())
+            return false;
+        folders->removeIf([&path](const DirGroupEntry &entry) { return entry.folderPath == path; });
+        if (folders->size() >= 2)
+            return true;
+        m_dirGroups.erase(folders);
+        m_selected.remove(key);
+        m_selectedLookup.remove(key);
         return false;
+    }
     group->removeAll(path);
     if (group->size() >= 2)
         return true;
@@ -215,6 +234,7 @@ bool TFileData::removePath(const QString &key, const QString &path)
 bool TFileData::removeGroup(const QString &key)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_selected.remove(key);
     m_selectedLookup.remove(key);
     m_groupMatches.remove(key);
@@ -224,6 +244,7 @@ bool TFileData::removeGroup(const QString &key)
 bool TFileData::removeDirGroup(const QString &key)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_selected.remove(key);
     m_selectedLookup.remove(key);
     return m_dirGroups.remove(key) > 0;
@@ -232,6 +253,7 @@ bool TFileData::removeDirGroup(const QString &key)
 void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, const Groups &selected)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_groups = groups;
     m_dirGroups = dirGroups;
     m_selected = selected;
@@ -243,6 +265,7 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
 void TFileData::clear()
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     m_groups.clear();
     m_dirGroups.clear();
     m_selected.clear();
@@ -278,6 +301,7 @@ void TFileData::setStamps(const Stamps &stamps)
 void TFileData::setGroupMatch(const QString &key, GroupMatch match)
 {
     QWriteLocker locker(&m_lock);
+    ++m_revision;
     if (match == MatchContent)
         m_groupMatches.remove(key);
     else

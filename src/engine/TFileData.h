@@ -4,6 +4,8 @@
 #include "engine/DirGroupEntry.h"
 #include "engine/FileStamp.h"
 
+#include <atomic>
+
 #include <QHash>
 #include <QObject>
 #include <QReadWriteLock>
@@ -74,6 +76,9 @@ public:
     void setGroupMatch(const QString &key, GroupMatch match);
     GroupMatch groupMatch(const QString &key) const;
     void clear();
+    // Grows with every change of the groups, their selection or their kind: a result
+    // whose revision is the one saved has not changed since.
+    quint64 revision() const { return m_revision.load(); }
 
     QReadWriteLock &lock() { return m_lock; }
 
@@ -88,6 +93,7 @@ private:
     // not read the whole list.
     QHash<QString, QSet<QString>> m_selectedLookup;
     Stamps m_stamps;
+    std::atomic<quint64> m_revision {0};
     // Groups whose match is not MatchContent.
     QHash<QString, GroupMatch> m_groupMatches;
 };

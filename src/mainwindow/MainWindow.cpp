@@ -952,6 +952,7 @@ void MainWindow::on_btnAdd_clicked()
         m_cloudMode = false;
         TControlUI::instance()->setCloudMode(false);
         m_projectPath.clear();
+        setTitle();
         m_resultKind = ResultsFound;
         m_localScan = false;
         clearScanProblems();
@@ -1028,6 +1029,7 @@ void MainWindow::showScanStarted(bool local)
     m_scanRunning = true;
     clearScanProblems();
     m_projectPath.clear();
+    setTitle();
     m_resultKind = ResultsFound;
     m_filesScanned = 0;
     m_ring->setValue(0);
@@ -1314,6 +1316,9 @@ void MainWindow::openResultPage()
         connect(m_resultPage, &ResultForm::updateWindows, this, &MainWindow::onResultWindowClose);
         connect(m_resultPage, &ResultForm::problemDetailsRequested, this,
             [this] { showProblemDetails(m_resultPage); });
+        connect(m_resultPage, &ResultForm::saveRequested, this, &MainWindow::saveResults);
+        m_resultPage->setProjectName(
+            m_projectPath.isEmpty() ? QString() : QFileInfo(m_projectPath).fileName());
         m_resultPage->setProblemText(
             m_labProblems->isVisibleTo(this) ? m_labProblems->text() : QString());
         m_resultPage->setIncompleteScan(!m_cloudMode && m_scanStopped);
@@ -1346,6 +1351,7 @@ void MainWindow::openProject(const QString &path)
         return;
     }
     m_projectPath = path;
+    setTitle();
     TControlUI::instance()->setProjectPath(path);
 }
 
@@ -1359,11 +1365,13 @@ void MainWindow::onProjectOpenComplated(int flag, int files, qint64 size)
 {
     if (flag != TOpenSaveThread::ProjectSucceeded) {
         m_projectPath.clear();
+        setTitle();
         m_pages->setCurrentIndex(0);
         setStatus(hasResults() ? StateFinished : StateReady);
         QMessageBox::warning(this, tr("Open File"), TOpenSaveThread::resultText(flag));
         return;
     }
+    m_savedRevision = TFileData::instance()->revision();
     filesCountChange(int(m_projectThread->scanFileCount()));
     onUpdateTimer(m_projectThread->scanTime());
     onItemFound(files, size);
@@ -1386,6 +1394,8 @@ bool MainWindow::saveProjectBlocking(const QString &path)
             result = flag;
             loop.quit();
         });
+    // What the file will hold: the results as they are when the save starts.
+    const quint64 revision = TFileData::instance()->revision();
     if (!m_projectThread->saveProject(path, m_filesScanned, m_elapsed)) {
         disconnect(connection);
         return false;
@@ -1394,7 +1404,11 @@ bool MainWindow::saveProjectBlocking(const QString &path)
     disconnect(connection);
     if (result == TOpenSaveThread::ProjectSucceeded) {
         m_projectPath = path;
+        m_savedRevision = revision;
         TControlUI::instance()->setProjectPath(path);
+        if (m_resultPage)
+            m_resultPage->setProjectName(QFileInfo(path).fileName());
+        setTitle();
     }
     return result == TOpenSaveThread::ProjectSucceeded;
 }
@@ -1452,20 +1466,49 @@ void MainWindow::openProjectFromMenu()
 
 bool MainWindow::confirmDiscardResults()
 {
-    if (!hasResults() || !m_projectPath.isEmpty() || m_cloudMode)
+    return askToSaveResults();
+}
+
+bool MainWindow::resultsUnsaved() const
+{
+    return hasResults() && !m_cloudMode
+        && (m_projectPath.isEmpty() || TFileData::instance()->revision() != m_savedRevision);
+}
+
+bool MainWindow::askToSaveResults()
+{
+    if (!resultsUnsaved())
         return true;
+    const bool saved = !m_projectPath.isEmpty();
     const auto answer = QMessageBox::question(this, tr("Note"),
-        tr("The current scan results have not been saved. Do you want to save the file?"),
+        saved ? tr("The changes to the results have not been saved to %1. Do you want to save "
+                   "them?")
+                    .arg(QFileInfo(m_projectPath).fileName())
+              : tr("The current scan results have not been saved. Do you want to save the file?"),
         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     if (answer == QMessageBox::Cancel)
         return false;
     if (answer == QMessageBox::No)
         return true;
-    const QString path = chooseProjectFile(true);
+    const QString path = saved ? m_projectPath : chooseProjectFile(true);
     if (path.isEmpty())
         return false;
-    m_showResultsWhenDone = false;
-    return saveProjectBlocking(path);
+    const bool previous = std::exchange(m_showResultsWhenDone, false);
+    const bool ok = saveProjectBlocking(path);
+    if (!ok)
+        m_showResultsWhenDone = previous;
+    return ok;
+}
+
+void MainWindow::saveResults()
+{
+    if (m_projectPath.isEmpty()) {
+        saveProjectFromMenu();
+        return;
+    }
+    const bool previous = std::exchange(m_showResultsWhenDone, false);
+    saveProjectBlocking(m_projectPath);
+    m_showResultsWhenDone = previous;
 }
 
 // ----------------------------------------------------------------------------- menus
@@ -1522,8 +1565,12 @@ void MainWindow::retranslate()
 
 void MainWindow::setTitle()
 {
-    setWindowTitle(AppIdentity::applicationName);
-    m_title->setText(AppIdentity::applicationName);
+    const QString title = m_projectPath.isEmpty()
+        ? AppIdentity::applicationName
+        : QStringLiteral("%1 – %2").arg(
+            QFileInfo(m_projectPath).fileName(), AppIdentity::applicationName);
+    setWindowTitle(title);
+    m_title->setText(title);
     refreshCountLabel();
 }
 
@@ -1588,24 +1635,11 @@ void MainWindow::showAbnormalExitNotice()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (hasResults() && m_projectPath.isEmpty() && !m_cloudMode) {
-        const auto answer = QMessageBox::question(this, tr("Note"),
-            tr("The current scan results have not been saved. Do you want to save the "
-               "file?"),
-            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-        if (answer == QMessageBox::Cancel) {
+    if (resultsUnsaved()) {
+        TControlUI::instance()->stop();
+        if (!askToSaveResults()) {
             event->ignore();
             return;
-        }
-        if (answer == QMessageBox::Yes) {
-            TControlUI::instance()->stop();
-            m_showResultsWhenDone = false;
-            const QString path = chooseProjectFile(true);
-            if (path.isEmpty() || !saveProjectBlocking(path)) {
-                m_showResultsWhenDone = true;
-                event->ignore();
-                return;
-            }
         }
     }
     if (m_cloudMode)

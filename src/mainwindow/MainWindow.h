@@ -157,6 +157,14 @@ private:
     void rememberProjectFolder(const QString &path);
     void openProjectFromMenu();
     bool hasResults() const;
+    // Results that would be lost: never saved, or changed since they were saved or opened.
+    bool resultsUnsaved() const;
+    // The page's Save: to the project file the results have, else to a file the user
+    // names.
+    void saveResults();
+    // Asks whether to save results that would be lost; false when the user cancels or the
+    // save fails.
+    bool askToSaveResults();
     void showAbnormalExitNotice();
     void clearScanProblems();
     // The one optional argument names something that is not a project file.
@@ -195,6 +203,8 @@ private:
     // stopped before its end.
     bool m_scanRunning = false;
     bool m_scanStopped = false;
+    // The store's revision when the results were last saved or opened.
+    quint64 m_savedRevision = 0;
     QList<ProblemListDialog::Section> m_problemSections;
 
     QFrame *m_titleFrame = nullptr;

@@ -201,6 +201,10 @@ void ResultForm::initUI()
     ui->btn_right_grid->setIcon(style()->standardIcon(QStyle::SP_FileDialogListView));
     ui->btn_right_flow->setIcon(style()->standardIcon(QStyle::SP_FileDialogContentsView));
     ui->btnBack->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    ui->btn_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    // Cloud results cannot be saved as a project.
+    ui->btn_save->setVisible(!m_isCloud);
+    connect(ui->btn_save, &QPushButton::clicked, this, &ResultForm::saveRequested);
 
     ui->listView_groups->setModel(m_groupModel);
     ui->listView_groups->setItemDelegate(new GroupRowDelegate(ui->listView_groups));
@@ -442,7 +446,17 @@ void ResultForm::initDelButtonMenu()
 
 void ResultForm::setTitle()
 {
-    setWindowTitle(AppIdentity::applicationName);
+    setWindowTitle(m_projectName.isEmpty()
+            ? AppIdentity::applicationName
+            : QStringLiteral("%1 – %2").arg(m_projectName, AppIdentity::applicationName));
+    ui->lab_title->setText(
+        m_projectName.isEmpty() ? tr("Scan Results") : tr("Scan Results – %1").arg(m_projectName));
+}
+
+void ResultForm::setProjectName(const QString &name)
+{
+    m_projectName = name;
+    setTitle();
 }
 
 void ResultForm::setActiveDeleteAction(QAction *newAction)

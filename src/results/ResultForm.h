@@ -81,6 +81,9 @@ public:
     QList<DeleteResult> lastRemoval() const { return m_lastRemoval; }
     // A line about what the scan could not read, with its own "Details" link.
     void setProblemText(const QString &html);
+    // The project file the results were saved to or opened from (empty: none), named in
+    // the title.
+    void setProjectName(const QString &name);
     // The picture comparison stopped before it was done: the notice shows once loaded.
     void setIncompleteScan(bool incomplete) { m_incompleteScan = incomplete; }
 
@@ -99,6 +102,9 @@ public:
 
 signals:
     void updateWindows(bool update);
+    // The Save button: the window saves the results (to their project file, when they
+    // have one).
+    void saveRequested();
     void onDeleteFileProcess(int value);
     void onLoadProgress(int progress);
     void problemDetailsRequested();
@@ -228,6 +234,7 @@ private:
     bool m_sizeRestored = false;
     // Something was removed or taken out of the result since the page opened.
     bool m_changed = false;
+    QString m_projectName;
     int m_category = kAllCategories;
     int m_viewMode = GridMode;
     int m_selectRule = -1;

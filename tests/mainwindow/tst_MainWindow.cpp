@@ -438,7 +438,34 @@ private slots:
         QCOMPARE(page->groupModel()->rowCount(), 1);
         QTRY_COMPARE(page->totals().count, 1);
         QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        QCOMPARE(page->windowTitle(), "saved.dupproj – Veltrine Duplicate Finder");
+        QVERIFY(page->findChild<QPushButton *>("btn_save")->isVisible());
         page->close();
+        // Opened and unchanged: closing asks nothing.
+        {
+            DialogAnswerer answers({QMessageBox::Cancel});
+            QVERIFY(window.close());
+            QVERIFY(answers.titles.isEmpty());
+        }
+        // A selection change marks the results as changed: closing asks, Cancel keeps the
+        // window, Yes saves into the same project.
+        window.show();
+        TFileData::instance()->setSelected(key, {a});
+        {
+            DialogAnswerer answers({QMessageBox::Cancel});
+            QVERIFY(!window.close());
+            QCOMPARE(answers.texts,
+                QStringList {"The changes to the results have not been saved to saved.dupproj. "
+                             "Do you want to save them?"});
+        }
+        {
+            DialogAnswerer answers({QMessageBox::Yes});
+            QVERIFY(window.close());
+            QCOMPARE(answers.titles.size(), 1);
+        }
+        const QString text = QString::fromUtf8(ScanTree::read(project));
+        QVERIFY(text.contains(QStringLiteral("<Item selected=\"1\">%1</Item>").arg(a)));
+        QVERIFY(text.contains(QStringLiteral("<Item selected=\"0\">%1</Item>").arg(b)));
         TFileData::instance()->clear();
     }
 
