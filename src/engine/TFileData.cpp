@@ -93,8 +93,12 @@ int TFileData::updateSelected(const QString &key, const QString &path, bool add)
     QWriteLocker locker(&m_lock);
     ++m_revision;
     auto it = m_selected.find(key);
-    if (it == m_selected.end())
-        return 0;
+    if (it == m_selected.end()) {
+        // A group without a selection yet gets one with its first checked member.
+        if (!add || (!m_groups.contains(key) && !m_dirGroups.contains(key)))
+            return 0;
+        it = m_selected.insert(key, {});
+    }
     QSet<QString> &lookup = m_selectedLookup[key];
     if (!add) {
         if (lookup.remove(path))

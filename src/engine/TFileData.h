@@ -37,11 +37,12 @@ public:
     // The group with the stamp of each member (stamps[i] of paths[i]), under one lock.
     void insertGroup(const QString &key, const QStringList &paths, const QList<FileStamp> &stamps);
     bool replaceGroup(const QString &key, const QStringList &paths);
-    // No lock: called only on the finder thread once the pool work has ended.
     void insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries);
 
     bool setSelected(const QString &key, const QStringList &paths);
     bool removeSelected(const QString &key);
+    // Adds path to (or takes it from) the group's selection, starting one where the group
+    // has none; returns how many of the group are selected.
     int updateSelected(const QString &key, const QString &path, bool add);
     bool isSelected(const QString &key, const QString &path) const;
     int selectedCount(const QString &key) const;

@@ -22,6 +22,8 @@ struct ImageItem
     // similarity to the others is not known.
     bool unverified = false;
     QString displayName;
+    // Where the folders of the group's members begin to differ (PathElider).
+    int distinctFrom = 0;
 };
 
 Q_DECLARE_METATYPE(ImageItem)

@@ -8,6 +8,7 @@
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
+#include "engine/FileStamp.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalCheck.h"
@@ -20,6 +21,7 @@
 #include "preferences/DFPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
 #include "results/GroupRowDelegate.h"
+#include "results/PathElider.h"
 #include "results/RemovalSummaryDialog.h"
 #include "results/TImageListView.h"
 #include "results/TTableViewDelegate.h"
@@ -31,6 +33,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QCloseEvent>
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -38,6 +41,7 @@
 #include <QGraphicsLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -235,8 +239,30 @@ void ResultForm::initUI()
         header->setSectionResizeMode(column, QHeaderView::Fixed);
         table->setColumnWidth(column, 40);
     }
-    table->setColumnWidth(2, 90);
-    table->setColumnWidth(3, 150);
+    table->setColumnWidth(TImageModel::SizeColumn, 90);
+    table->setColumnWidth(TImageModel::DateColumn, 150);
+    // Where each copy lives, right after its name; any of the four text columns sorts the
+    // list, a second click the other way round.
+    header->moveSection(TImageModel::FolderColumn, TImageModel::SizeColumn);
+    header->setSectionResizeMode(TImageModel::FolderColumn, QHeaderView::Stretch);
+    header->setSectionsClickable(true);
+    header->setSortIndicatorShown(false);
+    connect(header, &QHeaderView::sectionClicked, this, [this, header](int column) {
+        const bool sortable = column == TImageModel::NameColumn || column == TImageModel::SizeColumn
+            || column == TImageModel::DateColumn || column == TImageModel::FolderColumn;
+        if (sortable) {
+            m_fileSortOrder = column == m_fileSortColumn && m_fileSortOrder == Qt::AscendingOrder
+                ? Qt::DescendingOrder
+                : Qt::AscendingOrder;
+            m_fileSortColumn = column;
+            m_itemModel->sort(column, m_fileSortOrder);
+        }
+        // The header turns its indicator on every click; it shows the list's order.
+        header->setSortIndicatorShown(m_fileSortColumn >= 0);
+        header->setSortIndicator(m_fileSortColumn, m_fileSortOrder);
+    });
+    // Space checks or unchecks the rows, as in the thumbnail grid.
+    table->installEventFilter(this);
     connect(delegate, &TTableViewDelegate::hideClicked, this, &ResultForm::onBtnHideFileClick);
     connect(delegate, &TTableViewDelegate::openClicked, this, &ResultForm::onBtnOpenFinderClick);
     connect(table, &QWidget::customContextMenuRequested, this, &ResultForm::onMemberContextMenu);
@@ -816,7 +842,17 @@ void ResultForm::loadGroupMembers(const GroupItem &group)
             const QFileInfo info(member.path);
             member.name = info.fileName();
             const auto folder = folders.constFind(member.path);
-            member.size = folder != folders.cend() ? folder->totalSize : info.size();
+            if (folder != folders.cend()) {
+                member.size = folder->totalSize;
+                return;
+            }
+            // Read through the path codec: a name that is not valid UTF-8 still shows
+            // its real size and date.
+            const FileStamp stamp = FileStamp::of(member.path);
+            member.size = stamp.isValid() ? stamp.size : 0;
+            if (stamp.isValid())
+                member.createdTime = QDateTime::fromMSecsSinceEpoch(stamp.modifiedNs / 1'000'000)
+                                         .toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
         }));
 }
 
@@ -829,6 +865,10 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
     const bool unverified = match != TFileData::MatchContent;
     QList<ImageItem> items;
     items.reserve(members.size());
+    QStringList folders;
+    for (const IndexFileGroup &member : members)
+        folders.append(QDir::toNativeSeparators(QFileInfo(member.path).path()));
+    const int distinctFrom = PathElider::distinctFrom(folders);
     for (const IndexFileGroup &member : members) {
         ImageItem item;
         item.key = member.key;
@@ -841,6 +881,7 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
                               : getPathCategory(member.path);
         item.similarity = member.similarity;
         item.unverified = unverified;
+        item.distinctFrom = distinctFrom;
         item.displayName = member.name;
         item.extra = isSimilarEntry(member.entry) ? tr("%1% similar").arg(member.similarity)
             : unverified                          ? tr("not verified")
@@ -848,6 +889,9 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
         items.append(item);
     }
     m_itemModel->setItems(items);
+    // The order the user chose for the list holds for every group.
+    if (m_fileSortColumn >= 0)
+        m_itemModel->sort(m_fileSortColumn, m_fileSortOrder);
     if (m_showFilter != 2 || m_similaritySlider->value() > m_similaritySlider->minimum())
         m_itemModel->filterByShow(m_showFilter, m_similaritySlider->value());
     ui->stackedWidget_members->setCurrentWidget(
@@ -1854,6 +1898,30 @@ void ResultForm::on_btnBack_clicked()
 void ResultForm::on_btn_over_clicked()
 {
     splog_d(kTag + QStringLiteral("on_btn_over_clicked"));
+}
+
+bool ResultForm::eventFilter(QObject *watched, QEvent *event)
+{
+    // Space in the file table checks or unchecks the selected rows (or the current one),
+    // all to the opposite of the current row, as the thumbnail grid does.
+    if (watched == ui->tableView_files && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Space && !(key->modifiers() & ~Qt::KeypadModifier)) {
+            QTableView *table = ui->tableView_files;
+            const QModelIndex current = table->currentIndex();
+            QModelIndexList rows = table->selectionModel()->selectedRows(TImageModel::CheckColumn);
+            if (rows.size() < 2 && current.isValid())
+                rows = {current.siblingAtColumn(TImageModel::CheckColumn)};
+            if (!rows.isEmpty()) {
+                const QModelIndex lead = current.isValid() ? current : rows.first();
+                const bool next = !lead.data(TImageModel::CheckedRole).toBool();
+                for (const QModelIndex &row : std::as_const(rows))
+                    m_itemModel->setData(row, next, TImageModel::CheckedRole, true);
+            }
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ResultForm::closeEvent(QCloseEvent *event)

@@ -162,6 +162,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -235,6 +236,9 @@ private:
     // Something was removed or taken out of the result since the page opened.
     bool m_changed = false;
     QString m_projectName;
+    // The file list's order: a column of TImageModel, -1 for the group's own order.
+    int m_fileSortColumn = -1;
+    Qt::SortOrder m_fileSortOrder = Qt::AscendingOrder;
     int m_category = kAllCategories;
     int m_viewMode = GridMode;
     int m_selectRule = -1;

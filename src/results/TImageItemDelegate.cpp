@@ -2,6 +2,7 @@
 #include "results/TImageItemDelegate.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "results/PathElider.h"
 #include "results/TImageModel.h"
 
 #include <algorithm>
@@ -71,8 +72,9 @@ QRect TImageItemDelegate::checkHitRect(const QRect &cell) const
 
 int TImageItemDelegate::cellHeight(const QFont &font) const
 {
+    // The name, the folder, then size and resolution.
     return kPadding + m_side + kTextGap + QFontMetrics(font).height() + kLineGap
-        + QFontMetrics(detailFont(font)).height() + kPadding;
+        + 2 * (QFontMetrics(detailFont(font)).height() + kLineGap) - kLineGap + kPadding;
 }
 
 int TImageItemDelegate::naturalWidth(const QModelIndex &index) const
@@ -223,13 +225,22 @@ void TImageItemDelegate::paintTexts(QPainter *painter, const QStyleOptionViewIte
     const int width = cell.width() - 2 * kPadding;
     const QRect nameLine(
         cell.x() + kPadding, tileRect(cell).bottom() + 1 + kTextGap, width, nameMetrics.height());
-    const QRect detailLine(
+    const QRect folderLine(
         nameLine.x(), nameLine.bottom() + 1 + kLineGap, width, detailMetrics.height());
+    const QRect detailLine(
+        nameLine.x(), folderLine.bottom() + 1 + kLineGap, width, detailMetrics.height());
 
     painter->setFont(option.font);
     painter->setPen(option.palette.color(QPalette::Text));
     painter->drawText(nameLine, Qt::AlignCenter,
         nameMetrics.elidedText(nameOf(index), Qt::ElideMiddle, nameLine.width()));
+
+    // Where the copy lives, shortened so that what tells it from the others stays.
+    painter->setFont(smaller);
+    painter->setPen(kMuted);
+    painter->drawText(folderLine, Qt::AlignCenter,
+        PathElider::elide(index.data(TImageModel::FolderRole).toString(),
+            index.data(TImageModel::DistinctFromRole).toInt(), detailMetrics, folderLine.width()));
 
     // A number cut short reads as a wrong number: the resolution is left out whole when
     // both do not fit.

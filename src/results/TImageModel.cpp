@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <QImageReader>
@@ -104,7 +105,7 @@ int TImageModel::rowCount(const QModelIndex &parent) const
 
 int TImageModel::columnCount(const QModelIndex &) const
 {
-    return 6;
+    return ColumnCount;
 }
 
 Qt::ItemFlags TImageModel::flags(const QModelIndex &index) const
@@ -151,12 +152,14 @@ QVariant TImageModel::headerData(int section, Qt::Orientation orientation, int r
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || m_mode != IconView)
         return QAbstractListModel::headerData(section, orientation, role);
     switch (section) {
-    case 1:
+    case NameColumn:
         return m_nameMode == kPathNameMode ? tr("File") : tr("Name");
-    case 2:
+    case SizeColumn:
         return tr("Size");
-    case 3:
+    case DateColumn:
         return tr("Modified");
+    case FolderColumn:
+        return tr("Folder");
     default:
         return QString();
     }
@@ -200,26 +203,39 @@ QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, 
 {
     const int column = index.column();
     if (role == Qt::DisplayRole || role == Qt::DecorationRole) {
-        if (column == 4)
+        if (column == HideColumn)
             return QIcon(QStringLiteral(":/resource/hideFile.png"));
-        if (column == 5)
+        if (column == OpenColumn)
             return QIcon(QStringLiteral(":/resource/openInFinder.png"));
         if (role == Qt::DecorationRole)
             return {};
         switch (column) {
-        case 0:
+        case CheckColumn:
             return item.checked ? 2 : 0;
-        case 1:
+        case NameColumn:
             return m_nameMode == kPathNameMode ? item.path : item.displayName;
-        case 2:
+        case SizeColumn:
             return sizeText(item.size);
-        case 3:
+        case DateColumn:
             return itemData(item, index, DateRole);
+        case FolderColumn:
+            return itemData(item, index, FolderRole);
         default:
             return {};
         }
     }
     switch (role) {
+    case Qt::ToolTipRole:
+        // Every cell names the whole file; the two buttons say what they do.
+        if (column == HideColumn)
+            return tr("Hide from results");
+        if (column == OpenColumn)
+            return tr("Show in the file manager");
+        return QDir::toNativeSeparators(item.path);
+    case FolderRole:
+        return QDir::toNativeSeparators(QFileInfo(item.path).path());
+    case DistinctFromRole:
+        return item.distinctFrom;
     case Qt::CheckStateRole:
         if (column == 0)
             return item.checked ? 2 : 0;
@@ -469,6 +485,58 @@ void TImageModel::sort(SortRole role, bool descending)
     sortGroups(m_groups, role, descending);
     if (!m_groups.isEmpty())
         emit dataChanged(index(0, 0), index(int(m_groups.size()) - 1, columnCount() - 1));
+}
+
+void TImageModel::sort(int column, Qt::SortOrder order)
+{
+    if (m_mode != IconView)
+        return;
+    std::function<bool(const ImageItem &, const ImageItem &)> less;
+    switch (column) {
+    case NameColumn:
+        less = [this](const ImageItem &a, const ImageItem &b) {
+            return m_nameMode == kPathNameMode
+                ? a.path.localeAwareCompare(b.path) < 0
+                : a.displayName.localeAwareCompare(b.displayName) < 0;
+        };
+        break;
+    case SizeColumn:
+        less = [](const ImageItem &a, const ImageItem &b) { return a.size < b.size; };
+        break;
+    case DateColumn:
+        // "yyyy/MM/dd HH:mm:ss" orders as text.
+        less = [](const ImageItem &a, const ImageItem &b) { return a.dateText < b.dateText; };
+        break;
+    case FolderColumn:
+        less = [](const ImageItem &a, const ImageItem &b) {
+            return QFileInfo(a.path).path().localeAwareCompare(QFileInfo(b.path).path()) < 0;
+        };
+        break;
+    default:
+        return;
+    }
+    const auto ordered = [&less, order](const ImageItem &a, const ImageItem &b) {
+        return order == Qt::AscendingOrder ? less(a, b) : less(b, a);
+    };
+    emit layoutAboutToBeChanged();
+    // The views' current and selected files stay theirs after the rows move.
+    const QModelIndexList before = persistentIndexList();
+    QStringList paths;
+    for (const QModelIndex &at : before)
+        paths.append(at.row() < m_items.size() ? m_items.at(at.row()).path : QString());
+    std::stable_sort(m_items.begin(), m_items.end(), ordered);
+    std::stable_sort(m_allItems.begin(), m_allItems.end(), ordered);
+    rebuildItemIndex();
+    QHash<QString, int> rowOf;
+    for (int row = 0; row < m_items.size(); ++row)
+        rowOf.insert(m_items.at(row).path, row);
+    QModelIndexList after;
+    for (qsizetype k = 0; k < before.size(); ++k) {
+        const auto row = rowOf.constFind(paths.at(k));
+        after.append(row == rowOf.cend() ? QModelIndex() : index(*row, before.at(k).column()));
+    }
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
 }
 
 template<typename T>

@@ -56,6 +56,21 @@ public:
         SimilarityRole = 273,
         DisplayNameRole = 274,
         UnverifiedRole = 275,
+        // The item's folder as shown, and where it differs from the other members'.
+        FolderRole = 276,
+        DistinctFromRole = 277,
+    };
+
+    // The columns of the file list (IconView mode).
+    enum Column {
+        CheckColumn = 0,
+        NameColumn = 1,
+        SizeColumn = 2,
+        DateColumn = 3,
+        HideColumn = 4,
+        OpenColumn = 5,
+        FolderColumn = 6,
+        ColumnCount = 7,
     };
 
     static constexpr int kPathNameMode = 20;
@@ -98,6 +113,9 @@ public:
     void clear();
 
     void sort(SortRole role, bool descending);
+    // The file list by one of its columns (name, size, date or folder); other columns
+    // leave it as it is.
+    void sort(int column, Qt::SortOrder order) override;
     void filterByName(const QString &text);
     void filterByType(int type);
     // Both at once: a category (-1 for any) and a part of the name.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/TTableViewDelegate.h"
 
+#include "results/PathElider.h"
 #include "results/TImageModel.h"
 
 #include <QApplication>
@@ -40,6 +41,16 @@ void TTableViewDelegate::paint(
         indicator.moveCenter(option.rect.center());
         box.rect = indicator;
         style->drawControl(QStyle::CE_CheckBox, &box, painter, widget);
+    } else if (column == TImageModel::FolderColumn) {
+        // Shortened so that what tells the copies apart stays in view.
+        QStyleOptionViewItem cell(option);
+        initStyleOption(&cell, index);
+        const QWidget *widget = option.widget;
+        QStyle *style = widget ? widget->style() : QApplication::style();
+        const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &cell, widget);
+        cell.text = PathElider::elide(cell.text, index.data(TImageModel::DistinctFromRole).toInt(),
+            cell.fontMetrics, textRect.width() - 8);
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, widget);
     } else {
         QStyledItemDelegate::paint(painter, option, index);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "results/TImageModel.h"
+
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
@@ -11,9 +13,9 @@ class TTableViewDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 public:
-    static constexpr int kCheckColumn = 0;
-    static constexpr int kHideColumn = 4;
-    static constexpr int kOpenColumn = 5;
+    static constexpr int kCheckColumn = TImageModel::CheckColumn;
+    static constexpr int kHideColumn = TImageModel::HideColumn;
+    static constexpr int kOpenColumn = TImageModel::OpenColumn;
     static constexpr int kIconSide = 20;
 
     explicit TTableViewDelegate(QObject *parent = nullptr);

@@ -19,6 +19,7 @@
 
 #include <QAction>
 #include <QDirIterator>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -26,6 +27,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
@@ -333,6 +335,48 @@ private slots:
         QCOMPARE(answers.defaults.at(asked), QMessageBox::No);
         QTRY_COMPARE(QFileInfo::exists(other), answer == QMessageBox::No);
         QCOMPARE(ScanTree::read(kept), ScanTree::pattern(900, 'a'));
+    }
+
+    void fileListShowsWhereEachCopyLives()
+    {
+        const QByteArray content = ScanTree::pattern(700, 'f');
+        const QString z = file("zeta/report.txt", content);
+        const QString a = file("alpha/report.txt", content);
+        const QString m = file("mid/report.txt", content);
+        TFileData::instance()->insertGroup(TFileData::groupKey(z), {z, a, m});
+        ResultForm *page = openPage();
+        page->setViewMode(ResultForm::ListMode);
+        QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+        auto *table = page->findChild<QTableView *>("tableView_files");
+        QHeaderView *header = table->horizontalHeader();
+        // The folder right after the name, and every cell naming the whole file.
+        QCOMPARE(header->visualIndex(TImageModel::FolderColumn), TImageModel::SizeColumn);
+        QCOMPARE(page->itemModel()->headerData(TImageModel::FolderColumn, Qt::Horizontal),
+            QVariant("Folder"));
+        const QModelIndex first = page->itemModel()->index(0, TImageModel::FolderColumn);
+        QCOMPARE(first.data().toString(), QDir::toNativeSeparators(QFileInfo(z).path()));
+        QCOMPARE(first.data(Qt::ToolTipRole).toString(), QDir::toNativeSeparators(z));
+        QCOMPARE(page->itemModel()->index(0, TImageModel::HideColumn).data(Qt::ToolTipRole),
+            QVariant("Hide from results"));
+        // A click on the folder header sorts by folder, a second one the other way.
+        const auto folderOrder = [page] {
+            QStringList order;
+            for (const ImageItem &item : page->itemModel()->displayedItems())
+                order << QFileInfo(item.path).dir().dirName();
+            return order;
+        };
+        const int x = header->sectionViewportPosition(TImageModel::FolderColumn) + 5;
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, 5));
+        QCOMPARE(folderOrder(), QStringList({"alpha", "mid", "zeta"}));
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, 5));
+        QCOMPARE(folderOrder(), QStringList({"zeta", "mid", "alpha"}));
+        // Space checks the current row and unchecks it again.
+        table->setFocus();
+        table->setCurrentIndex(page->itemModel()->index(1, TImageModel::NameColumn));
+        QTest::keyClick(table, Qt::Key_Space);
+        QVERIFY(TFileData::instance()->isSelected(TFileData::groupKey(z), m));
+        QTest::keyClick(table, Qt::Key_Space);
+        QVERIFY(!TFileData::instance()->isSelected(TFileData::groupKey(z), m));
     }
 
     void sampledGroupThatDiffersLeavesThePage()

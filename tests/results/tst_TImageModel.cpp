@@ -3,10 +3,12 @@
 #include "app/FileTypeCatalogue.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
+#include "results/PathElider.h"
 #include "results/TImageModel.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFontMetrics>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -64,7 +66,7 @@ private slots:
         QCOMPARE(loaded.at(0).at(1).toLongLong(), 4500);
 
         QCOMPARE(model.rowCount(), 1);
-        QCOMPARE(model.columnCount(), 6);
+        QCOMPARE(model.columnCount(), int(TImageModel::ColumnCount));
         QCOMPARE(model.rowCount(model.index(0, 0)), 0);
         const QModelIndex row = model.index(0, 0);
         QCOMPARE(row.data(257).toString(), a);
@@ -105,6 +107,46 @@ private slots:
         QCOMPARE(model.index(0, 0).data(264).toString(), "0 B");
         QCOMPARE(model.index(1, 0).data(262).toInt(), 6);
         QCOMPARE(model.index(1, 0).data(264).toString(), "600 B");
+    }
+
+    void pathElision_data()
+    {
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<int>("width");
+        // What each folder of the group shows in a cell of that many average characters.
+        QTest::addColumn<QStringList>("shown");
+        const QStringList deep {"/home/ann/Pictures/Holidays 2019/Mountains/Day one",
+            "/home/ann/Backup of the old laptop/Pictures/Holidays 2019/Mountains/Day one"};
+        QTest::newRow("wide enough: whole") << deep << 200 << deep;
+        QTest::newRow("narrow: the shared start goes, the difference stays")
+            << deep << 48
+            << QStringList {"…/ann/Pictures/Holidays 2019/Mountains/Day one",
+                   "…/Backup of the old laptop/Pictures/Holidays 20…"};
+        QTest::newRow("one folder for all: the middle goes")
+            << QStringList {"/data/a/very/long/folder/name/here",
+                   "/data/a/very/long/folder/name/here"}
+            << 20 << QStringList {"/data/a/v…name/here", "/data/a/v…name/here"};
+        QTest::newRow("different from the first segment") << QStringList {"/mnt/one/shared/part",
+            "/srv/two/shared/part"} << 12 << QStringList {"/mnt/one/s…", "/srv/two/s…"};
+    }
+    void pathElision()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(int, width);
+        QFETCH(QStringList, shown);
+        // A font whose every character has the same advance, so that widths are counts.
+        QFont font(QStringLiteral("monospace"));
+        font.setStyleHint(QFont::TypeWriter);
+        const QFontMetrics metrics(font);
+        const int from = PathElider::distinctFrom(folders);
+        QStringList actual;
+        for (const QString &folder : folders)
+            actual << PathElider::elide(
+                folder, from, metrics, metrics.horizontalAdvance(QString(width, QLatin1Char('x'))));
+        if (metrics.horizontalAdvance(QStringLiteral("iiii"))
+            != metrics.horizontalAdvance(QStringLiteral("MMMM")))
+            QSKIP("no fixed-width font here");
+        QCOMPARE(actual, shown);
     }
 
     void sizeText_data()
