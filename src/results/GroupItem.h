@@ -12,7 +12,8 @@ struct GroupItem
     QStringList files;
     QString firstFile;
     QString name;
-    // All copies are taken to be the size of the first one.
+    // Copies of a file count the first one's size each; similar pictures and folders
+    // their own.
     qint64 totalSize = 0;
     int selectedCount = 0;
     int count = 0;

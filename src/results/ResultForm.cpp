@@ -234,7 +234,9 @@ void ResultForm::initUI()
     QHeaderView *header = table->horizontalHeader();
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Interactive);
-    header->setSectionResizeMode(1, QHeaderView::Stretch);
+    // The name keeps a fixed share; the folder, where copies differ, takes the rest.
+    header->setSectionResizeMode(TImageModel::NameColumn, QHeaderView::Interactive);
+    table->setColumnWidth(TImageModel::NameColumn, 220);
     for (int column : {0, 4, 5}) {
         header->setSectionResizeMode(column, QHeaderView::Fixed);
         table->setColumnWidth(column, 40);
@@ -1822,7 +1824,15 @@ void ResultForm::onDeletedCloudError(int failedCount, const QString &errorMsg)
 void ResultForm::startAnalytics()
 {
     m_analyticsTimer.start();
-    const TFileData::Groups groups = TFileData::instance()->groups();
+    TFileData::Groups groups = TFileData::instance()->groups();
+    // Folder groups count as groups of their folders.
+    const TFileData::DirGroups folders = TFileData::instance()->dirGroups();
+    for (auto it = folders.cbegin(); it != folders.cend(); ++it) {
+        QStringList paths;
+        for (const DirGroupEntry &entry : it.value())
+            paths.append(entry.folderPath);
+        groups.insert(it.key() + QStringLiteral("/folders"), paths);
+    }
     splog_d(kTag + QStringLiteral("startAnalytics :%1").arg(groups.size()));
     m_pieChart->start(groups, m_cloud, m_isCloud);
 }
@@ -1842,7 +1852,7 @@ void ResultForm::bulidPieChart(const FileCategoryStatsMap &result, int count, ql
             label->setText(QStringLiteral("0"));
         else if (name.contains(QLatin1String("size"))
             && !name.startsWith(QLatin1String("lab_total")))
-            label->setText(QStringLiteral("0.00MB"));
+            label->setText(TImageModel::sizeText(0));
     }
     ui->lab_total_num->setText(QString::number(count));
     ui->lab_total_size->setText(TImageModel::sizeText(totalSize));

@@ -3,6 +3,7 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "cloud/KvCloudObject.h"
+#include "engine/FileStamp.h"
 #include "engine/ImageLoadTask.h"
 #include "engine/TFileData.h"
 
@@ -64,6 +65,11 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
         item.type = CategoryFolders;
         for (const DirGroupEntry &entry : source.dirGroups.value(key))
             item.totalSize += entry.totalSize;
+    } else if (std::any_of(item.files.cbegin(), item.files.cend(), isSimilarEntry)) {
+        // Similar pictures differ in size: each is counted as it is.
+        item.type = getFileType(info.suffix());
+        for (const QString &entry : std::as_const(item.files))
+            item.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);
     } else {
         item.type = getFileType(info.suffix());
         item.totalSize = info.size() * item.count;

@@ -20,9 +20,9 @@ void add(StatResult &result, int category, int count, qint64 bytes)
     result.totalSize += bytes;
 }
 
-// copies of a path: a file counts itself, a folder the files directly in it (hidden ones
-// too, as the folder comparison counts them). Even zero copies give the path's category
-// an entry, so the chart knows the category is present.
+// copies of a path: a file counts itself, a folder every file in it, in its sub-folders
+// and hidden ones too, as the folder comparison counts them. Even zero copies give the
+// path's category an entry, so the chart knows the category is present.
 void addPath(StatResult &result, const QString &path, int copies)
 {
     const QFileInfo info(path);
@@ -30,7 +30,8 @@ void addPath(StatResult &result, const QString &path, int copies)
         int files = 0;
         qint64 bytes = 0;
         if (copies > 0) {
-            QDirIterator it(path, QDir::Files | QDir::Hidden);
+            QDirIterator it(
+                path, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
             while (it.hasNext()) {
                 it.next();
                 ++files;

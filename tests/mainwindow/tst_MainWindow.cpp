@@ -316,6 +316,8 @@ private slots:
         auto *folders = page->findChild<QPushButton *>("btn_archives");
         QVERIFY(folders->isVisible());
         QVERIFY2(folders->text().startsWith("Folders  1 ·"), qPrintable(folders->text()));
+        // The chart counts the four files of the two folders.
+        QTRY_COMPARE(page->findChild<QLabel *>("lab_folder_num")->text(), "4");
         QTest::mouseClick(folders, Qt::LeftButton);
         QCOMPARE(page->groupModel()->rowCount(), 1);
         QCOMPARE(page->groupModel()->displayedGroups().first().type, int(CategoryFolders));

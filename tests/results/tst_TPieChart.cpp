@@ -24,7 +24,8 @@ private slots:
     {
         for (const char *copy : {"a", "b", "c"})
             makeFile(QStringLiteral("%1/photo.jpg").arg(copy), 10 * MiB);
-        // Of a folder only its own files count: the hidden one does, the subfolder's not.
+        // A folder counts every file in it, as the folder comparison does: the hidden one
+        // and the sub-folder's too.
         for (const char *folder : {"d1", "d2"}) {
             for (const char *name : {"1.txt", "2.mp3", "3.bin", ".hidden"})
                 makeFile(QStringLiteral("%1/%2").arg(folder, name), MiB / 4);
@@ -50,7 +51,7 @@ private slots:
         QTest::newRow("copies of a picture")
             << QList<QStringList> {pictures} << Shares {{1, {3, 30 * MiB}}};
         QTest::newRow("copies of a folder")
-            << QList<QStringList> {folders} << Shares {{6, {8, 2 * MiB}}};
+            << QList<QStringList> {folders} << Shares {{6, {10, 12 * MiB}}};
         QTest::newRow("similar pictures")
             << QList<QStringList> {similar} << Shares {{1, {2, 5000000}}};
         QTest::newRow("a picture and pictures like it") << QList<QStringList> {
@@ -59,7 +60,7 @@ private slots:
             << QList<QStringList> {{"gone/1.txt", "gone/2.txt"}} << Shares {};
         QTest::newRow("several categories")
             << QList<QStringList> {pictures, folders, pdfs, songs, {"gone/1.txt", "gone/2.txt"}}
-            << Shares {{1, {3, 30 * MiB}}, {6, {8, 2 * MiB}}, {2, {2, 2000}}, {3, {3, 1500}}};
+            << Shares {{1, {3, 30 * MiB}}, {6, {10, 12 * MiB}}, {2, {2, 2000}}, {3, {3, 1500}}};
     }
     void categoryTotals()
     {
