@@ -206,6 +206,8 @@ void ResultForm::initUI()
     ui->btn_right_flow->setIcon(style()->standardIcon(QStyle::SP_FileDialogContentsView));
     ui->btnBack->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     ui->btn_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    ui->lab_undo->setVisible(false);
+    connect(ui->lab_undo, &QLabel::linkActivated, this, [this] { undoHide(); });
     // Cloud results cannot be saved as a project.
     ui->btn_save->setVisible(!m_isCloud);
     connect(ui->btn_save, &QPushButton::clicked, this, &ResultForm::saveRequested);
@@ -409,8 +411,12 @@ void ResultForm::initMenu()
     m_filterMenu->addAction(holder);
     connect(m_similaritySlider, &QSlider::valueChanged, this, [this, value](int v) {
         value->setText(QString::number(v));
-        if (!guardLoading())
-            applyShowFilter(m_showFilter);
+        if (guardLoading())
+            return;
+        // Groups left with fewer than two members at or above the floor leave the list.
+        m_groupModel->setMinimumSimilarity(v > m_similaritySlider->minimum() ? v : 0);
+        loadAllData(m_category);
+        applyShowFilter(m_showFilter);
     });
     ui->btn_filter->setMenu(m_filterMenu);
 }
@@ -613,8 +619,8 @@ void ResultForm::loadAllData(int category)
     m_groupModel->sort(SortRole(ui->comboBox->currentIndex()), m_descending);
     updateGroupTitle();
     if (m_groupModel->rowCount() > 0) {
-        ui->listView_groups->setCurrentIndex(m_groupModel->index(0, 0));
-        onTableViewSelectChanged();
+        // The group on show stays on show (and highlighted) while it is in the list.
+        showGroupRow(std::max(0, rowOfGroup(m_memberKey)));
     } else {
         m_memberWatcher.cancel();
         m_memberKey.clear();
@@ -627,6 +633,53 @@ void ResultForm::loadAllData(int category)
             placeholder.scaled(QSize(420, 420), Qt::KeepAspectRatio, Qt::SmoothTransformation));
         ui->stackedWidget_members->setCurrentWidget(ui->page_empty);
     }
+}
+
+void ResultForm::undoHide()
+{
+    if (m_hidden.isEmpty() || guardLoading())
+        return;
+    const HiddenFile hidden = m_hidden.takeLast();
+    TFileData *store = TFileData::instance();
+    // The group as it was, whether the hide left it smaller or took it off the list.
+    if (hidden.folders.isEmpty())
+        store->replaceGroup(hidden.key, hidden.members);
+    else
+        store->insertDirGroup(hidden.key, hidden.folders);
+    store->setGroupMatch(hidden.key, TFileData::GroupMatch(hidden.match));
+    if (hidden.selection.isEmpty())
+        store->removeSelected(hidden.key);
+    else
+        store->setSelected(hidden.key, hidden.selection);
+    splog_d(kTag + QStringLiteral("undoHide. group:[%1]").arg(hidden.key));
+    ui->lab_undo->setText(m_hidden.isEmpty()
+            ? QString()
+            : tr("“%1” is hidden from the results. <a href=\"undo\">Undo</a>")
+                  .arg(m_hidden.last().name.toHtmlEscaped()));
+    ui->lab_undo->setVisible(!m_hidden.isEmpty());
+    m_groupModel->reloadGroup(hidden.key);
+    m_memberKey = hidden.key;
+    loadAllData(m_category);
+    updateCategoryButtons();
+    updateSelectedAndSize();
+}
+
+int ResultForm::rowOfGroup(const QString &key) const
+{
+    const QList<GroupItem> &shown = m_groupModel->displayedGroups();
+    for (int row = 0; row < shown.size(); ++row)
+        if (shown.at(row).key == key)
+            return row;
+    return -1;
+}
+
+void ResultForm::showGroupRow(int row)
+{
+    const QModelIndex index = m_groupModel->index(row, 0);
+    ui->listView_groups->setCurrentIndex(index);
+    ui->listView_groups->scrollTo(index);
+    // Shown even when the row was current already: its group may have changed.
+    onTableViewSelectChanged();
 }
 
 void ResultForm::updateCategoryButtons()
@@ -730,10 +783,9 @@ void ResultForm::on_comboBox_activated(int index)
     if (guardLoading())
         return;
     m_groupModel->sort(SortRole(index), m_descending);
-    if (m_groupModel->rowCount() > 0) {
-        ui->listView_groups->setCurrentIndex(m_groupModel->index(0, 0));
-        ui->listView_groups->scrollToTop();
-    }
+    // The highlighted group is the one on show, wherever the new order put it.
+    if (m_groupModel->rowCount() > 0)
+        showGroupRow(std::max(0, rowOfGroup(m_memberKey)));
 }
 
 // ----------------------------------------------------------------------------- members
@@ -824,9 +876,8 @@ void ResultForm::loadGroupMembers(const GroupItem &group)
         QtConcurrent::map(m_members, [folders, isCloud, cloud](IndexFileGroup &member) {
             member.path = stripSimilarTag(member.entry);
             // Identical copies are as similar as files can be: the slider's floor never
-            // hides them.
-            member.similarity
-                = isSimilarEntry(member.entry) ? similarityOfEntry(member.entry) : 100;
+            // hides them, nor the picture the others were compared with.
+            member.similarity = TImageModel::shownSimilarity(member.entry);
             if (isCloud) {
                 auto property = [cloud, &member](const char *name) {
                     return TImageModel::cloudProperty(
@@ -885,9 +936,12 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
         item.unverified = unverified;
         item.distinctFrom = distinctFrom;
         item.displayName = member.name;
-        item.extra = isSimilarEntry(member.entry) ? tr("%1% similar").arg(member.similarity)
-            : unverified                          ? tr("not verified")
-                                                  : QString();
+        if (isSimilarEntry(member.entry))
+            item.extra = similarityOfEntry(member.entry) == 0
+                ? tr("the picture compared with")
+                : tr("%1% similar").arg(member.similarity);
+        else if (unverified)
+            item.extra = tr("not verified");
         items.append(item);
     }
     m_itemModel->setItems(items);
@@ -1065,7 +1119,13 @@ void ResultForm::onBtnHideFileClick(const QModelIndex &index)
     for (const QString &member : TFileData::instance()->group(key))
         if (stripSimilarTag(member) == path)
             entry = member;
-    TFileData::instance()->removePath(key, entry);
+    TFileData *store = TFileData::instance();
+    m_hidden.append(HiddenFile {key, QFileInfo(path).fileName(), store->group(key),
+        store->selectedOf(key), store->dirGroup(key), int(store->groupMatch(key))});
+    ui->lab_undo->setText(tr("“%1” is hidden from the results. <a href=\"undo\">Undo</a>")
+                              .arg(m_hidden.last().name.toHtmlEscaped()));
+    ui->lab_undo->setVisible(true);
+    store->removePath(key, entry);
     m_changed = true;
     m_groupModel->removeDeletedFile(key, entry);
     m_itemModel->removeItem(path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/DirGroupEntry.h"
 #include "fileops/DeleteResult.h"
 #include "results/SelectionTotals.h"
 #include "results/TImageModel.h"
@@ -162,6 +163,12 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    // Brings the file hidden last back into its group.
+    void undoHide();
+    // Row of a group in the displayed list, -1 when it is not there.
+    int rowOfGroup(const QString &key) const;
+    // Makes the row current, visible and the group on show.
+    void showGroupRow(int row);
     bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -236,6 +243,17 @@ private:
     // Something was removed or taken out of the result since the page opened.
     bool m_changed = false;
     QString m_projectName;
+    // The last file hidden from the results, as its group was before: Undo brings it back.
+    struct HiddenFile
+    {
+        QString key;
+        QString name;
+        QStringList members;
+        QStringList selection;
+        QList<DirGroupEntry> folders;
+        int match = 0;
+    };
+    QList<HiddenFile> m_hidden;
     // The file list's order: a column of TImageModel, -1 for the group's own order.
     int m_fileSortColumn = -1;
     Qt::SortOrder m_fileSortOrder = Qt::AscendingOrder;

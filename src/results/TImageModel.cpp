@@ -580,29 +580,58 @@ void TImageModel::setDisplayedGroups(const QList<GroupItem> &groups)
     endResetModel();
 }
 
+int TImageModel::shownSimilarity(const QString &entry)
+{
+    if (!isSimilarEntry(entry))
+        return 100;
+    // 0 marks the picture the others were compared with.
+    const int percent = similarityOfEntry(entry);
+    return percent == 0 ? 100 : percent;
+}
+
+namespace {
+
+bool reachesFloor(const GroupItem &group, int floor)
+{
+    if (floor <= 0)
+        return true;
+    int reaching = 0;
+    for (const QString &entry : group.files)
+        if (TImageModel::shownSimilarity(entry) >= floor && ++reaching >= 2)
+            return true;
+    return false;
+}
+
+} // namespace
+
 void TImageModel::filterByName(const QString &text)
 {
-    setDisplayedGroups(fastParallelFilter<GroupItem>(m_allGroups,
-        [&text](const GroupItem &g) { return g.name.contains(text, Qt::CaseInsensitive); }));
+    filterByTypeAndName(-1, text);
 }
 
 void TImageModel::filterByType(int type)
 {
-    setDisplayedGroups(fastParallelFilter<GroupItem>(
-        m_allGroups, [type](const GroupItem &g) { return g.type == type; }));
+    const int floor = m_minSimilarity;
+    setDisplayedGroups(fastParallelFilter<GroupItem>(m_allGroups,
+        [type, floor](const GroupItem &g) { return g.type == type && reachesFloor(g, floor); }));
 }
 
 void TImageModel::filterByTypeAndName(int type, const QString &text)
 {
+    const int floor = m_minSimilarity;
     setDisplayedGroups(
-        fastParallelFilter<GroupItem>(m_allGroups, [type, &text](const GroupItem &g) {
-            return (type < 0 || g.type == type) && g.name.contains(text, Qt::CaseInsensitive);
+        fastParallelFilter<GroupItem>(m_allGroups, [type, &text, floor](const GroupItem &g) {
+            return (type < 0 || g.type == type) && g.name.contains(text, Qt::CaseInsensitive)
+                && reachesFloor(g, floor);
         }));
 }
 
 void TImageModel::resetGroupFilter()
 {
-    setDisplayedGroups(m_allGroups);
+    if (m_minSimilarity > 0)
+        filterByTypeAndName(-1, QString());
+    else
+        setDisplayedGroups(m_allGroups);
 }
 
 void TImageModel::filterByShow(int mode, int minSimilarity)
@@ -663,6 +692,49 @@ void TImageModel::refreshItemSelection()
         item.checked = store->isSelected(item.key, item.path);
 }
 
+void TImageModel::reloadGroup(const QString &key)
+{
+    TFileData *store = TFileData::instance();
+    GroupSource source;
+    source.groups.insert(key, store->group(key));
+    source.selected.insert(key, store->selectedOf(key));
+    const QList<DirGroupEntry> folders = store->dirGroup(key);
+    if (!folders.isEmpty())
+        source.dirGroups.insert(key, folders);
+    const GroupItem group = buildGroup(source, key);
+    beginResetModel();
+    const auto master = m_groupRows.constFind(key);
+    if (master != m_groupRows.constEnd())
+        m_allGroups[*master] = group;
+    else
+        m_allGroups.append(group);
+    const auto shown = std::find_if(
+        m_groups.begin(), m_groups.end(), [&key](const GroupItem &g) { return g.key == key; });
+    if (shown != m_groups.end())
+        *shown = group;
+    else
+        m_groups.append(group);
+    rebuildGroupIndex();
+    endResetModel();
+}
+
+void TImageModel::refreshAfterRemoval(GroupItem &group)
+{
+    group.count = int(group.files.size());
+    group.firstFile = group.files.first();
+    // The store has already let the member go, with its selection.
+    group.selectedCount = TFileData::instance()->selectedCount(group.key);
+    const bool similar = std::any_of(group.files.cbegin(), group.files.cend(), isSimilarEntry);
+    const QFileInfo first(stripSimilarTag(group.firstFile));
+    if (similar) {
+        group.totalSize = 0;
+        for (const QString &entry : std::as_const(group.files))
+            group.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);
+    } else if (first.isFile()) {
+        group.totalSize = first.size() * group.count;
+    }
+}
+
 void TImageModel::removeDeletedFile(const QString &key, const QString &path)
 {
     int row = -1;
@@ -682,18 +754,10 @@ void TImageModel::removeDeletedFile(const QString &key, const QString &path)
         [&derived](const QString &entry) { return derived.match(entry).hasMatch(); });
 
     if (group.files.size() > 1) {
-        group.count = int(group.files.size());
-        group.firstFile = group.files.first();
-        const QFileInfo first(stripSimilarTag(group.firstFile));
-        group.totalSize = first.isFile() ? first.size() * group.count : 0;
+        refreshAfterRemoval(group);
         const auto master = m_groupRows.constFind(key);
-        if (master != m_groupRows.constEnd()) {
-            GroupItem &stored = m_allGroups[*master];
-            stored.files = group.files;
-            stored.firstFile = group.firstFile;
-            stored.count = group.count;
-            stored.totalSize = group.totalSize;
-        }
+        if (master != m_groupRows.constEnd())
+            m_allGroups[*master] = group;
         emit dataChanged(index(row, 0), index(row, columnCount() - 1));
         return;
     }
@@ -730,11 +794,7 @@ void TImageModel::removeDeletedFiles(const QHash<QString, QStringList> &removedB
         }
         if (group.files.size() < 2)
             return false;
-        group.count = int(group.files.size());
-        group.firstFile = group.files.first();
-        const QFileInfo first(stripSimilarTag(group.firstFile));
-        if (first.isFile())
-            group.totalSize = first.size() * group.count;
+        refreshAfterRemoval(group);
         return true;
     };
     auto keepUpdated = [&update](QList<GroupItem> &groups) {

@@ -123,12 +123,21 @@ public:
     void filterByShow(int mode, int minSimilarity);
     // Back to the whole master group list.
     void resetGroupFilter();
+    // The similarity floor of the group filters above: a group takes part only while two
+    // of its members reach it (identical copies and the picture the others were
+    // compared with count as 100). 0: no floor.
+    void setMinimumSimilarity(int percent) { m_minSimilarity = percent; }
+    // A member entry's similarity as the page shows and filters it.
+    static int shownSimilarity(const QString &entry);
 
     void refreshGroupSelection(const QModelIndexList &indexes);
     void refreshItemSelection();
     void removeDeletedFile(const QString &key, const QString &path);
     // The same for a whole batch: group key -> removed entries.
     void removeDeletedFiles(const QHash<QString, QStringList> &removedByKey);
+    // The group as the store holds it now, in place of the one listed (or added at the
+    // end of both lists). Local groups only.
+    void reloadGroup(const QString &key);
     // Takes one file out of the item lists (hidden or removed on its own).
     void removeItem(const QString &path);
     void cancelPendingLoads(int firstRow, int lastRow);
@@ -169,11 +178,14 @@ private:
     QVariant groupData(const GroupItem &group, int role, int row) const;
     QVariant itemData(const ImageItem &item, const QModelIndex &index, int role) const;
     void storeThumbnail(int row, const QString &path, const QImage &image);
+    // Count, first member, selected count and size of a group that lost members.
+    static void refreshAfterRemoval(GroupItem &group);
 
     DataModel m_mode;
     QList<GroupItem> m_allGroups;
     QList<GroupItem> m_groups;
     QHash<QString, int> m_groupRows;
+    int m_minSimilarity = 0;
     QList<ImageItem> m_allItems;
     QList<ImageItem> m_items;
     QHash<QString, int> m_itemRows;

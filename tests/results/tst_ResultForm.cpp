@@ -337,6 +337,79 @@ private slots:
         QCOMPARE(ScanTree::read(kept), ScanTree::pattern(900, 'a'));
     }
 
+    void hideCountsAndUndo()
+    {
+        const QString key = writeGroup("notes.txt", 3, ScanTree::pattern(600, 'n'));
+        const QStringList members = TFileData::instance()->group(key);
+        TFileData::instance()->setSelected(key, {members.at(2)});
+        ResultForm *page = openPage();
+        QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+        const auto group = [page] { return page->groupModel()->displayedGroups().value(0); };
+        QCOMPARE(group().selectedCount, 1);
+        // The selected copy hidden: two copies left, none selected.
+        const QModelIndex hide = page->itemModel()->index(2, TImageModel::HideColumn);
+        QCOMPARE(hide.data(TImageModel::FilePathRole).toString(), members.at(2));
+        page->onBtnHideFileClick(hide);
+        QCOMPARE(group().count, 2);
+        QCOMPARE(group().selectedCount, 0);
+        auto *undo = page->findChild<QLabel *>("lab_undo");
+        QVERIFY(undo->isVisible());
+        QVERIFY(undo->text().contains("notes.txt"));
+        // Undo puts it back, selected as it was.
+        emit undo->linkActivated("undo");
+        QCOMPARE(group().count, 3);
+        QCOMPARE(group().selectedCount, 1);
+        QCOMPARE(TFileData::instance()->group(key), members);
+        QVERIFY(TFileData::instance()->isSelected(key, members.at(2)));
+        QVERIFY(!undo->isVisible());
+        QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+    }
+
+    void shownGroupStaysHighlighted()
+    {
+        writeGroup("big.bin", 2, ScanTree::pattern(9000, 'b'));
+        const QString small = writeGroup("a-small.bin", 3, ScanTree::pattern(100, 's'));
+        ResultForm *page = openPage();
+        openGroup(page, [&small](const GroupItem &g) { return g.key == small; });
+        QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+        // By name the small group comes first, by size last: either way it stays the one
+        // highlighted and shown.
+        for (int role : {int(ByName), int(BySize)}) {
+            page->on_comboBox_activated(role);
+            const QModelIndex current
+                = page->findChild<QListView *>("listView_groups")->currentIndex();
+            QCOMPARE(current.data(TImageModel::KeyRole).toString(), small);
+            QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+            QCOMPARE(page->itemModel()->displayedItems().first().key, small);
+        }
+    }
+
+    void similarityFloorHidesGroups_data()
+    {
+        QTest::addColumn<int>("floor");
+        QTest::addColumn<bool>("listed");
+        QTest::newRow("below both") << 60 << true;
+        QTest::newRow("one reaches it besides the reference") << 70 << true;
+        QTest::newRow("only the reference reaches it") << 75 << false;
+    }
+    void similarityFloorHidesGroups()
+    {
+        QFETCH(int, floor);
+        QFETCH(bool, listed);
+        const QString a = file("p/a.jpg", jpeg(1));
+        const QString b = file("p/b.jpg", jpeg(2));
+        const QString c = file("p/c.jpg", jpeg(3));
+        TFileData::instance()->insertGroup(TFileData::groupKey(a) + kSimilarTag,
+            {a + kSimilarTag + "_0", b + kSimilarTag + "_70", c + kSimilarTag + "_62"});
+        DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
+        const DFGenernalPreferences saved(*similar);
+        similar->setSimilarityValue(55);
+        ResultForm *page = openPage();
+        *similar = saved;
+        page->findChild<QSlider *>("slider_similarity")->setValue(floor);
+        QCOMPARE(page->groupModel()->rowCount(), listed ? 1 : 0);
+    }
+
     void fileListShowsWhereEachCopyLives()
     {
         const QByteArray content = ScanTree::pattern(700, 'f');
