@@ -1132,8 +1132,9 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     // The "no selection" hint leaves the group without a selection entry.
     if (duplicateSelectHint != 8)
         GroupItemAutoSelector::applyToGroup(groupKey, paths, duplicateSelectHint, mapPriority);
-    duplicateFileCount.fetch_add(int(paths.size()));
-    duplicateTotalSize.fetch_add(qint64(paths.size()) * size);
+    // What could go: every copy but one.
+    duplicateFileCount.fetch_add(int(paths.size()) - 1);
+    duplicateTotalSize.fetch_add(qint64(paths.size() - 1) * size);
 }
 
 namespace {
@@ -1365,6 +1366,9 @@ void DuplicateFileFinder::processDirectories()
         for (const QString &folder : folders) {
             const FolderDigest &digest = digests[folder];
             entries.append(DirGroupEntry {folder, digest.fileCount, digest.totalSize});
+            // The files of every folder but the first, which stays.
+            if (folder == folders.first())
+                continue;
             duplicateFileCount.fetch_add(digest.fileCount);
             duplicateTotalSize.fetch_add(digest.totalSize);
         }
@@ -1426,9 +1430,10 @@ void DuplicateFileFinder::pruneMatchedFolders(const QList<QStringList> &matched)
         }
         if (remaining == members)
             continue;
-        // The running totals count what the groups list: the dropped copies leave them
-        // (the folder groups count their files instead).
-        const qsizetype dropped = members.size() - (remaining.size() < 2 ? 0 : remaining.size());
+        // The running totals count the copies that could go: those of the copies dropped
+        // leave them (the folder groups count their files instead).
+        const qsizetype dropped
+            = (members.size() - 1) - (remaining.size() < 2 ? 0 : remaining.size() - 1);
         const DirMatchInfo &info = dirTable[folderOf(members.first())];
         const qsizetype at = info.names.indexOf(fileNameOf(members.first()));
         duplicateFileCount.fetch_sub(int(dropped));

@@ -91,6 +91,7 @@ public:
     // before a removal and a saved project need them; a scan that only reports its
     // groups does not.
     void setKeepsStamps(bool keeps) { m_keepsStamps = keeps; }
+    // The copies found that could go (every copy of a group but one), and their bytes.
     int duplicateFiles() const { return duplicateFileCount.load(); }
     qint64 duplicateSize() const { return duplicateTotalSize.load(); }
     int scanMethodInUse() const { return scanMethod; }

@@ -487,21 +487,18 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
         }
         if (!local.empty()) {
             QMutexLocker locker(&m_linkMutex);
-            const auto link = [&](int k) {
-                if (linked[size_t(k)])
-                    return;
-                linked[size_t(k)] = 1;
-                if (foundWhenLinked && !earlier[size_t(k)])
-                    addFound(images.at(k).bytes);
-            };
-            link(i);
+            linked[size_t(i)] = 1;
             for (int j : local) {
-                link(j);
+                linked[size_t(j)] = 1;
                 const int a = root(i);
                 const int b = root(j);
                 // The smaller index stays the root: a group is known by its first picture.
-                if (a != b)
+                if (a != b) {
                     parent[size_t(std::max(a, b))] = std::min(a, b);
+                    // Each join is one more picture that could go.
+                    if (foundWhenLinked && !earlier[size_t(j)])
+                        addFound(images.at(j).bytes);
+                }
             }
         }
     });
@@ -687,10 +684,9 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
                 if (compareFeatures(reference.descriptors, candidate.descriptors) < passMark)
                     continue;
                 kept.append(candidate);
-                // Counted as they are confirmed: the reference with the first one kept.
-                for (qsizetype m = kept.size() == 2 ? 0 : kept.size() - 1; m < kept.size(); ++m)
-                    if (!kept.at(m).fromEarlierResult)
-                        addFound(kept.at(m).bytes);
+                // Counted as they are confirmed; the reference is the one that stays.
+                if (!candidate.fromEarlierResult)
+                    addFound(candidate.bytes);
             }
             group = kept;
         } catch (const cv::Exception &e) {
@@ -727,18 +723,25 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
         runInBackground();
         QList<ImageData> earlier;
         QStringList entries;
+        qint64 firstBytes = -1;
         for (const ImageData &image : group) {
             if (image.fromEarlierResult) {
                 earlier.append(image);
                 continue;
             }
+            const qint64 bytes = QFileInfo(image.path).size();
+            if (firstBytes < 0)
+                firstBytes = bytes;
             m_fileCount.fetch_add(1);
-            m_fileBytes.fetch_add(QFileInfo(image.path).size());
+            m_fileBytes.fetch_add(bytes);
             entries.append(entryOf(image));
         }
         if (entries.isEmpty())
             return;
         if (earlier.isEmpty()) {
+            // A group of new pictures keeps one of them: the others could go.
+            m_fileCount.fetch_sub(1);
+            m_fileBytes.fetch_sub(firstBytes);
             if (entries.size() < 2)
                 return;
             const QString key = TFileData::groupKey(entries.first());

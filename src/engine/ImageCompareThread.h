@@ -56,7 +56,8 @@ public:
     void hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups);
     void orbFeatureMatch(QList<QList<ImageData>> &groups);
     // Writes the groups into TFileData (and their automatic selection); returns the
-    // number of new files and their total bytes.
+    // number of new files that could go (a group of new pictures keeps one) and their
+    // bytes.
     QPair<int, qint64> storeGroups(const QList<QList<ImageData>> &groups);
 
     // Pair measures, 0..1.

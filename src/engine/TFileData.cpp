@@ -266,6 +266,45 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     m_groupMatches.clear();
 }
 
+TFileData::Removable TFileData::removable() const
+{
+    Groups groups;
+    DirGroups folders;
+    Stamps stamps;
+    {
+        QReadLocker locker(&m_lock);
+        groups = m_groups;
+        folders = m_dirGroups;
+        stamps = m_stamps;
+    }
+    const auto sizeOf = [&stamps](const QString &entry) {
+        const QString path = stripSimilarTag(entry);
+        const auto stamp = stamps.constFind(path);
+        const qint64 size
+            = stamp != stamps.cend() && stamp->isValid() ? stamp->size : FileStamp::of(path).size;
+        return std::max<qint64>(0, size);
+    };
+    Removable totals;
+    for (const QStringList &members : std::as_const(groups)) {
+        if (members.size() < 2)
+            continue;
+        totals.count += members.size() - 1;
+        if (std::any_of(members.cbegin(), members.cend(), isSimilarEntry)) {
+            // Similar pictures differ in size: each that could go counts its own.
+            for (qsizetype i = 1; i < members.size(); ++i)
+                totals.bytes += sizeOf(members.at(i));
+        } else {
+            totals.bytes += (members.size() - 1) * sizeOf(members.first());
+        }
+    }
+    for (const QList<DirGroupEntry> &entries : std::as_const(folders))
+        for (qsizetype i = 1; i < entries.size(); ++i) {
+            totals.count += entries.at(i).fileCount;
+            totals.bytes += entries.at(i).totalSize;
+        }
+    return totals;
+}
+
 void TFileData::clear()
 {
     QWriteLocker locker(&m_lock);

@@ -77,6 +77,15 @@ public:
     void setGroupMatch(const QString &key, GroupMatch match);
     GroupMatch groupMatch(const QString &key) const;
     void clear();
+    // The copies that could go (every member of a group but the first; for a folder
+    // group the files of every folder but the first) and their bytes, as a scan counts
+    // them. Sizes come from the stamps the scan kept, else from the disk.
+    struct Removable
+    {
+        qint64 count = 0;
+        qint64 bytes = 0;
+    };
+    Removable removable() const;
     // Grows with every change of the groups, their selection or their kind: a result
     // whose revision is the one saved has not changed since.
     quint64 revision() const { return m_revision.load(); }

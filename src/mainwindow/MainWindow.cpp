@@ -1331,7 +1331,11 @@ void MainWindow::openResultPage()
 
 void MainWindow::onResultWindowClose(bool update)
 {
-    Q_UNUSED(update)
+    // The finished page follows what the result page removed, hid or ignored.
+    if (update) {
+        const TFileData::Removable left = TFileData::instance()->removable();
+        onItemFound(int(std::min<qint64>(left.count, INT_MAX)), left.bytes);
+    }
     show();
     QApplication::setQuitOnLastWindowClosed(true);
 }

@@ -426,8 +426,10 @@ private slots:
         thread.applyConfig(config(1, true));
         const QVariantList finished = run(thread, {a, b, c});
         QVERIFY(!finished.isEmpty());
-        QCOMPARE(finished.at(0).toInt(), 2);
-        QCOMPARE(finished.at(1).toLongLong(), QFileInfo(a).size() + QFileInfo(b).size());
+        // One of the two alike pictures could go; the first of the group stays.
+        QCOMPARE(finished.at(0).toInt(), 1);
+        const QString second = TFileData::instance()->groups().begin()->at(1);
+        QCOMPARE(finished.at(1).toLongLong(), QFileInfo(stripSimilarTag(second)).size());
         const TFileData::Groups groups = TFileData::instance()->groups();
         QCOMPARE(groups.size(), 1);
         const QString key = groups.constBegin().key();

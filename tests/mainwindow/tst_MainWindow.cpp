@@ -17,6 +17,7 @@
 #include "preferences/DFPreferences.h"
 #include "preferences/DFPreferencesDialog.h"
 #include "preferences/DFSelectionPreferences.h"
+#include "results/TImageModel.h"
 #include "widgets/ProblemListDialog.h"
 #include "widgets/RoundTextButton.h"
 
@@ -208,8 +209,9 @@ private slots:
         QCOMPARE(child<QLabel>("lab_fileNumber")->text(), "10");
         QCOMPARE(child<QLabel>("lab_progress")->text(), "100.00%");
         QCOMPARE(TFileData::instance()->groupCount(), 2);
-        // The count is of files in groups: three copies and two copies.
-        QCOMPARE(child<QLabel>("lab_findNumber")->text(), "5");
+        // The count is of copies that could go: two of three, one of two.
+        QCOMPARE(child<QLabel>("lab_findNumber")->text(), "3");
+        QCOMPARE(child<QLabel>("lab_findSize")->text(), TImageModel::sizeText(2 * 5000 + 3000));
         QVERIFY(child<QPushButton>("btn_scan")->isEnabled());
         QCOMPARE(child<QPushButton>("btn_scan")->text(), "Show results");
 
@@ -217,9 +219,19 @@ private slots:
         QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
         QVERIFY(m_window->resultPage());
         QTRY_VERIFY(m_window->resultPage()->isDataLoaded());
-        QCOMPARE(m_window->resultPage()->groupModel()->rowCount(), 2);
-        m_window->resultPage()->close();
+        ResultForm *page = m_window->resultPage();
+        QCOMPARE(page->groupModel()->rowCount(), 2);
+        // A copy hidden on the result page: the finished page counts one copy less.
+        QTRY_VERIFY(page->itemModel()->rowCount() >= 2);
+        const QModelIndex member = page->itemModel()->index(1, TImageModel::HideColumn);
+        const qint64 hiddenSize
+            = QFileInfo(member.data(TImageModel::FilePathRole).toString()).size();
+        page->onBtnHideFileClick(member);
+        page->close();
         QVERIFY(m_window->isVisible());
+        QCOMPARE(child<QLabel>("lab_findNumber")->text(), "2");
+        QCOMPARE(child<QLabel>("lab_findSize")->text(),
+            TImageModel::sizeText(2 * 5000 + 3000 - hiddenSize));
 
         // New Scan after saving returns to an empty folder page.
         TControlUI::instance()->setProjectPath("saved");

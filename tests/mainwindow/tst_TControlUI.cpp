@@ -59,8 +59,9 @@ private slots:
         QCOMPARE(controller.stage(), int(TControlUI::StageMatching));
         QCOMPARE(controller.scannedFileCount(), 3);
         QVERIFY(!found.isEmpty());
-        QCOMPARE(found.last().at(0).toInt(), 2);
-        QCOMPARE(found.last().at(1).toLongLong(), qint64(40000));
+        // One of the two copies could go.
+        QCOMPARE(found.last().at(0).toInt(), 1);
+        QCOMPARE(found.last().at(1).toLongLong(), qint64(20000));
         const TFileData::Groups groups = TFileData::instance()->groups();
         QCOMPARE(groups.size(), 1);
         QCOMPARE(TFileData::instance()->selectedCount(groups.begin().key()), 1);
