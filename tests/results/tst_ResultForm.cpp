@@ -5,6 +5,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
+#include "engine/FilePathCodec.h"
 #include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
@@ -16,6 +17,10 @@
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "results/ResultForm.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QAction>
 #include <QDirIterator>
@@ -335,6 +340,33 @@ private slots:
         QCOMPARE(answers.defaults.at(asked), QMessageBox::No);
         QTRY_COMPARE(QFileInfo::exists(other), answer == QMessageBox::No);
         QCOMPARE(ScanTree::read(kept), ScanTree::pattern(900, 'a'));
+    }
+
+    void nameNotUtf8ShowsRealSizeAndDate()
+    {
+        // A name of bytes that are no UTF-8 (as old archives and other systems leave
+        // them): the scan keeps it through the path codec, and so must the page.
+        const QString plain = file("odd/plain.bin", ScanTree::pattern(4321, 'o'));
+        const QByteArray raw = QFile::encodeName(m_tree.filePath("odd/")) + "caf\xe9.bin";
+        {
+            const int fd = ::open(raw.constData(), O_WRONLY | O_CREAT | O_EXCL, 0644);
+            QVERIFY(fd >= 0);
+            const QByteArray content = ScanTree::pattern(4321, 'o');
+            QCOMPARE(::write(fd, content.constData(), size_t(content.size())), ssize_t(4321));
+            const timespec times[2] = {{0, UTIME_OMIT}, {1500000000, 0}};
+            QCOMPARE(::futimens(fd, times), 0);
+            ::close(fd);
+        }
+        const QString odd = FilePathCodec::decode(raw);
+        TFileData::instance()->insertGroup(TFileData::groupKey(plain), {plain, odd});
+        ResultForm *page = openPage();
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        const ImageItem item = page->itemModel()->displayedItems().at(1);
+        QCOMPARE(item.path, odd);
+        QCOMPARE(item.size, qint64(4321));
+        QCOMPARE(page->itemModel()->index(1, TImageModel::DateColumn).data().toString(),
+            QDateTime::fromSecsSinceEpoch(1500000000).toString("yyyy/MM/dd HH:mm:ss"));
+        ::unlink(raw.constData());
     }
 
     void hideCountsAndUndo()
