@@ -197,12 +197,12 @@
     <message>
         <location filename="../../src/preferences/Genernal.ui" line="139"/>
         <source>The advanced algorithm detects similar images through feature points in the image. Using this algorithm, detecting simialr images takes more time, but the result will be more accurate. The larger the value, the higher the similarity.</source>
-        <translation type="unfinished"></translation>
+        <translation>The advanced algorithm detects similar images through feature points in the image. Using this algorithm, detecting similar images takes more time, but the result will be more accurate. The larger the value, the higher the similarity.</translation>
     </message>
     <message>
         <location filename="../../src/preferences/Genernal.ui" line="152"/>
         <source>No comparision between different types of images</source>
-        <translation type="unfinished"></translation>
+        <translation>No comparison between different types of images</translation>
     </message>
     <message>
         <location filename="../../src/preferences/Genernal.ui" line="161"/>
@@ -250,7 +250,7 @@
     <message>
         <location filename="../../src/preferences/IgnoreList.ui" line="31"/>
         <source>Move to Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Move to Trash</translation>
     </message>
     <message>
         <location filename="../../src/preferences/IgnoreList.ui" line="38"/>
@@ -415,7 +415,7 @@
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="444"/>
         <source>Show Log in Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>Show Log in the File Manager</translation>
     </message>
     <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="447"/>
@@ -1171,7 +1171,7 @@
         <location filename="../../src/results/ResultForm.cpp" line="414"/>
         <location filename="../../src/results/ResultForm.cpp" line="1769"/>
         <source>Move to Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Move to Trash</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="415"/>
@@ -1296,7 +1296,7 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1207"/>
         <source>Selected files will be moved into the Cloud Drive&apos;s Recycle Bin, and they may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
-        <translation type="unfinished"></translation>
+        <translation>The selected files will be moved to the cloud drive&apos;s trash. Are you sure you want to remove them?</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1211"/>
@@ -1306,7 +1306,7 @@
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1213"/>
         <source>Selected files will be moved into the Recycle Bin, and it may be permanently deleted if the files&apos; size is too large. Are you sure you want to delete them?</source>
-        <translation type="unfinished"></translation>
+        <translation>The selected files will be moved to the Trash. Are you sure you want to remove them?</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1256"/>
@@ -1405,7 +1405,7 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1473"/>
         <source>Failed to move the file to the recycle bin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Failed to move the file to the Trash.</translation>
     </message>
     <message>
         <location filename="../../src/results/ResultForm.cpp" line="1476"/>
@@ -1551,7 +1551,7 @@ Remove them too?</numerusform>
     <message>
         <location filename="../../src/preferences/Selection.ui" line="163"/>
         <source>The larger the value, the higher priority to delete. Double click to change the value and it&apos;s priority.</source>
-        <translation type="unfinished"></translation>
+        <translation>The larger the value, the higher the priority to delete. Double click to change the value and its priority.</translation>
     </message>
     <message>
         <location filename="../../src/preferences/Selection.ui" line="179"/>

@@ -448,10 +448,13 @@ void MainWindow::buildMenus()
         action->setObjectName(name);
         return action;
     };
-    add(tr("User Guide"), QStringLiteral("action_userGuide"));
-    add(tr("Product FAQ"), QStringLiteral("action_faq"));
-    add(tr("Feedback and Support"), QStringLiteral("action_feedback"));
-    add(tr("Check for Updates"), QStringLiteral("action_updates"));
+    // Entries that open a web page stay out of the menu when this build names none.
+    const bool help = !QStringLiteral(VELTRINE_HELP_URL).isEmpty();
+    const bool home = !QStringLiteral(VELTRINE_HOMEPAGE_URL).isEmpty();
+    add(tr("User Guide"), QStringLiteral("action_userGuide"))->setVisible(help);
+    add(tr("Product FAQ"), QStringLiteral("action_faq"))->setVisible(home);
+    add(tr("Feedback and Support"), QStringLiteral("action_feedback"))->setVisible(home);
+    add(tr("Check for Updates"), QStringLiteral("action_updates"))->setVisible(home);
     add(tr("About"), QStringLiteral("action_about"));
     m_languageMenu = m_systemMenu->addMenu(tr("Language"));
     m_languageMenu->setObjectName(QStringLiteral("menu_language"));
@@ -1344,19 +1347,25 @@ void MainWindow::onResultWindowClose(bool update)
 
 void MainWindow::openProject(const QString &path)
 {
+    // What the window shows comes back as it was when the project cannot be read.
+    m_beforeOpen = BeforeOpen {m_pages->currentIndex(), m_state, m_showResultsWhenDone};
     m_showResultsWhenDone = true;
-    m_localScan = false;
-    clearScanProblems();
     rememberProjectFolder(path);
     setStatus(StateOpening);
     splog_d(kTag + QStringLiteral("Open project: %1").arg(path));
+    m_openingPath = path;
     if (!m_projectThread->openProject(path)) {
-        setStatus(StateReady);
+        restoreBeforeOpen();
         return;
     }
-    m_projectPath = path;
-    setTitle();
-    TControlUI::instance()->setProjectPath(path);
+}
+
+void MainWindow::restoreBeforeOpen()
+{
+    m_openingPath.clear();
+    m_showResultsWhenDone = m_beforeOpen.showResultsWhenDone;
+    setStatus(m_beforeOpen.state == StateOpening ? StateReady : m_beforeOpen.state);
+    m_pages->setCurrentIndex(m_beforeOpen.page);
 }
 
 void MainWindow::onOpenProjectProcess(double cur, double total)
@@ -1368,17 +1377,25 @@ void MainWindow::onOpenProjectProcess(double cur, double total)
 void MainWindow::onProjectOpenComplated(int flag, int files, qint64 size)
 {
     if (flag != TOpenSaveThread::ProjectSucceeded) {
-        m_projectPath.clear();
-        setTitle();
-        m_pages->setCurrentIndex(0);
-        setStatus(hasResults() ? StateFinished : StateReady);
+        // The results on show, if any, are untouched: the store takes a project only
+        // once it has been read whole.
+        restoreBeforeOpen();
         QMessageBox::warning(this, tr("Open File"), TOpenSaveThread::resultText(flag));
         return;
     }
+    m_projectPath = std::exchange(m_openingPath, QString());
+    setTitle();
+    TControlUI::instance()->setProjectPath(m_projectPath);
+    m_localScan = false;
+    clearScanProblems();
     m_savedRevision = TFileData::instance()->revision();
     filesCountChange(int(m_projectThread->scanFileCount()));
     onUpdateTimer(m_projectThread->scanTime());
-    onItemFound(files, size);
+    Q_UNUSED(files)
+    Q_UNUSED(size)
+    // Counted as a scan counts: the copies that could go.
+    const TFileData::Removable removable = TFileData::instance()->removable();
+    onItemFound(int(std::min<qint64>(removable.count, INT_MAX)), removable.bytes);
     allThreadComplate();
 }
 

@@ -63,6 +63,9 @@ public:
 
     // Adds one folder to the list; false when it is already listed or not a folder.
     bool addFolder(const QString &path);
+    // Opens a project file as the menu does; a project that cannot be read leaves the
+    // window and its results as they were.
+    void openProject(const QString &path);
     // Adds the folders among paths given where folders are expected (a drop, the folder
     // chooser) and tells the user, in one message, which of them are files or missing.
     void addFolders(const QStringList &paths);
@@ -145,7 +148,6 @@ private:
     void updateFolderPageView();
     void startLocalScan();
     void openResultPage();
-    void openProject(const QString &path);
     // Asks to save unsaved results: true to go on, false to stay (Cancel or failed save).
     bool confirmDiscardResults();
     // Runs a save and waits for its end while the window keeps painting.
@@ -205,6 +207,16 @@ private:
     bool m_scanStopped = false;
     // The store's revision when the results were last saved or opened.
     quint64 m_savedRevision = 0;
+    // A project being opened, and what the window showed before.
+    QString m_openingPath;
+    struct BeforeOpen
+    {
+        int page = 0;
+        int state = StateReady;
+        bool showResultsWhenDone = true;
+    };
+    BeforeOpen m_beforeOpen;
+    void restoreBeforeOpen();
     QList<ProblemListDialog::Section> m_problemSections;
 
     QFrame *m_titleFrame = nullptr;

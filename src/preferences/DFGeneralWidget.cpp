@@ -4,6 +4,11 @@
 #include "preferences/PreferenceRanges.h"
 #include "ui_Genernal.h"
 
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSlider>
+
 namespace {
 
 QString percent(int value)
@@ -23,6 +28,30 @@ DFGeneralWidget::DFGeneralWidget(QWidget *parent)
         int(PreferenceRanges::FeaturesValue.minimum), int(PreferenceRanges::FeaturesValue.maximum));
     ui->sbImageWH->setRange(
         int(PreferenceRanges::imageMinSize.minimum), int(PreferenceRanges::imageMinSize.maximum));
+    // Each slider shows its range at its two ends.
+    for (QSlider *slider : {ui->hsSimilarity, ui->hsFeatures}) {
+        auto *grid = qobject_cast<QGridLayout *>(slider->parentWidget()->layout());
+        const int at = grid ? grid->indexOf(slider) : -1;
+        if (at < 0)
+            continue;
+        int row = 0, column = 0, rows = 0, columns = 0;
+        grid->getItemPosition(at, &row, &column, &rows, &columns);
+        grid->removeWidget(slider);
+        auto *line = new QHBoxLayout;
+        line->setSpacing(6);
+        const auto end = [slider](int value, const char *name) {
+            auto *label = new QLabel(percent(value), slider->parentWidget());
+            label->setObjectName(QString::fromLatin1(name) + slider->objectName());
+            label->setProperty("rangeEnd", true);
+            return label;
+        };
+        line->addWidget(end(slider->minimum(), "lblMin_"));
+        line->addWidget(slider, 1);
+        line->addWidget(end(slider->maximum(), "lblMax_"));
+        grid->addLayout(line, row, column, rows, columns);
+        slider->setToolTip(
+            tr("From %1 to %2").arg(percent(slider->minimum()), percent(slider->maximum())));
+    }
 
     const auto flag = [this](QCheckBox *box, void (DFGenernalPreferences::*set)(bool)) {
         connect(box, &QCheckBox::toggled, this, [this, set](bool on) {

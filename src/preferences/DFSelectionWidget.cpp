@@ -137,7 +137,7 @@ bool DFSelectionWidget::addPriorityFolders(const QStringList &folders)
     m_preferences.setMapPriority(priorities);
     refresh();
     if (refused)
-        QMessageBox::critical(this, tr("Error"), tr("The folder has been added."));
+        QMessageBox::information(this, tr("Already Added"), tr("The folder has been added."));
     return !refused;
 }
 

@@ -2017,11 +2017,15 @@ void ResultForm::showEvent(QShowEvent *event)
         const QScreen *screen = this->screen() ? this->screen() : QGuiApplication::primaryScreen();
         const QRect available = screen->availableGeometry();
         const QSize stored = QSettings().value(SettingsKeys::resultFormSize).toSize();
-        if (stored.isValid()) {
-            const QSize bounded = stored.expandedTo(minimumSize()).boundedTo(available.size());
-            resize(bounded);
-            move(available.center() - QPoint(bounded.width() / 2, bounded.height() / 2));
-        }
+        // A size saved on a larger screen is not brought back: the window's own, fitted to
+        // this screen, serves instead.
+        QSize wanted = size();
+        if (stored.isValid() && stored.width() <= available.width()
+            && stored.height() <= available.height())
+            wanted = stored;
+        wanted = wanted.expandedTo(minimumSize()).boundedTo(available.size());
+        resize(wanted);
+        move(available.center() - QPoint(wanted.width() / 2, wanted.height() / 2));
     }
     QWidget::showEvent(event);
 }

@@ -483,6 +483,33 @@ private slots:
         TFileData::instance()->clear();
     }
 
+    void damagedProjectLeavesResults()
+    {
+        // Results on show, then a project that cannot be read: the window, its page and
+        // its results stay as they were.
+        QVERIFY(m_window->addFolder(m_tree.filePath("a")));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QVERIFY(done.wait(30000));
+        const TFileData::Groups before = TFileData::instance()->groups();
+        QVERIFY(!before.isEmpty());
+        const int page = child<QStackedWidget>("stackedWidget")->currentIndex();
+        const QString damaged = m_tree.filePath("damaged.dupproj");
+        QVERIFY(!ScanTree::write(m_tree.path(), "damaged.dupproj", "<?xml version=\"1.0\"?><Veltr")
+                     .isEmpty());
+        QSignalSpy opened(TControlUI::instance(), &TControlUI::openProjectComplated);
+        DialogAnswerer answers;
+        m_window->openProject(damaged);
+        QVERIFY(opened.count() > 0 || opened.wait(10000));
+        QTRY_COMPARE(answers.titles, QStringList {"Open File"});
+        QCOMPARE(TFileData::instance()->groups(), before);
+        QCOMPARE(m_window->state(), 4);
+        QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), page);
+        QVERIFY(m_window->projectPath().isEmpty());
+        QCOMPARE(child<QPushButton>("btn_scan")->text(), "Show results");
+        QFile::remove(damaged);
+    }
+
     void projectArgumentNotAFile_data()
     {
         QTest::addColumn<QString>("argument");
