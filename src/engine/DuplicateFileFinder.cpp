@@ -1127,7 +1127,7 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     store->insertGroup(groupKey, paths, stamps);
     if (scanMethod == scanName)
         store->setGroupMatch(groupKey, TFileData::MatchName);
-    else if (scanMethod == scanContent)
+    else if (!wholeContent)
         store->setGroupMatch(groupKey, TFileData::MatchSampled);
     // The "no selection" hint leaves the group without a selection entry.
     if (duplicateSelectHint != 8)

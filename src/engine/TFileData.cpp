@@ -91,18 +91,20 @@ bool TFileData::removeSelected(const QString &key)
 int TFileData::updateSelected(const QString &key, const QString &path, bool add)
 {
     QWriteLocker locker(&m_lock);
-    ++m_revision;
     auto it = m_selected.find(key);
     if (it == m_selected.end()) {
         // A group without a selection yet gets one with its first checked member.
         if (!add || (!m_groups.contains(key) && !m_dirGroups.contains(key)))
             return 0;
         it = m_selected.insert(key, {});
+        ++m_revision;
     }
     QSet<QString> &lookup = m_selectedLookup[key];
     if (!add) {
-        if (lookup.remove(path))
+        if (lookup.remove(path)) {
             it->removeAll(path);
+            ++m_revision;
+        }
         if (it->isEmpty()) {
             m_selected.erase(it);
             m_selectedLookup.remove(key);
@@ -113,6 +115,7 @@ int TFileData::updateSelected(const QString &key, const QString &path, bool add)
     if (!lookup.contains(path)) {
         it->append(path);
         lookup.insert(path);
+        ++m_revision;
     }
     return int(it->size());
 }
@@ -242,7 +245,8 @@ bool TFileData::removeGroup(const QString &key)
     m_selected.remove(key);
     m_selectedLookup.remove(key);
     m_groupMatches.remove(key);
-    return m_groups.remove(key) > 0;
+    const bool folders = m_dirGroups.remove(key) > 0;
+    return m_groups.remove(key) > 0 || folders;
 }
 
 bool TFileData::removeDirGroup(const QString &key)

@@ -64,6 +64,7 @@ public:
     // A group left with fewer than two members is dropped. Returns whether the group
     // still exists afterwards.
     bool removePath(const QString &key, const QString &path);
+    // A group of files or of folders, with its selection.
     bool removeGroup(const QString &key);
     bool removeDirGroup(const QString &key);
     // Replaces all three tables at once (opening a project).

@@ -1242,13 +1242,13 @@ void MainWindow::allThreadComplate()
         m_btnScan->setEnabled(false);
         if (stopped)
             showStoppedWithoutResults(
-                TControlUI::instance()->stoppedStage() == TControlUI::StageScanning);
+                m_localScan && TControlUI::instance()->stoppedStage() == TControlUI::StageScanning);
     }
 }
 
 void MainWindow::showStoppedWithoutResults(bool beforeComparing)
 {
-    if (TControlUI::instance()->problems().allRootsUnreadable())
+    if (m_localScan && TControlUI::instance()->problems().allRootsUnreadable())
         return;
     m_noResultRing->setPixmap(picture(QStringLiteral("unreadable_ring_bg.png")));
     m_noResultText->setVisible(false);
@@ -1334,8 +1334,9 @@ void MainWindow::openResultPage()
 
 void MainWindow::onResultWindowClose(bool update)
 {
-    // The finished page follows what the result page removed, hid or ignored.
-    if (update) {
+    // The finished page follows what the result page removed, hid or ignored (a cloud
+    // page's sizes are the service's, not at hand here).
+    if (update && !m_cloudMode) {
         const TFileData::Removable left = TFileData::instance()->removable();
         onItemFound(int(std::min<qint64>(left.count, INT_MAX)), left.bytes);
     }
@@ -1348,7 +1349,8 @@ void MainWindow::onResultWindowClose(bool update)
 void MainWindow::openProject(const QString &path)
 {
     // What the window shows comes back as it was when the project cannot be read.
-    m_beforeOpen = BeforeOpen {m_pages->currentIndex(), m_state, m_showResultsWhenDone};
+    m_beforeOpen = BeforeOpen {m_pages->currentIndex(), m_state, m_showResultsWhenDone,
+        m_ring->value(), m_labProgress->text()};
     m_showResultsWhenDone = true;
     rememberProjectFolder(path);
     setStatus(StateOpening);
@@ -1366,6 +1368,8 @@ void MainWindow::restoreBeforeOpen()
     m_showResultsWhenDone = m_beforeOpen.showResultsWhenDone;
     setStatus(m_beforeOpen.state == StateOpening ? StateReady : m_beforeOpen.state);
     m_pages->setCurrentIndex(m_beforeOpen.page);
+    m_ring->setValue(m_beforeOpen.ring);
+    m_labProgress->setText(m_beforeOpen.progress);
 }
 
 void MainWindow::onOpenProjectProcess(double cur, double total)
@@ -1386,7 +1390,11 @@ void MainWindow::onProjectOpenComplated(int flag, int files, qint64 size)
     m_projectPath = std::exchange(m_openingPath, QString());
     setTitle();
     TControlUI::instance()->setProjectPath(m_projectPath);
+    // A project holds local results, whatever the window scanned before.
     m_localScan = false;
+    m_cloudMode = false;
+    TControlUI::instance()->setCloudMode(false);
+    m_labFilter->setVisible(false);
     clearScanProblems();
     m_savedRevision = TFileData::instance()->revision();
     filesCountChange(int(m_projectThread->scanFileCount()));
@@ -1496,7 +1504,7 @@ bool MainWindow::resultsUnsaved() const
         && (m_projectPath.isEmpty() || TFileData::instance()->revision() != m_savedRevision);
 }
 
-bool MainWindow::askToSaveResults()
+bool MainWindow::askToSaveResults(bool stopScanBeforeSaving)
 {
     if (!resultsUnsaved())
         return true;
@@ -1511,6 +1519,9 @@ bool MainWindow::askToSaveResults()
         return false;
     if (answer == QMessageBox::No)
         return true;
+    // The scan is stopped before the save, so that the file holds what the window shows.
+    if (stopScanBeforeSaving)
+        TControlUI::instance()->stop();
     const QString path = saved ? m_projectPath : chooseProjectFile(true);
     if (path.isEmpty())
         return false;
@@ -1657,8 +1668,11 @@ void MainWindow::showAbnormalExitNotice()
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (resultsUnsaved()) {
-        TControlUI::instance()->stop();
-        if (!askToSaveResults()) {
+        // A scan that ends while the question is open must not open its result page over
+        // a window that is closing; Cancel keeps the scan going as it was.
+        const bool showResults = std::exchange(m_showResultsWhenDone, false);
+        if (!askToSaveResults(true)) {
+            m_showResultsWhenDone = showResults;
             event->ignore();
             return;
         }

@@ -165,8 +165,8 @@ private:
     // names.
     void saveResults();
     // Asks whether to save results that would be lost; false when the user cancels or the
-    // save fails.
-    bool askToSaveResults();
+    // save fails. stopScanBeforeSaving: a running scan is stopped before a Yes saves.
+    bool askToSaveResults(bool stopScanBeforeSaving = false);
     void showAbnormalExitNotice();
     void clearScanProblems();
     // The one optional argument names something that is not a project file.
@@ -214,6 +214,8 @@ private:
         int page = 0;
         int state = StateReady;
         bool showResultsWhenDone = true;
+        double ring = 0;
+        QString progress;
     };
     BeforeOpen m_beforeOpen;
     void restoreBeforeOpen();

@@ -108,7 +108,8 @@ void DFIgnoreListWidget::showCacheSize()
         return;
     const qint64 size = ContentKeyCache::sizeOnDisk(ContentKeyCache::defaultPath());
     m_cacheSize->setText(
-        tr("Content keys kept from earlier scans: %1").arg(QLocale().formattedDataSize(size, 1)));
+        tr("Content keys kept from earlier scans: %1")
+            .arg(QLocale().formattedDataSize(size, 2, QLocale::DataSizeTraditionalFormat)));
     m_clearCache->setText(tr("Clear cache"));
     m_clearCache->setEnabled(size > 0);
 }

@@ -641,6 +641,9 @@ void ResultForm::undoHide()
         return;
     const HiddenFile hidden = m_hidden.takeLast();
     TFileData *store = TFileData::instance();
+    ui->lab_undo->setVisible(false);
+    if (store->revision() != hidden.revision)
+        return;
     // The group as it was, whether the hide left it smaller or took it off the list.
     if (hidden.folders.isEmpty())
         store->replaceGroup(hidden.key, hidden.members);
@@ -652,16 +655,12 @@ void ResultForm::undoHide()
     else
         store->setSelected(hidden.key, hidden.selection);
     splog_d(kTag + QStringLiteral("undoHide. group:[%1]").arg(hidden.key));
-    ui->lab_undo->setText(m_hidden.isEmpty()
-            ? QString()
-            : tr("“%1” is hidden from the results. <a href=\"undo\">Undo</a>")
-                  .arg(m_hidden.last().name.toHtmlEscaped()));
-    ui->lab_undo->setVisible(!m_hidden.isEmpty());
     m_groupModel->reloadGroup(hidden.key);
     m_memberKey = hidden.key;
     loadAllData(m_category);
     updateCategoryButtons();
     updateSelectedAndSize();
+    startAnalytics();
 }
 
 int ResultForm::rowOfGroup(const QString &key) const
@@ -1000,6 +999,12 @@ void ResultForm::refreshAfterSelection()
 
 void ResultForm::updateSelectedAndSize()
 {
+    // Every change of the results passes here: a hide whose results changed since can
+    // no longer be undone.
+    if (!m_hidden.isEmpty() && TFileData::instance()->revision() != m_hidden.last().revision) {
+        m_hidden.clear();
+        ui->lab_undo->setVisible(false);
+    }
     if (m_totalsWatcher.isRunning()) {
         m_totalsAgain = true;
         return;
@@ -1031,6 +1036,14 @@ void ResultForm::applySelectionRule(int rule)
     pairs.reserve(groups.size());
     for (auto it = groups.cbegin(); it != groups.cend(); ++it)
         pairs.append({it.key(), it.value()});
+    // Folder groups follow the rule too: their members are their folders.
+    const TFileData::DirGroups folders = TFileData::instance()->dirGroups();
+    for (auto it = folders.cbegin(); it != folders.cend(); ++it) {
+        QStringList paths;
+        for (const DirGroupEntry &entry : it.value())
+            paths.append(entry.folderPath);
+        pairs.append({it.key(), paths});
+    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     CloudPropertyReader reader;
     if (m_isCloud) {
@@ -1120,12 +1133,19 @@ void ResultForm::onBtnHideFileClick(const QModelIndex &index)
         if (stripSimilarTag(member) == path)
             entry = member;
     TFileData *store = TFileData::instance();
-    m_hidden.append(HiddenFile {key, QFileInfo(path).fileName(), store->group(key),
-        store->selectedOf(key), store->dirGroup(key), int(store->groupMatch(key))});
-    ui->lab_undo->setText(tr("“%1” is hidden from the results. <a href=\"undo\">Undo</a>")
-                              .arg(m_hidden.last().name.toHtmlEscaped()));
-    ui->lab_undo->setVisible(true);
+    HiddenFile hidden {key, QFileInfo(path).fileName(), store->group(key), store->selectedOf(key),
+        store->dirGroup(key), int(store->groupMatch(key)), 0};
     store->removePath(key, entry);
+    // Undo puts back exactly what was there, so it is offered only until anything else
+    // changes the results. Cloud groups are not rebuilt here.
+    hidden.revision = store->revision();
+    m_hidden.clear();
+    if (!m_isCloud) {
+        m_hidden.append(hidden);
+        ui->lab_undo->setText(tr("“%1” is hidden from the results. <a href=\"undo\">Undo</a>")
+                                  .arg(hidden.name.toHtmlEscaped()));
+    }
+    ui->lab_undo->setVisible(!m_hidden.isEmpty());
     m_changed = true;
     m_groupModel->removeDeletedFile(key, entry);
     m_itemModel->removeItem(path);
@@ -1234,6 +1254,8 @@ void ResultForm::onMenuIgnoreGroup(const QString &key, int row, int count)
     if (guardLoading() || key.isEmpty())
         return;
     QStringList members = TFileData::instance()->group(key);
+    for (const DirGroupEntry &entry : TFileData::instance()->dirGroup(key))
+        members.append(entry.folderPath);
     stripSimilarTag(members);
     DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
     QStringList ignored = prefs->IgnorePathFile();

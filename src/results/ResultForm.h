@@ -252,6 +252,8 @@ private:
         QStringList selection;
         QList<DirGroupEntry> folders;
         int match = 0;
+        // The store's revision right after the hide.
+        quint64 revision = 0;
     };
     QList<HiddenFile> m_hidden;
     // The file list's order: a column of TImageModel, -1 for the group's own order.

@@ -696,10 +696,11 @@ void TImageModel::reloadGroup(const QString &key)
 {
     TFileData *store = TFileData::instance();
     GroupSource source;
-    source.groups.insert(key, store->group(key));
     source.selected.insert(key, store->selectedOf(key));
     const QList<DirGroupEntry> folders = store->dirGroup(key);
-    if (!folders.isEmpty())
+    if (folders.isEmpty())
+        source.groups.insert(key, store->group(key));
+    else
         source.dirGroups.insert(key, folders);
     const GroupItem group = buildGroup(source, key);
     beginResetModel();
@@ -726,7 +727,12 @@ void TImageModel::refreshAfterRemoval(GroupItem &group)
     group.selectedCount = TFileData::instance()->selectedCount(group.key);
     const bool similar = std::any_of(group.files.cbegin(), group.files.cend(), isSimilarEntry);
     const QFileInfo first(stripSimilarTag(group.firstFile));
-    if (similar) {
+    const QList<DirGroupEntry> folders = TFileData::instance()->dirGroup(group.key);
+    if (!folders.isEmpty()) {
+        group.totalSize = 0;
+        for (const DirGroupEntry &entry : folders)
+            group.totalSize += entry.totalSize;
+    } else if (similar) {
         group.totalSize = 0;
         for (const QString &entry : std::as_const(group.files))
             group.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);

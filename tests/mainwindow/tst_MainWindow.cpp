@@ -5,6 +5,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
+#include "engine/GroupItemAutoSelector.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
@@ -271,6 +272,34 @@ private slots:
         QDir(m_tree.filePath("many")).removeRecursively();
     }
 
+    void defaultMethodGroupsOnlyIdenticalFiles()
+    {
+        // Two files that agree wherever a sampled read looks (start, middle, end) and differ
+        // elsewhere, beside two true copies: a fresh settings file compares whole files.
+        QByteArray content = ScanTree::pattern(60000, 'q');
+        QByteArray trap = content;
+        trap[20000] = char(trap[20000] ^ 1);
+        makeFile("trap/a/data.bin", content);
+        makeFile("trap/b/data.bin", trap);
+        makeFile("trap/a/copy.bin", ScanTree::pattern(7000, 'c'));
+        makeFile("trap/b/copy.bin", ScanTree::pattern(7000, 'c'));
+        QCOMPARE(DFSelectionPreferences().scanMethod(), DFSelectionPreferences::scanAllContent);
+        DFSelectionPreferences *duplicates = DFPreferences::instance()->selectionPreferences();
+        const DFSelectionPreferences saved(*duplicates);
+        *duplicates = DFSelectionPreferences();
+        QVERIFY(m_window->addFolder(m_tree.filePath("trap")));
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QVERIFY(done.wait(30000));
+        *duplicates = saved;
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups.begin()->size(), 2);
+        QVERIFY(groups.begin()->first().endsWith("copy.bin"));
+        QCOMPARE(TFileData::instance()->groupMatch(groups.begin().key()), TFileData::MatchContent);
+        QDir(m_tree.filePath("trap")).removeRecursively();
+    }
+
     void typeFilterShownWhileScanning_data()
     {
         QTest::addColumn<int>("scanFileType");
@@ -334,10 +363,12 @@ private slots:
         QCOMPARE(page->groupModel()->rowCount(), 1);
         QCOMPARE(page->groupModel()->displayedGroups().first().type, int(CategoryFolders));
         QTRY_COMPARE(page->itemModel()->rowCount(), 2);
-        const QString removed = TFileData::instance()
-                                    ->selected()
-                                    .value(page->groupModel()->displayedGroups().first().key)
-                                    .value(0);
+        const QString folderKey = page->groupModel()->displayedGroups().first().key;
+        // The page's rules reach folder groups: Deselect leaves nothing to remove.
+        page->applySelectionRule(GroupItemAutoSelector::deselectAll);
+        QVERIFY(TFileData::instance()->selectedOf(folderKey).isEmpty());
+        page->applySelectionRule(GroupItemAutoSelector::autoSelect);
+        const QString removed = TFileData::instance()->selected().value(folderKey).value(0);
         QVERIFY(removed.endsWith("/twins/B") || removed.endsWith("/twins/A"));
         DialogAnswerer answers({QMessageBox::Yes, QMessageBox::NoButton});
         answers.closeOtherDialogs = true;

@@ -397,6 +397,15 @@ private slots:
         QVERIFY(TFileData::instance()->isSelected(key, members.at(2)));
         QVERIFY(!undo->isVisible());
         QTRY_COMPARE(page->itemModel()->rowCount(), 3);
+
+        // Undo brings back what was there only while nothing else changed: a copy
+        // checked after the hide takes the offer away.
+        page->onBtnHideFileClick(page->itemModel()->index(2, TImageModel::HideColumn));
+        QVERIFY(undo->isVisible());
+        page->itemModel()->setData(
+            page->itemModel()->index(0, 0), true, TImageModel::CheckedRole, true);
+        QVERIFY(!undo->isVisible());
+        QCOMPARE(group().count, 2);
     }
 
     void shownGroupStaysHighlighted()
