@@ -393,7 +393,9 @@ private slots:
         auto *size = widget.findChild<QLabel *>("lblKeyCacheSize");
         auto *clear = widget.findChild<QAbstractButton *>("btnClearKeyCache");
         QVERIFY(size && clear);
-        QVERIFY(size->text().endsWith(QLocale().formattedDataSize(before, 1)));
+        // In the units the rest of the window uses (KB, MB).
+        QVERIFY(size->text().endsWith(
+            QLocale().formattedDataSize(before, 2, QLocale::DataSizeTraditionalFormat)));
         QVERIFY(clear->isEnabled());
         clear->click();
 
@@ -401,8 +403,8 @@ private slots:
         ContentKeyCache(path).lookup(entries);
         QVERIFY(!entries[0].found);
         QVERIFY(ContentKeyCache::sizeOnDisk(path) < before);
-        QVERIFY(size->text().endsWith(
-            QLocale().formattedDataSize(ContentKeyCache::sizeOnDisk(path), 1)));
+        QVERIFY(size->text().endsWith(QLocale().formattedDataSize(
+            ContentKeyCache::sizeOnDisk(path), 2, QLocale::DataSizeTraditionalFormat)));
     }
 
 private:
