@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/BuildSettings.h"
+
 #include <QString>
 
 // The program's identity: names of the settings store and data folder, version and
@@ -9,7 +11,7 @@ namespace AppIdentity {
 
 inline const QString organizationName = QStringLiteral("Veltrine");
 inline const QString applicationName = QStringLiteral("Veltrine Duplicate Finder");
-inline const QString version = QStringLiteral("4.5.0");
+inline const QString version = QStringLiteral(VELTRINE_VERSION);
 inline const QString buildDate = QStringLiteral("2025-11-18");
 inline const QString documentIdentifier = QStringLiteral("VeltrineDuplicateFinder");
 
