@@ -38,8 +38,8 @@ FileStamp FileStamp::fromStat(const struct stat &info)
 {
     FileStamp stamp;
     stamp.size = info.st_size;
-    stamp.modifiedNs = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
-    stamp.changedNs = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
+    stamp.modifiedNs = platform::nanosecondsOf(info.st_mtim);
+    stamp.changedNs = platform::nanosecondsOf(info.st_ctim);
     stamp.device = quint64(info.st_dev);
     stamp.inode = quint64(info.st_ino);
     return stamp;

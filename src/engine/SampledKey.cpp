@@ -2,6 +2,7 @@
 #include "engine/SampledKey.h"
 
 #include "app/TLogger.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -125,8 +126,7 @@ bool readAt(int dirfd, const char *name, qint64 size, quint64 &key,
 ContentKeyCache::Stamp stampOf(const struct stat &info)
 {
     return ContentKeyCache::Stamp {quint64(info.st_dev), quint64(info.st_ino), qint64(info.st_size),
-        qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec,
-        qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec};
+        platform::nanosecondsOf(info.st_mtim), platform::nanosecondsOf(info.st_ctim)};
 }
 #endif
 

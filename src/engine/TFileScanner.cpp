@@ -581,10 +581,8 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
                 ScanBatch::Stat stat;
                 if (id.device == batch.device && batch.device != 0) {
                     stat.inode = id.inode;
-                    stat.modifiedNs
-                        = qint64(info.st_mtim.tv_sec) * 1000000000LL + info.st_mtim.tv_nsec;
-                    stat.changedNs
-                        = qint64(info.st_ctim.tv_sec) * 1000000000LL + info.st_ctim.tv_nsec;
+                    stat.modifiedNs = platform::nanosecondsOf(info.st_mtim);
+                    stat.changedNs = platform::nanosecondsOf(info.st_ctim);
                 }
                 reportFile(batch, metas, size, name, path, filtered, stat);
             }

@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <ctime>
 #include <string>
 #include <vector>
 
 namespace platform {
+
+// A file time of the system (as stat gives it) in nanoseconds since the epoch: the one
+// form the stamps of scans, caches, journals and the trash compare.
+inline long long nanosecondsOf(const struct timespec &time)
+{
+    return static_cast<long long>(time.tv_sec) * 1000000000LL + time.tv_nsec;
+}
 
 // Operating-system services that differ between Windows and Linux. The interface is
 // Qt-free so that the Windows implementation can be compile-checked with mingw-w64

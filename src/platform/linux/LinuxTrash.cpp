@@ -387,7 +387,7 @@ std::vector<std::string> LinuxTrash::trashedCopiesOf(const std::string &original
                 || ::stat(infoPath.c_str(), &infoStat) != 0)
                 continue;
             found.push_back(Found {trashed, info.deletionDate,
-                infoStat.st_mtim.tv_sec * 1000000000LL + infoStat.st_mtim.tv_nsec});
+                nanosecondsOf(infoStat.st_mtim)});
         }
         ::closedir(dir);
     }
