@@ -13,6 +13,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[TLogger]: ");
+
 // Guards the pointer itself; each call takes its own counted reference, so a message
 // written while another thread shuts the logger down stays safe.
 QMutex g_loggerMutex;
@@ -74,9 +77,10 @@ bool initLogger(const QString &base)
             g_logger = std::move(logger);
         }
         if (removed > 0)
-            splog_d(QStringLiteral("[TLogger]: Removed [%1] daily log files older than %2 days.")
-                        .arg(removed)
-                        .arg(kLogKeepDays));
+            splog_d(kTag
+                + QStringLiteral("Removed [%1] daily log files older than %2 days.")
+                      .arg(removed)
+                      .arg(kLogKeepDays));
         return true;
     } catch (const spdlog::spdlog_ex &error) {
         qDebug() << "Log init failed: " << error.what();

@@ -21,6 +21,10 @@
 
 namespace {
 
+// The log tags of this file.
+const QString kSentryTag = QStringLiteral("[sentry]: ");
+const QString kTag = QStringLiteral("[Main]: ");
+
 QString crashReportingDsn()
 {
     const QByteArray fromEnvironment = qgetenv("VELTRINE_SENTRY_DSN");
@@ -32,7 +36,7 @@ void logReporterMessage(const char *format, va_list args)
 {
     char buffer[1024];
     std::vsnprintf(buffer, sizeof(buffer), format, args);
-    splog_d(QStringLiteral("[sentry]: %1").arg(QString::fromUtf8(buffer)));
+    splog_d(kSentryTag + QStringLiteral("%1").arg(QString::fromUtf8(buffer)));
 }
 
 void startCrashReporting(const QString &base)
@@ -51,9 +55,9 @@ void startCrashReporting(const QString &base)
     options.attachments << logDirectory + QStringLiteral("/log_")
             + QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".log");
     if (CrashReporter::init(options) != 0)
-        splog_d(QStringLiteral("[Main]: sentry_init failed!"));
+        splog_d(kTag + QStringLiteral("sentry_init failed!"));
     else
-        splog_d(QStringLiteral("[Main]: sentry SDK initialized successfully"));
+        splog_d(kTag + QStringLiteral("sentry SDK initialized successfully"));
 }
 
 void applyStyleSheet(QApplication &app)
@@ -84,7 +88,7 @@ int main(int argc, char *argv[])
     QDir().mkpath(base + QStringLiteral("sentrydb"));
     QDir().mkpath(base + QStringLiteral("Log"));
     initLogger(base);
-    splog_d(QStringLiteral("[Main]: The program is starting to run [%1]").arg(AppIdentity::version)
+    splog_d(kTag + QStringLiteral("The program is starting to run [%1]").arg(AppIdentity::version)
         + QString(62, QLatin1Char('.')));
     startCrashReporting(base);
 
@@ -108,7 +112,7 @@ int main(int argc, char *argv[])
         TerminationSignalWatcher termination;
         QObject::connect(&termination, &TerminationSignalWatcher::terminationRequested, &app,
             [](int signalNumber) {
-                splog_d(QStringLiteral("[Main]: Signal %1 received, closing").arg(signalNumber));
+                splog_d(kTag + QStringLiteral("Signal %1 received, closing").arg(signalNumber));
                 QCoreApplication::quit();
             });
 
@@ -120,6 +124,6 @@ int main(int argc, char *argv[])
         CrashReporter::close();
         delete window;
     }
-    splog_d(QStringLiteral("[Main]: The program exited with code %1").arg(exitCode));
+    splog_d(kTag + QStringLiteral("The program exited with code %1").arg(exitCode));
     return exitCode;
 }

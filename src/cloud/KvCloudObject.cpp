@@ -29,6 +29,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[KvCloudObject]: ");
+
 // The hash kinds in the order they are preferred when a service offers several: the
 // cheapest for the service to give that still tells contents apart.
 const QStringList &preferredHashes()
@@ -141,7 +144,7 @@ bool KvCloudObject::start_authorization(const QString &account, int cloudType, i
     else
         problem = ensureStarted();
     if (!problem.isEmpty()) {
-        splog_d(QStringLiteral("[KvCloudObject]: start_authorization: %1").arg(problem));
+        splog_d(kTag + QStringLiteral("start_authorization: %1").arg(problem));
         QTimer::singleShot(0, this, [this, problem] { emit onAuthorizedFailed(problem); });
         return false;
     }
@@ -199,7 +202,7 @@ void KvCloudObject::cancel_authorization()
     m_client->abortAll();
     // The daemon would go on waiting for the browser, holding the sign-in port.
     m_process->stop();
-    splog_d(QStringLiteral("[KvCloudObject]: sign-in cancelled"));
+    splog_d(kTag + QStringLiteral("sign-in cancelled"));
     emit onAuthorizedFailed(QStringLiteral("The sign-in was cancelled."));
 }
 
@@ -324,7 +327,7 @@ void KvCloudObject::start_traversal_files(const QList<QString> &folders, int bud
         QWriteLocker lock(&m_filesLock);
         m_members.clear();
     }
-    splog_d(QStringLiteral("[KvCloudObject]: start_traversal_files: %1").arg(folders.join(", ")));
+    splog_d(kTag + QStringLiteral("start_traversal_files: %1").arg(folders.join(", ")));
     const QString problem = ensureStarted();
     if (!problem.isEmpty()) {
         // Reported after the caller has returned, like every other end of a scan.
@@ -704,16 +707,17 @@ void KvCloudObject::finishScan(bool aborted, const QString &failure)
     ++m_generation;
     m_client->abortAll();
     if (!failure.isEmpty()) {
-        splog_d(QStringLiteral("[KvCloudObject]: scan failed: %1").arg(failure));
+        splog_d(kTag + QStringLiteral("scan failed: %1").arg(failure));
         emit onTraversalFailed(failure);
     }
     emit onFindedDuplicateItem(std::exchange(m_groups, {}));
     emit onFilesFetchCount(int(m_scanned));
     if (!aborted)
         emit processChange(100.0);
-    splog_d(QStringLiteral("[KvCloudObject]: scan ended%1, %2 files listed")
-                .arg(aborted ? QStringLiteral(" early") : QString())
-                .arg(m_scanned));
+    splog_d(kTag
+        + QStringLiteral("scan ended%1, %2 files listed")
+              .arg(aborted ? QStringLiteral(" early") : QString())
+              .arg(m_scanned));
     emit onAllComplate(aborted);
 }
 
@@ -933,9 +937,10 @@ void KvCloudObject::endRemoval()
     std::unique_ptr<Removal> removal(std::exchange(m_removal, nullptr));
     removal->journal.end();
     m_lastResults = removal->results;
-    splog_d(QStringLiteral("[KvCloudObject]: removed %1 of %2 cloud files")
-                .arg(removal->deleted.size())
-                .arg(removal->total));
+    splog_d(kTag
+        + QStringLiteral("removed %1 of %2 cloud files")
+              .arg(removal->deleted.size())
+              .arg(removal->total));
     DelParams asked = removal->groups.value(0);
     if (removal->groups.size() > 1) {
         asked = DelParams();

@@ -25,6 +25,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[RcloneProcess]: ");
+
 QByteArray randomToken()
 {
     static const char alphabet[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
@@ -72,7 +75,7 @@ RcloneProcess::RcloneProcess(QObject *parent) : QObject(parent)
                                    .arg(code)
                                    .arg(last.isEmpty() ? QString() : QStringLiteral(": ") + last);
         m_baseUrl = QUrl();
-        splog_d(QStringLiteral("[RcloneProcess]: %1").arg(reason));
+        splog_d(kTag + QStringLiteral("%1").arg(reason));
         emit died(reason);
     });
 }
@@ -175,7 +178,7 @@ QString RcloneProcess::start(const RcloneSettings &settings)
         return {};
     const QString program = resolvedProgram(settings.program);
     if (QString problem = checkVersion(program); !problem.isEmpty()) {
-        splog_d(QStringLiteral("[RcloneProcess]: %1").arg(problem));
+        splog_d(kTag + QStringLiteral("%1").arg(problem));
         return problem;
     }
     QDir().mkpath(QFileInfo(settings.configFile).absolutePath());
@@ -217,7 +220,7 @@ QString RcloneProcess::start(const RcloneSettings &settings)
             if (socket.waitForConnected(200)) {
                 m_baseUrl = QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(port));
                 m_stopping = false;
-                splog_d(QStringLiteral("[RcloneProcess]: rclone answers on port %1.").arg(port));
+                splog_d(kTag + QStringLiteral("rclone answers on port %1.").arg(port));
                 return {};
             }
             m_process.waitForFinished(50);
@@ -233,7 +236,7 @@ QString RcloneProcess::start(const RcloneSettings &settings)
         if (!last.contains(QLatin1String("address already in use")))
             break;
     }
-    splog_d(QStringLiteral("[RcloneProcess]: %1").arg(problem));
+    splog_d(kTag + QStringLiteral("%1").arg(problem));
     return problem;
 }
 

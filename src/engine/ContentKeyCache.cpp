@@ -27,6 +27,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[ContentKeyCache]: ");
+
 // "VKC1" in the file header: a file without it was not written by this program.
 constexpr int kApplicationId = 0x564B4331;
 // 1: content keys only; 2: picture measures beside them; 3: the same, stored only from
@@ -142,8 +145,9 @@ bool ContentKeyCache::exec(const char *sql)
     const int code = sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr);
     if (code == SQLITE_OK)
         return true;
-    splog_d(QStringLiteral("[ContentKeyCache]: %1: %2")
-                .arg(QLatin1String(sql), QString::fromUtf8(sqlite3_errmsg(m_db))));
+    splog_d(kTag
+        + QStringLiteral("%1: %2").arg(
+            QLatin1String(sql), QString::fromUtf8(sqlite3_errmsg(m_db))));
     if (isDamage(code))
         reject("damaged");
     return false;
@@ -166,10 +170,11 @@ bool ContentKeyCache::waitForLock()
     if (!std::exchange(m_busyGivenUp, true)) {
         busyGiveUpCount.fetch_add(1);
         lastBusyGiveUpMs.store(QDateTime::currentMSecsSinceEpoch());
-        splog_d(QStringLiteral("[ContentKeyCache]: %1 stayed locked for %2 ms (by another scan or "
-                               "program); this scan goes on without it.")
-                    .arg(m_path)
-                    .arg(kBusyBudgetMs));
+        splog_d(kTag
+            + QStringLiteral("%1 stayed locked for %2 ms (by another scan or "
+                             "program); this scan goes on without it.")
+                  .arg(m_path)
+                  .arg(kBusyBudgetMs));
     }
     return false;
 }
@@ -197,7 +202,7 @@ bool ContentKeyCache::open()
     if (sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_db,
             SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr)
         != SQLITE_OK) {
-        splog_d(QStringLiteral("[ContentKeyCache]: cannot open %1").arg(m_path));
+        splog_d(kTag + QStringLiteral("cannot open %1").arg(m_path));
         close();
         return false;
     }
@@ -278,9 +283,10 @@ bool ContentKeyCache::prepareSchema()
         // Never written so by any version: to be extended it would have to be guessed at.
         refusal = "of an unknown layout";
     } else if (version < kSchemaVersion) {
-        splog_d(QStringLiteral("[ContentKeyCache]: %1 is of layout %2; its entries are dropped.")
-                    .arg(m_path)
-                    .arg(version));
+        splog_d(kTag
+            + QStringLiteral("%1 is of layout %2; its entries are dropped.")
+                  .arg(m_path)
+                  .arg(version));
         laidOut = (version > 1 || exec(kPictureTable)) && exec("DELETE FROM keys")
             && exec("DELETE FROM pictures") && exec(setVersion.constData()) && exec("COMMIT");
     } else {
@@ -334,11 +340,13 @@ void ContentKeyCache::reject(const char *why)
     const bool replaced
         = m_identity.second != 0 && QFileInfo::exists(m_path) && identityOf(m_path) != m_identity;
     if (replaced) {
-        splog_d(QStringLiteral("[ContentKeyCache]: %1 is %2, and was set aside already.")
-                    .arg(m_path, QLatin1String(why)));
+        splog_d(kTag
+            + QStringLiteral("%1 is %2, and was set aside already.")
+                  .arg(m_path, QLatin1String(why)));
     } else {
-        splog_d(QStringLiteral("[ContentKeyCache]: %1 is %2; set aside and started anew.")
-                    .arg(m_path, QLatin1String(why)));
+        splog_d(kTag
+            + QStringLiteral("%1 is %2; set aside and started anew.")
+                  .arg(m_path, QLatin1String(why)));
         const QString aside = setAsidePath(m_path);
         for (const char *suffix : kSuffixes) {
             const QString from = m_path + QLatin1String(suffix);
@@ -566,9 +574,10 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
     }
     const bool damaged = isDamage(code);
     if (code != SQLITE_DONE && code != SQLITE_OK)
-        splog_d(QStringLiteral("[ContentKeyCache]: look-up failed: %1")
-                    .arg(damaged ? QStringLiteral("damaged row")
-                                 : QString::fromUtf8(sqlite3_errmsg(m_db))));
+        splog_d(kTag
+            + QStringLiteral("look-up failed: %1")
+                  .arg(damaged ? QStringLiteral("damaged row")
+                               : QString::fromUtf8(sqlite3_errmsg(m_db))));
     exec("COMMIT");
     if (damaged || !m_db) {
         if (m_db)
@@ -678,8 +687,8 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         const int code = sqlite3_step(insert);
         sqlite3_reset(insert);
         if (code != SQLITE_DONE) {
-            splog_d(QStringLiteral("[ContentKeyCache]: store failed: %1")
-                        .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+            splog_d(kTag
+                + QStringLiteral("store failed: %1").arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
             failed = true;
             damaged = isDamage(code);
             break;
@@ -771,8 +780,9 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
     sqlite3_finalize(select);
     if (code != SQLITE_DONE) {
         damaged = damaged || isDamage(code);
-        splog_d(QStringLiteral("[ContentKeyCache]: picture look-up failed: %1")
-                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+        splog_d(kTag
+            + QStringLiteral("picture look-up failed: %1")
+                  .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
     }
     exec("COMMIT");
     if (damaged || !m_db) {
@@ -856,8 +866,9 @@ void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64
     sqlite3_finalize(insert);
     sqlite3_finalize(seen);
     if (code != SQLITE_DONE) {
-        splog_d(QStringLiteral("[ContentKeyCache]: picture store failed: %1")
-                    .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+        splog_d(kTag
+            + QStringLiteral("picture store failed: %1")
+                  .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
         exec("ROLLBACK");
         if (isDamage(code))
             reject("damaged");

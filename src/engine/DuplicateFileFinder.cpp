@@ -42,6 +42,10 @@
 
 namespace {
 
+// The log tags of this file.
+const QString kStreamHashTag = QStringLiteral("[streamHash] ");
+const QString kTag = QStringLiteral("[TDuplicateFinleFinder]: ");
+
 using SampledKey::kBlock;
 using SampledKey::kExternalDrive;
 using SampledKey::kWholeFileLimit;
@@ -88,7 +92,7 @@ bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf 
 {
     XXH3_state_t *state = XXH3_createState();
     if (!state) {
-        splog_d(QStringLiteral("[streamHash] Failed to create XXH3 state"));
+        splog_d(kStreamHashTag + QStringLiteral("Failed to create XXH3 state"));
         return false;
     }
     XXH3_64bits_reset(state);
@@ -115,8 +119,8 @@ bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf 
             if (got <= 0) {
                 error = got < 0 ? errno : ENODATA;
                 splog_repeated("[streamHash] Failed to read file or reached EOF",
-                    QStringLiteral("[streamHash] Failed to read file or reached EOF: %1")
-                        .arg(nameOf()));
+                    kStreamHashTag
+                        + QStringLiteral("Failed to read file or reached EOF: %1").arg(nameOf()));
                 XXH3_freeState(state);
                 return false;
             }
@@ -147,7 +151,7 @@ bool streamKeyAt(int dirfd, const char *name, int driveType, quint64 &key, const
         if (fd >= 0)
             ::close(fd);
         splog_repeated("[streamHash] File not accessible",
-            QStringLiteral("[streamHash] File not accessible: %1").arg(nameOf()));
+            kStreamHashTag + QStringLiteral("File not accessible: %1").arg(nameOf()));
         return false;
     }
     const bool ok = streamKeyOf(fd, info.st_size, driveType, key, nameOf, error);
@@ -260,8 +264,9 @@ QByteArray DuplicateFileFinder::calculateFileHash(
 #else
         QFile file(filePath);
         if (!file.open(QIODevice::ReadOnly)) {
-            splog_d(QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                        .arg(filePath, file.errorString()));
+            splog_d(kTag
+                + QStringLiteral("Cannot read file, skipped: [%1]. %2")
+                      .arg(filePath, file.errorString()));
             return {};
         }
         if (file.size() < 1)
@@ -276,8 +281,7 @@ QByteArray DuplicateFileFinder::calculateFileHash(
         XXH3_64bits_reset(&state);
         uchar *map = driveType != kExternalDrive ? file.map(0, n) : nullptr;
         if (driveType != kExternalDrive && !map)
-            splog_d(
-                QStringLiteral("[TDuplicateFinleFinder]: file.map failed.: [%1].").arg(filePath));
+            splog_d(kTag + QStringLiteral("file.map failed.: [%1].").arg(filePath));
         char buffer[kBlock];
         for (qint64 offset : offsets) {
             if (map) {
@@ -293,10 +297,11 @@ QByteArray DuplicateFileFinder::calculateFileHash(
         return hexKey(XXH3_64bits_digest(&state));
 #endif
     } catch (const std::exception &error) {
-        splog_d(QStringLiteral("[TDuplicateFinleFinder]: Exception in calculateFileHash: [%1].")
-                    .arg(QString::fromLocal8Bit(error.what())));
+        splog_d(kTag
+            + QStringLiteral("Exception in calculateFileHash: [%1].")
+                  .arg(QString::fromLocal8Bit(error.what())));
     } catch (...) {
-        splog_d(QStringLiteral("[TDuplicateFinleFinder]: Unknown exception in calculateFileHash."));
+        splog_d(kTag + QStringLiteral("Unknown exception in calculateFileHash."));
     }
     return {};
 }
@@ -315,14 +320,15 @@ QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveTyp
 #else
     XXH3_state_t *state = XXH3_createState();
     if (!state) {
-        splog_d(QStringLiteral("[streamHash] Failed to create XXH3 state"));
+        splog_d(kStreamHashTag + QStringLiteral("Failed to create XXH3 state"));
         return {};
     }
     XXH3_64bits_reset(state);
     QByteArray key;
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly) || file.size() < 1) {
-        splog_d(QStringLiteral("[streamHash] File not accessible: %1").arg(fileNameOf(filePath)));
+        splog_d(
+            kStreamHashTag + QStringLiteral("File not accessible: %1").arg(fileNameOf(filePath)));
         XXH3_freeState(state);
         return {};
     }
@@ -337,8 +343,9 @@ QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveTyp
         while (!file.atEnd()) {
             const qint64 got = file.read(buffer.data(), kStreamPiece);
             if (got <= 0) {
-                splog_d(QStringLiteral("[streamHash] Failed to read file or reached EOF: %1")
-                            .arg(fileNameOf(filePath)));
+                splog_d(kStreamHashTag
+                    + QStringLiteral("Failed to read file or reached EOF: %1")
+                          .arg(fileNameOf(filePath)));
                 XXH3_freeState(state);
                 return {};
             }
@@ -848,11 +855,11 @@ void DuplicateFileFinder::keyFolder(quint32 index)
             key = hex.toULongLong(nullptr, 16);
 #endif
         } catch (const std::exception &error) {
-            splog_d(QStringLiteral("[TDuplicateFinleFinder]: Exception in calculateFileHash: [%1].")
-                        .arg(QString::fromLocal8Bit(error.what())));
+            splog_d(kTag
+                + QStringLiteral("Exception in calculateFileHash: [%1].")
+                      .arg(QString::fromLocal8Bit(error.what())));
         } catch (...) {
-            splog_d(
-                QStringLiteral("[TDuplicateFinleFinder]: Unknown exception in calculateFileHash."));
+            splog_d(kTag + QStringLiteral("Unknown exception in calculateFileHash."));
         }
         m_keys[i] = key;
         m_keyState[i] = keyed ? 2 : 3;
@@ -1293,9 +1300,10 @@ void DuplicateFileFinder::processDirectories()
             }
         }
     }
-    splog_d(QStringLiteral("[TDuplicateFinleFinder]: Start matching duplicate directories. Number "
-                           "of groups to match [%1].")
-                .arg(candidates.size()));
+    splog_d(kTag
+        + QStringLiteral("Start matching duplicate directories. Number "
+                         "of groups to match [%1].")
+              .arg(candidates.size()));
     // Deepest folders first: a folder's digest takes its sub-folders' digests.
     QMap<int, QStringList> byDepth;
     for (const QString &folder : std::as_const(candidates))

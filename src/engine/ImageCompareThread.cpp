@@ -27,6 +27,11 @@
 
 namespace {
 
+// The log tags of this file.
+const QString kTag = QStringLiteral("[TImageCompareThread]: ");
+const QString kOpenCvTag = QStringLiteral("[ImageCompareThread] ");
+const QString kImageDataTag = QStringLiteral("[ImageData] ");
+
 // The preference value that means "no automatic selection".
 constexpr int kNoSelectedHint = 8;
 // Above this many pictures the automatic choice takes the cheaper 64-bit hash.
@@ -229,9 +234,10 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
         images.append(data);
     }
     chooseMeasure(int(images.size()));
-    splog_d(QStringLiteral("[TImageCompareThread]: Start loading image data, number of images "
-                           "[%1]...")
-                .arg(images.size()));
+    splog_d(kTag
+        + QStringLiteral("Start loading image data, number of images "
+                         "[%1]...")
+              .arg(images.size()));
     const Measure measure = m_measure;
     std::atomic_int unreadable {0};
     // With the cache, each picture is stamped before anything is read; a picture whose
@@ -313,7 +319,7 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
         } catch (const cv::Exception &e) {
             data.hash.release();
             unreadable.fetch_add(1);
-            splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+            splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
             logSkipped(data.path, "could not be measured");
         } catch (const std::bad_alloc &) {
             data.hash.release();
@@ -322,12 +328,12 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
         } catch (const std::exception &e) {
             data.hash.release();
             unreadable.fetch_add(1);
-            splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+            splog_d(kTag + QStringLiteral("std::exception: [%1].").arg(what(e)));
             logSkipped(data.path, "could not be measured");
         } catch (...) {
             data.hash.release();
             unreadable.fetch_add(1);
-            splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+            splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
             logSkipped(data.path, "could not be measured");
         }
     });
@@ -342,15 +348,17 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
         images.end());
     if (!isCancelled())
         reportProgress(2, total, total, true);
-    splog_d(QStringLiteral("[TImageCompareThread]: Image data loading completed. Time taken: [%1] "
-                           "seconds. Quantity: [%2]")
-                .arg(elapsedSeconds())
-                .arg(loaded));
+    splog_d(kTag
+        + QStringLiteral("Image data loading completed. Time taken: [%1] "
+                         "seconds. Quantity: [%2]")
+              .arg(elapsedSeconds())
+              .arg(loaded));
     if (images.size() < loaded)
-        splog_d(QStringLiteral("[TImageCompareThread]: Pictures left out of the comparison: [%1], "
-                               "unreadable: [%2].")
-                    .arg(loaded - images.size())
-                    .arg(unreadable.load()));
+        splog_d(kTag
+            + QStringLiteral("Pictures left out of the comparison: [%1], "
+                             "unreadable: [%2].")
+                  .arg(loaded - images.size())
+                  .arg(unreadable.load()));
 }
 
 double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) const
@@ -367,20 +375,20 @@ double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) c
         const int typeA = a.hash.depth();
         const int typeB = b.hash.depth();
         if (typeA != CV_32F && typeA != CV_64F) {
-            splog_d(QStringLiteral("[ImageCompareThread] img1 type invalid for compareHist: %1")
-                        .arg(a.hash.type()));
+            splog_d(kOpenCvTag
+                + QStringLiteral("img1 type invalid for compareHist: %1").arg(a.hash.type()));
             return 0.0;
         }
         if (typeB != CV_32F && typeB != CV_64F) {
-            splog_d(QStringLiteral("[ImageCompareThread] img2 type invalid for compareHist: %1")
-                        .arg(b.hash.type()));
+            splog_d(kOpenCvTag
+                + QStringLiteral("img2 type invalid for compareHist: %1").arg(b.hash.type()));
             return 0.0;
         }
         return 1.0 - cv::compareHist(a.hash, b.hash, cv::HISTCMP_BHATTACHARYYA);
     } catch (const cv::Exception &e) {
-        splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+        splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
     } catch (...) {
-        splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+        splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
     }
     return 0.0;
 }
@@ -529,16 +537,17 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
     if (!isCancelled())
         reportProgress(3, n, n, true);
     if (m_measure == MeasurePHash)
-        splog_d(
-            QStringLiteral("[TImageCompareThread]: Hash matching process completed. Time taken: "
-                           "[%1] seconds. Quantity: [%2]")
-                .arg(elapsedSeconds())
-                .arg(groups.size()));
+        splog_d(kTag
+            + QStringLiteral("Hash matching process completed. Time taken: "
+                             "[%1] seconds. Quantity: [%2]")
+                  .arg(elapsedSeconds())
+                  .arg(groups.size()));
     else
-        splog_d(QStringLiteral("[TImageCompareThread]: Histogram matching process completed. Time "
-                               "taken: [%1] seconds. Quantity: [%2]")
-                    .arg(elapsedSeconds())
-                    .arg(groups.size()));
+        splog_d(kTag
+            + QStringLiteral("Histogram matching process completed. Time "
+                             "taken: [%1] seconds. Quantity: [%2]")
+                  .arg(elapsedSeconds())
+                  .arg(groups.size()));
 }
 
 cv::Mat ImageCompareThread::computeDescriptors(const cv::Mat &bgr)
@@ -553,8 +562,9 @@ cv::Mat ImageCompareThread::computeDescriptors(const cv::Mat &bgr)
         const int w = std::max(1, int(picture.cols * scale));
         const int h = std::max(1, int(picture.rows * scale));
         if (w <= 5 || h <= 5) {
-            splog_d(QStringLiteral("[ImageData] Invalid resize dimensions calculated: width or "
-                                   "height <= 5"));
+            splog_d(kImageDataTag
+                + QStringLiteral("Invalid resize dimensions calculated: width or "
+                                 "height <= 5"));
             return {};
         }
         cv::resize(picture, picture, cv::Size(w, h), 0, 0, cv::INTER_LINEAR);
@@ -572,8 +582,9 @@ double ImageCompareThread::compareFeatures(
     if (descriptorsA.empty() || descriptorsB.empty())
         return 0.0;
     if (descriptorsA.rows < 2) {
-        splog_d(QStringLiteral("[TImageCompareThread]: img1 descriptor count less than 2, skipping "
-                               "knnSearch."));
+        splog_d(kTag
+            + QStringLiteral("img1 descriptor count less than 2, skipping "
+                             "knnSearch."));
         return 0.0;
     }
     try {
@@ -598,18 +609,19 @@ double ImageCompareThread::compareFeatures(
         }
         return double(good) / double(std::max(descriptorsA.rows, descriptorsB.rows));
     } catch (const cv::Exception &e) {
-        splog_d(QStringLiteral("[ImageCompareThread] OpenCV exception: %1").arg(what(e)));
+        splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
     } catch (...) {
-        splog_d(QStringLiteral("[ImageCompareThread] Unknown exception occurred."));
+        splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
     }
     return 0.0;
 }
 
 void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
 {
-    splog_d(QStringLiteral("[TImageCompareThread]: Start OBR special symptom point deduplication. "
-                           "Quantity: [%1]...")
-                .arg(groups.size()));
+    splog_d(kTag
+        + QStringLiteral("Start OBR special symptom point deduplication. "
+                         "Quantity: [%1]...")
+              .arg(groups.size()));
     int total = 0;
     for (const auto &group : std::as_const(groups))
         total += int(group.size());
@@ -690,11 +702,11 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
             }
             group = kept;
         } catch (const cv::Exception &e) {
-            splog_d(QStringLiteral("[TImageCompareThread]: OpenCV Exception: [%1].").arg(what(e)));
+            splog_d(kTag + QStringLiteral("OpenCV Exception: [%1].").arg(what(e)));
         } catch (const std::exception &e) {
-            splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+            splog_d(kTag + QStringLiteral("std::exception: [%1].").arg(what(e)));
         } catch (...) {
-            splog_d(QStringLiteral("[TImageCompareThread]: Unknown exception caught."));
+            splog_d(kTag + QStringLiteral("Unknown exception caught."));
         }
     });
     if (cache && !isCancelled())
@@ -705,10 +717,11 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
         groups.end());
     if (!isCancelled())
         reportProgress(4, total, total, true);
-    splog_d(QStringLiteral("[TImageCompareThread]: OBR special point deduplication completed. Time "
-                           "taken: [%1] seconds. Quantity: [%2]")
-                .arg(elapsedSeconds())
-                .arg(groups.size()));
+    splog_d(kTag
+        + QStringLiteral("OBR special point deduplication completed. Time "
+                         "taken: [%1] seconds. Quantity: [%2]")
+              .arg(elapsedSeconds())
+              .arg(groups.size()));
 }
 
 QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>> &groups)
@@ -796,11 +809,11 @@ void ImageCompareThread::run()
         try {
             stage();
         } catch (const cv::Exception &e) {
-            splog_d(QStringLiteral("[TImageCompareThread]: OpenCV Exception: [%1].").arg(what(e)));
+            splog_d(kTag + QStringLiteral("OpenCV Exception: [%1].").arg(what(e)));
         } catch (const std::exception &e) {
-            splog_d(QStringLiteral("[TImageCompareThread]: std::exception: [%1].").arg(what(e)));
+            splog_d(kTag + QStringLiteral("std::exception: [%1].").arg(what(e)));
         } catch (...) {
-            splog_d(QStringLiteral("[TImageCompareThread]: Unknown exception caught."));
+            splog_d(kTag + QStringLiteral("Unknown exception caught."));
         }
     };
     guarded([&] { loadImages(images); });

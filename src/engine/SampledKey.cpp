@@ -16,6 +16,13 @@
 #include <unistd.h>
 #endif
 
+namespace {
+
+// The log tag of this file.
+const QString kTag = QStringLiteral("[TDuplicateFinleFinder]: ");
+
+} // namespace
+
 namespace SampledKey {
 
 #ifdef Q_OS_UNIX
@@ -45,8 +52,9 @@ bool readAt(int dirfd, const char *name, qint64 size, quint64 &key,
     if (fd < 0) {
         error = errno;
         splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
-            QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                .arg(pathOf(), QString::fromLocal8Bit(std::strerror(error))));
+            kTag
+                + QStringLiteral("Cannot read file, skipped: [%1]. %2")
+                      .arg(pathOf(), QString::fromLocal8Bit(std::strerror(error))));
         return false;
     }
     qint64 n = size;
@@ -60,8 +68,9 @@ bool readAt(int dirfd, const char *name, qint64 size, quint64 &key,
         if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
             error = EINVAL;
             splog_repeated("[TDuplicateFinleFinder]: Cannot read file",
-                QStringLiteral("[TDuplicateFinleFinder]: Cannot read file, skipped: [%1]. %2")
-                    .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
+                kTag
+                    + QStringLiteral("Cannot read file, skipped: [%1]. %2")
+                          .arg(pathOf(), QString::fromLocal8Bit(std::strerror(EINVAL))));
             return false;
         }
         n = std::min<qint64>(info.st_size, size);

@@ -35,6 +35,10 @@
 
 namespace {
 
+// The log tags of this file.
+const QString kTag = QStringLiteral("[TFileScanner]: ");
+const QString kShortTag = QStringLiteral("[TFileScanner] ");
+
 // A walking thread sends what it gathered once it holds this many files, or once its
 // oldest folder has waited this long: the receiver then wakes once per few thousand
 // files instead of once per folder, and a slow disk still shows progress.
@@ -312,8 +316,9 @@ TFileScanner::Root TFileScanner::resolveRoot(const QString &root) const
         const QByteArray native(real);
         std::free(real);
         if (native != resolved.native) {
-            splog_d(QStringLiteral("[TFileScanner]: Root [%1] is scanned as [%2].")
-                        .arg(resolved.path, FilePathCodec::decode(native)));
+            splog_d(kTag
+                + QStringLiteral("Root [%1] is scanned as [%2].")
+                      .arg(resolved.path, FilePathCodec::decode(native)));
             resolved.native = native;
             resolved.path = FilePathCodec::decode(native);
         }
@@ -365,8 +370,9 @@ void TFileScanner::noteProblem(ScanProblems::Kind kind, const QString &path)
 void TFileScanner::unreadableFile(const QString &path, int error)
 {
     splog_repeated("[TFileScanner]: Cannot read file",
-        QStringLiteral("[TFileScanner]: Cannot read file, skipped: [%1]. %2")
-            .arg(path, QString::fromLocal8Bit(std::strerror(error))));
+        kTag
+            + QStringLiteral("Cannot read file, skipped: [%1]. %2")
+                  .arg(path, QString::fromLocal8Bit(std::strerror(error))));
     noteProblem(ScanProblems::UnreadableFile, path);
 }
 
@@ -464,8 +470,9 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             if (error == ENOENT && !folder.root)
                 return;
             splog_repeated("[TFileScanner]: Cannot read folder",
-                QStringLiteral("[TFileScanner]: Cannot read folder, skipped: [%1]. %2")
-                    .arg(folder.path, QString::fromLocal8Bit(std::strerror(error))));
+                kTag
+                    + QStringLiteral("Cannot read folder, skipped: [%1]. %2")
+                          .arg(folder.path, QString::fromLocal8Bit(std::strerror(error))));
             if (folder.root && m_problems)
                 m_problems->addUnreadableRoot(folder.path);
             else
@@ -483,8 +490,8 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             const auto &pseudo = m_seen->pseudoDevices;
             if (std::find(pseudo.begin(), pseudo.end(), info.st_dev) != pseudo.end()) {
                 ::closedir(dir);
-                splog_d(QStringLiteral("[TFileScanner]: Pseudo file system, not entered: [%1].")
-                            .arg(folder.path));
+                splog_d(kTag
+                    + QStringLiteral("Pseudo file system, not entered: [%1].").arg(folder.path));
                 noteProblem(ScanProblems::PseudoFileSystem, folder.path);
                 return;
             }
@@ -492,8 +499,8 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
             if (!m_seen->folders.insert(id).second) {
                 locker.unlock();
                 ::closedir(dir);
-                splog_d(QStringLiteral("[TFileScanner]: Folder already scanned, skipped: [%1].")
-                            .arg(folder.path));
+                splog_d(kTag
+                    + QStringLiteral("Folder already scanned, skipped: [%1].").arg(folder.path));
                 return;
             }
         }
@@ -597,8 +604,7 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
 #else
         if (!QFileInfo(folder.path).isReadable()) {
             splog_repeated("[TFileScanner]: Cannot read folder",
-                QStringLiteral("[TFileScanner]: Cannot read folder, skipped: [%1].")
-                    .arg(folder.path));
+                kTag + QStringLiteral("Cannot read folder, skipped: [%1].").arg(folder.path));
             if (folder.root && m_problems)
                 m_problems->addUnreadableRoot(folder.path);
             else
@@ -639,10 +645,11 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
         completed = !cut;
 #endif
     } catch (const std::exception &error) {
-        splog_d(QStringLiteral("[TFileScanner] Exception in processDir: %1")
-                    .arg(QString::fromLocal8Bit(error.what())));
+        splog_d(kShortTag
+            + QStringLiteral("Exception in processDir: %1")
+                  .arg(QString::fromLocal8Bit(error.what())));
     } catch (...) {
-        splog_d(QStringLiteral("[TFileScanner] Unknown exception in processDir."));
+        splog_d(kShortTag + QStringLiteral("Unknown exception in processDir."));
     }
     emitBatch(batch, metas, outbox);
     if (completed && filtered && !isStopRequested())
@@ -692,10 +699,11 @@ void TFileScanner::drainWithPool(WalkState &state)
                     }
                 }
             } catch (const std::exception &error) {
-                splog_d(QStringLiteral("[TFileScanner] Exception in worker: %1")
-                            .arg(QString::fromLocal8Bit(error.what())));
+                splog_d(kShortTag
+                    + QStringLiteral("Exception in worker: %1")
+                          .arg(QString::fromLocal8Bit(error.what())));
             } catch (...) {
-                splog_d(QStringLiteral("[TFileScanner] Unknown exception in worker."));
+                splog_d(kShortTag + QStringLiteral("Unknown exception in worker."));
             }
         });
     }
@@ -744,8 +752,9 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         char *real = ::realpath(link.native.constData(), nullptr);
         if (!real) {
             splog_repeated("[TFileScanner]: Dangling link",
-                QStringLiteral("[TFileScanner]: Dangling link, skipped: [%1]. %2")
-                    .arg(link.path, QString::fromLocal8Bit(std::strerror(errno))));
+                kTag
+                    + QStringLiteral("Dangling link, skipped: [%1]. %2")
+                          .arg(link.path, QString::fromLocal8Bit(std::strerror(errno))));
             continue;
         }
         target.real.native = QByteArray(real);
@@ -760,9 +769,10 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         const Root *root = rootHolding(target.real.native);
         if (!root) {
             splog_repeated("[TFileScanner]: Link leads outside the scanned folders",
-                QStringLiteral("[TFileScanner]: Link leads outside the scanned folders, not "
-                               "followed: [%1] -> [%2].")
-                    .arg(link.path, target.real.path));
+                kTag
+                    + QStringLiteral("Link leads outside the scanned folders, not "
+                                     "followed: [%1] -> [%2].")
+                          .arg(link.path, target.real.path));
             noteProblem(ScanProblems::LinkOutsideRoots, link.path);
             continue;
         }
@@ -775,9 +785,10 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         // the link to the file and through the link to its folder).
         if (filtered && skipHiddenSystem && isHiddenBelow(*root, target.real.native)) {
             splog_repeated("[TFileScanner]: Link leads to a hidden entry",
-                QStringLiteral("[TFileScanner]: Link leads to a hidden entry, not followed: "
-                               "[%1] -> [%2].")
-                    .arg(link.path, target.real.path));
+                kTag
+                    + QStringLiteral("Link leads to a hidden entry, not followed: "
+                                     "[%1] -> [%2].")
+                          .arg(link.path, target.real.path));
             continue;
         }
 #ifdef Q_OS_UNIX
@@ -869,8 +880,9 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         const QByteArray nativeName
             = target.real.native.mid(target.real.native.lastIndexOf('/') + 1);
         splog_repeated("[TFileScanner]: Link followed",
-            QStringLiteral("[TFileScanner]: Link followed, reported as its target: [%1] -> [%2].")
-                .arg(target.link.path, target.real.path));
+            kTag
+                + QStringLiteral("Link followed, reported as its target: [%1] -> [%2].")
+                      .arg(target.link.path, target.real.path));
         reportFile(batch, metas, target.size, nativeName.constData(), target.real.path, filtered);
     }
     emitBatch(batch, metas, outbox);
@@ -897,9 +909,10 @@ void TFileScanner::scanIncrementalParallel(WalkState &state, const Root &root)
         return;
     const int driveType = queryDriveType(root.path);
     scannedCount.store(0);
-    splog_d(QStringLiteral("[TFileScanner]: scanIncrementalParallel: %1. driveType:[%2].")
-                .arg(root.path)
-                .arg(driveType));
+    splog_d(kTag
+        + QStringLiteral("scanIncrementalParallel: %1. driveType:[%2].")
+              .arg(root.path)
+              .arg(driveType));
     state.queue.push_back(Folder {root.path, root.native, driveType, true});
     drainWithPool(state);
     emit progressUpdated(scannedCount.load());
@@ -910,9 +923,10 @@ void TFileScanner::scanWithQtRecursive(WalkState &state, const Root &root)
     if (isStopRequested())
         return;
     const int driveType = queryDriveType(root.path);
-    splog_d(QStringLiteral("[TFileScanner]: scanWithQtRecursive: [%1]. driveType: [%2].")
-                .arg(root.path)
-                .arg(driveType));
+    splog_d(kTag
+        + QStringLiteral("scanWithQtRecursive: [%1]. driveType: [%2].")
+              .arg(root.path)
+              .arg(driveType));
     state.queue.push_back(Folder {root.path, root.native, driveType, true});
     drainInOrder(state);
 }

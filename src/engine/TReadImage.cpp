@@ -21,6 +21,10 @@
 
 namespace {
 
+// The log tags of this file.
+const QString kTag = QStringLiteral("[TReadImage]: ");
+const QString kImageReadTag = QStringLiteral("[TImageRead]: ");
+
 // Records why a reader gave up, unless an earlier step already knew better.
 void note(TReadImage::Failure *failure, TReadImage::Failure value)
 {
@@ -152,24 +156,26 @@ cv::Mat fullRead(const QString &path, TReadImage::Failure *failure)
     try {
         mat = imreadFlags(path, cv::IMREAD_COLOR, failure);
         if (!mat.empty())
-            splog_d(QStringLiteral("[TReadImage]: Full read success. File: %1, Size: %2x%3")
-                        .arg(path)
-                        .arg(mat.cols)
-                        .arg(mat.rows));
+            splog_d(kTag
+                + QStringLiteral("Full read success. File: %1, Size: %2x%3")
+                      .arg(path)
+                      .arg(mat.cols)
+                      .arg(mat.rows));
     } catch (const cv::Exception &e) {
         mat.release();
         splog_repeated("[TReadImage]: cv::imread Exception full read",
-            QStringLiteral("[TReadImage]: cv::imread Exception full read. File: %1, Error: %2")
-                .arg(path, cvMessage(e)));
+            kTag
+                + QStringLiteral("cv::imread Exception full read. File: %1, Error: %2")
+                      .arg(path, cvMessage(e)));
     } catch (const std::bad_alloc &) {
         mat.release();
         note(failure, TReadImage::Failure::OutOfMemory);
         splog_repeated("[TReadImage]: cv::imread Out of memory full read",
-            QStringLiteral("[TReadImage]: cv::imread Out of memory full read. File: %1").arg(path));
+            kTag + QStringLiteral("cv::imread Out of memory full read. File: %1").arg(path));
     } catch (...) {
         mat.release();
         splog_repeated("[TReadImage]: Unknown exception full read",
-            QStringLiteral("[TReadImage]: Unknown exception full read. File: %1").arg(path));
+            kTag + QStringLiteral("Unknown exception full read. File: %1").arg(path));
     }
     return mat;
 }
@@ -185,29 +191,31 @@ cv::Mat reducedRead(const QString &path, TReadImage::Failure *failure)
         mat.release();
         note(failure, TReadImage::Failure::OutOfMemory);
         splog_repeated("[TReadImage]: Exception or out of memory on reduced read",
-            QStringLiteral("[TReadImage]: Exception or out of memory on reduced read. File: %1")
-                .arg(path));
+            kTag
+                + QStringLiteral("Exception or out of memory on reduced read. File: %1").arg(path));
         return mat;
     } catch (const cv::Exception &e) {
         mat.release();
         splog_repeated("[TReadImage]: cv::imread Exception reduced read",
-            QStringLiteral("[TReadImage]: cv::imread Exception reduced read. File: %1, Error: %2")
-                .arg(path, cvMessage(e)));
+            kTag
+                + QStringLiteral("cv::imread Exception reduced read. File: %1, Error: %2")
+                      .arg(path, cvMessage(e)));
         return mat;
     } catch (...) {
         mat.release();
         splog_repeated("[TReadImage]: Unknown exception reduced read",
-            QStringLiteral("[TReadImage]: Unknown exception reduced read. File: %1").arg(path));
+            kTag + QStringLiteral("Unknown exception reduced read. File: %1").arg(path));
         return mat;
     }
     if (mat.empty())
         splog_repeated("[TReadImage]: Reduced read gave no picture",
-            QStringLiteral("[TReadImage]: Reduced read gave no picture. File: %1").arg(path));
+            kTag + QStringLiteral("Reduced read gave no picture. File: %1").arg(path));
     else
-        splog_d(QStringLiteral("[TReadImage]: Reduced read success (1/8). File: %1, Size: %2x%3")
-                    .arg(path)
-                    .arg(mat.cols)
-                    .arg(mat.rows));
+        splog_d(kTag
+            + QStringLiteral("Reduced read success (1/8). File: %1, Size: %2x%3")
+                  .arg(path)
+                  .arg(mat.cols)
+                  .arg(mat.rows));
     return mat;
 }
 
@@ -218,17 +226,19 @@ cv::Mat qtReaderRead(const QString &path, TReadImage::Failure *failure)
         reader.setDecideFormatFromContent(true);
         const QSize size = reader.size();
         splog_repeated("[TReadImage]: QImageReader size",
-            QStringLiteral("[TReadImage]: QImageReader size. File: %1, Size: %2x%3")
-                .arg(path)
-                .arg(size.width())
-                .arg(size.height()));
+            kTag
+                + QStringLiteral("QImageReader size. File: %1, Size: %2x%3")
+                      .arg(path)
+                      .arg(size.width())
+                      .arg(size.height()));
         if (size.isValid() && qint64(size.width()) * size.height() > TReadImage::kMaxReaderPixels) {
             note(failure, TReadImage::Failure::TooLarge);
             splog_repeated("[TReadImage]: Image too large, skip",
-                QStringLiteral("[TReadImage]: Image too large, skip. File: %1, Size: %2x%3")
-                    .arg(path)
-                    .arg(size.width())
-                    .arg(size.height()));
+                kTag
+                    + QStringLiteral("Image too large, skip. File: %1, Size: %2x%3")
+                          .arg(path)
+                          .arg(size.width())
+                          .arg(size.height()));
             return {};
         }
         if (size.isValid()
@@ -238,16 +248,17 @@ cv::Mat qtReaderRead(const QString &path, TReadImage::Failure *failure)
                                          Qt::KeepAspectRatio)
                                      .expandedTo(QSize(1, 1));
             reader.setScaledSize(scaled);
-            splog_d(QStringLiteral("[TReadImage]: QImageReader scaled size. File: %1, Scaled Size: "
-                                   "%2x%3")
-                        .arg(path)
-                        .arg(scaled.width())
-                        .arg(scaled.height()));
+            splog_d(kTag
+                + QStringLiteral("QImageReader scaled size. File: %1, Scaled Size: "
+                                 "%2x%3")
+                      .arg(path)
+                      .arg(scaled.width())
+                      .arg(scaled.height()));
         }
         QImage image;
         if (!reader.read(&image) || image.isNull()) {
             splog_repeated("[TReadImage]: QImageReader failed",
-                QStringLiteral("[TReadImage]: QImageReader failed. File: %1").arg(path));
+                kTag + QStringLiteral("QImageReader failed. File: %1").arg(path));
             return {};
         }
         return TReadImage::qimage2Mat(image);
@@ -255,7 +266,7 @@ cv::Mat qtReaderRead(const QString &path, TReadImage::Failure *failure)
         note(failure, TReadImage::Failure::OutOfMemory);
     } catch (...) { }
     splog_repeated("[TReadImage]: QImageReader failed",
-        QStringLiteral("[TReadImage]: QImageReader failed. File: %1").arg(path));
+        kTag + QStringLiteral("QImageReader failed. File: %1").arg(path));
     return {};
 }
 
@@ -354,20 +365,20 @@ cv::Mat TReadImage::imreadThroughMemory(const QString &path, int flags, Failure 
         if (!file.open(QIODevice::ReadOnly)) {
             note(failure, Failure::CannotOpen);
             splog_repeated("[TImageRead]: Cannot open file",
-                QStringLiteral("[TImageRead]: Cannot open file: %1").arg(path));
+                kImageReadTag + QStringLiteral("Cannot open file: %1").arg(path));
             return {};
         }
         const qint64 size = file.size();
         if (size < 0) {
             note(failure, Failure::CannotOpen);
             splog_repeated("[TImageRead]: Failed to get file size",
-                QStringLiteral("[TImageRead]: Failed to get file size: %1").arg(path));
+                kImageReadTag + QStringLiteral("Failed to get file size: %1").arg(path));
             return {};
         }
         if (size == 0 || size > kMaxMemoryReadBytes) {
             note(failure, size == 0 ? Failure::Empty : Failure::TooLarge);
             splog_repeated("[TImageRead]: File too large or empty",
-                QStringLiteral("[TImageRead]: File too large or empty: %1").arg(path));
+                kImageReadTag + QStringLiteral("File too large or empty: %1").arg(path));
             return {};
         }
         std::vector<uchar> buffer;
@@ -376,31 +387,32 @@ cv::Mat TReadImage::imreadThroughMemory(const QString &path, int flags, Failure 
         } catch (const std::bad_alloc &) {
             note(failure, Failure::OutOfMemory);
             splog_repeated("[TImageRead]: Memory allocation failed",
-                QStringLiteral("[TImageRead]: Memory allocation failed: %1").arg(path));
+                kImageReadTag + QStringLiteral("Memory allocation failed: %1").arg(path));
             return {};
         }
         if (file.read(reinterpret_cast<char *>(buffer.data()), size) != size) {
             note(failure, Failure::CannotOpen);
             splog_repeated("[TImageRead]: ReadFile failed",
-                QStringLiteral("[TImageRead]: ReadFile failed: %1").arg(path));
+                kImageReadTag + QStringLiteral("ReadFile failed: %1").arg(path));
             return {};
         }
         cv::Mat mat = cv::imdecode(buffer, flags);
         if (mat.empty())
             splog_repeated("[TImageRead]: imdecode returned empty",
-                QStringLiteral("[TImageRead]: imdecode returned empty: %1").arg(path));
+                kImageReadTag + QStringLiteral("imdecode returned empty: %1").arg(path));
         return mat;
     } catch (const std::bad_alloc &) {
         note(failure, Failure::OutOfMemory);
         splog_repeated("[TImageRead]: Exception",
-            QStringLiteral("[TImageRead]: Exception: out of memory | File: %1").arg(path));
+            kImageReadTag + QStringLiteral("Exception: out of memory | File: %1").arg(path));
     } catch (const std::exception &e) {
         splog_repeated("[TImageRead]: Exception",
-            QStringLiteral("[TImageRead]: Exception: %1 | File: %2")
-                .arg(QString::fromLocal8Bit(e.what()), path));
+            kImageReadTag
+                + QStringLiteral("Exception: %1 | File: %2")
+                      .arg(QString::fromLocal8Bit(e.what()), path));
     } catch (...) {
         splog_repeated("[TImageRead]: Unknown exception occurred",
-            QStringLiteral("[TImageRead]: Unknown exception occurred: %1").arg(path));
+            kImageReadTag + QStringLiteral("Unknown exception occurred: %1").arg(path));
     }
     return {};
 }
@@ -417,10 +429,11 @@ cv::Mat TReadImage::readOrdinary(const QString &path, Failure *failure)
     if (!huge)
         mat = fullRead(path, failure);
     else
-        splog_d(QStringLiteral("[TReadImage]: Large image, skip full read. File: %1, Size: %2x%3")
-                    .arg(path)
-                    .arg(header.width())
-                    .arg(header.height()));
+        splog_d(kTag
+            + QStringLiteral("Large image, skip full read. File: %1, Size: %2x%3")
+                  .arg(path)
+                  .arg(header.width())
+                  .arg(header.height()));
     if (mat.empty() && (!huge || isJpegFile(path)))
         mat = reducedRead(path, failure);
     if (mat.empty())
@@ -445,9 +458,10 @@ cv::Mat TReadImage::readRaw(const QString &path, Failure *failure)
             else if (openResult == LIBRAW_TOO_BIG)
                 note(failure, Failure::TooLarge);
             splog_repeated("[TReadImage]: LibRaw open_file failed",
-                QStringLiteral("[TReadImage]: LibRaw open_file failed,error code %1. fies:%2")
-                    .arg(openResult)
-                    .arg(path));
+                kTag
+                    + QStringLiteral("LibRaw open_file failed,error code %1. fies:%2")
+                          .arg(openResult)
+                          .arg(path));
             return {};
         }
         const int unpackResult = raw->unpack_thumb();
@@ -455,7 +469,7 @@ cv::Mat TReadImage::readRaw(const QString &path, Failure *failure)
             if (unpackResult == LIBRAW_UNSUFFICIENT_MEMORY)
                 note(failure, Failure::OutOfMemory);
             splog_repeated("[TReadImage]: LibRaw unpack_thumb failed",
-                QStringLiteral("[TReadImage]: LibRaw unpack_thumb failed. fies:%1").arg(path));
+                kTag + QStringLiteral("LibRaw unpack_thumb failed. fies:%1").arg(path));
             return {};
         }
         const libraw_thumbnail_t &thumb = raw->imgdata.thumbnail;
@@ -479,27 +493,28 @@ cv::Mat TReadImage::readRaw(const QString &path, Failure *failure)
         }
         case LIBRAW_THUMBNAIL_UNKNOWN:
             splog_repeated("[TReadImage]: LIBRAW_THUMBNAIL_UNKNOWN",
-                QStringLiteral("[TReadImage]: LIBRAW_THUMBNAIL_UNKNOWN. fies:%1").arg(path));
+                kTag + QStringLiteral("LIBRAW_THUMBNAIL_UNKNOWN. fies:%1").arg(path));
             break;
         default:
-            splog_repeated("[TReadImage]: UNKNOWN",
-                QStringLiteral("[TReadImage]: UNKNOWN. fies:%1").arg(path));
+            splog_repeated(
+                "[TReadImage]: UNKNOWN", kTag + QStringLiteral("UNKNOWN. fies:%1").arg(path));
             break;
         }
     } catch (const std::bad_alloc &) {
         mat.release();
         note(failure, Failure::OutOfMemory);
         splog_repeated("[TReadImage]: LibRaw exception",
-            QStringLiteral("[TReadImage]: LibRaw exception: out of memory. fies:%1").arg(path));
+            kTag + QStringLiteral("LibRaw exception: out of memory. fies:%1").arg(path));
     } catch (const std::exception &e) {
         mat.release();
         splog_repeated("[TReadImage]: LibRaw exception",
-            QStringLiteral("[TReadImage]: LibRaw exception: %1. fies:%2")
-                .arg(QString::fromLocal8Bit(e.what()), path));
+            kTag
+                + QStringLiteral("LibRaw exception: %1. fies:%2")
+                      .arg(QString::fromLocal8Bit(e.what()), path));
     } catch (...) {
         mat.release();
         splog_repeated("[TReadImage]: LibRaw unknown exception",
-            QStringLiteral("[TReadImage]: LibRaw unknown exception. fies:%1").arg(path));
+            kTag + QStringLiteral("LibRaw unknown exception. fies:%1").arg(path));
     }
     // The LibRaw object frees its buffers (recycle) in its destructor.
     return mat;
@@ -526,31 +541,32 @@ cv::Mat TReadImage::readHeif(const QString &path, Failure *failure)
         if (err.code != heif_error_Ok) {
             failed(err);
             splog_repeated("[TReadImage]: Failed to read HEIF",
-                QStringLiteral("[TReadImage]: Failed to read HEIF. message=%1. fies:%2")
-                    .arg(QString::fromUtf8(err.message), path));
+                kTag
+                    + QStringLiteral("Failed to read HEIF. message=%1. fies:%2")
+                          .arg(QString::fromUtf8(err.message), path));
             return;
         }
         err = heif_context_get_primary_image_handle(context, &primary);
         if (err.code != heif_error_Ok || !primary) {
             failed(err);
             splog_repeated("[TReadImage]: Failed to get primary image handle",
-                QStringLiteral("[TReadImage]: Failed to get primary image handle:=%1. fies:%2")
-                    .arg(QString::fromUtf8(err.message), path));
+                kTag
+                    + QStringLiteral("Failed to get primary image handle:=%1. fies:%2")
+                          .arg(QString::fromUtf8(err.message), path));
             return;
         }
         if (heif_image_handle_get_number_of_thumbnails(primary) > 0) {
             heif_item_id id = 0;
             if (heif_image_handle_get_list_of_thumbnail_IDs(primary, &id, 1) != 1) {
                 splog_repeated("[TReadImage]: Failed to get thumbnail IDs",
-                    QStringLiteral("[TReadImage]: Failed to get thumbnail IDs. fies:%1").arg(path));
+                    kTag + QStringLiteral("Failed to get thumbnail IDs. fies:%1").arg(path));
                 return;
             }
             err = heif_image_handle_get_thumbnail(primary, id, &thumbHandle);
             if (err.code != heif_error_Ok || !thumbHandle) {
                 failed(err);
                 splog_repeated("[TReadImage]: Failed to get thumbnail handle",
-                    QStringLiteral("[TReadImage]: Failed to get thumbnail handle. fies:%1")
-                        .arg(path));
+                    kTag + QStringLiteral("Failed to get thumbnail handle. fies:%1").arg(path));
                 return;
             }
             err = heif_decode_image(
@@ -558,8 +574,9 @@ cv::Mat TReadImage::readHeif(const QString &path, Failure *failure)
             if (err.code != heif_error_Ok) {
                 failed(err);
                 splog_repeated("[TReadImage]: Failed to decode thumbnail",
-                    QStringLiteral("[TReadImage]: Failed to decode thumbnail. message=%1. fies:%2")
-                        .arg(QString::fromUtf8(err.message), path));
+                    kTag
+                        + QStringLiteral("Failed to decode thumbnail. message=%1. fies:%2")
+                              .arg(QString::fromUtf8(err.message), path));
                 return;
             }
         } else {
@@ -568,15 +585,16 @@ cv::Mat TReadImage::readHeif(const QString &path, Failure *failure)
             if (err.code != heif_error_Ok) {
                 failed(err);
                 splog_repeated("[TReadImage]: Failed to decode primary image",
-                    QStringLiteral("[TReadImage]: Failed to decode primary image. message=%1. "
-                                   "fies:%2")
-                        .arg(QString::fromUtf8(err.message), path));
+                    kTag
+                        + QStringLiteral("Failed to decode primary image. message=%1. "
+                                         "fies:%2")
+                              .arg(QString::fromUtf8(err.message), path));
                 return;
             }
         }
         if (!image) {
             splog_repeated("[TReadImage]: Image is nullptr",
-                QStringLiteral("[TReadImage]: Image is nullptr. fies:%1").arg(path));
+                kTag + QStringLiteral("Image is nullptr. fies:%1").arg(path));
             return;
         }
         int stride = 0;
@@ -586,9 +604,10 @@ cv::Mat TReadImage::readHeif(const QString &path, Failure *failure)
         const int h = heif_image_get_height(image, heif_channel_interleaved);
         if (!plane || w <= 0 || h <= 0 || stride < w * 3) {
             splog_repeated("[TReadImage]: Failed to get image plane or invalid image size",
-                QStringLiteral("[TReadImage]: Failed to get image plane or invalid image size. "
-                               "fies:%1")
-                    .arg(path));
+                kTag
+                    + QStringLiteral("Failed to get image plane or invalid image size. "
+                                     "fies:%1")
+                          .arg(path));
             return;
         }
         try {
@@ -597,9 +616,10 @@ cv::Mat TReadImage::readHeif(const QString &path, Failure *failure)
         } catch (...) {
             mat.release();
             splog_repeated("[TReadImage]: Failed to get image plane or invalid image size",
-                QStringLiteral("[TReadImage]: Failed to get image plane or invalid image size. "
-                               "fies:%1")
-                    .arg(path));
+                kTag
+                    + QStringLiteral("Failed to get image plane or invalid image size. "
+                                     "fies:%1")
+                          .arg(path));
         }
     }();
     if (image)
@@ -620,7 +640,7 @@ cv::Mat TReadImage::resizeToWorkingSize(const cv::Mat &mat)
     const int w = mat.cols;
     const int h = mat.rows;
     if (w <= 0 || h <= 0) {
-        splog_d(QStringLiteral("[TReadImage]: Invalid image size, skip resize."));
+        splog_d(kTag + QStringLiteral("Invalid image size, skip resize."));
         return mat;
     }
     if (w <= kWorkingSize && h <= kWorkingSize)
@@ -632,17 +652,14 @@ cv::Mat TReadImage::resizeToWorkingSize(const cv::Mat &mat)
     try {
         cv::Mat out;
         cv::resize(mat, out, cv::Size(nw, nh), 0, 0, cv::INTER_AREA);
-        splog_d(QStringLiteral("[TReadImage]: Resized image from %1x%2 to %3x%4")
-                    .arg(w)
-                    .arg(h)
-                    .arg(nw)
-                    .arg(nh));
+        splog_d(kTag
+            + QStringLiteral("Resized image from %1x%2 to %3x%4").arg(w).arg(h).arg(nw).arg(nh));
         return out;
     } catch (const cv::Exception &e) {
-        splog_d(QStringLiteral("[TReadImage]: cv::resize failed: %1").arg(cvMessage(e)));
+        splog_d(kTag + QStringLiteral("cv::resize failed: %1").arg(cvMessage(e)));
     } catch (const std::exception &e) {
-        splog_d(QStringLiteral("[TReadImage]: cv::resize failed: %1")
-                    .arg(QString::fromLocal8Bit(e.what())));
+        splog_d(
+            kTag + QStringLiteral("cv::resize failed: %1").arg(QString::fromLocal8Bit(e.what())));
     }
     return {};
 }
@@ -720,13 +737,13 @@ QImage TReadImage::mat2QImage(const cv::Mat &mat)
             return QImage(mat.data, mat.cols, mat.rows, int(mat.step), QImage::Format_ARGB32)
                 .copy();
         default:
-            splog_d(QStringLiteral("[TReadImage]: mat2QImage: Unsupported cv::Mat type: %1")
-                        .arg(mat.type()));
+            splog_d(
+                kTag + QStringLiteral("mat2QImage: Unsupported cv::Mat type: %1").arg(mat.type()));
             return {};
         }
     } catch (const std::exception &e) {
-        splog_d(QStringLiteral("[TReadImage]: mat2QImage exception: %1")
-                    .arg(QString::fromLocal8Bit(e.what())));
+        splog_d(kTag
+            + QStringLiteral("mat2QImage exception: %1").arg(QString::fromLocal8Bit(e.what())));
     }
     return {};
 }
@@ -743,11 +760,11 @@ cv::Mat TReadImage::qimage2Mat(const QImage &image)
             cv::cvtColor(view, result, cv::COLOR_RGB2BGR);
         }
         if (result.empty())
-            splog_d(QStringLiteral("[TReadImage]: qimage2Mat: result is empty!"));
+            splog_d(kTag + QStringLiteral("qimage2Mat: result is empty!"));
         return result;
     } catch (const std::exception &e) {
-        splog_d(QStringLiteral("[TReadImage]: qimage2Mat exception: %1")
-                    .arg(QString::fromLocal8Bit(e.what())));
+        splog_d(kTag
+            + QStringLiteral("qimage2Mat exception: %1").arg(QString::fromLocal8Bit(e.what())));
     }
     return {};
 }

@@ -20,6 +20,10 @@
 
 namespace {
 
+// The log tags of this file.
+const QString kTag = QStringLiteral("[TFileDeleter]: ");
+const QString kShortTag = QStringLiteral("[TFileDeleter] ");
+
 std::string nativeOf(const QString &path)
 {
     return FilePathCodec::encode(path).toStdString();
@@ -288,8 +292,9 @@ DeleteResult TFileDeleter::deleteFolder(
         error = platform::current().removePermanently(nativeOf(path));
         done = error == 0;
         if (!done)
-            splog_d(QStringLiteral("[TFileDeleter]: Delete failed. Reason: %1. File: %2")
-                        .arg(errorText(error), path));
+            splog_d(kTag
+                + QStringLiteral("Delete failed. Reason: %1. File: %2")
+                      .arg(errorText(error), path));
     } else if (method == moveToFolder) {
         done = moveIntoFolder(path, targetFolder, result.destination, error, nameOf(original));
         if (!done)
@@ -329,9 +334,9 @@ bool TFileDeleter::moveFileToTrash(const QString &path, QString &destination, in
                       errorText(error));
         if (reason)
             *reason = words;
-        splog_d(QStringLiteral("[TFileDeleter]: moveToTrash Failed. file: %1").arg(path));
-        splog_d(QStringLiteral("[TFileDeleter]: RecycleBin Delete Failed. reason: %1. file: %2")
-                    .arg(words, path));
+        splog_d(kTag + QStringLiteral("moveToTrash Failed. file: %1").arg(path));
+        splog_d(kTag
+            + QStringLiteral("RecycleBin Delete Failed. reason: %1. file: %2").arg(words, path));
         return false;
     }
     destination = FilePathCodec::decode(trashed.c_str(), qsizetype(trashed.size()));
@@ -343,9 +348,9 @@ bool TFileDeleter::removeFile(const QString &path, int &error)
     error = platform::current().removePermanently(nativeOf(path));
     if (error == 0)
         return true;
-    splog_d(QStringLiteral("[TFileDeleter] QFile::remove failed: %1").arg(path));
-    splog_d(QStringLiteral("[TFileDeleter]: Delete failed. Reason: %1. File: %2")
-                .arg(errorText(error), path));
+    splog_d(kShortTag + QStringLiteral("QFile::remove failed: %1").arg(path));
+    splog_d(
+        kTag + QStringLiteral("Delete failed. Reason: %1. File: %2").arg(errorText(error), path));
     return false;
 }
 
@@ -359,7 +364,7 @@ bool TFileDeleter::moveIntoFolder(const QString &path, const QString &folder, QS
     }
     if (folder.isEmpty() || !QDir().mkpath(folder)) {
         error = folder.isEmpty() ? EINVAL : EACCES;
-        splog_d(QStringLiteral("[TFileDeleter]: Cannot make the target folder: %1").arg(folder));
+        splog_d(kTag + QStringLiteral("Cannot make the target folder: %1").arg(folder));
         return false;
     }
     const platform::Platform &os = platform::current();
@@ -393,9 +398,10 @@ bool TFileDeleter::moveIntoFolder(const QString &path, const QString &folder, QS
             // copy is then the only whole one, and it stays. A file that could not be
             // removed is still whole, and its copy goes again.
             if (kind == Kind::Folder) {
-                splog_d(QStringLiteral("[TFileDeleter]: Moved in part: the copy %1 is whole, "
-                                       "the original %2 could not be removed: %3")
-                            .arg(destination, path, errorText(error)));
+                splog_d(kTag
+                    + QStringLiteral("Moved in part: the copy %1 is whole, "
+                                     "the original %2 could not be removed: %3")
+                          .arg(destination, path, errorText(error)));
                 return false;
             }
             os.removePermanently(nativeOf(destination));
@@ -403,8 +409,9 @@ bool TFileDeleter::moveIntoFolder(const QString &path, const QString &folder, QS
 #endif
         break;
     }
-    splog_d(QStringLiteral("[TFileDeleter]: Move failed. Reason: %1. File: %2 -> %3")
-                .arg(errorText(error), path, destination));
+    splog_d(kTag
+        + QStringLiteral("Move failed. Reason: %1. File: %2 -> %3")
+              .arg(errorText(error), path, destination));
     destination.clear();
     return false;
 }

@@ -26,6 +26,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[TOpenSaveThread]: ");
+
 const QString kGroupsElement = QStringLiteral("groups");
 const QString kGroupElement = QStringLiteral("GroupItem");
 const QString kItemElement = QStringLiteral("Item");
@@ -149,7 +152,7 @@ bool TOpenSaveThread::openProject(const QString &filepath)
 {
     QMutexLocker locker(&m_mutex);
     if (isRunning()) {
-        splog_d(QStringLiteral("[TOpenSaveThread]: busy, open refused. file=%1").arg(filepath));
+        splog_d(kTag + QStringLiteral("busy, open refused. file=%1").arg(filepath));
         return false;
     }
     m_request = Request::Open;
@@ -162,7 +165,7 @@ bool TOpenSaveThread::saveProject(const QString &filepath, qint64 count, const Q
 {
     QMutexLocker locker(&m_mutex);
     if (isRunning()) {
-        splog_d(QStringLiteral("[TOpenSaveThread]: busy, save refused. file=%1").arg(filepath));
+        splog_d(kTag + QStringLiteral("busy, save refused. file=%1").arg(filepath));
         return false;
     }
     m_request = Request::Save;
@@ -264,8 +267,9 @@ void TOpenSaveThread::run()
             flag = saveDocument(filepath, count, time, order);
         } catch (const std::exception &error) {
             setOutcome(QString::fromLocal8Bit(error.what()));
-            splog_d(QStringLiteral("[TOpenSaveThread]: save failed: %1. file=%2")
-                        .arg(QString::fromLocal8Bit(error.what()), filepath));
+            splog_d(kTag
+                + QStringLiteral("save failed: %1. file=%2")
+                      .arg(QString::fromLocal8Bit(error.what()), filepath));
         }
         emit saveComplated(flag);
     } else if (request == Request::Open) {
@@ -277,8 +281,9 @@ void TOpenSaveThread::run()
         } catch (const std::exception &error) {
             // std::bad_alloc from a hostile file lands here; the store is untouched.
             setOutcome(QString::fromLocal8Bit(error.what()));
-            splog_d(QStringLiteral("[TOpenSaveThread]: open failed: %1. file=%2")
-                        .arg(QString::fromLocal8Bit(error.what()), filepath));
+            splog_d(kTag
+                + QStringLiteral("open failed: %1. file=%2")
+                      .arg(QString::fromLocal8Bit(error.what()), filepath));
         }
         if (flag != ProjectSucceeded) {
             qDebug() << "Failed to open Project.";
@@ -409,14 +414,14 @@ int TOpenSaveThread::saveDocument(
     xml.writeEndDocument();
     if (xml.hasError() || !file.commit()) {
         qDebug() << "Failed to WriteOnly.";
-        splog_d(QStringLiteral("[TOpenSaveThread]: writing the project failed: %1. file=%2")
-                    .arg(file.errorString(), filepath));
+        splog_d(kTag
+            + QStringLiteral("writing the project failed: %1. file=%2")
+                  .arg(file.errorString(), filepath));
         setOutcome(file.errorString());
         return ProjectWriteFailed;
     }
-    splog_d(QStringLiteral("[TOpenSaveThread]: project saved, %1 groups. file=%2")
-                .arg(keys.size())
-                .arg(filepath));
+    splog_d(
+        kTag + QStringLiteral("project saved, %1 groups. file=%2").arg(keys.size()).arg(filepath));
     setOutcome(QString());
     return ProjectSucceeded;
 }
@@ -432,7 +437,7 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
     }
     splog_d(QStringLiteral("Begin open project"));
     const auto fail = [&](int flag, const QString &reason) {
-        splog_d(QStringLiteral("[TOpenSaveThread]: %1. file=%2").arg(reason, filepath));
+        splog_d(kTag + QStringLiteral("%1. file=%2").arg(reason, filepath));
         setOutcome(reason);
         return flag;
     };
@@ -620,9 +625,10 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             // the repeat is left out: the rest of the project is still sound.
             if (seen.contains(path) || taken.contains(path)) {
                 ++group.repeats;
-                splog_d(QStringLiteral("[TOpenSaveThread]: %1 is listed again in group %2; the "
-                                       "repeat is left out. file=%3")
-                            .arg(path, group.key, filepath));
+                splog_d(kTag
+                    + QStringLiteral("%1 is listed again in group %2; the "
+                                     "repeat is left out. file=%3")
+                          .arg(path, group.key, filepath));
                 continue;
             }
             seen.insert(path);
@@ -641,9 +647,10 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             break;
         }
         if (group.entries.size() < 2) {
-            splog_d(QStringLiteral("[TOpenSaveThread]: group %1 keeps fewer than two members "
-                                   "once repeats are left out, and is left out. file=%2")
-                        .arg(group.key, filepath));
+            splog_d(kTag
+                + QStringLiteral("group %1 keeps fewer than two members "
+                                 "once repeats are left out, and is left out. file=%2")
+                      .arg(group.key, filepath));
         } else {
             taken.unite(seen);
             readGroups.append(std::move(group));
@@ -694,9 +701,9 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
                 : DiskEntry {true, false, stamp->size};
             if (!info.exists) {
                 ++missing;
-                splog_d(
-                    QStringLiteral("[TOpenSaveThread]: %1 no longer exists, left out of group %2.")
-                        .arg(stripSimilarTag(entry), group.key));
+                splog_d(kTag
+                    + QStringLiteral("%1 no longer exists, left out of group %2.")
+                          .arg(stripSimilarTag(entry), group.key));
                 continue;
             }
             if (info.isDir) {
@@ -768,12 +775,13 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
     emit openProjectProcess(fileSize, fileSize);
     files = int(std::min<qint64>(memberCount, std::numeric_limits<int>::max()));
     size = totalSize;
-    splog_d(QStringLiteral("[TOpenSaveThread]: project opened: %1 groups, %2 folder groups, %3 "
-                           "members no longer on disk. file=%4")
-                .arg(groups.size())
-                .arg(dirGroups.size())
-                .arg(missing)
-                .arg(filepath));
+    splog_d(kTag
+        + QStringLiteral("project opened: %1 groups, %2 folder groups, %3 "
+                         "members no longer on disk. file=%4")
+              .arg(groups.size())
+              .arg(dirGroups.size())
+              .arg(missing)
+              .arg(filepath));
     setOutcome(QString(), fileCount, scanTime);
     return ProjectSucceeded;
 }

@@ -17,6 +17,9 @@
 #include <QUuid>
 
 namespace {
+
+// The log tag of this file.
+const QString kTag = QStringLiteral("[MainWindows]: ");
 const QString kClientIdKey = QStringLiteral("ClientID");
 const QString kLastDateKey = QStringLiteral("LastRunSuccessDate");
 } // namespace
@@ -65,8 +68,8 @@ bool DailyRunReport::sendIfDue(const QDate &today)
     QSettings settings(AppIdentity::organizationName, AppIdentity::applicationName);
     const QString day = today.toString(Qt::ISODate);
     if (settings.value(kLastDateKey).toString() == day) {
-        splog_d(QStringLiteral("[MainWindows]: send_ga4_run_log:: Already sent today. clientId: %1")
-                    .arg(id));
+        splog_d(
+            kTag + QStringLiteral("send_ga4_run_log:: Already sent today. clientId: %1").arg(id));
         return false;
     }
     if (!m_network)
@@ -86,13 +89,15 @@ bool DailyRunReport::sendIfDue(const QDate &today)
         if (ok) {
             QSettings store(AppIdentity::organizationName, AppIdentity::applicationName);
             store.setValue(kLastDateKey, day);
-            splog_d(QStringLiteral("[MainWindows]: send_ga4_run_log:: run_success event sent "
-                                   "successfully. clientId:[%1]")
-                        .arg(id));
+            splog_d(kTag
+                + QStringLiteral("send_ga4_run_log:: run_success event sent "
+                                 "successfully. clientId:[%1]")
+                      .arg(id));
         } else {
-            splog_d(QStringLiteral("[MainWindows]: send_ga4_run_log:: run_success event sent "
-                                   "failed. clientId: %1. error=%2")
-                        .arg(id, reply->errorString()));
+            splog_d(kTag
+                + QStringLiteral("send_ga4_run_log:: run_success event sent "
+                                 "failed. clientId: %1. error=%2")
+                      .arg(id, reply->errorString()));
         }
         emit finished(ok);
     });

@@ -9,6 +9,13 @@
 #include <QThread>
 #include <QThreadPool>
 
+namespace {
+
+// The log tag of this file.
+const QString kTag = QStringLiteral("[MainWindows]: ");
+
+} // namespace
+
 namespace EnvironmentLog {
 
 namespace {
@@ -64,7 +71,7 @@ MemoryInfo memory(const QString &meminfoPath)
 
 void write()
 {
-    const QString tag = QStringLiteral("[MainWindows]: ");
+    const QString tag = kTag;
     splog_d(tag
         + QStringLiteral("Global Thread Pool Max Thread Count: %1")
               .arg(QThreadPool::globalInstance()->maxThreadCount()));

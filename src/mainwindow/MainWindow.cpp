@@ -64,6 +64,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kCloudTag = QStringLiteral("[KvCloudObject]:");
+
 const QString kTag = QStringLiteral("[MainWindows]: ");
 
 QPixmap picture(const QString &name)
@@ -814,14 +817,13 @@ void MainWindow::connectCloud()
 {
     KvCloudObject *cloud = KvCloudObject::instance();
     cloud->initialization(DataDirectory::base());
-    connect(cloud, &KvCloudObject::logMessage, this, [](const QString &message) {
-        splog_d(QStringLiteral("[KvCloudObject]:%1.").arg(message));
-    });
+    connect(cloud, &KvCloudObject::logMessage, this,
+        [](const QString &message) { splog_d(kCloudTag + QStringLiteral("%1.").arg(message)); });
     connect(cloud, &KvCloudObject::onAuthorizedCompleted, this, [](bool updated) {
-        splog_d(QStringLiteral("[KvCloudObject]:onAuthorizedCompleted. update:%1").arg(updated));
+        splog_d(kCloudTag + QStringLiteral("onAuthorizedCompleted. update:%1").arg(updated));
     });
     connect(cloud, &KvCloudObject::onAuthorizedFailed, this, [this](const QString &error) {
-        splog_d(QStringLiteral("[KvCloudObject]:onAuthorizedFailed. error:%1").arg(error));
+        splog_d(kCloudTag + QStringLiteral("onAuthorizedFailed. error:%1").arg(error));
         closeSignInBox();
         // A sign-in from the add menu that failed; the folder chooser reports its own.
         if (std::exchange(m_signingIn, false))
@@ -832,12 +834,12 @@ void MainWindow::connectCloud()
     connect(cloud, &KvCloudObject::processChange, this, &MainWindow::onProcessChange);
     connect(cloud, &KvCloudObject::onFindedDuplicateItem, this,
         [this](const QHash<QString, QList<QString>> &groups) {
-            splog_d(QStringLiteral("[KvCloudObject]:onFindedDuplicateItem.dupItmes.size=%1")
-                        .arg(groups.size()));
+            splog_d(kCloudTag
+                + QStringLiteral("onFindedDuplicateItem.dupItmes.size=%1").arg(groups.size()));
             m_cloudGroups = groups;
         });
     connect(cloud, &KvCloudObject::diskSpaceLow, this, [this] {
-        splog_d(QStringLiteral("[KvCloudObject]:diskSpaceLow.********************"));
+        splog_d(kCloudTag + QStringLiteral("diskSpaceLow.********************"));
         QMessageBox::warning(this, tr("Insufficient System Disk Space"),
             tr("Thumbnail download was not completed. This may affect similar image detection "
                "results. Please free up some disk space and try again."));
@@ -1299,7 +1301,7 @@ void MainWindow::allCloudThreadComplated(bool isAbort)
         QMessageBox::warning(this, tr("Cloud Scan Failed"),
             tr("The cloud scan could not be completed: %1").arg(failure));
     } else if (isAbort) {
-        splog_d(QStringLiteral("[MainWindows]: allCloudThreadComplated isAbort."));
+        splog_d(kTag + QStringLiteral("allCloudThreadComplated isAbort."));
         QMessageBox::information(this, tr("info"),
             tr("Thumbnail download was not completed. This may affect similar image detection "
                "results. "));

@@ -14,6 +14,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[TCloudFolderDialog]: ");
+
 const QString kRootId = QStringLiteral("root");
 
 enum ItemRole {
@@ -165,7 +168,7 @@ void TCloudFolderDialog::onFindedFolders(
 
 void TCloudFolderDialog::onAuthorizedFailed(const QString &reason)
 {
-    splog_d(QStringLiteral("[TCloudFolderDialog]: listing failed: %1").arg(reason));
+    splog_d(kTag + QStringLiteral("listing failed: %1").arg(reason));
     m_listingFailed = true;
     QMessageBox::warning(this, tr("Network Request Error"),
         tr("The network request failed. Please log in again to re-authorize your account."));

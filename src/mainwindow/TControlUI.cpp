@@ -13,6 +13,13 @@
 
 #include <QJsonDocument>
 
+namespace {
+
+// The log tag of this file.
+const QString kTag = QStringLiteral("[TControlUI]: ");
+
+} // namespace
+
 TControlUI *TControlUI::instance()
 {
     static TControlUI controller;
@@ -110,8 +117,7 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
 {
     const QStringList refused = ScanConfigCheck::problems(common, similar);
     if (!refused.isEmpty()) {
-        splog_d(
-            QStringLiteral("[TControlUI]: Scan refused: %1").arg(refused.join(QLatin1Char(' '))));
+        splog_d(kTag + QStringLiteral("Scan refused: %1").arg(refused.join(QLatin1Char(' '))));
         return refused.join(QLatin1Char('\n'));
     }
     // A scan still running (the caller did not stop it) is stopped first, so that no
@@ -138,12 +144,12 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
     const auto indented = [](const QJsonObject &object) {
         return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Indented));
     };
-    splog_d(QStringLiteral("[TControlUI]: Common configuration information: [%1].")
-                .arg(indented(common)));
-    splog_d(QStringLiteral("[TControlUI]: Duplication configuration information: [%1].")
-                .arg(indented(duplication)));
-    splog_d(QStringLiteral("[TControlUI]: Similar configuration information: [%1].")
-                .arg(indented(similar)));
+    splog_d(kTag + QStringLiteral("Common configuration information: [%1].").arg(indented(common)));
+    splog_d(kTag
+        + QStringLiteral("Duplication configuration information: [%1].")
+              .arg(indented(duplication)));
+    splog_d(
+        kTag + QStringLiteral("Similar configuration information: [%1].").arg(indented(similar)));
     m_scanner.applyConfig(common);
     m_finder.applyConfig(duplication);
     if (m_compare)
@@ -153,7 +159,7 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
         m_reader.start(m_finder.cacheOptions(),
             m_finder.scanMethodInUse() == DuplicateFileFinder::scanAllContent);
 
-    splog_d(QStringLiteral("[TControlUI]: Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
+    splog_d(kTag + QStringLiteral("Start Scan: [%1]...").arg(roots.join(QLatin1Char(';'))));
     m_scanner.setRoots(roots);
     m_scanner.start(QThread::InheritPriority);
     return QString();
@@ -205,16 +211,18 @@ void TControlUI::onScannerFinished()
 {
     emit filesScaningChange(m_scannedFiles);
     if (m_runState == Stopped) {
-        splog_d(QStringLiteral("[TControlUI]: The user clicks Stop during the scanning process. "
-                               "This task takes:[%1] seconds.")
-                    .arg(seconds()));
+        splog_d(kTag
+            + QStringLiteral("The user clicks Stop during the scanning process. "
+                             "This task takes:[%1] seconds.")
+                  .arg(seconds()));
         endScan();
         return;
     }
-    splog_d(QStringLiteral("[TControlUI]: Scan is complete, start matching duplicate files. Total "
-                           "number of files: [%1]. This task takes:[%2] seconds.")
-                .arg(m_table.fileCount())
-                .arg(seconds()));
+    splog_d(kTag
+        + QStringLiteral("Scan is complete, start matching duplicate files. Total "
+                         "number of files: [%1]. This task takes:[%2] seconds.")
+              .arg(m_table.fileCount())
+              .arg(seconds()));
     // The finder holds the only copy from here on and releases it when it ends.
     m_finder.setRoots(m_roots);
     m_finder.setInput(std::move(m_table));
@@ -239,24 +247,27 @@ void TControlUI::onFinderItems(int number, qint64 total)
 void TControlUI::onFinderFinished()
 {
     if (m_runState == Stopped) {
-        splog_d(QStringLiteral("[TControlUI]: The user clicks Stop during the matching process. "
-                               "This task takes: [%1] seconds.")
-                    .arg(seconds()));
+        splog_d(kTag
+            + QStringLiteral("The user clicks Stop during the matching process. "
+                             "This task takes: [%1] seconds.")
+                  .arg(seconds()));
         endScan();
         return;
     }
     if (m_similarEnabled && !m_compare)
-        splog_d(QStringLiteral("[TControlUI]: This build has no similar-picture stage; the "
-                               "scan ends with the duplicate files."));
+        splog_d(kTag
+            + QStringLiteral("This build has no similar-picture stage; the "
+                             "scan ends with the duplicate files."));
     if (m_similarEnabled && m_compare) {
         const QStringList uniqueImages = m_finder.uniqueImageFiles();
         const TFileData::Groups imageGroups = TFileData::instance()->imageGroups();
-        splog_d(QStringLiteral("[TControlUI]: Matching duplicate files ends, and the process of "
-                               "matching similar images begins. Duplicate Group: [%1]; Unique "
-                               "Image: [%2]. This task takes: [%3] seconds.")
-                    .arg(TFileData::instance()->groupCount())
-                    .arg(uniqueImages.size())
-                    .arg(seconds()));
+        splog_d(kTag
+            + QStringLiteral("Matching duplicate files ends, and the process of "
+                             "matching similar images begins. Duplicate Group: [%1]; Unique "
+                             "Image: [%2]. This task takes: [%3] seconds.")
+                  .arg(TFileData::instance()->groupCount())
+                  .arg(uniqueImages.size())
+                  .arg(seconds()));
         PictureStage::setInput(m_compare, imageGroups, uniqueImages);
         PictureStage::setCacheOptions(m_compare, m_finder.cacheOptions());
         setStage(StageSimilar);
@@ -270,11 +281,13 @@ void TControlUI::onCompareFinished(int count, qint64 size)
 {
     if (m_runState != Stopped) {
         m_runState = Stopped;
-        splog_d(QStringLiteral("[TControlUI]: The process of matching similar images ends "
-                               "normally."));
+        splog_d(kTag
+            + QStringLiteral("The process of matching similar images ends "
+                             "normally."));
     } else {
-        splog_d(QStringLiteral("[TControlUI]: User clicks to stop the matching similar images "
-                               "process."));
+        splog_d(kTag
+            + QStringLiteral("User clicks to stop the matching similar images "
+                             "process."));
     }
     m_similarCount += count;
     m_similarSize += size;
@@ -301,15 +314,16 @@ void TControlUI::setStage(int stage)
 
 void TControlUI::endScan()
 {
-    splog_d(QStringLiteral("[TControlUI]: All tasks are completed. This task takes:[%1] seconds.")
-                .arg(seconds()));
+    splog_d(kTag
+        + QStringLiteral("All tasks are completed. This task takes:[%1] seconds.").arg(seconds()));
     const QString unreadable = m_problems.unreadableSummary();
     if (!unreadable.isEmpty())
-        splog_d(QStringLiteral("[TControlUI]: %1.").arg(unreadable));
+        splog_d(kTag + QStringLiteral("%1.").arg(unreadable));
     if (const qint64 links = m_problems.count(ScanProblems::LinkOutsideRoots))
-        splog_d(QStringLiteral("[TControlUI]: %1 links lead outside the scanned folders and were "
-                               "not followed.")
-                    .arg(links));
+        splog_d(kTag
+            + QStringLiteral("%1 links lead outside the scanned folders and were "
+                             "not followed.")
+                  .arg(links));
     splog_flush_repeated();
     m_timer.stop();
     m_runState = Stopped;

@@ -29,6 +29,9 @@
 
 namespace {
 
+// The log tag of this file.
+const QString kTag = QStringLiteral("[DFPreferences]: ");
+
 const QString kFileName = QStringLiteral("preferences.cfg");
 const QString kCommonGroup = QStringLiteral("Common");
 const QString kDuplicateGroup = QStringLiteral("Duplicate_files");
@@ -171,7 +174,7 @@ DFPreferences::DFPreferences(const QString &settingsPath, QObject *parent)
     const QString words = QStringLiteral("The settings file %1 %2: the default settings are used "
                                          "and no settings are saved.")
                               .arg(m_settingsPath, m_fileProblem);
-    splog_d(QStringLiteral("[DFPreferences]: ") + words);
+    splog_d(kTag + words);
     qWarning().noquote() << words;
 }
 
@@ -206,11 +209,12 @@ void DFPreferences::load()
     const DFIgnoreListPreferences defaults;
     if (!PreferenceRanges::sizeBoundsValid(
             double(m_ignoreList->MinFileSize()), double(m_ignoreList->MaxFileSize()))) {
-        splog_d(QStringLiteral("[DFPreferences]: \"MinFileSize\" %1 KB is not below "
-                               "\"MaxFileSize\" %2 MB, so no file would be scanned; %3 is used.")
-                    .arg(m_ignoreList->MinFileSize())
-                    .arg(m_ignoreList->MaxFileSize())
-                    .arg(defaults.MinFileSize()));
+        splog_d(kTag
+            + QStringLiteral("\"MinFileSize\" %1 KB is not below "
+                             "\"MaxFileSize\" %2 MB, so no file would be scanned; %3 is used.")
+                  .arg(m_ignoreList->MinFileSize())
+                  .arg(m_ignoreList->MaxFileSize())
+                  .arg(defaults.MinFileSize()));
         m_ignoreList->setMinFileSize(defaults.MinFileSize());
         ++corrected;
     }
@@ -219,9 +223,10 @@ void DFPreferences::load()
     // not settings; the file as the user left it is kept beside it.
     const bool damaged = settings.status() == QSettings::FormatError;
     if (damaged)
-        splog_d(QStringLiteral("[DFPreferences]: %1 has lines that are not settings; they are "
-                               "left out from the next save.")
-                    .arg(m_settingsPath));
+        splog_d(kTag
+            + QStringLiteral("%1 has lines that are not settings; they are "
+                             "left out from the next save.")
+                  .arg(m_settingsPath));
     if (damaged || corrected > 0)
         keepCopyOfFile();
 }
@@ -231,11 +236,9 @@ void DFPreferences::keepCopyOfFile() const
     const QString copy = m_settingsPath + QStringLiteral(".bak");
     QFile::remove(copy);
     if (QFile::copy(m_settingsPath, copy))
-        splog_d(QStringLiteral("[DFPreferences]: The settings file as it was is kept as %1.")
-                    .arg(copy));
+        splog_d(kTag + QStringLiteral("The settings file as it was is kept as %1.").arg(copy));
     else
-        splog_d(QStringLiteral("[DFPreferences]: The settings file could not be copied to %1.")
-                    .arg(copy));
+        splog_d(kTag + QStringLiteral("The settings file could not be copied to %1.").arg(copy));
 }
 
 void DFPreferences::save()
@@ -274,10 +277,11 @@ int DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString 
         const Loaded loaded = checkedValue(property, raw);
         if (!loaded.problem.isEmpty()) {
             ++corrected;
-            splog_d(
-                QStringLiteral("[DFPreferences]: \"%1\" in [%2] is %3; %4 is used.")
-                    .arg(key, name, loaded.problem,
-                        (loaded.value.isValid() ? loaded.value : property.read(group)).toString()));
+            splog_d(kTag
+                + QStringLiteral("\"%1\" in [%2] is %3; %4 is used.")
+                      .arg(key, name, loaded.problem,
+                          (loaded.value.isValid() ? loaded.value : property.read(group))
+                              .toString()));
         }
         if (loaded.value.isValid())
             group->setProperty(property.name(), loaded.value);
@@ -292,9 +296,10 @@ int DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString 
             const QString folder = textOf(settings.value(priority));
             if (folder.isEmpty()) {
                 ++corrected;
-                splog_d(QStringLiteral("[DFPreferences]: Priority %1 in [map] names no folder; "
-                                       "it is left out.")
-                            .arg(priority));
+                splog_d(kTag
+                    + QStringLiteral("Priority %1 in [map] names no folder; "
+                                     "it is left out.")
+                          .arg(priority));
                 continue;
             }
             priorities.insert(folder, priority.toInt(nullptr, 10));
@@ -368,14 +373,16 @@ QString DFPreferences::settingsFilePath()
         fixedRoots << QString::fromStdString(root);
     const QString other = fallbackSettingsFolder(failingRoot, fixedRoots);
     if (other.isEmpty()) {
-        splog_d(QStringLiteral("[DFPreferences]: The settings file %1 cannot be written and "
-                               "no other disk can hold it.")
-                    .arg(path));
+        splog_d(kTag
+            + QStringLiteral("The settings file %1 cannot be written and "
+                             "no other disk can hold it.")
+                  .arg(path));
         return path;
     }
-    splog_d(QStringLiteral("[DFPreferences]: The settings file %1 cannot be written, using "
-                           "%2 instead.")
-                .arg(path, other));
+    splog_d(kTag
+        + QStringLiteral("The settings file %1 cannot be written, using "
+                         "%2 instead.")
+              .arg(path, other));
     return other + QLatin1Char('/') + kFileName;
 }
 
