@@ -112,13 +112,13 @@ QString CliOptions::usage()
         "  --similar                   also group similar pictures; each option below\n"
         "                              turns this on as well:\n"
         "  --threshold PERCENT         pass mark of the fast comparison, %5 to %6\n"
-        "                              (default 55)\n"
+        "                              (default %9)\n"
         "  --algorithm smart|histogram|phash\n"
         "                              fast comparison: colour histogram, 64-bit\n"
         "                              perceptual hash, or smart (default): the hash\n"
         "                              above 10000 pictures, else the histogram\n"
         "  --features PERCENT          pass mark of the feature-point re-check, %7 to %8\n"
-        "                              (default 50)\n"
+        "                              (default %10)\n"
         "  --no-features               leave out the feature-point re-check\n"
         "  --any-type                  also compare pictures of different file types\n"
         "  --any-ratio                 also compare pictures whose aspect ratios differ\n"
@@ -164,7 +164,9 @@ QString CliOptions::usage()
         .arg(PreferenceRanges::SimilarityValue.minimum)
         .arg(PreferenceRanges::SimilarityValue.maximum)
         .arg(PreferenceRanges::FeaturesValue.minimum)
-        .arg(PreferenceRanges::FeaturesValue.maximum);
+        .arg(PreferenceRanges::FeaturesValue.maximum)
+        .arg(PreferenceRanges::SimilarityValue.byDefault)
+        .arg(PreferenceRanges::FeaturesValue.byDefault);
 }
 
 bool CliOptions::checkSizes()
@@ -516,6 +518,6 @@ QJsonObject CliOptions::similarConfig() const
         {SnapshotKeys::isAddFeatures, m_addFeatures},
         {SnapshotKeys::isImageType, m_sameType},
         {SnapshotKeys::isImageSize, m_sameRatio},
-        {SnapshotKeys::imageMinSize, 4},
+        {SnapshotKeys::imageMinSize, int(PreferenceRanges::imageMinSize.byDefault)},
     };
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "preferences/PreferenceRanges.h"
+
 #include <QJsonObject>
 #include <QMap>
 #include <QString>
@@ -80,8 +82,8 @@ private:
     bool m_includeHidden = false;
     bool m_similar = false;
     // Similar-picture settings; any of their options turns the similar search on.
-    double m_threshold = 55;
-    double m_features = 50;
+    double m_threshold = double(PreferenceRanges::SimilarityValue.byDefault);
+    double m_features = double(PreferenceRanges::FeaturesValue.byDefault);
     int m_algorithm = 0;
     bool m_addFeatures = true;
     bool m_sameType = true;
@@ -90,7 +92,7 @@ private:
     bool m_useCache = true;
     bool m_overlapped = true;
     double m_minSizeKb = 0;
-    double m_maxSizeMb = 100000;
+    double m_maxSizeMb = double(PreferenceRanges::MaxFileSize.byDefault);
     QStringList m_only;
     QStringList m_ignore;
     QStringList m_ignorePaths;

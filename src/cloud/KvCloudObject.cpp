@@ -13,6 +13,7 @@
 #include "fileops/ContentHash.h"
 #include "fileops/DeleteResult.h"
 #include "fileops/RemovalJournal.h"
+#include "preferences/PreferenceRanges.h"
 
 #include <algorithm>
 #include <memory>
@@ -257,7 +258,9 @@ void KvCloudObject::set_common_config(const QJsonObject &config)
 {
     m_commonConfig = config;
     m_minSize = qint64(config.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
-    m_maxSize = qint64(config.value(SnapshotKeys::maxFileSize).toDouble(100000.0)) << 20;
+    m_maxSize = qint64(config.value(SnapshotKeys::maxFileSize)
+                           .toDouble(double(PreferenceRanges::MaxFileSize.byDefault)))
+        << 20;
     m_skipHidden = config.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
     const auto list = [&config](QLatin1String key) {
         QStringList out;

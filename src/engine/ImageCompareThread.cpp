@@ -7,6 +7,7 @@
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TReadImage.h"
 #include "platform/Platform.h"
+#include "preferences/PreferenceRanges.h"
 
 #include <algorithm>
 #include <cmath>
@@ -117,8 +118,8 @@ void ImageCompareThread::applyConfig(const QJsonObject &config)
     m_isImageType = config.value(SnapshotKeys::isImageType).toBool();
     m_isImageSize = config.value(SnapshotKeys::isImageSize).toBool();
     m_imageMinSize = config.value(SnapshotKeys::imageMinSize).toInt();
-    if (m_imageMinSize >= 11)
-        m_imageMinSize = 4;
+    if (m_imageMinSize > PreferenceRanges::imageMinSize.maximum)
+        m_imageMinSize = int(PreferenceRanges::imageMinSize.byDefault);
     // A limit below 1 would leave no ratio interval at all; 1 compares equal ratios only.
     if (m_imageMinSize < 1)
         m_imageMinSize = 1;

@@ -5,6 +5,7 @@
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "platform/Platform.h"
+#include "preferences/PreferenceRanges.h"
 
 #include <algorithm>
 #include <cstring>
@@ -213,7 +214,9 @@ void TFileScanner::applyConfig(const QJsonObject &common)
 {
     config = common;
     minSize = static_cast<qint64>(common.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
-    maxSize = static_cast<qint64>(common.value(SnapshotKeys::maxFileSize).toDouble(100000.0)) << 20;
+    maxSize = static_cast<qint64>(common.value(SnapshotKeys::maxFileSize)
+                                      .toDouble(double(PreferenceRanges::MaxFileSize.byDefault)))
+        << 20;
     skipHiddenSystem = common.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
     scanFileType = common.value(SnapshotKeys::scanFileType).toInt(0);
     const auto readList = [&common](QLatin1String key, QStringList &target) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "preferences/DFSelectionPreferences.h"
+#include "preferences/PreferenceRanges.h"
 
 #include <QJsonObject>
 #include <QObject>
@@ -69,8 +70,8 @@ public:
 
 private:
     bool m_hasSimilar = true;
-    float m_similarityValue = 55.0f;
-    float m_featuresValue = 50.0f;
+    float m_similarityValue = float(PreferenceRanges::SimilarityValue.byDefault);
+    float m_featuresValue = float(PreferenceRanges::FeaturesValue.byDefault);
     bool m_selectedSimilar = false;
     DFScanPriority m_scanPriority = scanResult;
     DFSelectionPreferences::DFSelectionHint m_selectionHint = DFSelectionPreferences::autoSelect;
@@ -78,5 +79,5 @@ private:
     bool m_isAddFeatures = true;
     bool m_isImageType = true;
     bool m_isImageSize = true;
-    int m_imageMinSize = 4;
+    int m_imageMinSize = int(PreferenceRanges::imageMinSize.byDefault);
 };

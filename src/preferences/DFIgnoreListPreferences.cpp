@@ -2,6 +2,7 @@
 #include "preferences/DFIgnoreListPreferences.h"
 
 #include "app/SnapshotKeys.h"
+#include "preferences/PreferenceRanges.h"
 
 #include <algorithm>
 
@@ -46,9 +47,9 @@ void DFIgnoreListPreferences::resetDefaults()
     m_hideSystemFile = true;
     m_ignoreBundle = false;
     m_scanFileType = 0;
-    m_minFileSize = 0;
+    m_minFileSize = quint64(PreferenceRanges::MinFileSize.byDefault);
     m_removealMethod = moveToTrash;
-    m_maxFileSize = 100000;
+    m_maxFileSize = quint64(PreferenceRanges::MaxFileSize.byDefault);
     // A single-core machine still gets two workers so that waiting on the disk and
     // hashing can overlap.
     m_threadCount = std::max(2, QThread::idealThreadCount());

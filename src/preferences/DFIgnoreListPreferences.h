@@ -74,7 +74,8 @@ public:
 private:
     int m_threadCount = 2;
     DFRemovalMethod m_removealMethod = moveToTrash;
-    quint64 m_maxFileSize = 100000;
+    // Set by resetDefaults().
+    quint64 m_maxFileSize = 0;
     quint64 m_minFileSize = 0;
     QString m_trashFolder;
     QStringList m_ignorePathFile;

@@ -7,10 +7,11 @@
 
 #include <QtGlobal>
 
-// The bounds of the numeric settings, in the units the settings hold. The preferences
-// dialog offers exactly these, the store clamps a loaded value into them, and a scan
-// refuses a snapshot outside them: a value the dialog cannot produce must not reach an
-// engine by a hand-edited file or the command line either.
+// The bounds and defaults of the numeric settings, in the units the settings hold. The
+// preferences dialog offers exactly these, the store clamps a loaded value into them, and
+// a scan refuses a snapshot outside them: a value the dialog cannot produce must not reach
+// an engine by a hand-edited file or the command line either. A new settings file, the
+// command line and an engine given no value all take the default.
 namespace PreferenceRanges {
 
 struct Range
@@ -19,6 +20,7 @@ struct Range
     const char *key;
     qint64 minimum;
     qint64 maximum;
+    qint64 byDefault;
 
     constexpr bool contains(double value) const { return value >= minimum && value <= maximum; }
     constexpr qint64 clamp(qint64 value) const
@@ -28,15 +30,15 @@ struct Range
 };
 
 // Kilobytes.
-inline constexpr Range MinFileSize {SnapshotKeys::minFileSize.data(), 0, 10000000};
+inline constexpr Range MinFileSize {SnapshotKeys::minFileSize.data(), 0, 10000000, 0};
 // Megabytes. The top keeps the byte count far from overflowing when shifted.
-inline constexpr Range MaxFileSize {SnapshotKeys::maxFileSize.data(), 1, 100000};
+inline constexpr Range MaxFileSize {SnapshotKeys::maxFileSize.data(), 1, 100000, 100000};
 // Percent. At 0 every pair of pictures would pass and all pictures would form one group.
-inline constexpr Range SimilarityValue {SnapshotKeys::similarityValue.data(), 1, 100};
+inline constexpr Range SimilarityValue {SnapshotKeys::similarityValue.data(), 1, 100, 55};
 // Percent.
-inline constexpr Range FeaturesValue {SnapshotKeys::featuresValue.data(), 20, 60};
+inline constexpr Range FeaturesValue {SnapshotKeys::featuresValue.data(), 20, 60, 50};
 // Times: how far two aspect ratios may differ.
-inline constexpr Range imageMinSize {SnapshotKeys::imageMinSize.data(), 1, 10};
+inline constexpr Range imageMinSize {SnapshotKeys::imageMinSize.data(), 1, 10, 4};
 
 inline constexpr Range all[]
     = {MinFileSize, MaxFileSize, SimilarityValue, FeaturesValue, imageMinSize};
