@@ -69,6 +69,65 @@ void putPath(QJsonObject &line, const QString &key, const QString &bytesKey, con
             bytesKey, QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
 }
 
+// One journal line of the two kinds written per item, built straight into bytes: a batch
+// of tens of thousands of items spent a fifth of its time building them as JSON objects.
+// The reader parses them as any other line.
+class ItemLine
+{
+public:
+    explicit ItemLine(const QString &batch) { add(kBatch, batch); }
+    void add(const QString &key, const QString &value)
+    {
+        name(key);
+        string(value);
+    }
+    void add(const QString &key, qint64 value)
+    {
+        name(key);
+        m_line += QByteArray::number(value);
+    }
+    // The path, and its bytes where they are not UTF-8 (as putPath).
+    void addPath(const QString &key, const QString &bytesKey, const QString &path)
+    {
+        add(key, path);
+        if (FilePathCodec::hasEscapedBytes(path))
+            add(bytesKey, QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
+    }
+    QByteArray take()
+    {
+        m_line += '}';
+        return std::exchange(m_line, QByteArray());
+    }
+
+private:
+    void name(const QString &key)
+    {
+        m_line += m_line.isEmpty() ? '{' : ',';
+        string(key);
+        m_line += ':';
+    }
+    void string(const QString &text)
+    {
+        static const char hex[] = "0123456789abcdef";
+        m_line += '"';
+        for (const char c : text.toUtf8()) {
+            const auto byte = static_cast<unsigned char>(c);
+            if (c == '"' || c == '\\') {
+                m_line += '\\';
+                m_line += c;
+            } else if (byte < 0x20) {
+                m_line += "\\u00";
+                m_line += hex[byte >> 4];
+                m_line += hex[byte & 0xf];
+            } else {
+                m_line += c;
+            }
+        }
+        m_line += '"';
+    }
+    QByteArray m_line;
+};
+
 // Nothing, with refused set, for a path holding a NUL byte: no file name does, and the
 // system would read the path only up to it, at another file.
 QString takePath(
@@ -200,37 +259,44 @@ bool RemovalJournal::begin(
 bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &path,
     const QString &privatePath, qint64 size, qint64 modifiedNs)
 {
-    QJsonObject line {{kBatch, m_batch}, {kEvent, kIntent}, {kSeq, seq}, {kMethod, method},
-        {kSize, size}, {kModified, QString::number(modifiedNs)}};
-    putPath(line, kPath, kPathBytes, path);
+    ItemLine line(m_batch);
+    line.add(kEvent, kIntent);
+    line.add(kSeq, seq);
+    line.add(kMethod, method);
+    line.add(kSize, size);
+    line.add(kModified, QString::number(modifiedNs));
+    line.addPath(kPath, kPathBytes, path);
     if (!privatePath.isEmpty())
-        putPath(line, kPrivate, kPrivateBytes, privatePath);
-    return writeLine(QJsonDocument(line).toJson(QJsonDocument::Compact));
+        line.addPath(kPrivate, kPrivateBytes, privatePath);
+    return writeLine(line.take());
 }
 
 bool RemovalJournal::record(const QString &method, const DeleteResult &result,
     const QString &outcome, qint64 seq, const QString &restores)
 {
-    QJsonObject line {{kBatch, m_batch}, {kEvent, kItem}, {kMethod, method}, {kResult, outcome}};
+    ItemLine line(m_batch);
+    line.add(kEvent, kItem);
+    line.add(kMethod, method);
+    line.add(kResult, outcome);
     if (seq >= 0)
-        line.insert(kSeq, seq);
+        line.add(kSeq, seq);
     if (!restores.isEmpty())
-        line.insert(kRestores, restores);
-    putPath(line, kPath, kPathBytes, result.path);
+        line.add(kRestores, restores);
+    line.addPath(kPath, kPathBytes, result.path);
     if (!result.destination.isEmpty())
-        putPath(line, kTo, kToBytes, result.destination);
+        line.addPath(kTo, kToBytes, result.destination);
     if (!result.reason.isEmpty() || !result.message.isEmpty())
-        line.insert(kReason, result.reason.isEmpty() ? result.message : result.reason);
+        line.add(kReason, result.reason.isEmpty() ? result.message : result.reason);
     if (!result.digest.isEmpty()) {
-        line.insert(kSize, result.size);
-        line.insert(kModified, QString::number(result.modifiedNs));
-        line.insert(kHash, QString::fromLatin1(result.digest.toHex()));
+        line.add(kSize, result.size);
+        line.add(kModified, QString::number(result.modifiedNs));
+        line.add(kHash, QString::fromLatin1(result.digest.toHex()));
     }
     if (!m_file.isOpen()) {
         m_error = QCoreApplication::translate("RemovalJournal", "the journal is not open");
         return false;
     }
-    m_pending += QJsonDocument(line).toJson(QJsonDocument::Compact);
+    m_pending += line.take();
     m_pending += '\n';
     return true;
 }
