@@ -346,6 +346,54 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Looking for files…</source>
+        <translation>Dateien werden gesucht…</translation>
+    </message>
+    <message>
+        <source>Comparing files of the same size…</source>
+        <translation>Dateien gleicher Größe werden verglichen…</translation>
+    </message>
+    <message>
+        <source>Reading pictures…</source>
+        <translation>Bilder werden gelesen…</translation>
+    </message>
+    <message>
+        <source>Reading pictures %1</source>
+        <translation>Bilder werden gelesen %1</translation>
+    </message>
+    <message>
+        <source>Comparing pictures %1</source>
+        <translation>Bilder werden verglichen %1</translation>
+    </message>
+    <message>
+        <source>Checking picture details %1</source>
+        <translation>Bilddetails werden geprüft %1</translation>
+    </message>
+    <message>
+        <source>Scan stopped – results are incomplete</source>
+        <translation>Suche angehalten – die Ergebnisse sind unvollständig</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Suche abgeschlossen</translation>
+    </message>
+    <message>
+        <source>The scan was stopped before any files were compared.</source>
+        <translation>Die Suche wurde angehalten, bevor Dateien verglichen wurden.</translation>
+    </message>
+    <message>
+        <source>No duplicates were found among the files compared before the stop.</source>
+        <translation>Unter den vor dem Anhalten verglichenen Dateien wurden keine Duplikate gefunden.</translation>
+    </message>
+    <message>
+        <source>Only these file types are scanned: %1</source>
+        <translation>Nur diese Dateitypen werden durchsucht: %1</translation>
+    </message>
+    <message>
+        <source>These file types are skipped: %1</source>
+        <translation>Diese Dateitypen werden übersprungen: %1</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Gescannte Dateien</translation>
@@ -781,6 +829,10 @@
 <context>
     <name>PicturePreviewPane</name>
     <message>
+        <source>Not verified</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
         <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
         <source>Size</source>
         <translation>Größe</translation>
@@ -923,6 +975,14 @@
 </context>
 <context>
     <name>ResultForm</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>not verified</source>
+        <translation>nicht geprüft</translation>
+    </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="52"/>
         <source>Back</source>
@@ -1587,6 +1647,14 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
 </context>
 <context>
     <name>TImageModel</name>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Hide from results</source>
+        <translation>Aus den Ergebnissen ausblenden</translation>
+    </message>
     <message numerus="yes">
         <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
         <source>%n copies</source>

@@ -346,6 +346,54 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Looking for files…</source>
+        <translation>Buscando archivos…</translation>
+    </message>
+    <message>
+        <source>Comparing files of the same size…</source>
+        <translation>Comparando archivos del mismo tamaño…</translation>
+    </message>
+    <message>
+        <source>Reading pictures…</source>
+        <translation>Leyendo imágenes…</translation>
+    </message>
+    <message>
+        <source>Reading pictures %1</source>
+        <translation>Leyendo imágenes %1</translation>
+    </message>
+    <message>
+        <source>Comparing pictures %1</source>
+        <translation>Comparando imágenes %1</translation>
+    </message>
+    <message>
+        <source>Checking picture details %1</source>
+        <translation>Comprobando detalles de las imágenes %1</translation>
+    </message>
+    <message>
+        <source>Scan stopped – results are incomplete</source>
+        <translation>Análisis detenido: los resultados están incompletos</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Análisis completado</translation>
+    </message>
+    <message>
+        <source>The scan was stopped before any files were compared.</source>
+        <translation>El análisis se detuvo antes de comparar ningún archivo.</translation>
+    </message>
+    <message>
+        <source>No duplicates were found among the files compared before the stop.</source>
+        <translation>No se encontraron duplicados entre los archivos comparados antes de detener.</translation>
+    </message>
+    <message>
+        <source>Only these file types are scanned: %1</source>
+        <translation>Solo se analizan estos tipos de archivo: %1</translation>
+    </message>
+    <message>
+        <source>These file types are skipped: %1</source>
+        <translation>Se omiten estos tipos de archivo: %1</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Archivos analizados</translation>
@@ -781,6 +829,10 @@
 <context>
     <name>PicturePreviewPane</name>
     <message>
+        <source>Not verified</source>
+        <translation>No verificado</translation>
+    </message>
+    <message>
         <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
         <source>Size</source>
         <translation>Tamaño</translation>
@@ -923,6 +975,14 @@
 </context>
 <context>
     <name>ResultForm</name>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>not verified</source>
+        <translation>no verificado</translation>
+    </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="52"/>
         <source>Back</source>
@@ -1587,6 +1647,14 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 </context>
 <context>
     <name>TImageModel</name>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Hide from results</source>
+        <translation>Ocultar de los resultados</translation>
+    </message>
     <message numerus="yes">
         <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
         <source>%n copies</source>

@@ -346,6 +346,54 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Looking for files…</source>
+        <translation>Recherche des fichiers…</translation>
+    </message>
+    <message>
+        <source>Comparing files of the same size…</source>
+        <translation>Comparaison des fichiers de même taille…</translation>
+    </message>
+    <message>
+        <source>Reading pictures…</source>
+        <translation>Lecture des images…</translation>
+    </message>
+    <message>
+        <source>Reading pictures %1</source>
+        <translation>Lecture des images %1</translation>
+    </message>
+    <message>
+        <source>Comparing pictures %1</source>
+        <translation>Comparaison des images %1</translation>
+    </message>
+    <message>
+        <source>Checking picture details %1</source>
+        <translation>Vérification des détails des images %1</translation>
+    </message>
+    <message>
+        <source>Scan stopped – results are incomplete</source>
+        <translation>Analyse arrêtée – les résultats sont incomplets</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Analyse terminée</translation>
+    </message>
+    <message>
+        <source>The scan was stopped before any files were compared.</source>
+        <translation>L&apos;analyse a été arrêtée avant toute comparaison de fichiers.</translation>
+    </message>
+    <message>
+        <source>No duplicates were found among the files compared before the stop.</source>
+        <translation>Aucun doublon parmi les fichiers comparés avant l&apos;arrêt.</translation>
+    </message>
+    <message>
+        <source>Only these file types are scanned: %1</source>
+        <translation>Seuls ces types de fichiers sont analysés : %1</translation>
+    </message>
+    <message>
+        <source>These file types are skipped: %1</source>
+        <translation>Ces types de fichiers sont ignorés : %1</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Fichiers analysés</translation>
@@ -781,6 +829,10 @@
 <context>
     <name>PicturePreviewPane</name>
     <message>
+        <source>Not verified</source>
+        <translation>Non vérifié</translation>
+    </message>
+    <message>
         <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
         <source>Size</source>
         <translation>Taille</translation>
@@ -923,6 +975,14 @@
 </context>
 <context>
     <name>ResultForm</name>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>not verified</source>
+        <translation>non vérifié</translation>
+    </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="52"/>
         <source>Back</source>
@@ -1587,6 +1647,14 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
 </context>
 <context>
     <name>TImageModel</name>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Hide from results</source>
+        <translation>Masquer des résultats</translation>
+    </message>
     <message numerus="yes">
         <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
         <source>%n copies</source>

@@ -346,6 +346,54 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Looking for files…</source>
+        <translation>Ricerca dei file…</translation>
+    </message>
+    <message>
+        <source>Comparing files of the same size…</source>
+        <translation>Confronto dei file della stessa dimensione…</translation>
+    </message>
+    <message>
+        <source>Reading pictures…</source>
+        <translation>Lettura delle immagini…</translation>
+    </message>
+    <message>
+        <source>Reading pictures %1</source>
+        <translation>Lettura delle immagini %1</translation>
+    </message>
+    <message>
+        <source>Comparing pictures %1</source>
+        <translation>Confronto delle immagini %1</translation>
+    </message>
+    <message>
+        <source>Checking picture details %1</source>
+        <translation>Verifica dei dettagli delle immagini %1</translation>
+    </message>
+    <message>
+        <source>Scan stopped – results are incomplete</source>
+        <translation>Scansione interrotta – i risultati sono incompleti</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Scansione completata</translation>
+    </message>
+    <message>
+        <source>The scan was stopped before any files were compared.</source>
+        <translation>La scansione è stata interrotta prima di confrontare qualsiasi file.</translation>
+    </message>
+    <message>
+        <source>No duplicates were found among the files compared before the stop.</source>
+        <translation>Nessun duplicato tra i file confrontati prima dell&apos;interruzione.</translation>
+    </message>
+    <message>
+        <source>Only these file types are scanned: %1</source>
+        <translation>Vengono analizzati solo questi tipi di file: %1</translation>
+    </message>
+    <message>
+        <source>These file types are skipped: %1</source>
+        <translation>Questi tipi di file vengono ignorati: %1</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>File analizzati</translation>
@@ -781,6 +829,10 @@
 <context>
     <name>PicturePreviewPane</name>
     <message>
+        <source>Not verified</source>
+        <translation>Non verificato</translation>
+    </message>
+    <message>
         <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
         <source>Size</source>
         <translation>Dimensione</translation>
@@ -923,6 +975,14 @@
 </context>
 <context>
     <name>ResultForm</name>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>not verified</source>
+        <translation>non verificato</translation>
+    </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="52"/>
         <source>Back</source>
@@ -1587,6 +1647,14 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
 </context>
 <context>
     <name>TImageModel</name>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Hide from results</source>
+        <translation>Nascondi dai risultati</translation>
+    </message>
     <message numerus="yes">
         <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
         <source>%n copies</source>

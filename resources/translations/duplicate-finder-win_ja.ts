@@ -346,6 +346,54 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Looking for files…</source>
+        <translation>ファイルを検索しています…</translation>
+    </message>
+    <message>
+        <source>Comparing files of the same size…</source>
+        <translation>同じサイズのファイルを比較しています…</translation>
+    </message>
+    <message>
+        <source>Reading pictures…</source>
+        <translation>画像を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>Reading pictures %1</source>
+        <translation>画像を読み込み中 %1</translation>
+    </message>
+    <message>
+        <source>Comparing pictures %1</source>
+        <translation>画像を比較中 %1</translation>
+    </message>
+    <message>
+        <source>Checking picture details %1</source>
+        <translation>画像の詳細を確認中 %1</translation>
+    </message>
+    <message>
+        <source>Scan stopped – results are incomplete</source>
+        <translation>スキャンを停止しました – 結果は不完全です</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>スキャン完了</translation>
+    </message>
+    <message>
+        <source>The scan was stopped before any files were compared.</source>
+        <translation>ファイルを比較する前にスキャンが停止されました。</translation>
+    </message>
+    <message>
+        <source>No duplicates were found among the files compared before the stop.</source>
+        <translation>停止前に比較したファイルには重複が見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Only these file types are scanned: %1</source>
+        <translation>次の種類のファイルのみスキャンします: %1</translation>
+    </message>
+    <message>
+        <source>These file types are skipped: %1</source>
+        <translation>次の種類のファイルはスキップします: %1</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>スキャンしたファイル</translation>
@@ -774,6 +822,10 @@
 <context>
     <name>PicturePreviewPane</name>
     <message>
+        <source>Not verified</source>
+        <translation>未確認</translation>
+    </message>
+    <message>
         <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
         <source>Size</source>
         <translation>サイズ</translation>
@@ -913,6 +965,14 @@
 </context>
 <context>
     <name>ResultForm</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>not verified</source>
+        <translation>未確認</translation>
+    </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="52"/>
         <source>Back</source>
@@ -1574,6 +1634,14 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
 </context>
 <context>
     <name>TImageModel</name>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Hide from results</source>
+        <translation>結果から非表示</translation>
+    </message>
     <message numerus="yes">
         <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
         <source>%n copies</source>

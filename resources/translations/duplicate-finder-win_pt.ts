@@ -346,6 +346,54 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Looking for files…</source>
+        <translation>A procurar ficheiros…</translation>
+    </message>
+    <message>
+        <source>Comparing files of the same size…</source>
+        <translation>A comparar ficheiros do mesmo tamanho…</translation>
+    </message>
+    <message>
+        <source>Reading pictures…</source>
+        <translation>A ler imagens…</translation>
+    </message>
+    <message>
+        <source>Reading pictures %1</source>
+        <translation>A ler imagens %1</translation>
+    </message>
+    <message>
+        <source>Comparing pictures %1</source>
+        <translation>A comparar imagens %1</translation>
+    </message>
+    <message>
+        <source>Checking picture details %1</source>
+        <translation>A verificar detalhes das imagens %1</translation>
+    </message>
+    <message>
+        <source>Scan stopped – results are incomplete</source>
+        <translation>Análise parada – os resultados estão incompletos</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Análise concluída</translation>
+    </message>
+    <message>
+        <source>The scan was stopped before any files were compared.</source>
+        <translation>A análise foi parada antes de comparar qualquer ficheiro.</translation>
+    </message>
+    <message>
+        <source>No duplicates were found among the files compared before the stop.</source>
+        <translation>Não foram encontrados duplicados entre os ficheiros comparados antes da paragem.</translation>
+    </message>
+    <message>
+        <source>Only these file types are scanned: %1</source>
+        <translation>Apenas estes tipos de ficheiro são analisados: %1</translation>
+    </message>
+    <message>
+        <source>These file types are skipped: %1</source>
+        <translation>Estes tipos de ficheiro são ignorados: %1</translation>
+    </message>
+    <message>
         <location filename="../../src/mainwindow/MainWindow.cpp" line="343"/>
         <source>Files scanned</source>
         <translation>Ficheiros analisados</translation>
@@ -781,6 +829,10 @@
 <context>
     <name>PicturePreviewPane</name>
     <message>
+        <source>Not verified</source>
+        <translation>Não verificado</translation>
+    </message>
+    <message>
         <location filename="../../src/results/PicturePreviewPane.cpp" line="104"/>
         <source>Size</source>
         <translation>Tamanho</translation>
@@ -923,6 +975,14 @@
 </context>
 <context>
     <name>ResultForm</name>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>not verified</source>
+        <translation>não verificado</translation>
+    </message>
     <message>
         <location filename="../../src/results/ResultForm.ui" line="52"/>
         <source>Back</source>
@@ -1587,6 +1647,14 @@ Remover também todas as cópias desses ficheiros? Com &quot;Não&quot;, fica um
 </context>
 <context>
     <name>TImageModel</name>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Hide from results</source>
+        <translation>Ocultar dos resultados</translation>
+    </message>
     <message numerus="yes">
         <location filename="../../src/results/GroupRowDelegate.cpp" line="83"/>
         <source>%n copies</source>
