@@ -6,8 +6,8 @@
 // the same files with OpenCV alone, brought to the working size.
 
 #include "app/FileTypeCatalogue.h"
-#include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
+#include "pictures/ImageCompareThread.h"
 
 #include <atomic>
 #include <cstdio>

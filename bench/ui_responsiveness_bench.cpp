@@ -33,12 +33,13 @@
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
-#include "mainwindow/TControlUI.h"
+#include "pictures/ImageCompareStage.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "results/ResultForm.h"
 #include "results/TImageListView.h"
 #include "results/TImageModel.h"
+#include "scancontrol/TControlUI.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -449,6 +450,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     initLogger(DataDirectory::base());
+    ImageCompareStage::install();
     const QString mode = QString::fromLocal8Bit(argv[1]);
     const QString tree = QString::fromLocal8Bit(argv[2]);
     if (mode == QLatin1String("scan"))

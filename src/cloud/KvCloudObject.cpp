@@ -6,13 +6,13 @@
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "cloud/CloudPath.h"
+#include "cloud/CloudRemoval.h"
 #include "cloud/CloudService.h"
 #include "cloud/RcloneClient.h"
+#include "engine/ContentHash.h"
+#include "engine/DeleteResult.h"
 #include "engine/PictureStage.h"
 #include "engine/TFileData.h"
-#include "fileops/ContentHash.h"
-#include "fileops/DeleteResult.h"
-#include "fileops/RemovalJournal.h"
 #include "preferences/PreferenceRanges.h"
 
 #include <algorithm>
@@ -75,6 +75,7 @@ KvCloudObject::KvCloudObject(QObject *parent)
     : QObject(parent), m_process(new RcloneProcess(this)), m_client(new RcloneClient(this))
 {
     qRegisterMetaType<DelParams>();
+    m_removal = CloudRemoval::create(this);
     qRegisterMetaType<CloudFolderInfo>();
     qRegisterMetaType<QList<CloudFolderInfo>>();
     initialization(DataDirectory::base());
@@ -85,10 +86,8 @@ KvCloudObject::KvCloudObject(QObject *parent)
             emit onAuthorizedFailed(reason);
         if (m_scanning)
             finishScan(true, reason);
-        if (m_removal) {
-            failRest(reason, false);
-            endRemoval();
-        }
+        if (m_removal)
+            m_removal->abort(reason, false);
     });
     m_scanTimer = new QTimer(this);
     m_scanTimer->setInterval(1000);
@@ -105,7 +104,6 @@ KvCloudObject::~KvCloudObject()
 {
     m_client->abortAll();
     m_process->stop();
-    delete m_removal;
 }
 
 void KvCloudObject::initialization(const QString &dataDirectory)
@@ -113,7 +111,6 @@ void KvCloudObject::initialization(const QString &dataDirectory)
     m_dataDirectory = dataDirectory.endsWith(QLatin1Char('/')) ? dataDirectory
                                                                : dataDirectory + QLatin1Char('/');
     m_settings.configFile = m_dataDirectory + QStringLiteral("rclone/rclone.conf");
-    m_journalPath = RemovalJournal::defaultPath();
 }
 
 void KvCloudObject::setRcloneSettings(const RcloneSettings &settings)
@@ -545,9 +542,9 @@ void KvCloudObject::comparePictures()
         endPicturePhase();
         return;
     }
-    PictureStage::applyConfig(m_pictureStage, m_similarConfig);
-    PictureStage::setInput(m_pictureStage, {}, m_pictureCopies.keys());
-    connect(m_pictureStage, &QThread::finished, this, [this, stage = m_pictureStage] {
+    m_pictureStage->applyConfig(m_similarConfig);
+    m_pictureStage->setInput({}, m_pictureCopies.keys());
+    connect(m_pictureStage, &PictureStage::ended, this, [this, stage = m_pictureStage] {
         if (stage != m_pictureStage)
             return;
         takePictureGroups();
@@ -584,7 +581,7 @@ void KvCloudObject::takePictureGroups()
 void KvCloudObject::endPicturePhase()
 {
     if (m_pictureStage) {
-        PictureStage::cancel(m_pictureStage);
+        m_pictureStage->cancel();
         m_pictureStage->wait();
         m_pictureStage->deleteLater();
         m_pictureStage = nullptr;
@@ -786,184 +783,41 @@ void KvCloudObject::start_delete_all_files(const QList<DelParams> &groups)
 
 void KvCloudObject::startRemoval(const QList<DelParams> &groups, bool single)
 {
+    if (m_removal) {
+        m_removal->start(groups, single);
+        return;
+    }
     qsizetype count = 0;
     for (const DelParams &group : groups)
         count += group.files.size();
-    if (m_removal) {
-        emit onDeletedCloudError(int(count), QStringLiteral("Another removal is still running."));
-        return;
-    }
-    m_removal = new Removal(groups, single, m_journalPath);
-    // Nothing goes unless it can be written down first.
-    if (!m_removal->journal.begin(QStringLiteral("cloud"), count)) {
-        const QString reason = QStringLiteral("The removal journal cannot be written: %1")
-                                   .arg(m_removal->journal.error());
-        delete std::exchange(m_removal, nullptr);
-        emit onDeletedCloudError(int(count), reason);
-        return;
-    }
-    if (const QString problem = ensureStarted(); !problem.isEmpty()) {
-        failRest(problem, false);
-        QTimer::singleShot(0, this, [this] { endRemoval(); });
-        return;
-    }
-    // Answers always come after the call has returned, even when no check needs rclone.
-    QTimer::singleShot(0, this, [this] { removeNext(); });
+    emit onDeletedCloudError(int(count), QStringLiteral("This program cannot remove cloud files."));
 }
 
-void KvCloudObject::failRest(const QString &reason, bool skipped)
+bool KvCloudObject::isDeleting() const
 {
-    for (; !m_removal->done(); ++m_removal->groupIndex, m_removal->next = 0)
-        for (; m_removal->next < m_removal->group().files.size(); ++m_removal->next)
-            removalFailed(m_removal->group().files.at(m_removal->next), reason, skipped);
+    return m_removal && m_removal->isRunning();
 }
 
-void KvCloudObject::removalFailed(const QString &file, const QString &reason, bool skipped)
+QList<DeleteResult> KvCloudObject::lastRemovalResults() const
 {
-    m_removal->failures.append(QStringLiteral("%1: %2").arg(file, reason));
-    DeleteResult result {file};
-    result.success = false;
-    result.errorCode = skipped ? DeleteResult::Skipped : DeleteResult::RemovalFailed;
-    result.message = skipped ? QStringLiteral("Skipped.") : QStringLiteral("Deletion failed.");
-    result.reason = reason;
-    m_removal->results.append(result);
-    m_removal->journal.record(QStringLiteral("cloud"), result,
-        skipped ? RemovalJournal::skipped : RemovalJournal::failed);
+    return m_removal ? m_removal->lastResults() : QList<DeleteResult>();
 }
 
-void KvCloudObject::removeNext()
+void KvCloudObject::forget(const QString &path)
 {
-    if (!m_removal)
-        return;
-    if (m_removal->handled > 0)
-        emit deleteProgress(m_removal->handled, m_removal->total);
-    while (!m_removal->done() && m_removal->next >= m_removal->group().files.size()) {
-        ++m_removal->groupIndex;
-        m_removal->next = 0;
-    }
-    if (m_removal->done()) {
-        endRemoval();
-        return;
-    }
-    const DelParams &params = m_removal->group();
-    const QString file = params.files.at(m_removal->next++);
-    ++m_removal->handled;
-    const CloudFile *item = recorded(file);
-    const CloudFile *kept = recorded(params.keep);
-    const bool sameContent
-        = item && kept && item->hash == kept->hash && item->hashType == kept->hashType;
-    if (file == params.keep || !item || !kept || item->hash.isEmpty() || kept->hash.isEmpty()
-        || (!params.similar && !sameContent)) {
-        removalFailed(file, QStringLiteral("no copy of it known to stay"), true);
-        removeNext();
-        return;
-    }
-    if (item->hashType == kDownloadedHash || kept->hashType == kDownloadedHash) {
-        removalFailed(file,
-            QStringLiteral("the service keeps no hash by which the kept copy can be confirmed"),
-            true);
-        removeNext();
-        return;
-    }
-    // Both are looked at again just before: the kept one must still be there with the
-    // content the scan saw, and so must the one to go.
-    const auto check = [this](const CloudFile &seen,
-                           std::function<void(const QString &problem)> next) {
-        const QString hashType = seen.hashType;
-        const qint64 size = seen.size;
-        const QByteArray hash = seen.hash;
-        const CloudPath where = CloudPath::split(seen.path);
-        m_client->call(QStringLiteral("operations/stat"),
-            {{"fs", where.fs}, {"remote", where.remote},
-                {"opt", QJsonObject {{"showHash", true}, {"hashTypes", QJsonArray {hashType}}}}},
-            [size, hash, hashType, next](const QJsonObject &answer, const QString &error) {
-                if (!error.isEmpty()) {
-                    next(error);
-                    return;
-                }
-                const QJsonObject found = answer.value(QLatin1String("item")).toObject();
-                if (found.isEmpty())
-                    next(QStringLiteral("it no longer exists"));
-                else if (found.value(QLatin1String("Size")).toInteger(-1) != size
-                    || QByteArray::fromHex(found.value(QLatin1String("Hashes"))
-                                               .toObject()
-                                               .value(hashType)
-                                               .toString()
-                                               .toLatin1())
-                        != hash)
-                    next(QStringLiteral("its content changed since the scan"));
-                else
-                    next({});
-            });
-    };
-    const QString keep = params.keep;
-    const CloudFile keptSeen = *kept;
-    const CloudFile itemSeen = *item;
-    check(keptSeen, [this, file, keep, check, itemSeen](const QString &keptProblem) {
-        if (!keptProblem.isEmpty()) {
-            removalFailed(file,
-                QStringLiteral("the kept copy %1 cannot be confirmed: %2").arg(keep, keptProblem),
-                true);
-            removeNext();
-            return;
-        }
-        check(itemSeen, [this, file](const QString &problem) {
-            if (!problem.isEmpty()) {
-                removalFailed(file, problem, true);
-                removeNext();
-                return;
-            }
-            const CloudPath where = CloudPath::split(file);
-            m_client->call(QStringLiteral("operations/deletefile"),
-                {{"fs", where.fs}, {"remote", where.remote}},
-                [this, file](const QJsonObject &, const QString &error) {
-                    if (!error.isEmpty()) {
-                        removalFailed(file, error, false);
-                    } else {
-                        m_removal->deleted.append(file);
-                        m_removal->results.append(DeleteResult {file});
-                        m_removal->journal.record(
-                            QStringLiteral("cloud"), DeleteResult {file}, RemovalJournal::removed);
-                        QWriteLocker lock(&m_filesLock);
-                        m_members.remove(file);
-                    }
-                    removeNext();
-                });
-        });
-    });
+    QWriteLocker lock(&m_filesLock);
+    m_members.remove(path);
 }
 
-void KvCloudObject::endRemoval()
+bool KvCloudObject::isDownloadedHash(const QString &hashType)
 {
-    if (!m_removal)
-        return;
-    std::unique_ptr<Removal> removal(std::exchange(m_removal, nullptr));
-    removal->journal.end();
-    m_lastResults = removal->results;
-    splog_d(kTag
-        + QStringLiteral("removed %1 of %2 cloud files")
-              .arg(removal->deleted.size())
-              .arg(removal->total));
-    DelParams asked = removal->groups.value(0);
-    if (removal->groups.size() > 1) {
-        asked = DelParams();
-        for (const DelParams &group : std::as_const(removal->groups))
-            asked.files << group.files;
-    }
-    if (removal->single)
-        emit onDeletedCloudOneFileComplated(removal->deleted, asked);
-    else
-        emit onDeletedCloudGroupComplated(removal->deleted, asked);
-    if (!removal->failures.isEmpty())
-        emit onDeletedCloudError(
-            int(removal->failures.size()), removal->failures.join(QLatin1Char('\n')));
+    return hashType == kDownloadedHash;
 }
 
 void KvCloudObject::stop_deleted()
 {
-    if (!m_removal)
+    if (!isDeleting())
         return;
     m_client->abortAll();
-    failRest(QStringLiteral("stopped before it was removed"), true);
-    endRemoval();
+    m_removal->abort(QStringLiteral("stopped before it was removed"), true);
 }

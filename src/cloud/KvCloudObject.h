@@ -6,8 +6,7 @@
 #include "cloud/DelParams.h"
 #include "cloud/ListedFile.h"
 #include "cloud/RcloneProcess.h"
-#include "fileops/DeleteResult.h"
-#include "fileops/RemovalJournal.h"
+#include "engine/DeleteResult.h"
 
 #include <deque>
 #include <vector>
@@ -22,7 +21,8 @@
 #include <QStringList>
 #include <QTimer>
 
-class QThread;
+class CloudRemoval;
+class PictureStage;
 class RcloneClient;
 
 // The cloud source: lists, compares and removes files of cloud folders through an
@@ -87,11 +87,20 @@ public:
     // onDeletedCloudGroupComplated whose parameters hold every file asked for.
     void start_delete_all_files(const QList<DelParams> &groups);
     void stop_deleted();
-    bool isDeleting() const { return m_removal != nullptr; }
+    bool isDeleting() const;
     // What happened to each file of the last removal, in the order asked; for the summary.
-    QList<DeleteResult> lastRemovalResults() const { return m_lastResults; }
-    // The journal the removals are written to (the data folder's by default).
+    QList<DeleteResult> lastRemovalResults() const;
+    // The journal the removals are written to (empty: the data folder's).
     void setJournalPath(const QString &path) { m_journalPath = path; }
+    QString journalPath() const { return m_journalPath; }
+
+    // For the removal (CloudRemoval), on the owning thread: a member of the groups as
+    // listed (nullptr when unknown), the daemon's client, and forgetting a removed member.
+    const CloudFile *recorded(const QString &path) const;
+    RcloneClient *client() { return m_client; }
+    void forget(const QString &path);
+    // Whether a hash is the one computed here from a fetched copy, not the service's.
+    static bool isDownloadedHash(const QString &hashType);
 
 signals:
     void logMessage(const QString &message);
@@ -118,28 +127,6 @@ signals:
     void onUpdateTimer(const QString &elapsed);
 
 private:
-    struct Removal
-    {
-        Removal(const QList<DelParams> &requests, bool one, const QString &journalPath)
-            : groups(requests), single(one), journal(journalPath)
-        {
-            for (const DelParams &group : groups)
-                total += int(group.files.size());
-        }
-        const DelParams &group() const { return groups.at(groupIndex); }
-        bool done() const { return groupIndex >= groups.size(); }
-        QList<DelParams> groups;
-        bool single = false;
-        int groupIndex = 0;
-        int next = 0;
-        int total = 0;
-        int handled = 0;
-        QStringList deleted;
-        QStringList failures;
-        QList<DeleteResult> results;
-        RemovalJournal journal;
-    };
-
     void authorized(const QString &account, int cloudType, bool updated);
     void listFolder();
     void addEntry(quint16 folder, int hashType, const QJsonObject &entry);
@@ -158,12 +145,6 @@ private:
     void endPicturePhase();
 
     void startRemoval(const QList<DelParams> &groups, bool single);
-    // The files not yet handled, all failed for one reason (rclone gone, stopped).
-    void failRest(const QString &reason, bool skipped);
-    void removeNext();
-    void endRemoval();
-    void removalFailed(const QString &file, const QString &reason, bool skipped);
-    const CloudFile *recorded(const QString &path) const;
 
     RcloneSettings m_settings;
     QString m_account;
@@ -206,7 +187,7 @@ private:
     qsizetype m_nextPicture = 0;
     // Local copy -> index into m_pictures.
     QHash<QString, qsizetype> m_pictureCopies;
-    QThread *m_pictureStage = nullptr;
+    PictureStage *m_pictureStage = nullptr;
     QHash<QString, QList<QString>> m_groups;
 
     // The members of the groups, by path, for getCFP and the removal checks.
@@ -215,8 +196,8 @@ private:
     // The service of each remote signed in during this run, for the web links.
     QHash<QString, int> m_remoteTypes;
 
-    Removal *m_removal = nullptr;
-    QList<DeleteResult> m_lastResults;
+    // Made by the installed factory, owned as a child; nullptr where none is installed.
+    CloudRemoval *m_removal = nullptr;
     QElapsedTimer m_scanClock;
     QTimer *m_scanTimer;
 };

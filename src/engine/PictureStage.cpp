@@ -1,32 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/PictureStage.h"
 
-#include "engine/ImageCompareThread.h"
+#include <atomic>
 
-QThread *PictureStage::create(QObject *parent)
-{
-    return new ImageCompareThread(parent);
+namespace {
+std::atomic<PictureStage::Factory> g_factory {nullptr};
 }
 
-void PictureStage::applyConfig(QThread *stage, const QJsonObject &similar)
+void PictureStage::setFactory(Factory factory)
 {
-    static_cast<ImageCompareThread *>(stage)->applyConfig(similar);
+    g_factory.store(factory);
 }
 
-void PictureStage::setInput(
-    QThread *stage, const TFileData::Groups &earlierGroups, const QStringList &imagePaths)
+PictureStage *PictureStage::create(QObject *parent)
 {
-    auto *compare = static_cast<ImageCompareThread *>(stage);
-    compare->setEarlierGroups(earlierGroups);
-    compare->setImagePaths(imagePaths);
+    const Factory factory = g_factory.load();
+    return factory ? factory(parent) : nullptr;
 }
 
-void PictureStage::setCacheOptions(QThread *stage, const ContentKeyCache::Options &options)
+bool PictureStage::available()
 {
-    static_cast<ImageCompareThread *>(stage)->setCacheOptions(options);
-}
-
-void PictureStage::cancel(QThread *stage)
-{
-    static_cast<ImageCompareThread *>(stage)->cancel();
+    return g_factory.load() != nullptr;
 }

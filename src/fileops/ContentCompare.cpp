@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fileops/ContentCompare.h"
 
+#include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
-#include "fileops/ContentHash.h"
 
 #include <cerrno>
 #include <cstring>

@@ -2,9 +2,9 @@
 #include "fileops/RemovalCheck.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
 #include "fileops/ContentCompare.h"
-#include "fileops/ContentHash.h"
 
 #include <algorithm>
 #include <functional>

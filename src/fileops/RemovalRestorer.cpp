@@ -2,9 +2,9 @@
 #include "fileops/RemovalRestorer.h"
 
 #include "app/TLogger.h"
+#include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
 #include "engine/FileStamp.h"
-#include "fileops/ContentHash.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/TFileDeleter.h"
 #include "platform/Platform.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "fileops/DeleteResult.h"
+#include "engine/DeleteResult.h"
 #include "fileops/RemovalJournal.h"
 
 #include <QList>

@@ -2,8 +2,8 @@
 #include "fileops/TFileDeleter.h"
 
 #include "app/TLogger.h"
+#include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
-#include "fileops/ContentHash.h"
 #include "platform/Platform.h"
 
 #include <cerrno>

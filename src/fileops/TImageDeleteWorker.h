@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/DeleteResult.h"
 #include "engine/TFileData.h"
-#include "fileops/DeleteResult.h"
 #include "fileops/RemovalRequest.h"
 
 #include <atomic>

@@ -3,7 +3,9 @@
 
 #include "app/AppIdentity.h"
 #include "app/BuildSettings.h"
+#include "app/DailyRunReport.h"
 #include "app/DataDirectory.h"
+#include "app/EnvironmentLog.h"
 #include "app/FeatureReporter.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
@@ -18,18 +20,16 @@
 #include "engine/TFileData.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/TOpenSaveThread.h"
-#include "mainwindow/DailyRunReport.h"
-#include "mainwindow/EnvironmentLog.h"
 #include "mainwindow/ScanRootList.h"
 #include "mainwindow/TCloudFolderDialog.h"
-#include "mainwindow/TControlUI.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
-#include "preferences/DFPreferencesDialog.h"
 #include "preferences/DFSelectionPreferences.h"
 #include "results/CListViewDelegate.h"
 #include "results/TImageModel.h"
+#include "scancontrol/TControlUI.h"
+#include "settingsdialog/DFPreferencesDialog.h"
 #include "widgets/CRotateLabel.h"
 #include "widgets/RoundProgressBar.h"
 #include "widgets/RoundTextButton.h"
@@ -113,7 +113,7 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
     setObjectName(QStringLiteral("MainWindow"));
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setAcceptDrops(true);
-    m_projectThread = TControlUI::instance()->openSaveThread();
+    m_projectThread = new TOpenSaveThread(this);
     buildUi();
     buildMenus();
     connectController();
@@ -157,6 +157,7 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
 
 MainWindow::~MainWindow()
 {
+    m_projectThread->wait();
     if (m_resultPage)
         delete m_resultPage;
     splog_d(kTag + QStringLiteral("Program is exit") + QString(57, QLatin1Char('.')));
@@ -495,9 +496,10 @@ void MainWindow::connectController()
     connect(controller, &TControlUI::stageChanged, this, &MainWindow::onStageChanged);
     connect(controller, &TControlUI::picturesCounted, this, &MainWindow::onPicturesCounted);
     connect(controller, &TControlUI::onAllComplate, this, &MainWindow::allThreadComplate);
-    connect(
-        controller, &TControlUI::openProjectComplated, this, &MainWindow::onProjectOpenComplated);
-    connect(controller, &TControlUI::saveComplated, this, &MainWindow::onSaveProjectComplated);
+    connect(m_projectThread, &TOpenSaveThread::openProjectComplated, this,
+        &MainWindow::onProjectOpenComplated, Qt::QueuedConnection);
+    connect(m_projectThread, &TOpenSaveThread::saveComplated, this,
+        &MainWindow::onSaveProjectComplated, Qt::QueuedConnection);
     connect(m_projectThread, &TOpenSaveThread::openProjectProcess, this,
         &MainWindow::onOpenProjectProcess);
 }
@@ -1421,7 +1423,7 @@ bool MainWindow::saveProjectBlocking(const QString &path)
     QEventLoop loop;
     int result = TOpenSaveThread::ProjectWriteFailed;
     const auto connection = connect(
-        TControlUI::instance(), &TControlUI::saveComplated, &loop, [&loop, &result](int flag) {
+        m_projectThread, &TOpenSaveThread::saveComplated, &loop, [&loop, &result](int flag) {
             result = flag;
             loop.quit();
         });

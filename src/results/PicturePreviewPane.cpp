@@ -2,7 +2,7 @@
 #include "results/PicturePreviewPane.h"
 
 #include "app/FileTypeCatalogue.h"
-#include "engine/TReadImage.h"
+#include "pictures/TReadImage.h"
 #include "results/PreviewCanvas.h"
 #include "results/TImageModel.h"
 

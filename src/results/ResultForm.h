@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/DeleteResult.h"
 #include "engine/DirGroupEntry.h"
-#include "fileops/DeleteResult.h"
 #include "results/SelectionTotals.h"
 #include "results/TImageModel.h"
 #include "results/TPieChart.h"

@@ -4,8 +4,8 @@
 #include "app/FileTypeCatalogue.h"
 #include "cloud/KvCloudObject.h"
 #include "engine/FileStamp.h"
-#include "engine/ImageLoadTask.h"
 #include "engine/TFileData.h"
+#include "pictures/ImageLoadTask.h"
 
 #include <algorithm>
 #include <atomic>

@@ -3,9 +3,9 @@
 // encoded here: one scene saved as JPEG, as a smaller JPEG, as PNG and stretched to a very
 // different aspect ratio, plus an unrelated scene.
 #include "CliRunner.h"
+#include "ImageFixtures.h"
 #include "ReportGroups.h"
 #include "TestEnvironment.h"
-#include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 
 #include <opencv2/imgproc.hpp>

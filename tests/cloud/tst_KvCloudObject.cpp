@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ImageFixtures.h"
 #include "TestEnvironment.h"
 #include "app/FileTypeCatalogue.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneClient.h"
 #include "cloud/RcloneProcess.h"
-#include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
+#include "fileops/CloudRemover.h"
+#include "pictures/ImageCompareStage.h"
 #include "preferences/DFGenernalPreferences.h"
 
 #include <csignal>
@@ -85,6 +87,8 @@ private:
 private slots:
     void initTestCase()
     {
+        ImageCompareStage::install();
+        CloudRemover::install();
         TestCloud cloud(m_data.path());
         QSignalSpy success(&cloud, &KvCloudObject::onAuthorizedSuccess);
         QVERIFY(cloud.start_authorization(m_remote, CloudService::kLocalFolder));

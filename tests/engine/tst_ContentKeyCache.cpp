@@ -5,8 +5,8 @@
 #include "engine/ContentKeyCache.h"
 #include "engine/DuplicateFileFinder.h"
 #include "engine/FileStamp.h"
-#include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
+#include "pictures/ImageCompareThread.h"
 
 #include <fcntl.h>
 #include <sqlite3.h>

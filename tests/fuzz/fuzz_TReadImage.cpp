@@ -3,7 +3,7 @@
 // extension (and so the decoder chain), the rest is the file's content. Any crash, hang
 // or sanitizer report in a decoder path the reader drives is a finding.
 
-#include "engine/TReadImage.h"
+#include "pictures/TReadImage.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -8,8 +8,10 @@
 #include "cloud/KvCloudObject.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
+#include "fileops/CloudRemover.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TCloudFolderDialog.h"
+#include "pictures/ImageCompareStage.h"
 #include "results/RemovalSummaryDialog.h"
 #include "results/ResultForm.h"
 
@@ -35,6 +37,8 @@ class tst_CloudSources : public QObject
 private slots:
     void initTestCase()
     {
+        ImageCompareStage::install();
+        CloudRemover::install();
         // rclone starts in the tree, so the local remote's top is the tree.
         QVERIFY(QDir::setCurrent(m_tree.path()));
         const auto file = [this](const char *path, char seed, qint64 size) {

@@ -9,16 +9,18 @@
 #include "engine/ScanProblems.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
+#include "fileops/CloudRemover.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/MainWindow.h"
-#include "mainwindow/TControlUI.h"
+#include "pictures/ImageCompareStage.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
-#include "preferences/DFPreferencesDialog.h"
 #include "preferences/DFSelectionPreferences.h"
 #include "results/TImageModel.h"
+#include "scancontrol/TControlUI.h"
+#include "settingsdialog/DFPreferencesDialog.h"
 #include "widgets/ProblemListDialog.h"
 #include "widgets/RoundTextButton.h"
 
@@ -53,6 +55,8 @@ class tst_MainWindow : public QObject
 private slots:
     void initTestCase()
     {
+        ImageCompareStage::install();
+        CloudRemover::install();
         initLogger(DataDirectory::base());
         // English texts come from the catalogue as in the program: it holds the plural forms.
         LanguageSetup::setupLanguage(1);
@@ -528,7 +532,8 @@ private slots:
         const QString damaged = m_tree.filePath("damaged.dupproj");
         QVERIFY(!ScanTree::write(m_tree.path(), "damaged.dupproj", "<?xml version=\"1.0\"?><Veltr")
                      .isEmpty());
-        QSignalSpy opened(TControlUI::instance(), &TControlUI::openProjectComplated);
+        QSignalSpy opened(
+            m_window->findChild<TOpenSaveThread *>(), &TOpenSaveThread::openProjectComplated);
         DialogAnswerer answers;
         m_window->openProject(damaged);
         QVERIFY(opened.count() > 0 || opened.wait(10000));

@@ -5,11 +5,11 @@
 #include "app/TLogger.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
-#include "mainwindow/TControlUI.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
+#include "scancontrol/TControlUI.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DialogAnswerer.h"
+#include "ImageFixtures.h"
 #include "TestEnvironment.h"
 #include "app/DataDirectory.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
-#include "engine/ImageFixtures.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
+#include "fileops/CloudRemover.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/TImageDeleteWorker.h"
 #include "mainwindow/MainWindow.h"
-#include "mainwindow/TControlUI.h"
+#include "pictures/ImageCompareStage.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "results/ResultForm.h"
+#include "scancontrol/TControlUI.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -45,6 +47,8 @@ class tst_ResultForm : public QObject
 private slots:
     void initTestCase()
     {
+        ImageCompareStage::install();
+        CloudRemover::install();
         initLogger(DataDirectory::base());
         LanguageSetup::setupLanguage(1);
         QCoreApplication::installTranslator(&LanguageSetup::appTranslator());

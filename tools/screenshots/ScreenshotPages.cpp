@@ -13,12 +13,12 @@
 #include "engine/TFileData.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/TCloudFolderDialog.h"
-#include "mainwindow/TControlUI.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
-#include "preferences/DFPreferencesDialog.h"
 #include "preferences/DFSelectionPreferences.h"
 #include "results/ResultForm.h"
+#include "scancontrol/TControlUI.h"
+#include "settingsdialog/DFPreferencesDialog.h"
 #include "widgets/ProblemListDialog.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/TReadImage.h"
+#include "pictures/TReadImage.h"
 
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"

@@ -4,14 +4,14 @@
 #include "engine/ContentKeyCache.h"
 #include "engine/FileStamp.h"
 #include "engine/ScanTree.h"
-#include "preferences/DFGeneralWidget.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
-#include "preferences/DFIgnoreListWidget.h"
 #include "preferences/DFPreferences.h"
-#include "preferences/DFPreferencesDialog.h"
 #include "preferences/DFSelectionPreferences.h"
-#include "preferences/DFSelectionWidget.h"
+#include "settingsdialog/DFGeneralWidget.h"
+#include "settingsdialog/DFIgnoreListWidget.h"
+#include "settingsdialog/DFPreferencesDialog.h"
+#include "settingsdialog/DFSelectionWidget.h"
 
 #include <memory>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "preferences/DFIgnoreListWidget.h"
+#include "settingsdialog/DFIgnoreListWidget.h"
 
 #include "engine/ContentKeyCache.h"
-#include "preferences/DroppedPaths.h"
 #include "preferences/PreferenceRanges.h"
+#include "settingsdialog/DroppedPaths.h"
 #include "ui_IgnoreList.h"
 
 #include <QDir>

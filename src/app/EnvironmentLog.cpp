@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "mainwindow/EnvironmentLog.h"
+#include "app/EnvironmentLog.h"
 
 #include "app/TLogger.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/ImageLoadTask.h"
+#include "pictures/ImageLoadTask.h"
 
 #include "app/FileTypeCatalogue.h"
-#include "engine/TReadImage.h"
+#include "pictures/TReadImage.h"
 
 #include <algorithm>
 #include <opencv2/imgproc.hpp>

@@ -3,10 +3,10 @@
 
 #include "engine/DuplicateFileFinder.h"
 #include "engine/FileMeta.h"
+#include "engine/PictureStage.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
 #include "engine/TFileScanner.h"
-#include "fileops/TOpenSaveThread.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -72,9 +72,8 @@ public:
 
     TFileScanner *scanner() { return &m_scanner; }
     DuplicateFileFinder *finder() { return &m_finder; }
-    // The similar-picture stage (an ImageCompareThread); nullptr in a build without it.
-    QThread *comparison() { return m_compare; }
-    TOpenSaveThread *openSaveThread() { return &m_openSave; }
+    // The similar-picture stage; nullptr in a build without it.
+    PictureStage *comparison() { return m_compare; }
 
 signals:
     void filesScaningChange(int fileCount);
@@ -87,8 +86,6 @@ signals:
     // feature re-check; pictures handled and the stage's total.
     void picturesCounted(int progressType, int done, int total);
     void onAllComplate();
-    void openProjectComplated(int flag, int files, qint64 size);
-    void saveComplated(int flag);
 
 private slots:
     void onFolderFilesFound(const QList<ScanBatch> &batches);
@@ -110,10 +107,8 @@ private:
     // Declared before the finder, which uses it, so that it outlives the finder.
     OverlappedKeyReader m_reader;
     DuplicateFileFinder m_finder;
-    // Created through PictureStage, so that this class links without the picture
-    // libraries; owned as a child.
-    QThread *m_compare = nullptr;
-    TOpenSaveThread m_openSave;
+    // Made by the installed factory (none in the plain command line); owned as a child.
+    PictureStage *m_compare = nullptr;
 
     ScanProblems m_problems;
     QStringList m_roots;

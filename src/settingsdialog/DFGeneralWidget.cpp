@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "preferences/DFGeneralWidget.h"
+#include "settingsdialog/DFGeneralWidget.h"
 
 #include "preferences/PreferenceRanges.h"
 #include "ui_Genernal.h"

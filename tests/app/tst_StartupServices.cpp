@@ -2,9 +2,9 @@
 #include "HttpReceiver.h"
 #include "TestEnvironment.h"
 #include "app/AppIdentity.h"
+#include "app/DailyRunReport.h"
+#include "app/EnvironmentLog.h"
 #include "engine/ScanTree.h"
-#include "mainwindow/DailyRunReport.h"
-#include "mainwindow/EnvironmentLog.h"
 
 #include <QFile>
 #include <QJsonArray>

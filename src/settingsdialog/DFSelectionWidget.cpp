@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "preferences/DFSelectionWidget.h"
+#include "settingsdialog/DFSelectionWidget.h"
 
-#include "preferences/DroppedPaths.h"
+#include "settingsdialog/DroppedPaths.h"
 #include "ui_Selection.h"
 
 #include <algorithm>

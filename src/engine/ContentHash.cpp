@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "fileops/ContentHash.h"
+#include "engine/ContentHash.h"
 
 #include "engine/FilePathCodec.h"
 

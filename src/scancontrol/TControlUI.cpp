@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "mainwindow/TControlUI.h"
+#include "scancontrol/TControlUI.h"
 
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
@@ -46,20 +46,15 @@ TControlUI::TControlUI(QObject *parent) : QObject(parent)
         Qt::QueuedConnection);
     m_compare = PictureStage::create(this);
     if (m_compare) {
-        // Connected by signature: the stage's class is not known here.
-        connect(m_compare, SIGNAL(finished(int, qint64)), this,
-            SLOT(onCompareFinished(int, qint64)), Qt::QueuedConnection);
-        connect(m_compare, SIGNAL(progressChanged(int, int)), this,
-            SLOT(onCompareProgress(int, int)), Qt::QueuedConnection);
-        connect(m_compare, SIGNAL(progressCounted(int, int, int)), this,
-            SIGNAL(picturesCounted(int, int, int)), Qt::QueuedConnection);
-        connect(m_compare, SIGNAL(similarFound(int, qint64)), this,
-            SLOT(onCompareFound(int, qint64)), Qt::QueuedConnection);
+        connect(m_compare, &PictureStage::finished, this, &TControlUI::onCompareFinished,
+            Qt::QueuedConnection);
+        connect(m_compare, &PictureStage::progressChanged, this, &TControlUI::onCompareProgress,
+            Qt::QueuedConnection);
+        connect(m_compare, &PictureStage::progressCounted, this, &TControlUI::picturesCounted,
+            Qt::QueuedConnection);
+        connect(m_compare, &PictureStage::similarFound, this, &TControlUI::onCompareFound,
+            Qt::QueuedConnection);
     }
-    connect(&m_openSave, &TOpenSaveThread::openProjectComplated, this,
-        &TControlUI::openProjectComplated, Qt::QueuedConnection);
-    connect(&m_openSave, &TOpenSaveThread::saveComplated, this, &TControlUI::saveComplated,
-        Qt::QueuedConnection);
     m_scanner.setProblems(&m_problems);
     m_finder.setProblems(&m_problems);
     // Scans of the program reuse the keys of earlier ones; the command line can say no.
@@ -74,12 +69,11 @@ TControlUI::~TControlUI()
     m_scanner.requestStop();
     m_finder.requestStop();
     if (m_compare)
-        PictureStage::cancel(m_compare);
+        m_compare->cancel();
     m_scanner.wait();
     m_finder.wait();
     if (m_compare)
         m_compare->wait();
-    m_openSave.wait();
 }
 
 double TControlUI::elapsedSeconds() const
@@ -153,7 +147,7 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
     m_scanner.applyConfig(common);
     m_finder.applyConfig(duplication);
     if (m_compare)
-        PictureStage::applyConfig(m_compare, similar);
+        m_compare->applyConfig(similar);
     m_similarEnabled = similar.value(SnapshotKeys::hasSimilar).toBool(false);
     if (m_overlapped && m_finder.scanMethodInUse() != DuplicateFileFinder::scanName)
         m_reader.start(m_finder.cacheOptions(),
@@ -184,7 +178,7 @@ void TControlUI::stop()
         break;
     case StageSimilar:
         if (m_compare) {
-            PictureStage::cancel(m_compare);
+            m_compare->cancel();
             m_compare->wait();
         }
         break;
@@ -268,10 +262,10 @@ void TControlUI::onFinderFinished()
                   .arg(TFileData::instance()->groupCount())
                   .arg(uniqueImages.size())
                   .arg(seconds()));
-        PictureStage::setInput(m_compare, imageGroups, uniqueImages);
-        PictureStage::setCacheOptions(m_compare, m_finder.cacheOptions());
+        m_compare->setInput(imageGroups, uniqueImages);
+        m_compare->setCacheOptions(m_finder.cacheOptions());
         setStage(StageSimilar);
-        m_compare->start(QThread::InheritPriority);
+        m_compare->start();
         return;
     }
     endScan();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "preferences/DFPreferencesDialog.h"
+#include "settingsdialog/DFPreferencesDialog.h"
 
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"

@@ -7,8 +7,8 @@
 #include "TestEnvironment.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
-#include "engine/ImageCompareThread.h"
 #include "engine/TFileData.h"
+#include "pictures/ImageCompareThread.h"
 
 #include <functional>
 #include <numeric>

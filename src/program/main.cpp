@@ -7,7 +7,9 @@
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "app/TerminationSignalWatcher.h"
+#include "fileops/CloudRemover.h"
 #include "mainwindow/MainWindow.h"
+#include "pictures/ImageCompareStage.h"
 #include "platform/Platform.h"
 
 #include <cstdio>
@@ -116,6 +118,8 @@ int main(int argc, char *argv[])
                 QCoreApplication::quit();
             });
 
+        ImageCompareStage::install();
+        CloudRemover::install();
         auto *window = new MainWindow(app.arguments());
         placeWindow(*window);
         window->show();

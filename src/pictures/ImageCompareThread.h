@@ -2,8 +2,8 @@
 #pragma once
 
 #include "engine/ContentKeyCache.h"
-#include "engine/ImageData.h"
 #include "engine/TFileData.h"
+#include "pictures/ImageData.h"
 
 #include <atomic>
 #include <memory>

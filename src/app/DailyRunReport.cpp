@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "mainwindow/DailyRunReport.h"
+#include "app/DailyRunReport.h"
 
 #include "app/AppIdentity.h"
 #include "app/BuildSettings.h"

@@ -2,7 +2,8 @@
 #include "TestEnvironment.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
-#include "mainwindow/TControlUI.h"
+#include "pictures/ImageCompareStage.h"
+#include "scancontrol/TControlUI.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -22,6 +23,8 @@ class TestControlUI : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { ImageCompareStage::install(); }
+
     void formatSeconds_data()
     {
         QTest::addColumn<qint64>("seconds");

@@ -6,8 +6,8 @@
 #include "LogText.h"
 #include "TestEnvironment.h"
 #include "app/TLogger.h"
-#include "engine/ImageLoadTask.h"
-#include "engine/TReadImage.h"
+#include "pictures/ImageLoadTask.h"
+#include "pictures/TReadImage.h"
 
 #include <opencv2/imgcodecs.hpp>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/ImageCompareThread.h"
+#include "pictures/ImageCompareThread.h"
 
 #include "app/FileTypeCatalogue.h"
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
-#include "engine/TReadImage.h"
+#include "pictures/TReadImage.h"
 #include "platform/Platform.h"
 #include "preferences/PreferenceRanges.h"
 

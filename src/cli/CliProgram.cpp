@@ -1,0 +1,482 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CliProgram.h"
+
+#include "app/FileTypeCatalogue.h"
+#include "app/SnapshotKeys.h"
+#include "app/TLogger.h"
+#include "cli/CliOptions.h"
+#include "cli/CliText.h"
+#include "cli/ProjectLoader.h"
+#include "cli/RemovalCommands.h"
+#include "cloud/KvCloudObject.h"
+#include "engine/FilePathCodec.h"
+#include "engine/GroupItemAutoSelector.h"
+#include "engine/PictureStage.h"
+#include "engine/TFileData.h"
+#include "fileops/CloudRemover.h"
+#include "fileops/TOpenSaveThread.h"
+#include "scancontrol/TControlUI.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonObject>
+#include <QLoggingCategory>
+#include <QSet>
+#include <QTimer>
+
+namespace {
+
+using CliText::lineText;
+using CliText::writeJsonList;
+using CliText::writeJsonString;
+
+struct OutputGroup
+{
+    QString key;
+    QString kind;
+    // Members as stored: similar pictures carry their similarity after the path.
+    QStringList files;
+    QStringList selected;
+    // Whole contents compared (false for groups of the sampled and the name mode).
+    bool verified = true;
+};
+
+// A member's real path.
+QString pathOf(const QString &entry)
+{
+    return isSimilarEntry(entry) ? stripSimilarTag(entry) : entry;
+}
+
+QList<OutputGroup> collectGroups()
+{
+    TFileData *store = TFileData::instance();
+    QList<OutputGroup> groups;
+    const TFileData::Groups files = store->groups();
+    const TFileData::Groups selected = store->selected();
+    for (auto it = files.begin(); it != files.end(); ++it) {
+        const bool similar = std::any_of(it.value().begin(), it.value().end(),
+            [](const QString &entry) { return isSimilarEntry(entry); });
+        groups.append(
+            OutputGroup {it.key(), similar ? QStringLiteral("similar") : QStringLiteral("files"),
+                it.value(), selected.value(it.key()),
+                similar || store->groupMatch(it.key()) == TFileData::MatchContent});
+    }
+    const TFileData::DirGroups folders = store->dirGroups();
+    for (auto it = folders.begin(); it != folders.end(); ++it) {
+        OutputGroup group {it.key(), QStringLiteral("folders"), {}, {}};
+        for (const DirGroupEntry &entry : it.value())
+            group.files.append(entry.folderPath);
+        group.selected = selected.value(it.key());
+        groups.append(group);
+    }
+    // A stable order: by kind, then by first member.
+    // Compared in place: a copy of each first member per comparison costs more than the
+    // comparisons themselves on a large report.
+    const auto firstOf = [](const OutputGroup &group) {
+        return group.files.isEmpty() ? QStringView() : QStringView(group.files.constFirst());
+    };
+    std::sort(groups.begin(), groups.end(), [&firstOf](const OutputGroup &a, const OutputGroup &b) {
+        if (a.kind != b.kind)
+            return a.kind < b.kind;
+        return firstOf(a) < firstOf(b);
+    });
+    return groups;
+}
+
+// What a scan could not read, for the report; empty for a saved project.
+struct Unread
+{
+    QStringList folders;
+    QStringList files;
+    QStringList links;
+    qint64 folderCount = 0;
+    qint64 fileCount = 0;
+    qint64 linkCount = 0;
+};
+
+Unread unreadOf(const ScanProblems &problems)
+{
+    return Unread {problems.paths(ScanProblems::UnreadableFolder),
+        problems.paths(ScanProblems::UnreadableFile),
+        problems.paths(ScanProblems::LinkOutsideRoots),
+        problems.count(ScanProblems::UnreadableFolder),
+        problems.count(ScanProblems::UnreadableFile),
+        problems.count(ScanProblems::LinkOutsideRoots)};
+}
+
+// Where a scan's content keys came from; negative when the groups come from no scan (a
+// saved project).
+struct KeySources
+{
+    // Taken from the key cache instead of reading files.
+    qint64 cached = -1;
+    // Read (or taken from the cache) while the walk went on.
+    qint64 overlapped = -1;
+};
+
+void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &groups,
+    const Unread &unread, const KeySources &keys)
+{
+    std::FILE *out = stdout;
+    std::fprintf(out, "{\"scannedFiles\": %lld, \"seconds\": %.3f,",
+        static_cast<long long>(scannedFiles), seconds);
+    if (keys.cached >= 0)
+        std::fprintf(out, " \"cachedKeys\": %lld, \"overlappedKeys\": %lld,",
+            static_cast<long long>(keys.cached), static_cast<long long>(keys.overlapped));
+    std::fprintf(out,
+        " \"unreadableFolderCount\": %lld, \"unreadableFileCount\": %lld,"
+        " \"linksNotFollowedCount\": %lld,",
+        static_cast<long long>(unread.folderCount), static_cast<long long>(unread.fileCount),
+        static_cast<long long>(unread.linkCount));
+    std::fputs("\n \"unreadableFolders\": ", out);
+    writeJsonList(out, unread.folders);
+    std::fputs(",\n \"unreadableFiles\": ", out);
+    writeJsonList(out, unread.files);
+    std::fputs(",\n \"linksNotFollowed\": ", out);
+    writeJsonList(out, unread.links);
+    std::fputs(",\n \"groups\": [", out);
+    for (qsizetype i = 0; i < groups.size(); ++i) {
+        const OutputGroup &group = groups.at(i);
+        std::fputs(i ? ",\n  {\"key\": " : "\n  {\"key\": ", out);
+        writeJsonString(out, group.key);
+        std::fputs(", \"kind\": ", out);
+        writeJsonString(out, group.kind);
+        const bool similar = group.kind == QLatin1String("similar");
+        if (group.kind == QLatin1String("files"))
+            std::fputs(group.verified ? ", \"verified\": true" : ", \"verified\": false", out);
+        std::fputs(", \"files\": ", out);
+        if (similar) {
+            QStringList paths;
+            QStringList percents;
+            for (const QString &entry : group.files) {
+                paths.append(pathOf(entry));
+                percents.append(QString::number(similarityOfEntry(entry)));
+            }
+            writeJsonList(out, paths);
+            std::fprintf(
+                out, ", \"similarity\": [%s]", qPrintable(percents.join(QStringLiteral(", "))));
+            QStringList chosen;
+            for (const QString &entry : group.selected)
+                chosen.append(pathOf(entry));
+            std::fputs(", \"selected\": ", out);
+            writeJsonList(out, chosen);
+        } else {
+            writeJsonList(out, group.files);
+            std::fputs(", \"selected\": ", out);
+            writeJsonList(out, group.selected);
+        }
+        std::fputc('}', out);
+    }
+    std::fputs(groups.isEmpty() ? "]}\n" : "\n]}\n", out);
+}
+
+void printText(const QList<OutputGroup> &groups)
+{
+    for (const OutputGroup &group : groups) {
+        // Looked up per member: a list would cost a large group time in its size squared.
+        const QSet<QString> selected(group.selected.cbegin(), group.selected.cend());
+        for (const QString &path : group.files) {
+            // Similar entries carry their percent as a tag; the text shows the real path
+            // and the percent beside it.
+            const QString file = pathOf(path);
+            const QByteArray bytes = lineText(file);
+            std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+            if (file.size() != path.size())
+                std::fprintf(stdout, "\t[similar %d%%]", similarityOfEntry(path));
+            else if (!group.verified)
+                std::fputs("\t[not verified]", stdout);
+            if (selected.contains(path))
+                std::fputs("\t[selected]", stdout);
+            if (group.kind == QLatin1String("folders"))
+                std::fputs("\t[folder]", stdout);
+            std::fputc('\n', stdout);
+        }
+        std::fputc('\n', stdout);
+    }
+}
+
+// The summary's lines about what was not read, with the first few paths of each kind.
+void printUnread(const Unread &unread, const QString &summary)
+{
+    if (!summary.isEmpty())
+        std::fprintf(stderr, "%s:\n", qPrintable(summary));
+    static constexpr qsizetype kShown = 20;
+    const auto list = [](const char *label, const QStringList &paths, qint64 count) {
+        for (qsizetype i = 0; i < std::min(kShown, paths.size()); ++i)
+            std::fprintf(stderr, "  %s: %s\n", label, lineText(paths.at(i)).constData());
+        if (count > kShown)
+            std::fprintf(stderr, "  ... and %lld more (--json lists up to %d)\n",
+                static_cast<long long>(count - kShown), ScanProblems::kKeptPaths);
+    };
+    list("folder", unread.folders, unread.folderCount);
+    list("file", unread.files, unread.fileCount);
+    if (unread.linkCount > 0) {
+        std::fprintf(stderr, "%lld %s outside the scanned folders not followed:\n",
+            static_cast<long long>(unread.linkCount), unread.linkCount == 1 ? "link" : "links");
+        list("link", unread.links, unread.linkCount);
+    }
+}
+
+void printGroups(const CliOptions &options, qint64 scannedFiles, double seconds,
+    const QList<OutputGroup> &groups, const Unread &unread, const KeySources &keys = {})
+{
+    if (options.json())
+        printJson(scannedFiles, seconds, groups, unread, keys);
+    else
+        printText(groups);
+    std::fflush(stdout);
+}
+
+// The report command: a saved project's groups and selection, read through the same
+// project reader as the window's.
+int runReport(const CliOptions &options)
+{
+    qint64 scanned = 0;
+    QString scanTime;
+    if (const int status = ProjectLoader::load(options.projectPath(), &scanned, &scanTime))
+        return status;
+    const QList<OutputGroup> groups = collectGroups();
+    printGroups(options, scanned, 0.0, groups, Unread());
+    if (!options.json())
+        std::fprintf(stderr, "%lld groups of a scan of %lld files (%s)\n",
+            static_cast<long long>(groups.size()), static_cast<long long>(scanned),
+            qPrintable(scanTime));
+    return 0;
+}
+
+// scan --cloud: the folders of rclone remotes, listed and compared by the service's
+// hashes, reported like a local scan.
+int runCloudScan(const CliOptions &options)
+{
+    KvCloudObject *cloud = KvCloudObject::instance();
+    if (!options.rcloneConfig().isEmpty())
+        cloud->setRcloneSettings({QString(), options.rcloneConfig()});
+    cloud->set_common_config(options.commonConfig());
+    cloud->set_similar_config(options.similarConfig());
+    QString failure;
+    QElapsedTimer timer;
+    timer.start();
+    QEventLoop loop;
+    QObject::connect(cloud, &KvCloudObject::onTraversalFailed,
+        [&failure](const QString &reason) { failure = reason; });
+    QObject::connect(cloud, &KvCloudObject::onFindedDuplicateItem,
+        [](const QHash<QString, QList<QString>> &groups) {
+            TFileData *store = TFileData::instance();
+            for (auto it = groups.begin(); it != groups.end(); ++it)
+                store->insertGroup(it.key(), it.value());
+        });
+    QObject::connect(cloud, &KvCloudObject::onAllComplate, &loop, &QEventLoop::quit);
+    cloud->start_traversal_files(options.cloudFolders(), 20);
+    loop.exec();
+    const double seconds = timer.nsecsElapsed() / 1e9;
+    if (!failure.isEmpty()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n", lineText(failure).constData());
+        return 2;
+    }
+    QList<GroupItemAutoSelector::KeyedGroup> keyed;
+    const TFileData::Groups all = TFileData::instance()->groups();
+    for (auto it = all.begin(); it != all.end(); ++it)
+        keyed.append({it.key(), it.value()});
+    // "none" shares the hint of "all" but selects nothing.
+    const QJsonObject duplication = options.duplicationConfig();
+    const int rule = duplication.value(SnapshotKeys::duplicateSelectHint).toInt();
+    if (options.selectAll() || rule != GroupItemAutoSelector::selectAllFiles) {
+        QMap<QString, int> priorities;
+        const QJsonObject map = duplication.value(SnapshotKeys::mapPriority).toObject();
+        for (auto it = map.begin(); it != map.end(); ++it)
+            priorities.insert(it.key(), it.value().toInt());
+        GroupItemAutoSelector::autoSelectAllEx(
+            keyed, rule,
+            [cloud](const QString &entry, const QString &property) {
+                return QVariant(cloud->getCFP(entry, property));
+            },
+            priorities);
+    }
+    const QList<OutputGroup> groups = collectGroups();
+    printGroups(options, cloud->scannedFileCount(), seconds, groups, Unread());
+    if (!options.json() || ::isatty(STDERR_FILENO) != 1)
+        std::fprintf(stderr, "%d files listed, %lld groups, %.3f seconds\n",
+            cloud->scannedFileCount(), static_cast<long long>(groups.size()), seconds);
+    return 0;
+}
+
+} // namespace
+
+int CliProgram::run(int argc, char *argv[])
+{
+#ifdef __GLIBC__
+    // A fixed threshold: the large arrays of a scan (the file table, the keys, the cache's
+    // look-up order) are then mapped on their own and given back when freed. glibc would
+    // otherwise raise the threshold after the first such block and keep the later ones
+    // in its heap, where their room stays with the process until it ends.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+#endif
+    QCoreApplication app(argc, argv);
+    CloudRemover::install();
+    // A report of a large tree runs to tens of megabytes: written in large blocks, not
+    // in the few kilobytes a pipe or file gets by default.
+    static char outputBuffer[1 << 20];
+    if (::isatty(STDOUT_FILENO) != 1)
+        std::setvbuf(stdout, outputBuffer, _IOFBF, sizeof outputBuffer);
+    // Standard error is the command line's own report; the library's debug lines would
+    // only mix into it.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Veltrine"));
+    QCoreApplication::setApplicationName(QStringLiteral("Veltrine Duplicate Finder"));
+
+    CliOptions options;
+    switch (options.parse(app.arguments().mid(1))) {
+    case CliOptions::Help:
+        std::fputs(qPrintable(CliOptions::usage()), stdout);
+        return 0;
+    case CliOptions::BadArguments:
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n\n%s", qPrintable(options.error()),
+            qPrintable(CliOptions::usage()));
+        return 1;
+    case CliOptions::Ok:
+        break;
+    }
+    // The plain build has no picture stage (it starts without loading the picture
+    // libraries): a run that compares pictures continues in the companion beside it, with
+    // the same arguments.
+    if (!PictureStage::available()
+        && options.similarConfig().value(SnapshotKeys::hasSimilar).toBool()) {
+        const QByteArray full = QFile::encodeName(QCoreApplication::applicationDirPath()
+            + QStringLiteral("/" VELTRINE_CLI_PICTURE_BUILD));
+        ::execv(full.constData(), argv);
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: cannot start %s for the picture comparison: %s\n",
+            full.constData(), std::strerror(errno));
+        return 4;
+    }
+    if (!options.logDirectory().isEmpty() && !initLogger(options.logDirectory()))
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the log into %s\n",
+            qPrintable(options.logDirectory()));
+    if (options.command() != CliOptions::Scan) {
+        int status = 0;
+        if (options.command() == CliOptions::Report)
+            status = runReport(options);
+        else if (options.command() == CliOptions::Remove)
+            status = RemovalCommands::remove(options);
+        else
+            status = RemovalCommands::restore(options);
+        splog_flush_repeated();
+        shutdownLogger();
+        return status;
+    }
+    if (!options.cloudFolders().isEmpty()) {
+        const int status = runCloudScan(options);
+        splog_flush_repeated();
+        shutdownLogger();
+        return status;
+    }
+    QStringList roots;
+    for (const QString &folder : options.folders()) {
+        const QFileInfo info(folder);
+        if (!info.isDir()) {
+            std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s: %s\n",
+                lineText(folder).constData(),
+                info.exists() ? "is a file, not a folder" : "no such folder");
+            return 2;
+        }
+        roots.append(QDir::cleanPath(info.absoluteFilePath()));
+    }
+
+    TControlUI controller;
+    if (!options.useCache())
+        controller.finder()->setCacheOptions(ContentKeyCache::Options {});
+    controller.setOverlappedReading(options.overlapsReading());
+    // The members' stamps serve removals and saved projects only.
+    controller.finder()->setKeepsStamps(!options.savePath().isEmpty());
+    QTimer progressTimer;
+    const bool terminal = ::isatty(STDERR_FILENO) == 1;
+    double percent = 0.0;
+    if (terminal) {
+        QObject::connect(
+            &controller, &TControlUI::processChange, [&percent](double value) { percent = value; });
+        QObject::connect(&progressTimer, &QTimer::timeout, [&] {
+            std::fprintf(stderr, "\r%d files scanned, %5.1f%%, elapsed %s   ",
+                controller.scannedFileCount(), percent,
+                qPrintable(TControlUI::formatSeconds(qint64(controller.elapsedSeconds()))));
+            std::fflush(stderr);
+        });
+        progressTimer.start(250);
+    }
+    QEventLoop loop;
+    QObject::connect(&controller, &TControlUI::onAllComplate, &loop, &QEventLoop::quit);
+    const QString refused = controller.startScan(
+        roots, options.commonConfig(), options.duplicationConfig(), options.similarConfig());
+    if (!refused.isEmpty()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n", qPrintable(refused));
+        return 1;
+    }
+    loop.exec();
+    progressTimer.stop();
+    const double seconds = controller.elapsedSeconds();
+    if (terminal)
+        std::fprintf(stderr, "\r%d files scanned, 100.0%%, elapsed %s   \n",
+            controller.scannedFileCount(), qPrintable(TControlUI::formatSeconds(qint64(seconds))));
+    if (ContentKeyCache::busyGiveUps() > 0)
+        std::fprintf(stderr,
+            "veltrine-duplicate-finder-cli: the key cache was busy; the scan went on without it\n");
+
+    if (options.selectAll()) {
+        QList<GroupItemAutoSelector::KeyedGroup> groups;
+        const TFileData::Groups all = TFileData::instance()->groups();
+        for (auto it = all.begin(); it != all.end(); ++it)
+            groups.append({it.key(), it.value()});
+        GroupItemAutoSelector::autoSelectAllEx(groups, GroupItemAutoSelector::selectAllFiles);
+    }
+
+    const QList<OutputGroup> groups = collectGroups();
+    const Unread unread = unreadOf(controller.problems());
+    printGroups(options, controller.scannedFileCount(), seconds, groups, unread,
+        KeySources {controller.finder()->keysFromCache(), controller.finder()->overlappedKeys()});
+
+    int status = 0;
+    if (!options.savePath().isEmpty()) {
+        int flag = -1;
+        QEventLoop saveLoop;
+        TOpenSaveThread writer;
+        QObject::connect(&writer, &TOpenSaveThread::saveComplated, &saveLoop, [&](int result) {
+            flag = result;
+            saveLoop.quit();
+        });
+        if (writer.saveProject(options.savePath(), controller.scannedFileCount(),
+                TControlUI::formatSeconds(qint64(seconds)))) {
+            saveLoop.exec();
+            writer.wait();
+        }
+        if (flag != TOpenSaveThread::ProjectSucceeded) {
+            std::fprintf(stderr, "veltrine-duplicate-finder-cli: the project was not saved: %s\n",
+                qPrintable(TOpenSaveThread::resultText(flag)));
+            status = 3;
+        }
+    }
+    if (!terminal || !options.json()) {
+        printUnread(unread, controller.problems().unreadableSummary());
+        if (controller.problems().allRootsUnreadable())
+            std::fprintf(stderr, "None of the folders could be read: nothing was compared.\n");
+        std::fprintf(stderr, "%d files scanned, %lld groups, %.3f seconds\n",
+            controller.scannedFileCount(), static_cast<long long>(groups.size()), seconds);
+    }
+    splog_flush_repeated();
+    shutdownLogger();
+    // Nothing compared is no all-clear.
+    if (status == 0 && controller.problems().allRootsUnreadable())
+        status = 2;
+    return status;
+}
