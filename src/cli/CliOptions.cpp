@@ -1,36 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliOptions.h"
 
-#include "app/SnapshotKeys.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/DFGenernalPreferences.h"
+#include "preferences/DFIgnoreListPreferences.h"
+#include "preferences/DFSelectionPreferences.h"
+#include "preferences/SettingsTable.h"
 
 #include <cmath>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QThread>
 
 namespace {
 
-const QMap<QString, int> &methods()
+// The words of a choice setting, as the options take them.
+QMap<QString, int> wordsOf(const SettingsTable::Setting &setting)
 {
-    static const QMap<QString, int> map {{"sampled", 0}, {"name", 1}, {"full", 2}};
+    QMap<QString, int> map;
+    for (const SettingsTable::Word &word : SettingsTable::choices(setting))
+        map.insert(QString::fromLatin1(word.word), word.value);
     return map;
 }
 
-// "all" and "none" have no hint of their own: both run the finder without a selection.
+const QMap<QString, int> &methods()
+{
+    static const QMap<QString, int> map = wordsOf(SettingsTable::scanMethod);
+    return map;
+}
+
+// "all" has no hint of its own: like "none" it runs the finder without a selection, and
+// then every member is selected.
 const QMap<QString, int> &selections()
 {
-    static const QMap<QString, int> map {{"newest", 0}, {"oldest", 1}, {"filename", 2},
-        {"priority", 3}, {"high-res", 4}, {"low-res", 5}, {"high-quality", 6}, {"low-quality", 7},
-        {"all", 8}, {"none", 8}};
+    static const QMap<QString, int> map = [] {
+        QMap<QString, int> words = wordsOf(SettingsTable::selectDuplicate);
+        words.insert(QStringLiteral("all"), words.value(QStringLiteral("none")));
+        return words;
+    }();
     return map;
 }
 
 const QMap<QString, int> &algorithms()
 {
-    static const QMap<QString, int> map {{"smart", 0}, {"histogram", 1}, {"phash", 2}};
+    static const QMap<QString, int> map = wordsOf(SettingsTable::algorithmHint);
     return map;
 }
 
@@ -157,23 +170,23 @@ QString CliOptions::usage()
         "             (each listed with its reason on standard error), 6 the removal\n"
         "             journal could not be written (nothing more was removed), 130 or\n"
         "             143 remove stopped by SIGINT or SIGTERM\n")
-        .arg(PreferenceRanges::MinFileSize.minimum)
-        .arg(PreferenceRanges::MinFileSize.maximum)
-        .arg(PreferenceRanges::MaxFileSize.minimum)
-        .arg(PreferenceRanges::MaxFileSize.maximum)
-        .arg(PreferenceRanges::SimilarityValue.minimum)
-        .arg(PreferenceRanges::SimilarityValue.maximum)
-        .arg(PreferenceRanges::FeaturesValue.minimum)
-        .arg(PreferenceRanges::FeaturesValue.maximum)
-        .arg(PreferenceRanges::SimilarityValue.byDefault)
-        .arg(PreferenceRanges::FeaturesValue.byDefault);
+        .arg(SettingsTable::MinFileSize.minimum)
+        .arg(SettingsTable::MinFileSize.maximum)
+        .arg(SettingsTable::MaxFileSize.minimum)
+        .arg(SettingsTable::MaxFileSize.maximum)
+        .arg(SettingsTable::SimilarityValue.minimum)
+        .arg(SettingsTable::SimilarityValue.maximum)
+        .arg(SettingsTable::FeaturesValue.minimum)
+        .arg(SettingsTable::FeaturesValue.maximum)
+        .arg(SettingsTable::SimilarityValue.byDefault)
+        .arg(SettingsTable::FeaturesValue.byDefault);
 }
 
 bool CliOptions::checkSizes()
 {
     // The sizes are used in bytes; the ranges keep them within a signed 64-bit count, and
     // a minimum not below the maximum would let no file through.
-    using namespace PreferenceRanges;
+    using namespace SettingsTable;
     if (!MinFileSize.contains(m_minSizeKb)) {
         m_error = QStringLiteral("--min-size needs a number from %1 to %2 (KiB), not %3")
                       .arg(MinFileSize.minimum)
@@ -215,8 +228,8 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
             m_logDirectory = arguments.at(++i);
         } else if (removing && argument == QLatin1String("--method") && hasValue) {
             const QString value = arguments.at(++i);
-            static const QStringList names {"trash", "permanent", "move"};
-            m_removalMethod = int(names.indexOf(value));
+            static const QMap<QString, int> names = wordsOf(SettingsTable::RemovealMethod);
+            m_removalMethod = names.value(value, -1);
             if (m_removalMethod < 0) {
                 m_error = QStringLiteral("unknown removal method \"%1\" (trash, permanent or move)")
                               .arg(value);
@@ -307,7 +320,7 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             value = arguments.at(++i);
             return true;
         };
-        const auto takePercent = [&](double &target, const PreferenceRanges::Range &range) {
+        const auto takePercent = [&](double &target, const SettingsTable::Setting &range) {
             if (!takeValue())
                 return false;
             bool ok = false;
@@ -398,10 +411,10 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
         } else if (name == QLatin1String("--similar") && !inlineValue) {
             m_similar = true;
         } else if (name == QLatin1String("--threshold")) {
-            if (!takePercent(m_threshold, PreferenceRanges::SimilarityValue))
+            if (!takePercent(m_threshold, SettingsTable::SimilarityValue))
                 return BadArguments;
         } else if (name == QLatin1String("--features")) {
-            if (!takePercent(m_features, PreferenceRanges::FeaturesValue))
+            if (!takePercent(m_features, SettingsTable::FeaturesValue))
                 return BadArguments;
         } else if (name == QLatin1String("--algorithm")) {
             if (!takeValue())
@@ -472,52 +485,50 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
     return checkSizes() ? Ok : BadArguments;
 }
 
+// The snapshots are those of a new settings file with the options put in: the user's own
+// settings never change what a command does.
 QJsonObject CliOptions::commonConfig() const
 {
-    return QJsonObject {
-        {SnapshotKeys::minFileSize, m_minSizeKb},
-        {SnapshotKeys::maxFileSize, m_maxSizeMb},
-        {SnapshotKeys::ignoreSystemHidden, !m_includeHidden},
-        {"IgnoreBundle", false},
-        // 0: the only-list governs; 1: the ignore list governs.
-        {SnapshotKeys::scanFileType, m_ignore.isEmpty() ? 0 : 1},
-        {"ThreadCount", std::max(2, QThread::idealThreadCount())},
-        {"TrashFolder", QString()},
-        {"OpenFolder", QString()},
-        {"SaveFolder", QString()},
-        {SnapshotKeys::ignorePathFile, toArray(m_ignorePaths)},
-        {SnapshotKeys::ignoreFileType, toArray(m_ignore)},
-        {SnapshotKeys::onlyFileType, toArray(m_only)},
-    };
+    using namespace SettingsTable;
+    QJsonObject json = DFIgnoreListPreferences().toJson();
+    json.insert(MinFileSize.snapshotKey, m_minSizeKb);
+    json.insert(MaxFileSize.snapshotKey, m_maxSizeMb);
+    json.insert(HideSystemFile.snapshotKey, !m_includeHidden);
+    // 0: the only-list governs; 1: the ignore list governs.
+    json.insert(ScanFileType.snapshotKey, m_ignore.isEmpty() ? 0 : 1);
+    json.insert(IgnorePathFile.snapshotKey, toArray(m_ignorePaths));
+    json.insert(IgnoreFileType.snapshotKey, toArray(m_ignore));
+    json.insert(OnlyFileType.snapshotKey, toArray(m_only));
+    return json;
 }
 
 QJsonObject CliOptions::duplicationConfig() const
 {
+    using namespace SettingsTable;
     QJsonObject priorities;
     for (auto it = m_priorities.begin(); it != m_priorities.end(); ++it)
         priorities.insert(it.key(), it.value());
-    return QJsonObject {
-        {SnapshotKeys::scanMethod, m_method},
-        {SnapshotKeys::duplicateSelectHint, m_selectHint},
-        {"similarSelectHint", m_selectHint},
-        {SnapshotKeys::scanDupDirectory, m_folderGroups},
-        {SnapshotKeys::mapPriority, priorities},
-    };
+    QJsonObject json = DFSelectionPreferences().toJson();
+    json.insert(scanMethod.snapshotKey, m_method);
+    json.insert(selectDuplicate.snapshotKey, m_selectHint);
+    json.insert(similarSelectHint.snapshotKey, m_selectHint);
+    json.insert(scanDupDirectory.snapshotKey, m_folderGroups);
+    json.insert(mapPriority.snapshotKey, priorities);
+    return json;
 }
 
 QJsonObject CliOptions::similarConfig() const
 {
-    return QJsonObject {
-        {SnapshotKeys::hasSimilar, m_similar},
-        {SnapshotKeys::similarityValue, m_threshold},
-        {SnapshotKeys::featuresValue, m_features},
-        {SnapshotKeys::selectedSimilar, m_selectHint != 8},
-        {SnapshotKeys::scanPriority, 1},
-        {SnapshotKeys::selectionHint, m_selectHint},
-        {SnapshotKeys::algorithmHint, m_algorithm},
-        {SnapshotKeys::isAddFeatures, m_addFeatures},
-        {SnapshotKeys::isImageType, m_sameType},
-        {SnapshotKeys::isImageSize, m_sameRatio},
-        {SnapshotKeys::imageMinSize, int(PreferenceRanges::imageMinSize.byDefault)},
-    };
+    using namespace SettingsTable;
+    QJsonObject json = DFGenernalPreferences().toJson();
+    json.insert(hasSimilar.snapshotKey, m_similar);
+    json.insert(SimilarityValue.snapshotKey, m_threshold);
+    json.insert(FeaturesValue.snapshotKey, m_features);
+    json.insert(selectedSimilar.snapshotKey, m_selectHint != DFSelectionPreferences::NoSelected);
+    json.insert(selectionHint.snapshotKey, m_selectHint);
+    json.insert(algorithmHint.snapshotKey, m_algorithm);
+    json.insert(isAddFeatures.snapshotKey, m_addFeatures);
+    json.insert(isImageType.snapshotKey, m_sameType);
+    json.insert(isImageSize.snapshotKey, m_sameRatio);
+    return json;
 }

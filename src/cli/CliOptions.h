@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <QJsonObject>
 #include <QMap>
@@ -75,24 +75,25 @@ private:
     QStringList m_cloudFolders;
     QString m_rcloneConfig;
     // The whole content by default: groups are real duplicates unless asked otherwise.
-    int m_method = 2;
-    int m_selectHint = 2;
+    int m_method = int(SettingsTable::scanMethod.byDefault);
+    int m_selectHint = int(SettingsTable::selectDuplicate.byDefault);
     bool m_selectAll = false;
     bool m_folderGroups = false;
     bool m_includeHidden = false;
     bool m_similar = false;
-    // Similar-picture settings; any of their options turns the similar search on.
-    double m_threshold = double(PreferenceRanges::SimilarityValue.byDefault);
-    double m_features = double(PreferenceRanges::FeaturesValue.byDefault);
-    int m_algorithm = 0;
-    bool m_addFeatures = true;
-    bool m_sameType = true;
-    bool m_sameRatio = true;
+    // Similar-picture settings; any of their options turns the similar search on (a
+    // plain scan compares no pictures).
+    double m_threshold = double(SettingsTable::SimilarityValue.byDefault);
+    double m_features = double(SettingsTable::FeaturesValue.byDefault);
+    int m_algorithm = int(SettingsTable::algorithmHint.byDefault);
+    bool m_addFeatures = SettingsTable::isAddFeatures.byDefault != 0;
+    bool m_sameType = SettingsTable::isImageType.byDefault != 0;
+    bool m_sameRatio = SettingsTable::isImageSize.byDefault != 0;
     bool m_json = false;
     bool m_useCache = true;
     bool m_overlapped = true;
-    double m_minSizeKb = 0;
-    double m_maxSizeMb = double(PreferenceRanges::MaxFileSize.byDefault);
+    double m_minSizeKb = double(SettingsTable::MinFileSize.byDefault);
+    double m_maxSizeMb = double(SettingsTable::MaxFileSize.byDefault);
     QStringList m_only;
     QStringList m_ignore;
     QStringList m_ignorePaths;

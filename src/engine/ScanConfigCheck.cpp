@@ -2,7 +2,7 @@
 #include "engine/ScanConfigCheck.h"
 
 #include "app/SnapshotKeys.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <cmath>
 
@@ -24,16 +24,16 @@ QString shown(const QJsonValue &value)
     return QLatin1Char('"') + value.toVariant().toString() + QLatin1Char('"');
 }
 
-bool inRange(const QJsonValue &value, const PreferenceRanges::Range &range)
+bool inRange(const QJsonValue &value, const SettingsTable::Setting &range)
 {
     return value.isDouble() && std::isfinite(value.toDouble()) && range.contains(value.toDouble());
 }
 
 // Appends the sentence when the key is present and its value is outside the range.
-void check(const QJsonObject &snapshot, const PreferenceRanges::Range &range, const char *text,
+void check(const QJsonObject &snapshot, const SettingsTable::Setting &range, const char *text,
     QStringList &out)
 {
-    const QJsonValue value = snapshot.value(QLatin1String(range.key));
+    const QJsonValue value = snapshot.value(range.snapshotKey);
     if (value.isUndefined() || inRange(value, range))
         return;
     out.append(translated(text).arg(shown(value)).arg(range.minimum).arg(range.maximum));
@@ -43,7 +43,7 @@ void check(const QJsonObject &snapshot, const PreferenceRanges::Range &range, co
 
 QStringList ScanConfigCheck::problems(const QJsonObject &common, const QJsonObject &similar)
 {
-    using namespace PreferenceRanges;
+    using namespace SettingsTable;
     QStringList out;
     check(common, MinFileSize,
         QT_TRANSLATE_NOOP("ScanConfigCheck", "The minimum file size %1 KB is outside %2 to %3 KB."),
@@ -53,9 +53,9 @@ QStringList ScanConfigCheck::problems(const QJsonObject &common, const QJsonObje
         out);
     if (out.isEmpty()) {
         const double minimum
-            = common.value(QLatin1String(MinFileSize.key)).toDouble(double(MinFileSize.minimum));
+            = common.value(MinFileSize.snapshotKey).toDouble(double(MinFileSize.minimum));
         const double maximum
-            = common.value(QLatin1String(MaxFileSize.key)).toDouble(double(MaxFileSize.maximum));
+            = common.value(MaxFileSize.snapshotKey).toDouble(double(MaxFileSize.maximum));
         if (!sizeBoundsValid(minimum, maximum))
             out.append(translated(
                 QT_TRANSLATE_NOOP("ScanConfigCheck",

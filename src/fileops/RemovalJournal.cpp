@@ -4,6 +4,7 @@
 #include "app/DataDirectory.h"
 #include "engine/FilePathCodec.h"
 #include "fileops/TFileDeleter.h"
+#include "preferences/SettingsTable.h"
 
 #include <utility>
 
@@ -191,14 +192,11 @@ QString RemovalJournal::defaultPath()
 
 QString RemovalJournal::methodName(int method)
 {
-    switch (method) {
-    case TFileDeleter::removePermanently:
-        return QStringLiteral("permanent");
-    case TFileDeleter::moveToFolder:
-        return QStringLiteral("move");
-    default:
-        return QStringLiteral("trash");
-    }
+    // The words of the command line's --method.
+    const char *word = SettingsTable::wordOf(SettingsTable::RemovealMethod, method);
+    return QLatin1String(word
+            ? word
+            : SettingsTable::wordOf(SettingsTable::RemovealMethod, TFileDeleter::moveToTrash));
 }
 
 qsizetype RemovalJournal::Batch::restorableCount() const

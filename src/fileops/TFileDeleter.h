@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/DeleteResult.h"
+#include "preferences/DFIgnoreListPreferences.h"
 
 #include <QString>
 
@@ -12,7 +13,11 @@
 class TFileDeleter
 {
 public:
-    enum Method : int { moveToTrash = 0, removePermanently = 1, moveToFolder = 2 };
+    // The removal methods of the settings, under the names this class has always used.
+    using Method = DFIgnoreListPreferences::DFRemovalMethod;
+    static constexpr Method moveToTrash = DFIgnoreListPreferences::moveToTrash;
+    static constexpr Method removePermanently = DFIgnoreListPreferences::removePermanently;
+    static constexpr Method moveToFolder = DFIgnoreListPreferences::moveToFolder;
 
     // recordedPath: where the item belongs when it is at path only under a private name for
     // the act; the trash and the target folder take its name from there (empty: path).

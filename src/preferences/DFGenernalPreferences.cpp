@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFGenernalPreferences.h"
 
-#include "app/SnapshotKeys.h"
-
 DFGenernalPreferences::DFGenernalPreferences(QObject *parent) : QObject(parent) { }
 
 DFGenernalPreferences::DFGenernalPreferences(const DFGenernalPreferences &other) : QObject(nullptr)
@@ -31,17 +29,5 @@ DFGenernalPreferences &DFGenernalPreferences::operator=(const DFGenernalPreferen
 
 QJsonObject DFGenernalPreferences::toJson() const
 {
-    QJsonObject json;
-    json.insert(SnapshotKeys::hasSimilar, m_hasSimilar);
-    json.insert(SnapshotKeys::similarityValue, SimilarityValue());
-    json.insert(SnapshotKeys::featuresValue, FeaturesValue());
-    json.insert(SnapshotKeys::selectedSimilar, m_selectedSimilar);
-    json.insert(SnapshotKeys::scanPriority, static_cast<int>(m_scanPriority));
-    json.insert(SnapshotKeys::selectionHint, static_cast<int>(m_selectionHint));
-    json.insert(SnapshotKeys::algorithmHint, static_cast<int>(m_algorithmHint));
-    json.insert(SnapshotKeys::isAddFeatures, m_isAddFeatures);
-    json.insert(SnapshotKeys::isImageType, m_isImageType);
-    json.insert(SnapshotKeys::isImageSize, m_isImageSize);
-    json.insert(SnapshotKeys::imageMinSize, m_imageMinSize);
-    return json;
+    return SettingsTable::snapshotOf(*this, SettingsTable::Group::Similar);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "preferences/DFSelectionPreferences.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <QJsonObject>
 #include <QObject>
@@ -69,15 +69,17 @@ public:
     void setImageMinSize(int value) { m_imageMinSize = value; }
 
 private:
-    bool m_hasSimilar = true;
-    float m_similarityValue = float(PreferenceRanges::SimilarityValue.byDefault);
-    float m_featuresValue = float(PreferenceRanges::FeaturesValue.byDefault);
-    bool m_selectedSimilar = false;
-    DFScanPriority m_scanPriority = scanResult;
-    DFSelectionPreferences::DFSelectionHint m_selectionHint = DFSelectionPreferences::autoSelect;
-    DFSelectionPreferences::DFAlgorithmsHint m_algorithmHint = DFSelectionPreferences::rbSmart;
-    bool m_isAddFeatures = true;
-    bool m_isImageType = true;
-    bool m_isImageSize = true;
-    int m_imageMinSize = int(PreferenceRanges::imageMinSize.byDefault);
+    bool m_hasSimilar = SettingsTable::hasSimilar.byDefault != 0;
+    float m_similarityValue = float(SettingsTable::SimilarityValue.byDefault);
+    float m_featuresValue = float(SettingsTable::FeaturesValue.byDefault);
+    bool m_selectedSimilar = SettingsTable::selectedSimilar.byDefault != 0;
+    DFScanPriority m_scanPriority = DFScanPriority(SettingsTable::scanPriority.byDefault);
+    DFSelectionPreferences::DFSelectionHint m_selectionHint
+        = DFSelectionPreferences::DFSelectionHint(SettingsTable::selectionHint.byDefault);
+    DFSelectionPreferences::DFAlgorithmsHint m_algorithmHint
+        = DFSelectionPreferences::DFAlgorithmsHint(SettingsTable::algorithmHint.byDefault);
+    bool m_isAddFeatures = SettingsTable::isAddFeatures.byDefault != 0;
+    bool m_isImageType = SettingsTable::isImageType.byDefault != 0;
+    bool m_isImageSize = SettingsTable::isImageSize.byDefault != 0;
+    int m_imageMinSize = int(SettingsTable::imageMinSize.byDefault);
 };

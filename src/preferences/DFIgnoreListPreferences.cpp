@@ -1,14 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFIgnoreListPreferences.h"
 
-#include "app/SnapshotKeys.h"
-#include "preferences/PreferenceRanges.h"
-
-#include <algorithm>
-
-#include <QJsonArray>
-#include <QThread>
-
 DFIgnoreListPreferences::DFIgnoreListPreferences(QObject *parent) : QObject(parent)
 {
     resetDefaults();
@@ -44,31 +36,17 @@ DFIgnoreListPreferences &DFIgnoreListPreferences::operator=(const DFIgnoreListPr
 
 void DFIgnoreListPreferences::resetDefaults()
 {
-    m_hideSystemFile = true;
-    m_ignoreBundle = false;
-    m_scanFileType = 0;
-    m_minFileSize = quint64(PreferenceRanges::MinFileSize.byDefault);
-    m_removealMethod = moveToTrash;
-    m_maxFileSize = quint64(PreferenceRanges::MaxFileSize.byDefault);
-    // A single-core machine still gets two workers so that waiting on the disk and
-    // hashing can overlap.
-    m_threadCount = std::max(2, QThread::idealThreadCount());
+    namespace Table = SettingsTable;
+    m_hideSystemFile = Table::HideSystemFile.byDefault != 0;
+    m_ignoreBundle = Table::IgnoreBundle.byDefault != 0;
+    m_scanFileType = int(Table::ScanFileType.byDefault);
+    m_minFileSize = quint64(Table::MinFileSize.byDefault);
+    m_removealMethod = DFRemovalMethod(Table::RemovealMethod.byDefault);
+    m_maxFileSize = quint64(Table::MaxFileSize.byDefault);
+    m_threadCount = Table::defaultThreadCount();
 }
 
 QJsonObject DFIgnoreListPreferences::toJson() const
 {
-    QJsonObject json;
-    json.insert(SnapshotKeys::maxFileSize, static_cast<double>(m_maxFileSize));
-    json.insert(SnapshotKeys::minFileSize, static_cast<double>(m_minFileSize));
-    json.insert(SnapshotKeys::ignoreSystemHidden, m_hideSystemFile);
-    json.insert(QStringLiteral("IgnoreBundle"), m_ignoreBundle);
-    json.insert(SnapshotKeys::scanFileType, m_scanFileType);
-    json.insert(QStringLiteral("ThreadCount"), m_threadCount);
-    json.insert(QStringLiteral("TrashFolder"), m_trashFolder);
-    json.insert(QStringLiteral("OpenFolder"), m_openFolder);
-    json.insert(QStringLiteral("SaveFolder"), m_saveFolder);
-    json.insert(SnapshotKeys::ignorePathFile, QJsonArray::fromStringList(m_ignorePathFile));
-    json.insert(SnapshotKeys::ignoreFileType, QJsonArray::fromStringList(m_ignoreFileType));
-    json.insert(SnapshotKeys::onlyFileType, QJsonArray::fromStringList(m_onlyFileType));
-    return json;
+    return SettingsTable::snapshotOf(*this, SettingsTable::Group::Common);
 }

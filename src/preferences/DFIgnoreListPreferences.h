@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "preferences/SettingsTable.h"
+
 #include <QJsonObject>
 #include <QObject>
 #include <QStringList>
@@ -25,6 +27,7 @@ class DFIgnoreListPreferences : public QObject
     Q_PROPERTY(QString OpenFolder READ OpenFolder WRITE setOpenFolder)
     Q_PROPERTY(QString SaveFolder READ SaveFolder WRITE setSaveFolder)
     Q_PROPERTY(int deleteException READ deleteException WRITE setDeleteException)
+    Q_PROPERTY(bool IgnoreBundle READ IgnoreBundle WRITE setIgnoreBundle STORED false)
 public:
     enum DFRemovalMethod { moveToTrash = 0, removePermanently = 1, moveToFolder = 2 };
     Q_ENUM(DFRemovalMethod)
@@ -67,21 +70,20 @@ public:
     int deleteException() const { return m_deleteException; }
     void setDeleteException(int value) { m_deleteException = value; }
 
-    // Not persisted: carried only by the JSON snapshot.
     bool IgnoreBundle() const { return m_ignoreBundle; }
     void setIgnoreBundle(bool value) { m_ignoreBundle = value; }
 
 private:
-    int m_threadCount = 2;
-    DFRemovalMethod m_removealMethod = moveToTrash;
     // Set by resetDefaults().
+    int m_threadCount = 0;
+    DFRemovalMethod m_removealMethod = moveToTrash;
     quint64 m_maxFileSize = 0;
     quint64 m_minFileSize = 0;
     QString m_trashFolder;
     QStringList m_ignorePathFile;
     QStringList m_ignoreFileType;
     QStringList m_onlyFileType;
-    bool m_hideSystemFile = true;
+    bool m_hideSystemFile = false;
     int m_scanFileType = 0;
     QString m_openFolder;
     QString m_saveFolder;

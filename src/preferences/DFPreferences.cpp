@@ -2,13 +2,12 @@
 #include "preferences/DFPreferences.h"
 
 #include "app/AppIdentity.h"
-#include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "platform/Platform.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <atomic>
 #include <cmath>
@@ -37,7 +36,7 @@ const QString kCommonGroup = QStringLiteral("Common");
 const QString kDuplicateGroup = QStringLiteral("Duplicate_files");
 const QString kSimilarGroup = QStringLiteral("Similar_images");
 const QString kMapGroup = QStringLiteral("map");
-const char *const kMapProperty = SnapshotKeys::mapPriority.data();
+const char *const kMapProperty = SettingsTable::mapPriority.fileKey;
 
 using PriorityMap = QMap<QString, qint32>;
 
@@ -45,10 +44,17 @@ std::atomic<DFPreferences *> s_instance {nullptr};
 std::atomic<QMutex *> s_instanceMutex {nullptr};
 std::once_flag s_mutexCreated;
 
-bool isListProperty(const QString &name)
+bool isListProperty(const char *name)
 {
-    return name == SnapshotKeys::ignorePathFile || name == SnapshotKeys::ignoreFileType
-        || name == SnapshotKeys::onlyFileType;
+    const SettingsTable::Setting *setting = SettingsTable::byFileKey(name);
+    return setting && setting->kind == SettingsTable::Kind::TextList;
+}
+
+// The range of a number setting, or nullptr.
+const SettingsTable::Setting *rangeOf(const char *name)
+{
+    const SettingsTable::Setting *setting = SettingsTable::byFileKey(name);
+    return setting && setting->ranged() ? setting : nullptr;
 }
 
 // The enumerations travel through QVariant by their qualified names; registering the
@@ -113,7 +119,7 @@ Loaded checkedValue(const QMetaProperty &property, const QVariant &raw)
 
     bool whole = false;
     const qint64 number = text.toLongLong(&whole);
-    if (const PreferenceRanges::Range *range = PreferenceRanges::find(property.name())) {
+    if (const SettingsTable::Setting *range = rangeOf(property.name())) {
         bool ok = whole;
         double value = double(number);
         if (!whole)
@@ -207,7 +213,7 @@ void DFPreferences::load()
     corrected += loadGroup(settings, m_general, kSimilarGroup);
 
     const DFIgnoreListPreferences defaults;
-    if (!PreferenceRanges::sizeBoundsValid(
+    if (!SettingsTable::sizeBoundsValid(
             double(m_ignoreList->MinFileSize()), double(m_ignoreList->MaxFileSize()))) {
         splog_d(kTag
             + QStringLiteral("\"MinFileSize\" %1 KB is not below "
@@ -264,10 +270,10 @@ int DFPreferences::loadGroup(QSettings &settings, QObject *group, const QString 
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
         const QString key = QString::fromLatin1(property.name());
-        if (key == QLatin1String(kMapProperty))
+        if (key == QLatin1String(kMapProperty) || !property.isStored())
             continue;
         const QVariant raw = settings.value(key);
-        if (isListProperty(key)) {
+        if (isListProperty(property.name())) {
             group->setProperty(property.name(), raw.toStringList());
             continue;
         }
@@ -320,9 +326,11 @@ void DFPreferences::saveGroup(QSettings &settings, QObject *group, const QString
     settings.beginGroup(name);
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
+        if (!property.isStored())
+            continue;
         const QString key = QString::fromLatin1(property.name());
         const QVariant value = property.read(group);
-        if (isListProperty(key)) {
+        if (isListProperty(property.name())) {
             settings.setValue(key, value.toStringList());
         } else if (key == QLatin1String(kMapProperty)) {
             hasMap = true;

@@ -46,7 +46,7 @@ public:
     // Reflective reader and writer of one group. "Duplicate_files" also reads and writes
     // the top-level "map" section that holds the folder priorities inverted. A stored
     // value that does not fit its setting is logged and replaced: a number outside its
-    // range (PreferenceRanges) by the nearest bound, anything else by the default. Keys
+    // range (SettingsTable) by the nearest bound, anything else by the default. Keys
     // the group does not know stay in the file. Returns how many values were replaced.
     static int loadGroup(QSettings &settings, QObject *group, const QString &name);
     static void saveGroup(QSettings &settings, QObject *group, const QString &name);

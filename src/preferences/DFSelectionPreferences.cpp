@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/DFSelectionPreferences.h"
 
-#include "app/SnapshotKeys.h"
-
 DFSelectionPreferences::DFSelectionPreferences(QObject *parent) : QObject(parent) { }
 
 DFSelectionPreferences::DFSelectionPreferences(const DFSelectionPreferences &other)
@@ -26,15 +24,5 @@ DFSelectionPreferences &DFSelectionPreferences::operator=(const DFSelectionPrefe
 
 QJsonObject DFSelectionPreferences::toJson() const
 {
-    QJsonObject priorities;
-    for (auto it = m_mapPriority.cbegin(); it != m_mapPriority.cend(); ++it)
-        priorities.insert(it.key(), it.value());
-
-    QJsonObject json;
-    json.insert(SnapshotKeys::scanMethod, static_cast<int>(m_scanMethod));
-    json.insert(SnapshotKeys::duplicateSelectHint, static_cast<int>(m_selectDuplicate));
-    json.insert(QStringLiteral("similarSelectHint"), static_cast<int>(m_similarSelectHint));
-    json.insert(SnapshotKeys::scanDupDirectory, m_scanDupDirectory);
-    json.insert(SnapshotKeys::mapPriority, priorities);
-    return json;
+    return SettingsTable::snapshotOf(*this, SettingsTable::Group::Duplicates);
 }

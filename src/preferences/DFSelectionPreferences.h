@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "preferences/SettingsTable.h"
+
 #include <QJsonObject>
 #include <QMap>
 #include <QObject>
@@ -17,6 +19,8 @@ class DFSelectionPreferences : public QObject
     Q_PROPERTY(DFSelectionHint selectDuplicate READ selectDuplicate WRITE setSelectDuplicate)
     Q_PROPERTY(QMap<QString, qint32> mapPriority READ mapPriority WRITE setMapPriority)
     Q_PROPERTY(bool scanDupDirectory READ scanDupDirectory WRITE setScanDupDirectory)
+    Q_PROPERTY(DFSelectionHint similarSelectHint READ similarSelectHint WRITE setSimilarSelectHint
+            STORED false)
 public:
     enum DFScanMethod { scanContent = 0, scanName = 1, scanAllContent = 2 };
     Q_ENUM(DFScanMethod)
@@ -53,16 +57,14 @@ public:
     bool scanDupDirectory() const { return m_scanDupDirectory; }
     void setScanDupDirectory(bool value) { m_scanDupDirectory = value; }
 
-    // Not persisted: carried only by the JSON snapshot.
     DFSelectionHint similarSelectHint() const { return m_similarSelectHint; }
     void setSimilarSelectHint(DFSelectionHint value) { m_similarSelectHint = value; }
 
 private:
-    // A new settings file compares whole contents, so that a group is a real duplicate;
-    // a file that holds another choice keeps it.
-    DFScanMethod m_scanMethod = scanAllContent;
-    DFSelectionHint m_selectDuplicate = autoSelect;
+    DFScanMethod m_scanMethod = DFScanMethod(SettingsTable::scanMethod.byDefault);
+    DFSelectionHint m_selectDuplicate = DFSelectionHint(SettingsTable::selectDuplicate.byDefault);
     QMap<QString, qint32> m_mapPriority;
-    bool m_scanDupDirectory = false;
-    DFSelectionHint m_similarSelectHint = autoSelect;
+    bool m_scanDupDirectory = SettingsTable::scanDupDirectory.byDefault != 0;
+    DFSelectionHint m_similarSelectHint
+        = DFSelectionHint(SettingsTable::similarSelectHint.byDefault);
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settingsdialog/DFGeneralWidget.h"
 
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 #include "ui_Genernal.h"
 
 #include <QGridLayout>
@@ -22,12 +22,12 @@ DFGeneralWidget::DFGeneralWidget(QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::Genernal>())
 {
     ui->setupUi(this);
-    ui->hsSimilarity->setRange(int(PreferenceRanges::SimilarityValue.minimum),
-        int(PreferenceRanges::SimilarityValue.maximum));
+    ui->hsSimilarity->setRange(
+        int(SettingsTable::SimilarityValue.minimum), int(SettingsTable::SimilarityValue.maximum));
     ui->hsFeatures->setRange(
-        int(PreferenceRanges::FeaturesValue.minimum), int(PreferenceRanges::FeaturesValue.maximum));
+        int(SettingsTable::FeaturesValue.minimum), int(SettingsTable::FeaturesValue.maximum));
     ui->sbImageWH->setRange(
-        int(PreferenceRanges::imageMinSize.minimum), int(PreferenceRanges::imageMinSize.maximum));
+        int(SettingsTable::imageMinSize.minimum), int(SettingsTable::imageMinSize.maximum));
     // Each slider shows its range at its two ends.
     for (QSlider *slider : {ui->hsSimilarity, ui->hsFeatures}) {
         auto *grid = qobject_cast<QGridLayout *>(slider->parentWidget()->layout());

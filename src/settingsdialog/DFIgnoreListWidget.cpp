@@ -2,7 +2,7 @@
 #include "settingsdialog/DFIgnoreListWidget.h"
 
 #include "engine/ContentKeyCache.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 #include "settingsdialog/DroppedPaths.h"
 #include "ui_IgnoreList.h"
 
@@ -31,9 +31,9 @@ DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
 {
     ui->setupUi(this);
     ui->sbMinimumFileSize->setRange(
-        int(PreferenceRanges::MinFileSize.minimum), int(PreferenceRanges::MinFileSize.maximum));
+        int(SettingsTable::MinFileSize.minimum), int(SettingsTable::MinFileSize.maximum));
     ui->sbMaximumFileSize->setRange(
-        int(PreferenceRanges::MaxFileSize.minimum), int(PreferenceRanges::MaxFileSize.maximum));
+        int(SettingsTable::MaxFileSize.minimum), int(SettingsTable::MaxFileSize.maximum));
     // Letters, digits and commas only: a dot or a blank in an extension would never match.
     const QRegularExpression extensions(QStringLiteral("[a-zA-Z0-9,]+$"));
     ui->linEditOnly->setValidator(new QRegularExpressionValidator(extensions, this));
@@ -188,7 +188,7 @@ bool DFIgnoreListWidget::validate()
     // Kilobytes against megabytes: equal bounds are refused too, as they leave no room.
     const int minimum = ui->sbMinimumFileSize->value();
     const int maximum = ui->sbMaximumFileSize->value();
-    if (!PreferenceRanges::sizeBoundsValid(minimum, maximum)) {
+    if (!SettingsTable::sizeBoundsValid(minimum, maximum)) {
         QMessageBox::critical(this, tr("Error"),
             tr("The maximum file size cannot be less than the minimum file size."));
         return false;
