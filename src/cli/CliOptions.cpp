@@ -275,6 +275,63 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
     return Ok;
 }
 
+CliOptions::Option::Option(const QStringList &arguments, int &index, QString &error)
+    : m_arguments(arguments), m_index(index), m_error(error)
+{
+    const QString &argument = arguments.at(index);
+    name = argument;
+    const qsizetype equals = argument.indexOf(QLatin1Char('='));
+    if (argument.startsWith(QLatin1String("--")) && equals > 0) {
+        name = argument.left(equals);
+        value = argument.mid(equals + 1);
+        m_inlineValue = true;
+    }
+}
+
+bool CliOptions::Option::takeValue()
+{
+    if (m_inlineValue)
+        return true;
+    if (m_index + 1 >= m_arguments.size()) {
+        m_error = QStringLiteral("%1 needs a value").arg(name);
+        return false;
+    }
+    value = m_arguments.at(++m_index);
+    return true;
+}
+
+bool CliOptions::Option::takeNumber(double &target)
+{
+    if (!takeValue())
+        return false;
+    bool ok = false;
+    const double number = value.toDouble(&ok);
+    if (!ok || !std::isfinite(number) || number < 0) {
+        m_error = QStringLiteral("%1 needs a number of zero or more, not \"%2\"").arg(name, value);
+        return false;
+    }
+    target = number;
+    return true;
+}
+
+bool CliOptions::Option::takePercent(double &target, const SettingsTable::Setting &range)
+{
+    if (!takeValue())
+        return false;
+    bool ok = false;
+    const double number = value.toDouble(&ok);
+    if (!ok || !range.contains(number)) {
+        m_error = QStringLiteral("%1 needs a percent from %2 to %3, not \"%4\"")
+                      .arg(name)
+                      .arg(range.minimum)
+                      .arg(range.maximum)
+                      .arg(value);
+        return false;
+    }
+    target = number;
+    return true;
+}
+
 CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
 {
     if (arguments.isEmpty()) {
@@ -301,167 +358,153 @@ CliOptions::ParseResult CliOptions::parse(const QStringList &arguments)
             optionsEnded = true;
             continue;
         }
-        QString name = argument;
-        QString value;
-        bool inlineValue = false;
-        const qsizetype equals = argument.indexOf(QLatin1Char('='));
-        if (argument.startsWith(QLatin1String("--")) && equals > 0) {
-            name = argument.left(equals);
-            value = argument.mid(equals + 1);
-            inlineValue = true;
-        }
-        const auto takeValue = [&]() -> bool {
-            if (inlineValue)
-                return true;
-            if (i + 1 >= arguments.size()) {
-                m_error = QStringLiteral("%1 needs a value").arg(name);
-                return false;
-            }
-            value = arguments.at(++i);
-            return true;
-        };
-        const auto takePercent = [&](double &target, const SettingsTable::Setting &range) {
-            if (!takeValue())
-                return false;
-            bool ok = false;
-            const double number = value.toDouble(&ok);
-            if (!ok || !range.contains(number)) {
-                m_error = QStringLiteral("%1 needs a percent from %2 to %3, not \"%4\"")
-                              .arg(name)
-                              .arg(range.minimum)
-                              .arg(range.maximum)
-                              .arg(value);
-                return false;
-            }
-            target = number;
-            m_similar = true;
-            return true;
-        };
-        const auto takeNumber = [&](double &target) -> bool {
-            if (!takeValue())
-                return false;
-            bool ok = false;
-            const double number = value.toDouble(&ok);
-            if (!ok || !std::isfinite(number) || number < 0) {
-                m_error = QStringLiteral("%1 needs a number of zero or more, not \"%2\"")
-                              .arg(name, value);
-                return false;
-            }
-            target = number;
-            return true;
-        };
-        if (name == QLatin1String("-h") || name == QLatin1String("--help")) {
+        Option option(arguments, i, m_error);
+        if (option.name == QLatin1String("-h") || option.name == QLatin1String("--help"))
             return Help;
-        } else if (name == QLatin1String("--method")) {
-            if (!takeValue())
-                return BadArguments;
-            if (!methods().contains(value)) {
-                m_error
-                    = QStringLiteral("unknown method \"%1\" (sampled, full or name)").arg(value);
-                return BadArguments;
-            }
-            m_method = methods().value(value);
-        } else if (name == QLatin1String("--select")) {
-            if (!takeValue())
-                return BadArguments;
-            if (!selections().contains(value)) {
-                m_error = QStringLiteral("unknown selection rule \"%1\"").arg(value);
-                return BadArguments;
-            }
-            m_selectHint = selections().value(value);
-            m_selectAll = value == QLatin1String("all");
-        } else if (name == QLatin1String("--priority")) {
-            if (!takeValue())
-                return BadArguments;
-            const qsizetype cut = value.lastIndexOf(QLatin1Char('='));
-            bool ok = false;
-            const int priority = cut > 0 ? value.mid(cut + 1).toInt(&ok) : 0;
-            if (!ok) {
-                m_error = QStringLiteral("--priority needs FOLDER=NUMBER, not \"%1\"").arg(value);
-                return BadArguments;
-            }
-            m_priorities.insert(
-                QDir::cleanPath(QFileInfo(value.left(cut)).absoluteFilePath()), priority);
-        } else if (name == QLatin1String("--min-size")) {
-            if (!takeNumber(m_minSizeKb))
-                return BadArguments;
-        } else if (name == QLatin1String("--max-size")) {
-            if (!takeNumber(m_maxSizeMb))
-                return BadArguments;
-        } else if (name == QLatin1String("--only")) {
-            if (!takeValue())
-                return BadArguments;
-            m_only = extensionList(value);
-        } else if (name == QLatin1String("--ignore")) {
-            if (!takeValue())
-                return BadArguments;
-            m_ignore = extensionList(value);
-        } else if (name == QLatin1String("--ignore-path")) {
-            if (!takeValue())
-                return BadArguments;
-            m_ignorePaths.append(QDir::cleanPath(QFileInfo(value).absoluteFilePath()));
-        } else if (name == QLatin1String("--include-hidden") && !inlineValue) {
-            m_includeHidden = true;
-        } else if (name == QLatin1String("--no-cache") && !inlineValue) {
-            m_useCache = false;
-        } else if (name == QLatin1String("--no-overlap") && !inlineValue) {
-            m_overlapped = false;
-        } else if (name == QLatin1String("--folders") && !inlineValue) {
-            m_folderGroups = true;
-        } else if (name == QLatin1String("--similar") && !inlineValue) {
-            m_similar = true;
-        } else if (name == QLatin1String("--threshold")) {
-            if (!takePercent(m_threshold, SettingsTable::SimilarityValue))
-                return BadArguments;
-        } else if (name == QLatin1String("--features")) {
-            if (!takePercent(m_features, SettingsTable::FeaturesValue))
-                return BadArguments;
-        } else if (name == QLatin1String("--algorithm")) {
-            if (!takeValue())
-                return BadArguments;
-            if (!algorithms().contains(value)) {
-                m_error = QStringLiteral("unknown algorithm \"%1\" (smart, histogram or phash)")
-                              .arg(value);
-                return BadArguments;
-            }
-            m_algorithm = algorithms().value(value);
-            m_similar = true;
-        } else if (name == QLatin1String("--no-features") && !inlineValue) {
-            m_addFeatures = false;
-            m_similar = true;
-        } else if (name == QLatin1String("--any-type") && !inlineValue) {
-            m_sameType = false;
-            m_similar = true;
-        } else if (name == QLatin1String("--any-ratio") && !inlineValue) {
-            m_sameRatio = false;
-            m_similar = true;
-        } else if (name == QLatin1String("--json") && !inlineValue) {
-            m_json = true;
-        } else if (name == QLatin1String("--save")) {
-            if (!takeValue())
-                return BadArguments;
-            m_savePath = value;
-        } else if (name == QLatin1String("--log-dir")) {
-            if (!takeValue())
-                return BadArguments;
-            m_logDirectory = value;
-        } else if (name == QLatin1String("--cloud")) {
-            if (!takeValue())
-                return BadArguments;
-            if (!value.contains(QLatin1Char(':'))) {
-                m_error = QStringLiteral("--cloud needs REMOTE:PATH, not \"%1\"").arg(value);
-                return BadArguments;
-            }
-            m_cloudFolders.append(value);
-        } else if (name == QLatin1String("--rclone-config")) {
-            if (!takeValue())
-                return BadArguments;
-            m_rcloneConfig = QFileInfo(value).absoluteFilePath();
-        } else {
+        Taken taken = takeScanOption(option);
+        if (taken == NotMine)
+            taken = takeSimilarOption(option);
+        if (taken == NotMine)
+            taken = takeOutputOption(option);
+        if (taken == NotMine)
             m_error = QStringLiteral("unknown option \"%1\"").arg(argument);
+        if (taken != Done)
             return BadArguments;
-        }
     }
+    return checkScanOptions();
+}
+
+CliOptions::Taken CliOptions::takeScanOption(Option &option)
+{
+    const QString &name = option.name;
+    if (name == QLatin1String("--method")) {
+        if (!option.takeValue())
+            return Failed;
+        if (!methods().contains(option.value)) {
+            m_error
+                = QStringLiteral("unknown method \"%1\" (sampled, full or name)").arg(option.value);
+            return Failed;
+        }
+        m_method = methods().value(option.value);
+    } else if (name == QLatin1String("--select")) {
+        if (!option.takeValue())
+            return Failed;
+        if (!selections().contains(option.value)) {
+            m_error = QStringLiteral("unknown selection rule \"%1\"").arg(option.value);
+            return Failed;
+        }
+        m_selectHint = selections().value(option.value);
+        m_selectAll = option.value == QLatin1String("all");
+    } else if (name == QLatin1String("--priority")) {
+        if (!option.takeValue())
+            return Failed;
+        const QString &value = option.value;
+        const qsizetype cut = value.lastIndexOf(QLatin1Char('='));
+        bool ok = false;
+        const int priority = cut > 0 ? value.mid(cut + 1).toInt(&ok) : 0;
+        if (!ok) {
+            m_error = QStringLiteral("--priority needs FOLDER=NUMBER, not \"%1\"").arg(value);
+            return Failed;
+        }
+        m_priorities.insert(
+            QDir::cleanPath(QFileInfo(value.left(cut)).absoluteFilePath()), priority);
+    } else if (name == QLatin1String("--min-size")) {
+        return option.takeNumber(m_minSizeKb) ? Done : Failed;
+    } else if (name == QLatin1String("--max-size")) {
+        return option.takeNumber(m_maxSizeMb) ? Done : Failed;
+    } else if (name == QLatin1String("--only")) {
+        if (!option.takeValue())
+            return Failed;
+        m_only = extensionList(option.value);
+    } else if (name == QLatin1String("--ignore")) {
+        if (!option.takeValue())
+            return Failed;
+        m_ignore = extensionList(option.value);
+    } else if (name == QLatin1String("--ignore-path")) {
+        if (!option.takeValue())
+            return Failed;
+        m_ignorePaths.append(QDir::cleanPath(QFileInfo(option.value).absoluteFilePath()));
+    } else if (name == QLatin1String("--include-hidden") && option.isFlag()) {
+        m_includeHidden = true;
+    } else if (name == QLatin1String("--folders") && option.isFlag()) {
+        m_folderGroups = true;
+    } else {
+        return NotMine;
+    }
+    return Done;
+}
+
+CliOptions::Taken CliOptions::takeSimilarOption(Option &option)
+{
+    // Each of these asks for the similar-picture search.
+    const QString &name = option.name;
+    if (name == QLatin1String("--similar") && option.isFlag()) {
+        // Nothing besides asking for the search.
+    } else if (name == QLatin1String("--threshold")) {
+        if (!option.takePercent(m_threshold, SettingsTable::SimilarityValue))
+            return Failed;
+    } else if (name == QLatin1String("--features")) {
+        if (!option.takePercent(m_features, SettingsTable::FeaturesValue))
+            return Failed;
+    } else if (name == QLatin1String("--algorithm")) {
+        if (!option.takeValue())
+            return Failed;
+        if (!algorithms().contains(option.value)) {
+            m_error = QStringLiteral("unknown algorithm \"%1\" (smart, histogram or phash)")
+                          .arg(option.value);
+            return Failed;
+        }
+        m_algorithm = algorithms().value(option.value);
+    } else if (name == QLatin1String("--no-features") && option.isFlag()) {
+        m_addFeatures = false;
+    } else if (name == QLatin1String("--any-type") && option.isFlag()) {
+        m_sameType = false;
+    } else if (name == QLatin1String("--any-ratio") && option.isFlag()) {
+        m_sameRatio = false;
+    } else {
+        return NotMine;
+    }
+    m_similar = true;
+    return Done;
+}
+
+CliOptions::Taken CliOptions::takeOutputOption(Option &option)
+{
+    const QString &name = option.name;
+    if (name == QLatin1String("--no-cache") && option.isFlag()) {
+        m_useCache = false;
+    } else if (name == QLatin1String("--no-overlap") && option.isFlag()) {
+        m_overlapped = false;
+    } else if (name == QLatin1String("--json") && option.isFlag()) {
+        m_json = true;
+    } else if (name == QLatin1String("--save")) {
+        if (!option.takeValue())
+            return Failed;
+        m_savePath = option.value;
+    } else if (name == QLatin1String("--log-dir")) {
+        if (!option.takeValue())
+            return Failed;
+        m_logDirectory = option.value;
+    } else if (name == QLatin1String("--cloud")) {
+        if (!option.takeValue())
+            return Failed;
+        if (!option.value.contains(QLatin1Char(':'))) {
+            m_error = QStringLiteral("--cloud needs REMOTE:PATH, not \"%1\"").arg(option.value);
+            return Failed;
+        }
+        m_cloudFolders.append(option.value);
+    } else if (name == QLatin1String("--rclone-config")) {
+        if (!option.takeValue())
+            return Failed;
+        m_rcloneConfig = QFileInfo(option.value).absoluteFilePath();
+    } else {
+        return NotMine;
+    }
+    return Done;
+}
+
+CliOptions::ParseResult CliOptions::checkScanOptions()
+{
     if (!m_only.isEmpty() && !m_ignore.isEmpty()) {
         m_error = QStringLiteral("--only and --ignore cannot be combined");
         return BadArguments;

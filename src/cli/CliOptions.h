@@ -56,8 +56,38 @@ public:
     QJsonObject similarConfig() const;
 
 private:
+    // One option of the scan command as it is read: its name, and its value when it takes
+    // one, given after "=" or as the next argument (which is then consumed).
+    class Option
+    {
+    public:
+        Option(const QStringList &arguments, int &index, QString &error);
+        // A switch: given without "=value".
+        bool isFlag() const { return !m_inlineValue; }
+        bool takeValue();
+        bool takeNumber(double &target);
+        bool takePercent(double &target, const SettingsTable::Setting &range);
+
+        QString name;
+        QString value;
+
+    private:
+        const QStringList &m_arguments;
+        int &m_index;
+        QString &m_error;
+        bool m_inlineValue = false;
+    };
+    enum Taken { Done, Failed, NotMine };
+
     // report, remove and restore: a project file (not for restore) and their options.
     ParseResult parseProjectCommand(const QStringList &arguments);
+    // The scan command's options by kind: what is scanned and selected, what the similar
+    // search does, and where the results go.
+    Taken takeScanOption(Option &option);
+    Taken takeSimilarOption(Option &option);
+    Taken takeOutputOption(Option &option);
+    // The options that cannot be combined, once all are read.
+    ParseResult checkScanOptions();
     // Checks the size limits once all options are read.
     bool checkSizes();
 

@@ -313,77 +313,9 @@ int runCloudScan(const CliOptions &options)
     return 0;
 }
 
-} // namespace
-
-int CliProgram::run(int argc, char *argv[])
+// The folders to scan as absolute paths; exit status 2 when one is not a folder.
+int scanRoots(const CliOptions &options, QStringList &roots)
 {
-#ifdef __GLIBC__
-    // A fixed threshold: the large arrays of a scan (the file table, the keys, the cache's
-    // look-up order) are then mapped on their own and given back when freed. glibc would
-    // otherwise raise the threshold after the first such block and keep the later ones
-    // in its heap, where their room stays with the process until it ends.
-    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
-#endif
-    QCoreApplication app(argc, argv);
-    CloudRemover::install();
-    // A report of a large tree runs to tens of megabytes: written in large blocks, not
-    // in the few kilobytes a pipe or file gets by default.
-    static char outputBuffer[1 << 20];
-    if (::isatty(STDOUT_FILENO) != 1)
-        std::setvbuf(stdout, outputBuffer, _IOFBF, sizeof outputBuffer);
-    // Standard error is the command line's own report; the library's debug lines would
-    // only mix into it.
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-    QCoreApplication::setOrganizationName(QStringLiteral("Veltrine"));
-    QCoreApplication::setApplicationName(QStringLiteral("Veltrine Duplicate Finder"));
-
-    CliOptions options;
-    switch (options.parse(app.arguments().mid(1))) {
-    case CliOptions::Help:
-        std::fputs(qPrintable(CliOptions::usage()), stdout);
-        return 0;
-    case CliOptions::BadArguments:
-        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n\n%s", qPrintable(options.error()),
-            qPrintable(CliOptions::usage()));
-        return 1;
-    case CliOptions::Ok:
-        break;
-    }
-    // The plain build has no picture stage (it starts without loading the picture
-    // libraries): a run that compares pictures continues in the companion beside it, with
-    // the same arguments.
-    if (!PictureStage::available()
-        && options.similarConfig().value(SnapshotKeys::hasSimilar).toBool()) {
-        const QByteArray full = QFile::encodeName(QCoreApplication::applicationDirPath()
-            + QStringLiteral("/" VELTRINE_CLI_PICTURE_BUILD));
-        ::execv(full.constData(), argv);
-        std::fprintf(stderr,
-            "veltrine-duplicate-finder-cli: cannot start %s for the picture comparison: %s\n",
-            full.constData(), std::strerror(errno));
-        return 4;
-    }
-    if (!options.logDirectory().isEmpty() && !initLogger(options.logDirectory()))
-        std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the log into %s\n",
-            qPrintable(options.logDirectory()));
-    if (options.command() != CliOptions::Scan) {
-        int status = 0;
-        if (options.command() == CliOptions::Report)
-            status = runReport(options);
-        else if (options.command() == CliOptions::Remove)
-            status = RemovalCommands::remove(options);
-        else
-            status = RemovalCommands::restore(options);
-        splog_flush_repeated();
-        shutdownLogger();
-        return status;
-    }
-    if (!options.cloudFolders().isEmpty()) {
-        const int status = runCloudScan(options);
-        splog_flush_repeated();
-        shutdownLogger();
-        return status;
-    }
-    QStringList roots;
     for (const QString &folder : options.folders()) {
         const QFileInfo info(folder);
         if (!info.isDir()) {
@@ -394,13 +326,13 @@ int CliProgram::run(int argc, char *argv[])
         }
         roots.append(QDir::cleanPath(info.absoluteFilePath()));
     }
+    return 0;
+}
 
-    TControlUI controller;
-    if (!options.useCache())
-        controller.finder()->setCacheOptions(ContentKeyCache::Options {});
-    controller.setOverlappedReading(options.overlapsReading());
-    // The members' stamps serve removals and saved projects only.
-    controller.finder()->setKeepsStamps(!options.savePath().isEmpty());
+// Runs the scan to its end, showing its progress on a terminal; exit status 1 when the
+// controller refused the options.
+int runScan(TControlUI &controller, const CliOptions &options, const QStringList &roots)
+{
     QTimer progressTimer;
     const bool terminal = ::isatty(STDERR_FILENO) == 1;
     double percent = 0.0;
@@ -425,10 +357,49 @@ int CliProgram::run(int argc, char *argv[])
     }
     loop.exec();
     progressTimer.stop();
-    const double seconds = controller.elapsedSeconds();
     if (terminal)
         std::fprintf(stderr, "\r%d files scanned, 100.0%%, elapsed %s   \n",
-            controller.scannedFileCount(), qPrintable(TControlUI::formatSeconds(qint64(seconds))));
+            controller.scannedFileCount(),
+            qPrintable(TControlUI::formatSeconds(qint64(controller.elapsedSeconds()))));
+    return 0;
+}
+
+// Saves the results as a project; exit status 3 when that failed.
+int saveProject(const CliOptions &options, const TControlUI &controller, double seconds)
+{
+    int flag = -1;
+    QEventLoop saveLoop;
+    TOpenSaveThread writer;
+    QObject::connect(&writer, &TOpenSaveThread::saveComplated, &saveLoop, [&](int result) {
+        flag = result;
+        saveLoop.quit();
+    });
+    if (writer.saveProject(options.savePath(), controller.scannedFileCount(),
+            TControlUI::formatSeconds(qint64(seconds)))) {
+        saveLoop.exec();
+        writer.wait();
+    }
+    if (flag == TOpenSaveThread::ProjectSucceeded)
+        return 0;
+    std::fprintf(stderr, "veltrine-duplicate-finder-cli: the project was not saved: %s\n",
+        qPrintable(TOpenSaveThread::resultText(flag)));
+    return 3;
+}
+
+int runLocalScan(const CliOptions &options)
+{
+    QStringList roots;
+    if (const int status = scanRoots(options, roots); status != 0)
+        return status;
+    TControlUI controller;
+    if (!options.useCache())
+        controller.finder()->setCacheOptions(ContentKeyCache::Options {});
+    controller.setOverlappedReading(options.overlapsReading());
+    // The members' stamps serve removals and saved projects only.
+    controller.finder()->setKeepsStamps(!options.savePath().isEmpty());
+    if (const int status = runScan(controller, options, roots); status != 0)
+        return status;
+    const double seconds = controller.elapsedSeconds();
     if (ContentKeyCache::busyGiveUps() > 0)
         std::fprintf(stderr,
             "veltrine-duplicate-finder-cli: the key cache was busy; the scan went on without it\n");
@@ -446,37 +417,94 @@ int CliProgram::run(int argc, char *argv[])
     printGroups(options, controller.scannedFileCount(), seconds, groups, unread,
         KeySources {controller.finder()->keysFromCache(), controller.finder()->overlappedKeys()});
 
-    int status = 0;
-    if (!options.savePath().isEmpty()) {
-        int flag = -1;
-        QEventLoop saveLoop;
-        TOpenSaveThread writer;
-        QObject::connect(&writer, &TOpenSaveThread::saveComplated, &saveLoop, [&](int result) {
-            flag = result;
-            saveLoop.quit();
-        });
-        if (writer.saveProject(options.savePath(), controller.scannedFileCount(),
-                TControlUI::formatSeconds(qint64(seconds)))) {
-            saveLoop.exec();
-            writer.wait();
-        }
-        if (flag != TOpenSaveThread::ProjectSucceeded) {
-            std::fprintf(stderr, "veltrine-duplicate-finder-cli: the project was not saved: %s\n",
-                qPrintable(TOpenSaveThread::resultText(flag)));
-            status = 3;
-        }
-    }
-    if (!terminal || !options.json()) {
+    int status = options.savePath().isEmpty() ? 0 : saveProject(options, controller, seconds);
+    if (::isatty(STDERR_FILENO) != 1 || !options.json()) {
         printUnread(unread, controller.problems().unreadableSummary());
         if (controller.problems().allRootsUnreadable())
             std::fprintf(stderr, "None of the folders could be read: nothing was compared.\n");
         std::fprintf(stderr, "%d files scanned, %lld groups, %.3f seconds\n",
             controller.scannedFileCount(), static_cast<long long>(groups.size()), seconds);
     }
-    splog_flush_repeated();
-    shutdownLogger();
     // Nothing compared is no all-clear.
     if (status == 0 && controller.problems().allRootsUnreadable())
         status = 2;
+    return status;
+}
+
+// The process-wide set-up that comes before the arguments are read.
+void setUpProcess()
+{
+#ifdef __GLIBC__
+    // A fixed threshold: the large arrays of a scan (the file table, the keys, the cache's
+    // look-up order) are then mapped on their own and given back when freed. glibc would
+    // otherwise raise the threshold after the first such block and keep the later ones
+    // in its heap, where their room stays with the process until it ends.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+#endif
+    // A report of a large tree runs to tens of megabytes: written in large blocks, not
+    // in the few kilobytes a pipe or file gets by default.
+    static char outputBuffer[1 << 20];
+    if (::isatty(STDOUT_FILENO) != 1)
+        std::setvbuf(stdout, outputBuffer, _IOFBF, sizeof outputBuffer);
+    // Standard error is the command line's own report; the library's debug lines would
+    // only mix into it.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+}
+
+// The plain build has no picture stage (it starts without loading the picture
+// libraries): a run that compares pictures continues in the companion beside it, with
+// the same arguments. Returns only when that could not be started (exit status 4).
+int handOnToPictures(char *argv[])
+{
+    const QByteArray full = QFile::encodeName(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/" VELTRINE_CLI_PICTURE_BUILD));
+    ::execv(full.constData(), argv);
+    std::fprintf(stderr,
+        "veltrine-duplicate-finder-cli: cannot start %s for the picture comparison: %s\n",
+        full.constData(), std::strerror(errno));
+    return 4;
+}
+
+} // namespace
+
+int CliProgram::run(int argc, char *argv[])
+{
+    setUpProcess();
+    QCoreApplication app(argc, argv);
+    CloudRemover::install();
+    QCoreApplication::setOrganizationName(QStringLiteral("Veltrine"));
+    QCoreApplication::setApplicationName(QStringLiteral("Veltrine Duplicate Finder"));
+
+    CliOptions options;
+    switch (options.parse(app.arguments().mid(1))) {
+    case CliOptions::Help:
+        std::fputs(qPrintable(CliOptions::usage()), stdout);
+        return 0;
+    case CliOptions::BadArguments:
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: %s\n\n%s", qPrintable(options.error()),
+            qPrintable(CliOptions::usage()));
+        return 1;
+    case CliOptions::Ok:
+        break;
+    }
+    if (!PictureStage::available()
+        && options.similarConfig().value(SnapshotKeys::hasSimilar).toBool())
+        return handOnToPictures(argv);
+    if (!options.logDirectory().isEmpty() && !initLogger(options.logDirectory()))
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the log into %s\n",
+            qPrintable(options.logDirectory()));
+    int status = 0;
+    if (options.command() == CliOptions::Report)
+        status = runReport(options);
+    else if (options.command() == CliOptions::Remove)
+        status = RemovalCommands::remove(options);
+    else if (options.command() == CliOptions::Restore)
+        status = RemovalCommands::restore(options);
+    else if (!options.cloudFolders().isEmpty())
+        status = runCloudScan(options);
+    else
+        status = runLocalScan(options);
+    splog_flush_repeated();
+    shutdownLogger();
     return status;
 }
