@@ -8,7 +8,7 @@ against the tree's ground truth with check_groups.py, and prints wall time, CPU 
 peak memory per tool, each also as a ratio to the fastest peer (and the sampled mode as a
 ratio to a bare `find -type f -printf '%s'`).
 
-usage: duplicate_bench.py [--preset medium] [--runs 3] [--work DIR] [--cli PATH]
+usage: duplicate_bench.py [--preset medium] [--runs 3] [--work DIR] [--cli PATH] [--old-cli PATH]
                           [--tools LIST] [--keep-trees]
 """
 import argparse
@@ -73,13 +73,16 @@ def check(truth, tree, output, fmt, mode):
         len(r["missing"]), len(r["extra"]), len(r["trap_fails"]))
 
 
-def tool_commands(tool, tree, cli):
+def tool_commands(tool, tree, cli, old_cli=None):
     """(command, output format for check_groups, truth mode) of one tool.
 
     cli-METHOD reads every file (--no-cache); cli-METHOD-serial does too, but only after
     the walk (--no-overlap); cli-METHOD-first starts each run with an empty key cache (a
     first scan, which fills it); cli-METHOD-cached is a second scan of the unchanged tree
-    (the warm-up run fills the cache)."""
+    (the warm-up run fills the cache). old-cli-... runs the same with the build given by
+    --old-cli, so that a change can be timed against the build before it."""
+    if tool.startswith("old-cli-"):
+        return tool_commands(tool[4:], tree, old_cli)
     if tool.startswith("cli-"):
         method, _, variant = tool[4:].partition("-")
         extra = {"": ["--no-cache"], "serial": ["--no-cache", "--no-overlap"]}.get(variant, [])
@@ -140,10 +143,14 @@ def bench_tree(preset, args, out_dir):
     files = sum(len(f) for _, _, f in os.walk(tree))
     tools = []
     for tool in args.tools.split(","):
-        if not tool.startswith("cli-") and tool not in ("find", "floor") and shutil.which(tool) is None:
+        if tool.startswith("old-cli-") and not args.old_cli:
+            print(f"skip {tool}: no --old-cli given")
+            continue
+        if not tool.startswith(("cli-", "old-cli-")) and tool not in ("find", "floor") \
+                and shutil.which(tool) is None:
             print(f"skip {tool}: not installed")
             continue
-        cmd, fmt, mode = tool_commands(tool, tree, args.cli)
+        cmd, fmt, mode = tool_commands(tool, tree, args.cli, args.old_cli)
         out = os.path.join(out_dir, f"{preset}.{tool}.out")
         home, env = cache_home(tool)
         clear = lambda home=home: shutil.rmtree(os.path.join(home, "Veltrine"), ignore_errors=True)
@@ -213,6 +220,8 @@ def main():
     ap.add_argument("--work", default=os.path.join(tempfile.gettempdir(), "veltrine-bench"),
                     help="folder for the trees (reused when present)")
     ap.add_argument("--cli", default=None, help="path of veltrine-duplicate-finder-cli")
+    ap.add_argument("--old-cli", default=None,
+                    help="another build of the command line, run as the old-cli-... tools")
     ap.add_argument("--tools", default="find,floor,cli-sampled,cli-full,cli-sampled-serial,cli-full-serial,cli-sampled-first,"
                     "cli-full-first,cli-sampled-cached,cli-full-cached,cli-name,fdupes,jdupes,"
                     "rmlint")
