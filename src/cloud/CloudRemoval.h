@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/InstalledFactory.h"
 #include "cloud/DelParams.h"
 #include "engine/DeleteResult.h"
 
@@ -16,9 +17,9 @@ class KvCloudObject;
 class CloudRemoval
 {
 public:
-    using Factory = CloudRemoval *(*)(KvCloudObject *cloud);
-    static void setFactory(Factory factory);
-    static CloudRemoval *create(KvCloudObject *cloud);
+    using Factory = InstalledFactory<CloudRemoval, KvCloudObject *>;
+    static void setFactory(Factory::Function factory) { Factory::install(factory); }
+    static CloudRemoval *create(KvCloudObject *cloud) { return Factory::create(cloud); }
 
     virtual ~CloudRemoval() = default;
     // Starts a run over the groups; single: the one-file call (its own completion signal).

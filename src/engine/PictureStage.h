@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/InstalledFactory.h"
 #include "engine/ContentKeyCache.h"
 #include "engine/TFileData.h"
 
@@ -17,11 +18,11 @@ class PictureStage : public QObject
 {
     Q_OBJECT
 public:
-    using Factory = PictureStage *(*)(QObject *parent);
-    static void setFactory(Factory factory);
-    static bool available();
+    using Factory = InstalledFactory<PictureStage, QObject *>;
+    static void setFactory(Factory::Function factory) { Factory::install(factory); }
+    static bool available() { return Factory::installed(); }
     // A new stage owned by parent; nullptr where no factory is installed.
-    static PictureStage *create(QObject *parent);
+    static PictureStage *create(QObject *parent) { return Factory::create(parent); }
 
     using QObject::QObject;
 
