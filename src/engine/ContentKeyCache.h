@@ -4,7 +4,6 @@
 #include "engine/ContentKeyCacheFile.h"
 
 #include <functional>
-#include <utility>
 #include <vector>
 
 #include <QByteArray>
@@ -20,7 +19,8 @@
 // digest; a file that is no cache of ours, has a newer layout, or fails a check is renamed
 // aside and a new one started: a cache can only spare reads, never decide a group. Several
 // processes may use one file at once (write-ahead log, busy wait of at most kBusyBudgetMs).
-// One object belongs to one thread.
+// One object belongs to one thread. The file itself (opening, layout, lock waits, setting
+// aside) is its ContentKeyCacheFile's; this class reads and writes the entries.
 class ContentKeyCache
 {
 public:
