@@ -6,18 +6,10 @@
 #include "engine/FileStamp.h"
 
 #include <algorithm>
-#include <atomic>
 #include <chrono>
-#include <limits>
 #include <sqlite3.h>
 
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
-
 #include <QDateTime>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
@@ -30,25 +22,8 @@ namespace {
 // The log tag of this file.
 const QString kTag = QStringLiteral("[ContentKeyCache]: ");
 
-// "VKC1" in the file header: a file without it was not written by this program.
-constexpr int kApplicationId = 0x564B4331;
-// 1: content keys only; 2: picture measures beside them; 3: the same, stored only from
-// files that had settled when read. The rows of 1 and 2 may hold keys of files a mapped
-// write changed behind their times: they are dropped, the tables kept.
-constexpr int kSchemaVersion = 3;
-const char *const kPictureTable
-    = "CREATE TABLE pictures(device INTEGER NOT NULL, inode INTEGER NOT NULL, measure INTEGER "
-      "NOT NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime INTEGER NOT NULL, width "
-      "INTEGER NOT NULL, height INTEGER NOT NULL, rows INTEGER NOT NULL, cols INTEGER NOT NULL, "
-      "type INTEGER NOT NULL, data BLOB NOT NULL, seen INTEGER NOT NULL, checksum INTEGER NOT "
-      "NULL, PRIMARY KEY(device, inode, measure))";
-// Short, so that a lock let go is taken soon after.
-constexpr int kBusyStepMs = 10;
-std::atomic<int> busyGiveUpCount {0};
-std::atomic<qint64> lastBusyGiveUpMs {std::numeric_limits<qint64>::min() / 2};
 constexpr int kSampledFlag = 1;
 constexpr int kFullFlag = 2;
-const char *const kSuffixes[] = {"", "-wal", "-shm"};
 
 qint32 today()
 {
@@ -68,27 +43,6 @@ qint64 nowNs()
     return std::chrono::duration_cast<std::chrono::nanoseconds>(
         std::chrono::system_clock::now().time_since_epoch())
         .count();
-}
-
-// (device, inode) of the file at path; zeros when there is none or it cannot be told.
-std::pair<quint64, quint64> identityOf(const QString &path)
-{
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::stat(QFile::encodeName(path).constData(), &info) == 0)
-        return {quint64(info.st_dev), quint64(info.st_ino)};
-#else
-    Q_UNUSED(path)
-#endif
-    return {0, 0};
-}
-
-bool isDamage(int code)
-{
-    const int primary = code & 0xFF;
-    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB || primary == SQLITE_FORMAT;
 }
 
 } // namespace
@@ -113,7 +67,7 @@ qint64 ContentKeyCache::sizeOnDisk(const QString &path)
 
 int ContentKeyCache::busyGiveUps()
 {
-    return busyGiveUpCount.load();
+    return ContentKeyCacheFile::busyGiveUps();
 }
 
 bool ContentKeyCache::clear(const QString &path)
@@ -130,236 +84,9 @@ bool ContentKeyCache::clear(const QString &path)
     return true;
 }
 
-ContentKeyCache::ContentKeyCache(const QString &path) : m_path(path)
-{
-    open();
-}
+ContentKeyCache::ContentKeyCache(const QString &path) : m_file(path) { }
 
-ContentKeyCache::~ContentKeyCache()
-{
-    close();
-}
-
-bool ContentKeyCache::exec(const char *sql)
-{
-    const int code = sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr);
-    if (code == SQLITE_OK)
-        return true;
-    splog_d(kTag
-        + QStringLiteral("%1: %2").arg(
-            QLatin1String(sql), QString::fromUtf8(sqlite3_errmsg(m_db))));
-    if (isDamage(code))
-        reject("damaged");
-    return false;
-}
-
-int ContentKeyCache::onBusy(void *self, int)
-{
-    return static_cast<ContentKeyCache *>(self)->waitForLock() ? 1 : 0;
-}
-
-bool ContentKeyCache::waitForLock()
-{
-    if (m_busyWaitedMs < kBusyBudgetMs) {
-        QElapsedTimer slept;
-        slept.start();
-        QThread::msleep(std::min(kBusyStepMs, kBusyBudgetMs - m_busyWaitedMs));
-        m_busyWaitedMs += std::max(1, int(slept.elapsed()));
-        return true;
-    }
-    if (!std::exchange(m_busyGivenUp, true)) {
-        busyGiveUpCount.fetch_add(1);
-        lastBusyGiveUpMs.store(QDateTime::currentMSecsSinceEpoch());
-        splog_d(kTag
-            + QStringLiteral("%1 stayed locked for %2 ms (by another scan or "
-                             "program); this scan goes on without it.")
-                  .arg(m_path)
-                  .arg(kBusyBudgetMs));
-    }
-    return false;
-}
-
-bool ContentKeyCache::usable()
-{
-    // Given up inside a call of SQLite's, closed at the next one.
-    if (m_busyGivenUp && m_db)
-        close();
-    return m_db != nullptr;
-}
-
-void ContentKeyCache::close()
-{
-    sqlite3_finalize(m_select);
-    m_select = nullptr;
-    sqlite3_close_v2(m_db);
-    m_db = nullptr;
-}
-
-bool ContentKeyCache::open()
-{
-    ++m_generation;
-    QDir().mkpath(QFileInfo(m_path).absolutePath());
-    if (sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_db,
-            SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr)
-        != SQLITE_OK) {
-        splog_d(kTag + QStringLiteral("cannot open %1").arg(m_path));
-        close();
-        return false;
-    }
-    m_identity = identityOf(m_path);
-    sqlite3_extended_result_codes(m_db, 1);
-    if (QDateTime::currentMSecsSinceEpoch() - lastBusyGiveUpMs.load() < kBusyQuietMs)
-        m_busyWaitedMs = kBusyBudgetMs;
-    sqlite3_busy_handler(m_db, &ContentKeyCache::onBusy, this);
-    // A cache lost with the last commit before a power cut costs only reads: the log is
-    // not flushed at every commit.
-    sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
-    return prepareSchema();
-}
-
-bool ContentKeyCache::prepareSchema()
-{
-    const auto pragma = [this](const char *sql, int &value) {
-        sqlite3_stmt *statement = nullptr;
-        int result = sqlite3_prepare_v2(m_db, sql, -1, &statement, nullptr);
-        if (result == SQLITE_OK) {
-            result = sqlite3_step(statement);
-            value = result == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
-            result = result == SQLITE_ROW ? SQLITE_OK : result;
-        }
-        sqlite3_finalize(statement);
-        return result;
-    };
-    // Read and, for a new file, written in one write transaction: two processes creating
-    // the cache at once must not both lay out its tables. The file is still in whatever
-    // journal mode it came in, so one that is refused is set aside as it was found.
-    const int generation = m_generation;
-    if (!exec("BEGIN IMMEDIATE")) {
-        // Busy past the wait: this scan does without. Damaged: exec() started anew.
-        if (generation == m_generation)
-            close();
-        return m_db != nullptr;
-    }
-    int id = 0;
-    int version = 0;
-    int tables = 0;
-    int pictureTables = 0;
-    int code = pragma("PRAGMA application_id", id);
-    if (code == SQLITE_OK)
-        code = pragma("PRAGMA user_version", version);
-    if (code == SQLITE_OK)
-        code = pragma("SELECT count(*) FROM sqlite_master", tables);
-    if (code == SQLITE_OK)
-        code = pragma("SELECT count(*) FROM sqlite_master WHERE name = 'pictures'", pictureTables);
-    if (code != SQLITE_OK) {
-        exec("ROLLBACK");
-        // Only damage sets the file aside; a passing read error leaves it for the next scan.
-        if (m_db && isDamage(code))
-            reject("damaged");
-        else
-            close();
-        return m_db != nullptr;
-    }
-    const QByteArray setVersion = "PRAGMA user_version=" + QByteArray::number(kSchemaVersion);
-    const char *refusal = nullptr;
-    bool laidOut = true;
-    if (id == 0 && version == 0 && tables == 0) {
-        laidOut = exec("CREATE TABLE keys(device INTEGER NOT NULL, inode INTEGER NOT "
-                       "NULL, size INTEGER NOT NULL, mtime INTEGER NOT NULL, ctime "
-                       "INTEGER NOT NULL, sampled INTEGER NOT NULL, full INTEGER NOT "
-                       "NULL, flags INTEGER NOT NULL, seen INTEGER NOT NULL, "
-                       "checksum INTEGER NOT NULL, PRIMARY KEY(device, inode)) "
-                       "WITHOUT ROWID")
-            && exec(kPictureTable)
-            && exec(QByteArray("PRAGMA application_id=" + QByteArray::number(kApplicationId))
-                        .constData())
-            && exec(setVersion.constData()) && exec("COMMIT");
-    } else if (id != kApplicationId) {
-        refusal = "not a cache of this program";
-    } else if (version > kSchemaVersion) {
-        refusal = "written by a newer version";
-    } else if (version < 1 || (version == 1 && pictureTables != 0)
-        || (version == 2 && pictureTables == 0)) {
-        // Never written so by any version: to be extended it would have to be guessed at.
-        refusal = "of an unknown layout";
-    } else if (version < kSchemaVersion) {
-        splog_d(kTag
-            + QStringLiteral("%1 is of layout %2; its entries are dropped.")
-                  .arg(m_path)
-                  .arg(version));
-        laidOut = (version > 1 || exec(kPictureTable)) && exec("DELETE FROM keys")
-            && exec("DELETE FROM pictures") && exec(setVersion.constData()) && exec("COMMIT");
-    } else {
-        exec("ROLLBACK");
-    }
-    if (refusal) {
-        exec("ROLLBACK");
-        reject(refusal);
-        return m_db != nullptr;
-    }
-    if (!laidOut) {
-        if (m_db)
-            exec("ROLLBACK");
-        close();
-        return false;
-    }
-    if (!m_db)
-        return false;
-    // The switch to the write-ahead log takes an exclusive lock without waiting for a
-    // busy one, so a second process starting at the same moment tries again.
-    code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
-    while ((code & 0xFF) == SQLITE_BUSY && waitForLock())
-        code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK) {
-        if (isDamage(code))
-            reject("damaged");
-        else
-            close();
-        return m_db != nullptr;
-    }
-    code = sqlite3_prepare_v3(m_db,
-        "SELECT size, mtime, ctime, sampled, full, flags, seen, checksum FROM keys WHERE "
-        "device = ? AND inode = ?",
-        -1, SQLITE_PREPARE_PERSISTENT, &m_select, nullptr);
-    if (code != SQLITE_OK) {
-        reject("no key table");
-        return m_db != nullptr;
-    }
-    return true;
-}
-
-void ContentKeyCache::reject(const char *why)
-{
-    close();
-    if (m_setAside)
-        return; // A file just created and still refused: do without a cache this time.
-    m_setAside = true;
-    // Another user of the cache (a second connection of this scan, another program) that
-    // met the same fault may have set the file aside and started a new one already: the
-    // new one must not go aside in place of the original.
-    const bool replaced
-        = m_identity.second != 0 && QFileInfo::exists(m_path) && identityOf(m_path) != m_identity;
-    if (replaced) {
-        splog_d(kTag
-            + QStringLiteral("%1 is %2, and was set aside already.")
-                  .arg(m_path, QLatin1String(why)));
-    } else {
-        splog_d(kTag
-            + QStringLiteral("%1 is %2; set aside and started anew.")
-                  .arg(m_path, QLatin1String(why)));
-        const QString aside = setAsidePath(m_path);
-        for (const char *suffix : kSuffixes) {
-            const QString from = m_path + QLatin1String(suffix);
-            const QString to = aside + QLatin1String(suffix);
-            QFile::remove(to);
-            if (QFileInfo::exists(from) && !QFile::rename(from, to))
-                QFile::remove(from);
-        }
-    }
-    // A file that can neither be moved nor removed is never opened again by this object.
-    if (replaced || !QFileInfo::exists(m_path))
-        open();
-}
+ContentKeyCache::~ContentKeyCache() = default;
 
 // Entries in the table's own order (signed, as SQLite compares), so that look-ups and
 // writes walk the tree forwards instead of jumping about it.
@@ -459,6 +186,108 @@ const char *const kScanRows = "SELECT size, mtime, ctime, sampled, full, flags, 
 
 } // namespace
 
+int ContentKeyCache::passOverTable(const std::vector<quint32> &order, qint64 readNs,
+    const std::function<Stamp(size_t)> &stampOf,
+    const std::function<void(size_t, const Entry &)> &found)
+{
+    // A large pass is split in two at a file's key, the upper half read on a second
+    // connection by another thread (each row is checked on its own, so the two
+    // snapshots need not be one).
+    constexpr size_t kSplitFrom = 16384;
+    const size_t half = order.size() >= kSplitFrom ? order.size() / 2 : order.size();
+    int upperCode = SQLITE_DONE;
+    QThread *upper = nullptr;
+    // Its own connection waits as long as this object may still wait in all.
+    const int busyLeftMs = m_file.busyLeftMs();
+    if (half < order.size()) {
+        const Stamp from = stampOf(order[half]);
+        upper = QThread::create([&, from, busyLeftMs] {
+            sqlite3 *db = nullptr;
+            sqlite3_stmt *statement = nullptr;
+            upperCode = sqlite3_open_v2(QFile::encodeName(m_file.path()).constData(), &db,
+                SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
+            if (upperCode == SQLITE_OK) {
+                sqlite3_extended_result_codes(db, 1);
+                sqlite3_busy_timeout(db, busyLeftMs);
+                upperCode = sqlite3_prepare_v2(db,
+                    (QByteArray(kScanRows)
+                        + " WHERE (device, inode) >= (?, ?) ORDER BY device, inode")
+                        .constData(),
+                    -1, &statement, nullptr);
+            }
+            if (upperCode == SQLITE_OK) {
+                sqlite3_bind_int64(statement, 1, sqlite3_int64(from.device));
+                sqlite3_bind_int64(statement, 2, sqlite3_int64(from.inode));
+                upperCode = mergeRows(statement, order, half, order.size(), readNs, stampOf, found);
+            }
+            sqlite3_finalize(statement);
+            sqlite3_close_v2(db);
+        });
+        upper->start();
+    }
+    sqlite3_stmt *statement = nullptr;
+    int code = sqlite3_prepare_v2(db(),
+        (QByteArray(kScanRows) + " ORDER BY device, inode").constData(), -1, &statement, nullptr);
+    if (code == SQLITE_OK)
+        code = mergeRows(statement, order, 0, half, readNs, stampOf, found);
+    sqlite3_finalize(statement);
+    if (upper) {
+        upper->wait();
+        delete upper;
+        // A second connection that could not read leaves its half unfound; damage it
+        // saw counts as damage.
+        if (ContentKeyCacheFile::isDamage(upperCode))
+            code = upperCode;
+    }
+    return code;
+}
+
+int ContentKeyCache::searchEach(const std::vector<quint32> &order, qint64 readNs,
+    const std::function<Stamp(size_t)> &stampOf,
+    const std::function<void(size_t, const Entry &)> &found)
+{
+    sqlite3_stmt *const select = m_file.keySelect();
+    int code = SQLITE_DONE;
+    const auto search = [&](size_t at) {
+        const Stamp stamp = stampOf(order[at]);
+        sqlite3_bind_int64(select, 1, sqlite3_int64(stamp.device));
+        sqlite3_bind_int64(select, 2, sqlite3_int64(stamp.inode));
+    };
+    for (size_t at = 0; at < order.size(); ++at) {
+        search(at);
+        code = sqlite3_step(select);
+        if (code == SQLITE_ROW) {
+            const Stamp current = stampOf(order[at]);
+            Stamp stored = current;
+            stored.size = sqlite3_column_int64(select, 0);
+            stored.modifiedNs = sqlite3_column_int64(select, 1);
+            stored.changedNs = sqlite3_column_int64(select, 2);
+            const quint64 sampled = quint64(sqlite3_column_int64(select, 3));
+            const quint64 full = quint64(sqlite3_column_int64(select, 4));
+            const int flags = sqlite3_column_int(select, 5);
+            if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(select, 7)) {
+                code = SQLITE_CORRUPT;
+            } else if (stored == current
+                && FileStamp::settled(current.modifiedNs, current.changedNs, readNs)) {
+                Entry entry {current};
+                entry.found = true;
+                entry.seenDay = qint32(sqlite3_column_int(select, 6));
+                entry.hasSampled = flags & kSampledFlag;
+                entry.sampledKey = entry.hasSampled ? sampled : 0;
+                entry.hasFull = flags & kFullFlag;
+                entry.fullKey = entry.hasFull ? full : 0;
+                found(order[at], entry);
+            }
+        }
+        sqlite3_reset(select);
+        if (code != SQLITE_ROW && code != SQLITE_DONE)
+            break;
+    }
+    if (code == SQLITE_ROW)
+        code = SQLITE_DONE;
+    return code;
+}
+
 bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &stampOf,
     const std::function<void(size_t, const Entry &)> &found)
 {
@@ -474,7 +303,7 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
     int pages = 0;
     {
         sqlite3_stmt *pageCount = nullptr;
-        if (sqlite3_prepare_v2(m_db, "PRAGMA page_count", -1, &pageCount, nullptr) == SQLITE_OK
+        if (sqlite3_prepare_v2(db(), "PRAGMA page_count", -1, &pageCount, nullptr) == SQLITE_OK
             && sqlite3_step(pageCount) == SQLITE_ROW)
             pages = sqlite3_column_int(pageCount, 0);
         sqlite3_finalize(pageCount);
@@ -482,105 +311,19 @@ bool ContentKeyCache::lookup(size_t count, const std::function<Stamp(size_t)> &s
     constexpr qint64 kRowsPerPage = 50;
     int code = SQLITE_DONE;
     if (qint64(pages) * kRowsPerPage <= qint64(order.size()) * 4) {
-        // A large pass is split in two at a file's key, the upper half read on a second
-        // connection by another thread (each row is checked on its own, so the two
-        // snapshots need not be one).
-        constexpr size_t kSplitFrom = 16384;
-        const size_t half = order.size() >= kSplitFrom ? order.size() / 2 : order.size();
-        int upperCode = SQLITE_DONE;
-        QThread *upper = nullptr;
-        // Its own connection waits as long as this object may still wait in all.
-        const int busyLeftMs = std::max(0, kBusyBudgetMs - m_busyWaitedMs);
-        if (half < order.size()) {
-            const Stamp from = stampOf(order[half]);
-            upper = QThread::create([&, from, busyLeftMs] {
-                sqlite3 *db = nullptr;
-                sqlite3_stmt *statement = nullptr;
-                upperCode = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &db,
-                    SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
-                if (upperCode == SQLITE_OK) {
-                    sqlite3_extended_result_codes(db, 1);
-                    sqlite3_busy_timeout(db, busyLeftMs);
-                    upperCode = sqlite3_prepare_v2(db,
-                        (QByteArray(kScanRows)
-                            + " WHERE (device, inode) >= (?, ?) ORDER BY device, inode")
-                            .constData(),
-                        -1, &statement, nullptr);
-                }
-                if (upperCode == SQLITE_OK) {
-                    sqlite3_bind_int64(statement, 1, sqlite3_int64(from.device));
-                    sqlite3_bind_int64(statement, 2, sqlite3_int64(from.inode));
-                    upperCode
-                        = mergeRows(statement, order, half, order.size(), readNs, stampOf, found);
-                }
-                sqlite3_finalize(statement);
-                sqlite3_close_v2(db);
-            });
-            upper->start();
-        }
-        sqlite3_stmt *statement = nullptr;
-        code = sqlite3_prepare_v2(m_db,
-            (QByteArray(kScanRows) + " ORDER BY device, inode").constData(), -1, &statement,
-            nullptr);
-        if (code == SQLITE_OK)
-            code = mergeRows(statement, order, 0, half, readNs, stampOf, found);
-        sqlite3_finalize(statement);
-        if (upper) {
-            upper->wait();
-            delete upper;
-            // A second connection that could not read leaves its half unfound; damage it
-            // saw counts as damage.
-            if (isDamage(upperCode))
-                code = upperCode;
-        }
+        code = passOverTable(order, readNs, stampOf, found);
     } else {
-        const auto search = [&](size_t at) {
-            const Stamp stamp = stampOf(order[at]);
-            sqlite3_bind_int64(m_select, 1, sqlite3_int64(stamp.device));
-            sqlite3_bind_int64(m_select, 2, sqlite3_int64(stamp.inode));
-        };
-        for (size_t at = 0; at < order.size(); ++at) {
-            search(at);
-            code = sqlite3_step(m_select);
-            if (code == SQLITE_ROW) {
-                const Stamp current = stampOf(order[at]);
-                Stamp stored = current;
-                stored.size = sqlite3_column_int64(m_select, 0);
-                stored.modifiedNs = sqlite3_column_int64(m_select, 1);
-                stored.changedNs = sqlite3_column_int64(m_select, 2);
-                const quint64 sampled = quint64(sqlite3_column_int64(m_select, 3));
-                const quint64 full = quint64(sqlite3_column_int64(m_select, 4));
-                const int flags = sqlite3_column_int(m_select, 5);
-                if (rowCheck(stored, sampled, full, flags) != sqlite3_column_int64(m_select, 7)) {
-                    code = SQLITE_CORRUPT;
-                } else if (stored == current
-                    && FileStamp::settled(current.modifiedNs, current.changedNs, readNs)) {
-                    Entry entry {current};
-                    entry.found = true;
-                    entry.seenDay = qint32(sqlite3_column_int(m_select, 6));
-                    entry.hasSampled = flags & kSampledFlag;
-                    entry.sampledKey = entry.hasSampled ? sampled : 0;
-                    entry.hasFull = flags & kFullFlag;
-                    entry.fullKey = entry.hasFull ? full : 0;
-                    found(order[at], entry);
-                }
-            }
-            sqlite3_reset(m_select);
-            if (code != SQLITE_ROW && code != SQLITE_DONE)
-                break;
-        }
-        if (code == SQLITE_ROW)
-            code = SQLITE_DONE;
+        code = searchEach(order, readNs, stampOf, found);
     }
-    const bool damaged = isDamage(code);
+    const bool damaged = ContentKeyCacheFile::isDamage(code);
     if (code != SQLITE_DONE && code != SQLITE_OK)
         splog_d(kTag
             + QStringLiteral("look-up failed: %1")
                   .arg(damaged ? QStringLiteral("damaged row")
-                               : QString::fromUtf8(sqlite3_errmsg(m_db))));
+                               : QString::fromUtf8(sqlite3_errmsg(db()))));
     exec("COMMIT");
-    if (damaged || !m_db) {
-        if (m_db)
+    if (damaged || !db()) {
+        if (db())
             reject("damaged");
         return false;
     }
@@ -606,7 +349,7 @@ void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &st
     sqlite3_stmt *update = nullptr;
     // The day is no part of a row's check digest: only it changes here.
     if (sqlite3_prepare_v2(
-            m_db, "UPDATE keys SET seen = ? WHERE device = ? AND inode = ?", -1, &update, nullptr)
+            db(), "UPDATE keys SET seen = ? WHERE device = ? AND inode = ?", -1, &update, nullptr)
         != SQLITE_OK)
         return;
     if (!exec("BEGIN IMMEDIATE")) {
@@ -628,7 +371,7 @@ void ContentKeyCache::touch(size_t count, const std::function<Stamp(size_t)> &st
     }
     sqlite3_finalize(update);
     if (failed || !prune(day)) {
-        if (m_db)
+        if (db())
             exec("ROLLBACK");
         return;
     }
@@ -656,7 +399,7 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
     if (rows.empty())
         return;
     sqlite3_stmt *insert = nullptr;
-    if (sqlite3_prepare_v2(m_db,
+    if (sqlite3_prepare_v2(db(),
             "INSERT OR REPLACE INTO keys(device, inode, size, mtime, ctime, sampled, full, "
             "flags, seen, checksum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
             -1, &insert, nullptr)
@@ -688,9 +431,9 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         sqlite3_reset(insert);
         if (code != SQLITE_DONE) {
             splog_d(kTag
-                + QStringLiteral("store failed: %1").arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+                + QStringLiteral("store failed: %1").arg(QString::fromUtf8(sqlite3_errmsg(db()))));
             failed = true;
-            damaged = isDamage(code);
+            damaged = ContentKeyCacheFile::isDamage(code);
             break;
         }
     }
@@ -701,7 +444,7 @@ void ContentKeyCache::store(const std::vector<Entry> &entries, qint64 readNs)
         return;
     }
     if (failed || !prune(day)) {
-        if (m_db)
+        if (db())
             exec("ROLLBACK");
         return;
     }
@@ -731,7 +474,7 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
         return;
     const qint64 readNs = nowNs();
     sqlite3_stmt *select = nullptr;
-    if (sqlite3_prepare_v2(m_db,
+    if (sqlite3_prepare_v2(db(),
             "SELECT size, mtime, ctime, width, height, rows, cols, type, data, seen, checksum "
             "FROM pictures WHERE device = ? AND inode = ? AND measure = ?",
             -1, &select, nullptr)
@@ -779,18 +522,18 @@ void ContentKeyCache::lookupPictures(std::vector<Picture> &pictures)
     }
     sqlite3_finalize(select);
     if (code != SQLITE_DONE) {
-        damaged = damaged || isDamage(code);
+        damaged = damaged || ContentKeyCacheFile::isDamage(code);
         splog_d(kTag
             + QStringLiteral("picture look-up failed: %1")
-                  .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+                  .arg(QString::fromUtf8(sqlite3_errmsg(db()))));
     }
     exec("COMMIT");
-    if (damaged || !m_db) {
+    if (damaged || !db()) {
         for (Picture &picture : pictures) {
             picture.found = false;
             picture.data.clear();
         }
-        if (m_db)
+        if (db())
             reject("damaged");
     }
 }
@@ -816,13 +559,13 @@ void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64
         return;
     sqlite3_stmt *insert = nullptr;
     sqlite3_stmt *seen = nullptr;
-    if (sqlite3_prepare_v2(m_db,
+    if (sqlite3_prepare_v2(db(),
             "INSERT OR REPLACE INTO pictures(device, inode, measure, size, mtime, ctime, width, "
             "height, rows, cols, type, data, seen, checksum) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
             "?, ?, ?, ?)",
             -1, &insert, nullptr)
             != SQLITE_OK
-        || sqlite3_prepare_v2(m_db,
+        || sqlite3_prepare_v2(db(),
                "UPDATE pictures SET seen = ? WHERE device = ? AND inode = ? AND measure = ?", -1,
                &seen, nullptr)
             != SQLITE_OK
@@ -868,14 +611,14 @@ void ContentKeyCache::storePictures(const std::vector<Picture> &pictures, qint64
     if (code != SQLITE_DONE) {
         splog_d(kTag
             + QStringLiteral("picture store failed: %1")
-                  .arg(QString::fromUtf8(sqlite3_errmsg(m_db))));
+                  .arg(QString::fromUtf8(sqlite3_errmsg(db()))));
         exec("ROLLBACK");
-        if (isDamage(code))
+        if (ContentKeyCacheFile::isDamage(code))
             reject("damaged");
         return;
     }
     if (!prune(day)) {
-        if (m_db)
+        if (db())
             exec("ROLLBACK");
         return;
     }

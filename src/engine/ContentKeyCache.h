@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/ContentKeyCacheFile.h"
+
 #include <functional>
-#include <utility>
 #include <vector>
 
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
-
-struct sqlite3;
-struct sqlite3_stmt;
 
 // Content keys of files read by earlier scans, kept in an SQLite file in the data folder so
 // that a second scan of an unchanged tree reads nothing again. An entry stands only for the
@@ -21,7 +19,8 @@ struct sqlite3_stmt;
 // digest; a file that is no cache of ours, has a newer layout, or fails a check is renamed
 // aside and a new one started: a cache can only spare reads, never decide a group. Several
 // processes may use one file at once (write-ahead log, busy wait of at most kBusyBudgetMs).
-// One object belongs to one thread.
+// One object belongs to one thread. The file itself (opening, layout, lock waits, setting
+// aside) is its ContentKeyCacheFile's; this class reads and writes the entries.
 class ContentKeyCache
 {
 public:
@@ -109,9 +108,9 @@ public:
     ContentKeyCache(const ContentKeyCache &) = delete;
     ContentKeyCache &operator=(const ContentKeyCache &) = delete;
 
-    bool isOpen() const { return m_db != nullptr; }
+    bool isOpen() const { return m_file.isOpen(); }
     // Whether this object had to set a cache file aside.
-    bool setAside() const { return m_setAside; }
+    bool setAside() const { return m_file.setAside(); }
 
     // Fills every entry whose exact stamp is stored (and has settled by now), in one read
     // transaction. A damaged cache is set aside and leaves every entry unfound.
@@ -139,30 +138,23 @@ public:
     void store(const std::vector<Entry> &entries, qint64 readNs);
 
 private:
-    bool open();
-    bool prepareSchema();
-    void close();
-    // Closes a connection given up for another's lock; whether one is open.
-    bool usable();
-    // Renames the file (and its log) aside and starts a new one.
-    void reject(const char *why);
-    // SQLite's busy handler: waits a step while the budget lasts.
-    static int onBusy(void *self, int count);
-    bool waitForLock();
-    bool exec(const char *sql);
+    sqlite3 *db() const { return m_file.db(); }
+    bool usable() { return m_file.usable(); }
+    bool exec(const char *sql) { return m_file.exec(sql); }
+    void reject(const char *why) { m_file.reject(why); }
     static std::vector<quint32> tableOrder(
         size_t count, const std::function<Stamp(size_t)> &stampOf);
+    // The two ways lookup() reads a batch: one pass over the table in key order (split
+    // between two threads when large), or a search per file. Each returns the last
+    // SQLite result, SQLITE_CORRUPT for a row failing its check.
+    int passOverTable(const std::vector<quint32> &order, qint64 readNs,
+        const std::function<Stamp(size_t)> &stampOf,
+        const std::function<void(size_t, const Entry &)> &found);
+    int searchEach(const std::vector<quint32> &order, qint64 readNs,
+        const std::function<Stamp(size_t)> &stampOf,
+        const std::function<void(size_t, const Entry &)> &found);
     // Drops the entries not seen for kKeepDays, inside the caller's write transaction.
     bool prune(qint32 day);
 
-    QString m_path;
-    sqlite3 *m_db = nullptr;
-    sqlite3_stmt *m_select = nullptr;
-    bool m_setAside = false;
-    // The file this object opened (device, inode), told from one put in its place since.
-    std::pair<quint64, quint64> m_identity;
-    int m_busyWaitedMs = 0;
-    bool m_busyGivenUp = false;
-    // Counts the files opened, so that a caller can tell whether a failure started anew.
-    int m_generation = 0;
+    ContentKeyCacheFile m_file;
 };

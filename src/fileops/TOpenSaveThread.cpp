@@ -6,6 +6,8 @@
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "engine/TFileData.h"
+#include "fileops/ProjectFileFormat.h"
+#include "fileops/ProjectFileReader.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,56 +23,16 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QSet>
-#include <QXmlStreamReader>
 #include <QXmlStreamWriter>
+
+using namespace ProjectFileFormat;
 
 namespace {
 
+using ReadGroup = ProjectFileReader::Group;
+
 // The log tag of this file.
 const QString kTag = QStringLiteral("[TOpenSaveThread]: ");
-
-const QString kGroupsElement = QStringLiteral("groups");
-const QString kGroupElement = QStringLiteral("GroupItem");
-const QString kItemElement = QStringLiteral("Item");
-const QString kDefaultScanTime = QStringLiteral("00:00:00");
-// An item whose path XML cannot carry (control characters, bytes that are not UTF-8)
-// is written as the percent-encoded bytes of the name, marked by this attribute.
-const QString kEncodingAttribute = QStringLiteral("encoding");
-const QString kPercentEncoding = QStringLiteral("percent");
-// A group whose members share only their name (the name mode).
-const QString kMatchAttribute = QStringLiteral("match");
-const QString kMatchName = QStringLiteral("name");
-const QString kMatchSampled = QStringLiteral("sampled");
-// An item's stamp as the scan saw it: size, modification time in nanoseconds, device and
-// inode.
-const QString kSizeAttribute = QStringLiteral("size");
-const QString kModifiedAttribute = QStringLiteral("mtime");
-const QString kDeviceAttribute = QStringLiteral("device");
-const QString kInodeAttribute = QStringLiteral("inode");
-const QString kContentKeyAttribute = QStringLiteral("contentKey");
-const QString kChangedAttribute = QStringLiteral("ctime");
-// Longest path Windows accepts; anything longer cannot name a file.
-constexpr int kMaxPathLength = 32767;
-constexpr int kMaxKeyLength = 256;
-
-// One group as read from the file, before the disk is consulted.
-struct ReadGroup
-{
-    QString key;
-    QStringList entries;
-    QSet<QString> selected;
-    TFileData::GroupMatch match = TFileData::MatchContent;
-    QHash<QString, FileStamp> stamps;
-    // Entries left out as repeats of a path listed before.
-    int repeats = 0;
-};
-
-// A failure while reading: the flag and a reason that names the place in the file.
-struct ReadFailure
-{
-    int flag = TOpenSaveThread::ProjectSucceeded;
-    QString reason;
-};
 
 // Whether text holds a character XML 1.0 cannot carry unchanged: controls (tab, line
 // feed and carriage return too, which a reader may turn into spaces or drop), unpaired
@@ -122,18 +84,153 @@ DiskEntry diskEntry(const QString &path)
     return entry;
 }
 
-bool readInteger(const QXmlStreamAttributes &attributes, const QString &name, qint64 &value)
+// Groups in the page's order first, then the rest by their first path so that the
+// file does not depend on hash order.
+QStringList orderedKeys(const TFileData::Groups &groups, const TFileData::DirGroups &dirGroups,
+    const QStringList &order)
 {
-    if (!attributes.hasAttribute(name))
-        return false;
-    bool ok = false;
-    value = attributes.value(name).toLongLong(&ok);
-    return ok;
+    QStringList keys;
+    QSet<QString> placed;
+    for (const QString &key : order) {
+        if ((groups.contains(key) || dirGroups.contains(key)) && !placed.contains(key)) {
+            keys.append(key);
+            placed.insert(key);
+        }
+    }
+    QStringList rest = groups.keys();
+    const auto byFirstFile = [&groups](const QString &a, const QString &b) {
+        return groups.value(a).value(0) < groups.value(b).value(0);
+    };
+    std::sort(rest.begin(), rest.end(), byFirstFile);
+    QStringList restDirs = dirGroups.keys();
+    const auto byFirstFolder = [&dirGroups](const QString &a, const QString &b) {
+        return dirGroups.value(a).value(0).folderPath < dirGroups.value(b).value(0).folderPath;
+    };
+    std::sort(restDirs.begin(), restDirs.end(), byFirstFolder);
+    for (const QString &key : std::as_const(rest) + std::as_const(restDirs)) {
+        if (!placed.contains(key))
+            keys.append(key);
+    }
+    return keys;
 }
 
-QString at(const QXmlStreamReader &xml, const QString &what)
+void writeItem(QXmlStreamWriter &xml, const QString &path, bool selected, const FileStamp &stamp)
 {
-    return QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(what);
+    xml.writeStartElement(kItemElement);
+    xml.writeAttribute(
+        QStringLiteral("selected"), selected ? QStringLiteral("1") : QStringLiteral("0"));
+    // What the scan saw of the file, so that a removal from the reopened project
+    // still notices a file changed since.
+    if (stamp.isValid()) {
+        xml.writeAttribute(kSizeAttribute, QString::number(stamp.size));
+        xml.writeAttribute(kModifiedAttribute, QString::number(stamp.modifiedNs));
+        xml.writeAttribute(kDeviceAttribute, QString::number(stamp.device));
+        xml.writeAttribute(kInodeAttribute, QString::number(stamp.inode));
+        if (stamp.hasContentKey) {
+            xml.writeAttribute(kContentKeyAttribute, QString::number(stamp.contentKey, 16));
+            xml.writeAttribute(kChangedAttribute, QString::number(stamp.changedNs));
+        }
+    }
+    if (needsEncoding(path)) {
+        xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
+        xml.writeCharacters(
+            QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
+    } else {
+        xml.writeCharacters(path);
+    }
+    xml.writeEndElement();
+}
+
+// The groups of a sound project as the disk has them now.
+struct OpenedGroups
+{
+    TFileData::Groups groups;
+    TFileData::DirGroups dirGroups;
+    TFileData::Groups selected;
+    qint64 memberCount = 0;
+    qint64 totalSize = 0;
+    int missing = 0;
+};
+
+DirGroupEntry folderEntry(const QString &folder)
+{
+    DirGroupEntry entry;
+    entry.folderPath = folder;
+    // The same count the finder uses: every file below the folder, hidden
+    // ones included.
+    QDirIterator files(
+        folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        files.next();
+        ++entry.fileCount;
+        entry.totalSize += files.fileInfo().size();
+    }
+    return entry;
+}
+
+// Takes a group read from the file into opened with the members still on disk (without
+// checkDisk, members stamped as files are taken as listed). A group left with fewer than
+// two is left out; one that tags a folder as a picture or mixes files and folders
+// refuses the whole project.
+ProjectFileReader::Failure takeGroup(const ReadGroup &group, bool checkDisk, OpenedGroups &opened)
+{
+    QStringList present;
+    QList<DiskEntry> infos;
+    int folders = 0;
+    for (const QString &entry : group.entries) {
+        const QString path = stripSimilarTag(entry);
+        const auto stamp = group.stamps.constFind(path);
+        const DiskEntry info = checkDisk || stamp == group.stamps.constEnd()
+            ? diskEntry(path)
+            : DiskEntry {true, false, stamp->size};
+        if (!info.exists) {
+            ++opened.missing;
+            splog_d(kTag
+                + QStringLiteral("%1 no longer exists, left out of group %2.")
+                      .arg(stripSimilarTag(entry), group.key));
+            continue;
+        }
+        if (info.isDir) {
+            if (isSimilarEntry(entry))
+                return {TOpenSaveThread::ProjectInvalidContent,
+                    QStringLiteral("group %1 tags a folder as a similar picture").arg(group.key)};
+            ++folders;
+        }
+        present.append(entry);
+        infos.append(info);
+    }
+    if (folders > 0 && folders != present.size())
+        return {TOpenSaveThread::ProjectInvalidContent,
+            QStringLiteral("group %1 mixes files and folders").arg(group.key)};
+    if (present.size() < 2) {
+        splog_d(QStringLiteral(
+            "[TOpenSaveThread]: group %1 keeps fewer than two members and is left out.")
+                    .arg(group.key));
+        return {};
+    }
+    QStringList chosen;
+    for (const QString &entry : std::as_const(present)) {
+        if (group.selected.contains(entry))
+            chosen.append(entry);
+    }
+    if (!chosen.isEmpty())
+        opened.selected.insert(group.key, chosen);
+    if (folders > 0) {
+        QList<DirGroupEntry> entries;
+        for (const QString &folder : std::as_const(present)) {
+            const DirGroupEntry entry = folderEntry(folder);
+            opened.memberCount += entry.fileCount;
+            opened.totalSize += entry.totalSize;
+            entries.append(entry);
+        }
+        opened.dirGroups.insert(group.key, entries);
+    } else {
+        for (const DiskEntry &info : std::as_const(infos))
+            opened.totalSize += info.size;
+        opened.memberCount += present.size();
+        opened.groups.insert(group.key, present);
+    }
+    return {};
 }
 
 } // namespace
@@ -306,30 +403,7 @@ int TOpenSaveThread::saveDocument(
     const TFileData::Groups selected = store->selected();
     const TFileData::Stamps stamps = store->stamps();
 
-    // Groups in the page's order first, then the rest by their first path so that the
-    // file does not depend on hash order.
-    QStringList keys;
-    QSet<QString> placed;
-    for (const QString &key : order) {
-        if ((groups.contains(key) || dirGroups.contains(key)) && !placed.contains(key)) {
-            keys.append(key);
-            placed.insert(key);
-        }
-    }
-    QStringList rest = groups.keys();
-    const auto byFirstFile = [&groups](const QString &a, const QString &b) {
-        return groups.value(a).value(0) < groups.value(b).value(0);
-    };
-    std::sort(rest.begin(), rest.end(), byFirstFile);
-    QStringList restDirs = dirGroups.keys();
-    const auto byFirstFolder = [&dirGroups](const QString &a, const QString &b) {
-        return dirGroups.value(a).value(0).folderPath < dirGroups.value(b).value(0).folderPath;
-    };
-    std::sort(restDirs.begin(), restDirs.end(), byFirstFolder);
-    for (const QString &key : std::as_const(rest) + std::as_const(restDirs)) {
-        if (!placed.contains(key))
-            keys.append(key);
-    }
+    const QStringList keys = orderedKeys(groups, dirGroups, order);
 
     // QSaveFile writes beside the target and renames at the end: a failed or cancelled
     // save leaves an earlier project file as it was.
@@ -381,30 +455,7 @@ int TOpenSaveThread::saveDocument(
             break;
         }
         for (const QString &path : std::as_const(members)) {
-            xml.writeStartElement(kItemElement);
-            xml.writeAttribute(QStringLiteral("selected"),
-                chosen.contains(path) ? QStringLiteral("1") : QStringLiteral("0"));
-            // What the scan saw of the file, so that a removal from the reopened project
-            // still notices a file changed since.
-            const FileStamp stamp = stamps.value(stripSimilarTag(path));
-            if (stamp.isValid()) {
-                xml.writeAttribute(kSizeAttribute, QString::number(stamp.size));
-                xml.writeAttribute(kModifiedAttribute, QString::number(stamp.modifiedNs));
-                xml.writeAttribute(kDeviceAttribute, QString::number(stamp.device));
-                xml.writeAttribute(kInodeAttribute, QString::number(stamp.inode));
-                if (stamp.hasContentKey) {
-                    xml.writeAttribute(kContentKeyAttribute, QString::number(stamp.contentKey, 16));
-                    xml.writeAttribute(kChangedAttribute, QString::number(stamp.changedNs));
-                }
-            }
-            if (needsEncoding(path)) {
-                xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
-                xml.writeCharacters(
-                    QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
-            } else {
-                xml.writeCharacters(path);
-            }
-            xml.writeEndElement();
+            writeItem(xml, path, chosen.contains(path), stamps.value(stripSimilarTag(path)));
         }
         xml.writeEndElement();
         emit saveProjectProcess(++done, total);
@@ -453,319 +504,34 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
     splog_d(QStringLiteral("file.open success."));
 
     const double fileSize = double(std::max<qint64>(file.size(), 1));
-    QXmlStreamReader xml(&file);
-
-    ReadFailure failure;
-    const auto refuse = [&failure](int flag, const QString &reason) {
-        if (failure.flag == ProjectSucceeded)
-            failure = {flag, reason};
-    };
-
-    qint64 fileCount = 0;
-    QString scanTime = kDefaultScanTime;
-    QList<ReadGroup> readGroups;
-    QSet<QString> keys;
-    // Paths of the groups taken so far: a file listed in two groups would let a removal
-    // take it through one while the other counts on it as the copy that stays.
-    QSet<QString> taken;
-    qsizetype listedGroups = 0;
-    qint64 entryCount = 0;
-    bool sawRoot = false;
-    bool sawGroups = false;
-    double lastReported = -1;
-
-    while (failure.flag == ProjectSucceeded && !xml.atEnd()) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        // Entity declarations are the classic way to make a small file expand without
-        // bound; project files never carry a document type, so any is refused.
-        if (token == QXmlStreamReader::DTD) {
-            refuse(ProjectNotAProject,
-                at(xml, QStringLiteral("document type declarations are not allowed")));
-            break;
-        }
-        if (token != QXmlStreamReader::StartElement)
-            continue;
-        if (isInterruptionRequested()) {
-            refuse(ProjectCancelled, QStringLiteral("cancelled"));
-            break;
-        }
-        const QStringView name = xml.name();
-        if (!sawRoot) {
-            sawRoot = true;
-            qDebug() << "Root element name:" << name;
-            if (name != AppIdentity::documentIdentifier) {
-                refuse(ProjectNotAProject,
-                    at(xml, QStringLiteral("root element is \"%1\"").arg(name)));
-                break;
-            }
-            const QXmlStreamAttributes attributes = xml.attributes();
-            if (!readInteger(attributes, QStringLiteral("fileCount"), fileCount) || fileCount < 0) {
-                refuse(ProjectInvalidContent,
-                    at(xml, QStringLiteral("the root has no valid \"fileCount\"")));
-                break;
-            }
-            if (attributes.hasAttribute(QStringLiteral("scanTime")))
-                scanTime = attributes.value(QStringLiteral("scanTime")).toString().left(64);
-            if (attributes.value(QStringLiteral("version")).isEmpty()) {
-                refuse(
-                    ProjectInvalidContent, at(xml, QStringLiteral("the root has no \"version\"")));
-                break;
-            }
-            continue;
-        }
-        if (name == kGroupsElement) {
-            sawGroups = true;
-            continue;
-        }
-        if (name != kGroupElement) {
-            // Elements of later versions are skipped, not trusted.
-            xml.skipCurrentElement();
-            continue;
-        }
-        if (!sawGroups) {
-            refuse(ProjectInvalidContent, at(xml, QStringLiteral("GroupItem outside \"groups\"")));
-            break;
-        }
-        const QXmlStreamAttributes attributes = xml.attributes();
-        ReadGroup group;
-        group.key = attributes.value(QStringLiteral("key")).toString();
-        if (attributes.value(kMatchAttribute) == kMatchName)
-            group.match = TFileData::MatchName;
-        else if (attributes.value(kMatchAttribute) == kMatchSampled)
-            group.match = TFileData::MatchSampled;
-        qint64 reserved = 0;
-        if (group.key.isEmpty() || group.key.size() > kMaxKeyLength) {
-            refuse(ProjectInvalidContent, at(xml, QStringLiteral("a group has no valid \"key\"")));
-            break;
-        }
-        if (!readInteger(attributes, QStringLiteral("GroupType"), reserved)
-            || !readInteger(attributes, QStringLiteral("GroupFlag"), reserved)) {
-            refuse(ProjectInvalidContent,
-                at(xml,
-                    QStringLiteral("group %1 lacks \"GroupType\" or \"GroupFlag\"")
-                        .arg(group.key)));
-            break;
-        }
-        if (keys.contains(group.key)) {
-            refuse(ProjectInvalidContent,
-                at(xml, QStringLiteral("group %1 is listed twice").arg(group.key)));
-            break;
-        }
-        keys.insert(group.key);
-        QSet<QString> seen;
-        while (failure.flag == ProjectSucceeded && xml.readNextStartElement()) {
-            if (xml.name() != kItemElement) {
-                xml.skipCurrentElement();
-                continue;
-            }
-            const QStringView flag = xml.attributes().value(QStringLiteral("selected"));
-            if (flag != QLatin1String("0") && flag != QLatin1String("1")) {
-                refuse(ProjectInvalidContent,
-                    at(xml,
-                        QStringLiteral("an item of group %1 has no valid \"selected\"")
-                            .arg(group.key)));
-                break;
-            }
-            const bool isSelected = flag == QLatin1String("1");
-            FileStamp stamp;
-            {
-                const QXmlStreamAttributes item = xml.attributes();
-                qint64 device = 0;
-                qint64 inode = 0;
-                if (readInteger(item, kSizeAttribute, stamp.size)
-                    && readInteger(item, kModifiedAttribute, stamp.modifiedNs)
-                    && readInteger(item, kDeviceAttribute, device)
-                    && readInteger(item, kInodeAttribute, inode)) {
-                    stamp.device = quint64(device);
-                    stamp.inode = quint64(inode);
-                    const QStringView key = item.value(kContentKeyAttribute);
-                    stamp.contentKey = key.toULongLong(&stamp.hasContentKey, 16);
-                    stamp.hasContentKey = stamp.hasContentKey
-                        && readInteger(item, kChangedAttribute, stamp.changedNs);
-                } else {
-                    stamp = FileStamp();
-                }
-            }
-            const QStringView encoding = xml.attributes().value(kEncodingAttribute);
-            if (!encoding.isEmpty() && encoding != kPercentEncoding) {
-                refuse(ProjectInvalidContent,
-                    at(xml,
-                        QStringLiteral("an item of group %1 has an unknown encoding")
-                            .arg(group.key)));
-                break;
-            }
-            QString entry = xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
-            if (xml.hasError())
-                break;
-            if (!encoding.isEmpty()) {
-                const QByteArray bytes = QByteArray::fromPercentEncoding(entry.toLatin1());
-                // No file name holds a NUL byte; the system would read the path only up to
-                // it and reach another file.
-                if (bytes.contains('\0')) {
-                    refuse(ProjectInvalidContent,
-                        at(xml,
-                            QStringLiteral("group %1 holds a path with a NUL byte (%00)")
-                                .arg(group.key)));
-                    break;
-                }
-                entry = FilePathCodec::decode(bytes);
-            }
-            if (++entryCount > maxEntries) {
-                refuse(ProjectInvalidContent,
-                    at(xml, QStringLiteral("more than %1 entries").arg(maxEntries)));
-                break;
-            }
-            const QString path = stripSimilarTag(entry);
-            if (path.isEmpty() || entry.size() > kMaxPathLength || !QDir::isAbsolutePath(path)) {
-                refuse(ProjectInvalidContent,
-                    at(xml, QStringLiteral("group %1 holds an invalid path").arg(group.key)));
-                break;
-            }
-            // The same file twice in one group would let the removal take every copy. Only
-            // the repeat is left out: the rest of the project is still sound.
-            if (seen.contains(path) || taken.contains(path)) {
-                ++group.repeats;
-                splog_d(kTag
-                    + QStringLiteral("%1 is listed again in group %2; the "
-                                     "repeat is left out. file=%3")
-                          .arg(path, group.key, filepath));
-                continue;
-            }
-            seen.insert(path);
-            group.entries.append(entry);
-            if (stamp.isValid())
-                group.stamps.insert(path, stamp);
-            if (isSelected)
-                group.selected.insert(entry);
-        }
-        if (failure.flag != ProjectSucceeded || xml.hasError())
-            break;
-        ++listedGroups;
-        if (group.entries.size() < 2 && group.repeats == 0) {
-            refuse(ProjectInvalidContent,
-                at(xml, QStringLiteral("group %1 has fewer than two entries").arg(group.key)));
-            break;
-        }
-        if (group.entries.size() < 2) {
-            splog_d(kTag
-                + QStringLiteral("group %1 keeps fewer than two members "
-                                 "once repeats are left out, and is left out. file=%2")
-                      .arg(group.key, filepath));
-        } else {
-            taken.unite(seen);
-            readGroups.append(std::move(group));
-        }
-        const double position = double(file.pos());
-        if (position - lastReported >= fileSize / 100) {
-            lastReported = position;
-            emit openProjectProcess(position, fileSize);
-        }
-    }
-
-    if (failure.flag == ProjectSucceeded && xml.hasError()) {
-        qDebug() << "Failed to parse XML content.";
-        splog_d(QStringLiteral("Failed to parse XML content! file=%1").arg(filepath));
-        return fail(ProjectNotXml,
-            QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(xml.errorString()));
-    }
-    if (failure.flag == ProjectSucceeded && !sawRoot) {
-        qDebug() << "Failed to parse XML content.";
-        splog_d(QStringLiteral("Failed to parse XML content! file=%1").arg(filepath));
-        return fail(ProjectNotXml, QStringLiteral("the file holds no XML element"));
-    }
-    if (failure.flag == ProjectSucceeded && !sawGroups)
-        refuse(ProjectInvalidContent, QStringLiteral("the project has no \"groups\" element"));
+    ProjectFileReader reader(file, filepath, fileSize, maxEntries, *this,
+        [this](double position, double total) { emit openProjectProcess(position, total); });
+    const ProjectFileReader::Failure failure = reader.read();
     if (failure.flag != ProjectSucceeded)
         return fail(failure.flag, failure.reason);
     splog_d(QStringLiteral("doc.setContent success."));
 
     // The file is sound; now compare it with the disk. Files deleted or moved since the
     // save are left out rather than shown as if they were still there.
-    TFileData::Groups groups;
-    TFileData::DirGroups dirGroups;
-    TFileData::Groups selected;
-    qint64 memberCount = 0;
-    qint64 totalSize = 0;
-    int missing = 0;
-    for (const ReadGroup &group : std::as_const(readGroups)) {
+    OpenedGroups opened;
+    for (const ReadGroup &group : reader.groups()) {
         if (isInterruptionRequested())
             return fail(ProjectCancelled, QStringLiteral("cancelled"));
-        QStringList present;
-        QList<DiskEntry> infos;
-        int folders = 0;
-        for (const QString &entry : group.entries) {
-            const QString path = stripSimilarTag(entry);
-            const auto stamp = group.stamps.constFind(path);
-            const DiskEntry info = checkDisk || stamp == group.stamps.constEnd()
-                ? diskEntry(path)
-                : DiskEntry {true, false, stamp->size};
-            if (!info.exists) {
-                ++missing;
-                splog_d(kTag
-                    + QStringLiteral("%1 no longer exists, left out of group %2.")
-                          .arg(stripSimilarTag(entry), group.key));
-                continue;
-            }
-            if (info.isDir) {
-                if (isSimilarEntry(entry))
-                    return fail(ProjectInvalidContent,
-                        QStringLiteral("group %1 tags a folder as a similar picture")
-                            .arg(group.key));
-                ++folders;
-            }
-            present.append(entry);
-            infos.append(info);
-        }
-        if (folders > 0 && folders != present.size())
-            return fail(ProjectInvalidContent,
-                QStringLiteral("group %1 mixes files and folders").arg(group.key));
-        if (present.size() < 2) {
-            splog_d(QStringLiteral(
-                "[TOpenSaveThread]: group %1 keeps fewer than two members and is left out.")
-                        .arg(group.key));
-            continue;
-        }
-        QStringList chosen;
-        for (const QString &entry : std::as_const(present)) {
-            if (group.selected.contains(entry))
-                chosen.append(entry);
-        }
-        if (!chosen.isEmpty())
-            selected.insert(group.key, chosen);
-        if (folders > 0) {
-            QList<DirGroupEntry> entries;
-            for (const QString &folder : std::as_const(present)) {
-                DirGroupEntry entry;
-                entry.folderPath = folder;
-                // The same count the finder uses: every file below the folder, hidden
-                // ones included.
-                QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System,
-                    QDirIterator::Subdirectories);
-                while (files.hasNext()) {
-                    files.next();
-                    ++entry.fileCount;
-                    entry.totalSize += files.fileInfo().size();
-                }
-                memberCount += entry.fileCount;
-                totalSize += entry.totalSize;
-                entries.append(entry);
-            }
-            dirGroups.insert(group.key, entries);
-        } else {
-            for (const DiskEntry &info : std::as_const(infos))
-                totalSize += info.size;
-            memberCount += present.size();
-            groups.insert(group.key, present);
-        }
+        const ProjectFileReader::Failure refused = takeGroup(group, checkDisk, opened);
+        if (refused.flag != ProjectSucceeded)
+            return fail(refused.flag, refused.reason);
     }
+    const TFileData::Groups &groups = opened.groups;
+    const TFileData::DirGroups &dirGroups = opened.dirGroups;
+    const qsizetype listedGroups = reader.listedGroups();
     if (listedGroups > 0 && groups.isEmpty() && dirGroups.isEmpty())
         return fail(ProjectNothingLeft,
             QStringLiteral("none of the %1 groups has two members left").arg(listedGroups));
 
     TFileData *store = TFileData::instance();
-    store->replaceAll(groups, dirGroups, selected);
+    store->replaceAll(groups, dirGroups, opened.selected);
     TFileData::Stamps stamps;
-    for (const ReadGroup &group : std::as_const(readGroups)) {
+    for (const ReadGroup &group : reader.groups()) {
         for (auto it = group.stamps.cbegin(); it != group.stamps.cend(); ++it)
             stamps.insert(it.key(), it.value());
         if (group.match != TFileData::MatchContent && groups.contains(group.key))
@@ -773,15 +539,15 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
     }
     store->setStamps(stamps);
     emit openProjectProcess(fileSize, fileSize);
-    files = int(std::min<qint64>(memberCount, std::numeric_limits<int>::max()));
-    size = totalSize;
+    files = int(std::min<qint64>(opened.memberCount, std::numeric_limits<int>::max()));
+    size = opened.totalSize;
     splog_d(kTag
         + QStringLiteral("project opened: %1 groups, %2 folder groups, %3 "
                          "members no longer on disk. file=%4")
               .arg(groups.size())
               .arg(dirGroups.size())
-              .arg(missing)
+              .arg(opened.missing)
               .arg(filepath));
-    setOutcome(QString(), fileCount, scanTime);
+    setOutcome(QString(), reader.fileCount(), reader.scanTime());
     return ProjectSucceeded;
 }

@@ -5,19 +5,16 @@
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "pictures/PictureMeasures.h"
+#include "pictures/SimilarityLinks.h"
 #include "pictures/TReadImage.h"
 #include "platform/Platform.h"
 #include "preferences/PreferenceRanges.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <memory>
 #include <numeric>
-#include <opencv2/features2d.hpp>
-#include <opencv2/flann.hpp>
-#include <opencv2/img_hash.hpp>
-#include <opencv2/imgproc.hpp>
 #include <vector>
 
 #include <QCoreApplication>
@@ -31,7 +28,6 @@ namespace {
 // The log tags of this file.
 const QString kTag = QStringLiteral("[TImageCompareThread]: ");
 const QString kOpenCvTag = QStringLiteral("[ImageCompareThread] ");
-const QString kImageDataTag = QStringLiteral("[ImageData] ");
 
 // The preference value that means "no automatic selection".
 constexpr int kNoSelectedHint = 8;
@@ -39,8 +35,6 @@ constexpr int kNoSelectedHint = 8;
 constexpr int kSmartHashThreshold = 10000;
 // The cache's measure number of the feature points (the fast measures are 1 and 2).
 constexpr int kFeatureMeasure = 3;
-// Fixed seed of OpenCV's generator before each LSH index, so that re-runs agree.
-constexpr uint64_t kLshSeed = 0x5eed1234u;
 
 QString what(const std::exception &e)
 {
@@ -151,52 +145,40 @@ void ImageCompareThread::chooseMeasure(int imageCount)
         m_measure = imageCount > kSmartHashThreshold ? MeasurePHash : MeasureHistogram;
 }
 
+double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) const
+{
+    return PictureMeasures::compareFast(a, b, m_measure == MeasurePHash);
+}
+
+double ImageCompareThread::compareFeatures(
+    const cv::Mat &descriptorsA, const cv::Mat &descriptorsB) const
+{
+    return PictureMeasures::compareFeatures(descriptorsA, descriptorsB);
+}
+
 cv::Mat ImageCompareThread::makeHistogram(const cv::Mat &bgr)
 {
-    cv::Mat hist;
-    if (bgr.empty())
-        return hist;
-    if (bgr.channels() == 1) {
-        const int channels[] = {0};
-        const int bins[] = {256};
-        const float range[] = {0, 256};
-        const float *ranges[] = {range};
-        cv::calcHist(&bgr, 1, channels, cv::Mat(), hist, 1, bins, ranges);
-    } else {
-        cv::Mat hsv;
-        cv::cvtColor(bgr, hsv, cv::COLOR_BGR2HSV);
-        const int channels[] = {0, 1};
-        const int bins[] = {50, 60};
-        const float hueRange[] = {0, 180};
-        const float satRange[] = {0, 256};
-        const float *ranges[] = {hueRange, satRange};
-        cv::calcHist(&hsv, 1, channels, cv::Mat(), hist, 2, bins, ranges);
-    }
-    cv::normalize(hist, hist, 0, 1, cv::NORM_MINMAX);
-    return hist;
+    return PictureMeasures::makeHistogram(bgr);
 }
 
 cv::Mat ImageCompareThread::makePHash(const cv::Mat &bgr)
 {
-    cv::Mat hash;
-    if (!bgr.empty())
-        cv::img_hash::pHash(bgr, hash);
-    return hash;
+    return PictureMeasures::makePHash(bgr);
 }
 
 double ImageCompareThread::hashSimilarity(int distance)
 {
-    return 1.0 / (1.0 + std::exp(6.0 * (double(distance) / 64.0 - 0.25)));
+    return PictureMeasures::hashSimilarity(distance);
+}
+
+cv::Mat ImageCompareThread::computeDescriptors(const cv::Mat &bgr)
+{
+    return PictureMeasures::computeDescriptors(bgr);
 }
 
 bool ImageCompareThread::aspectRatioCompatible(int wa, int ha, int wb, int hb, double limit)
 {
-    const double ratioA = ha != 0 ? double(wa) / ha : 0.0;
-    const double ratioB = hb != 0 ? double(wb) / hb : 0.0;
-    if (ratioA == 0.0 || ratioB == 0.0)
-        return false;
-    const double r = ratioA / ratioB;
-    return r >= 1.0 / limit && r <= limit;
+    return PictureMeasures::aspectRatioCompatible(wa, ha, wb, hb, limit);
 }
 
 std::unique_ptr<ContentKeyCache> ImageCompareThread::openCache() const
@@ -215,6 +197,77 @@ ContentKeyCache::Stamp ImageCompareThread::pictureStamp(const QString &path)
     const FileStamp file = FileStamp::of(path);
     return ContentKeyCache::Stamp {
         file.device, file.inode, file.size, file.modifiedNs, file.changedNs};
+}
+
+void ImageCompareThread::measurePicture(
+    ImageData &data, Measure measure, ContentKeyCache::Picture *record, std::atomic_int &unreadable)
+{
+    if (record && record->found) {
+        data.width = record->width;
+        data.height = record->height;
+        data.hash = cv::Mat(
+            record->rows, record->cols, record->type, const_cast<char *>(record->data.constData()))
+                        .clone();
+        if (measure == MeasurePHash && data.hash.total() == 8 && data.hash.type() == CV_8UC1)
+            std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
+        record->data.clear();
+        m_fromCache.fetch_add(1);
+        return;
+    }
+    try {
+        int w = 0;
+        int h = 0;
+        TReadImage::Failure failure = TReadImage::Failure::None;
+        const cv::Mat picture = TReadImage::readImage(data.path, &w, &h, &failure);
+        if (picture.empty()) {
+            unreadable.fetch_add(1);
+            logSkipped(data.path, TReadImage::failureText(failure));
+            return;
+        }
+        data.width = w;
+        data.height = h;
+        if (measure == MeasurePHash) {
+            data.hash = makePHash(picture);
+            if (data.hash.total() == 8 && data.hash.type() == CV_8UC1)
+                std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
+        } else {
+            data.hash = makeHistogram(picture);
+        }
+        if (data.hash.empty()) {
+            unreadable.fetch_add(1);
+            logSkipped(data.path, "could not be measured");
+        } else if (record && record->stamp.size >= 0 && data.hash.isContinuous()
+            && pictureStamp(data.path) == record->stamp) {
+            // Still the file stamped before the read: its measure may be kept.
+            record->width = data.width;
+            record->height = data.height;
+            record->rows = data.hash.rows;
+            record->cols = data.hash.cols;
+            record->type = data.hash.type();
+            record->data = QByteArray(reinterpret_cast<const char *>(data.hash.data),
+                qsizetype(data.hash.total() * data.hash.elemSize()));
+            record->fresh = true;
+        }
+    } catch (const cv::Exception &e) {
+        data.hash.release();
+        unreadable.fetch_add(1);
+        splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
+        logSkipped(data.path, "could not be measured");
+    } catch (const std::bad_alloc &) {
+        data.hash.release();
+        unreadable.fetch_add(1);
+        logSkipped(data.path, TReadImage::failureText(TReadImage::Failure::OutOfMemory));
+    } catch (const std::exception &e) {
+        data.hash.release();
+        unreadable.fetch_add(1);
+        splog_d(kTag + QStringLiteral("std::exception: [%1].").arg(what(e)));
+        logSkipped(data.path, "could not be measured");
+    } catch (...) {
+        data.hash.release();
+        unreadable.fetch_add(1);
+        splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
+        logSkipped(data.path, "could not be measured");
+    }
 }
 
 void ImageCompareThread::loadImages(QList<ImageData> &images)
@@ -271,72 +324,7 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
             return;
         ContentKeyCache::Picture *record = cache ? &records[size_t(&data - first)] : nullptr;
         data.bytes = record ? record->stamp.size : QFileInfo(data.path).size();
-        if (record && record->found) {
-            data.width = record->width;
-            data.height = record->height;
-            data.hash = cv::Mat(record->rows, record->cols, record->type,
-                const_cast<char *>(record->data.constData()))
-                            .clone();
-            if (measure == MeasurePHash && data.hash.total() == 8 && data.hash.type() == CV_8UC1)
-                std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
-            record->data.clear();
-            m_fromCache.fetch_add(1);
-            return;
-        }
-        try {
-            int w = 0;
-            int h = 0;
-            TReadImage::Failure failure = TReadImage::Failure::None;
-            const cv::Mat picture = TReadImage::readImage(data.path, &w, &h, &failure);
-            if (picture.empty()) {
-                unreadable.fetch_add(1);
-                logSkipped(data.path, TReadImage::failureText(failure));
-                return;
-            }
-            data.width = w;
-            data.height = h;
-            if (measure == MeasurePHash) {
-                data.hash = makePHash(picture);
-                if (data.hash.total() == 8 && data.hash.type() == CV_8UC1)
-                    std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
-            } else {
-                data.hash = makeHistogram(picture);
-            }
-            if (data.hash.empty()) {
-                unreadable.fetch_add(1);
-                logSkipped(data.path, "could not be measured");
-            } else if (record && record->stamp.size >= 0 && data.hash.isContinuous()
-                && pictureStamp(data.path) == record->stamp) {
-                // Still the file stamped before the read: its measure may be kept.
-                record->width = data.width;
-                record->height = data.height;
-                record->rows = data.hash.rows;
-                record->cols = data.hash.cols;
-                record->type = data.hash.type();
-                record->data = QByteArray(reinterpret_cast<const char *>(data.hash.data),
-                    qsizetype(data.hash.total() * data.hash.elemSize()));
-                record->fresh = true;
-            }
-        } catch (const cv::Exception &e) {
-            data.hash.release();
-            unreadable.fetch_add(1);
-            splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
-            logSkipped(data.path, "could not be measured");
-        } catch (const std::bad_alloc &) {
-            data.hash.release();
-            unreadable.fetch_add(1);
-            logSkipped(data.path, TReadImage::failureText(TReadImage::Failure::OutOfMemory));
-        } catch (const std::exception &e) {
-            data.hash.release();
-            unreadable.fetch_add(1);
-            splog_d(kTag + QStringLiteral("std::exception: [%1].").arg(what(e)));
-            logSkipped(data.path, "could not be measured");
-        } catch (...) {
-            data.hash.release();
-            unreadable.fetch_add(1);
-            splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
-            logSkipped(data.path, "could not be measured");
-        }
+        measurePicture(data, measure, record, unreadable);
     });
     if (cache && !isCancelled())
         cache->storePictures(records, readNs);
@@ -362,61 +350,10 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
                   .arg(unreadable.load()));
 }
 
-double ImageCompareThread::compareFast(const ImageData &a, const ImageData &b) const
-{
-    if (a.hash.empty() || b.hash.empty())
-        return 0.0;
-    try {
-        if (m_measure == MeasurePHash) {
-            if (a.hash.cols != b.hash.cols)
-                return 0.0;
-            const int d = int(cv::norm(a.hash, b.hash, cv::NORM_HAMMING));
-            return hashSimilarity(d);
-        }
-        const int typeA = a.hash.depth();
-        const int typeB = b.hash.depth();
-        if (typeA != CV_32F && typeA != CV_64F) {
-            splog_d(kOpenCvTag
-                + QStringLiteral("img1 type invalid for compareHist: %1").arg(a.hash.type()));
-            return 0.0;
-        }
-        if (typeB != CV_32F && typeB != CV_64F) {
-            splog_d(kOpenCvTag
-                + QStringLiteral("img2 type invalid for compareHist: %1").arg(b.hash.type()));
-            return 0.0;
-        }
-        return 1.0 - cv::compareHist(a.hash, b.hash, cv::HISTCMP_BHATTACHARYYA);
-    } catch (const cv::Exception &e) {
-        splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
-    } catch (...) {
-        splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
-    }
-    return 0.0;
-}
-
 void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups)
 {
     const int n = int(images.size());
-    // The links are joined as they are found (union by index, halved paths) instead of
-    // being listed: at a low pass mark nearly every pair passes, and a list of them would
-    // grow with the square of the pictures. parent and linked are shared by the pool's
-    // tasks under m_linkMutex.
-    std::vector<int> parent(size_t(std::max(n, 0)));
-    std::iota(parent.begin(), parent.end(), 0);
-    std::vector<char> linked(size_t(std::max(n, 0)), 0);
-    const auto root = [&parent](int k) {
-        while (parent[size_t(k)] != k) {
-            parent[size_t(k)] = parent[size_t(parent[size_t(k)])];
-            k = parent[size_t(k)];
-        }
-        return k;
-    };
-    // similarity of image j, packed with the index i that wrote it: the value kept is the
-    // one of the largest i, which is what a sequential run in index order leaves behind,
-    // so that the result does not depend on the order in which the pool runs the tasks.
-    std::vector<std::atomic<quint64>> written(size_t(std::max(n, 0)));
-    for (auto &w : written)
-        w.store(0);
+    SimilarityLinks links(n);
     std::atomic_int finishedIndexes {0};
 
     // The 64-bit hashes are compared as integers: the same Hamming distance as the matrix
@@ -488,52 +425,18 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
             // A picture is never shown as 100 % similar to another one.
             if (percent >= 100.0)
                 percent = 99.0;
-            const quint64 packed = (quint64(i + 1) << 32) | quint32(int(percent));
-            quint64 current = written[size_t(j)].load();
-            while (current < packed && !written[size_t(j)].compare_exchange_weak(current, packed)) {
-            }
+            links.recordSimilarity(i, j, int(percent));
             local.push_back(j);
         }
         if (!local.empty()) {
-            QMutexLocker locker(&m_linkMutex);
-            linked[size_t(i)] = 1;
-            for (int j : local) {
-                linked[size_t(j)] = 1;
-                const int a = root(i);
-                const int b = root(j);
-                // The smaller index stays the root: a group is known by its first picture.
-                if (a != b) {
-                    parent[size_t(std::max(a, b))] = std::min(a, b);
-                    // Each join is one more picture that could go.
-                    if (foundWhenLinked && !earlier[size_t(j)])
-                        addFound(images.at(j).bytes);
-                }
-            }
+            links.link(i, local, [&](int j) {
+                // Each join is one more picture that could go.
+                if (foundWhenLinked && !earlier[size_t(j)])
+                    addFound(images.at(j).bytes);
+            });
         }
     });
-    for (int j = 0; j < n; ++j) {
-        const quint64 packed = written[size_t(j)].load();
-        if (packed != 0)
-            images[j].similarity = qint32(packed & 0xffffffffu);
-    }
-
-    // Groups in the order of their first picture, members in index order before the sort
-    // by similarity: the same on every run, whatever order the pool ran the tasks in.
-    std::vector<int> groupOf(size_t(std::max(n, 0)), -1);
-    const qsizetype firstNew = groups.size();
-    for (int k = 0; k < n; ++k) {
-        if (!linked[size_t(k)])
-            continue;
-        int &group = groupOf[size_t(root(k))];
-        if (group < 0) {
-            group = int(groups.size());
-            groups.append(QList<ImageData>());
-        }
-        groups[group].append(images.at(k));
-    }
-    for (auto group = groups.begin() + firstNew; group != groups.end(); ++group)
-        std::stable_sort(group->begin(), group->end(),
-            [](const ImageData &x, const ImageData &y) { return x.similarity > y.similarity; });
+    links.collect(images, groups);
 
     if (!isCancelled())
         reportProgress(3, n, n, true);
@@ -549,72 +452,6 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
                              "taken: [%1] seconds. Quantity: [%2]")
                   .arg(elapsedSeconds())
                   .arg(groups.size()));
-}
-
-cv::Mat ImageCompareThread::computeDescriptors(const cv::Mat &bgr)
-{
-    if (bgr.empty())
-        return {};
-    cv::Mat picture = bgr.clone();
-    if (picture.cols < 5 || picture.rows < 5)
-        cv::resize(picture, picture, cv::Size(), 5.0, 5.0, cv::INTER_LINEAR);
-    if (picture.cols > 512 || picture.rows > 512) {
-        const double scale = std::min(512.0 / picture.cols, 512.0 / picture.rows);
-        const int w = std::max(1, int(picture.cols * scale));
-        const int h = std::max(1, int(picture.rows * scale));
-        if (w <= 5 || h <= 5) {
-            splog_d(kImageDataTag
-                + QStringLiteral("Invalid resize dimensions calculated: width or "
-                                 "height <= 5"));
-            return {};
-        }
-        cv::resize(picture, picture, cv::Size(w, h), 0, 0, cv::INTER_LINEAR);
-    }
-    cv::Ptr<cv::ORB> orb = cv::ORB::create(500, 1.2f, 8, 31, 0, 2, cv::ORB::HARRIS_SCORE, 31, 20);
-    std::vector<cv::KeyPoint> keyPoints;
-    cv::Mat descriptors;
-    orb->detectAndCompute(picture, cv::noArray(), keyPoints, descriptors);
-    return descriptors;
-}
-
-double ImageCompareThread::compareFeatures(
-    const cv::Mat &descriptorsA, const cv::Mat &descriptorsB) const
-{
-    if (descriptorsA.empty() || descriptorsB.empty())
-        return 0.0;
-    if (descriptorsA.rows < 2) {
-        splog_d(kTag
-            + QStringLiteral("img1 descriptor count less than 2, skipping "
-                             "knnSearch."));
-        return 0.0;
-    }
-    try {
-        // The LSH tables draw their bit selections from OpenCV's (per-thread) generator.
-        cv::theRNG() = cv::RNG(kLshSeed);
-        cv::flann::Index index(
-            descriptorsA, cv::flann::LshIndexParams(12, 20, 2), cvflann::FLANN_DIST_HAMMING);
-        cv::Mat indices;
-        cv::Mat distances;
-        index.knnSearch(descriptorsB, indices, distances, 2, cv::flann::SearchParams(32, 0, true));
-        int good = 0;
-        for (int r = 0; r < indices.rows; ++r) {
-            if (indices.at<int>(r, 0) < 0 || indices.at<int>(r, 1) < 0)
-                continue;
-            const float d1 = float(distances.at<int>(r, 0));
-            const float d2 = float(distances.at<int>(r, 1));
-            if (d2 <= 0.0f)
-                continue;
-            const float ratio = d1 / d2;
-            if (double(ratio) < 0.9)
-                ++good;
-        }
-        return double(good) / double(std::max(descriptorsA.rows, descriptorsB.rows));
-    } catch (const cv::Exception &e) {
-        splog_d(kOpenCvTag + QStringLiteral("OpenCV exception: %1").arg(what(e)));
-    } catch (...) {
-        splog_d(kOpenCvTag + QStringLiteral("Unknown exception occurred."));
-    }
-    return 0.0;
 }
 
 void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)

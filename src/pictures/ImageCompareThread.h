@@ -106,6 +106,10 @@ private:
     // since the last report, or when forced.
     void reportProgress(int progressType, int done, int total, bool force = false);
     void addFound(qint64 bytes);
+    // One picture of loadImages: its measure from the cache record, or decoded and
+    // measured (then kept in the record when the file is still the one stamped).
+    void measurePicture(ImageData &data, Measure measure, ContentKeyCache::Picture *record,
+        std::atomic_int &unreadable);
 
     // Settings.
     float m_similarityValue = 0.0f;
@@ -130,7 +134,6 @@ private:
     Measure m_measure = MeasureHistogram;
     std::atomic_int m_fileCount {0};
     std::atomic<qint64> m_fileBytes {0};
-    QMutex m_linkMutex;
     std::atomic<qint64> m_lastReportMs {0};
     std::atomic_int m_foundCount {0};
     std::atomic<qint64> m_foundBytes {0};

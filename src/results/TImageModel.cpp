@@ -2,13 +2,10 @@
 #include "results/TImageModel.h"
 
 #include "app/FileTypeCatalogue.h"
-#include "cloud/KvCloudObject.h"
-#include "engine/FileStamp.h"
 #include "engine/TFileData.h"
-#include "pictures/ImageLoadTask.h"
+#include "results/GroupBuilder.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 
 #include <QDateTime>
@@ -17,90 +14,22 @@
 #include <QIcon>
 #include <QImageReader>
 #include <QRegularExpression>
-#include <QThreadPool>
-#include <QtConcurrent>
-
-namespace {
-
-struct GroupSource
-{
-    TFileData::Groups groups;
-    TFileData::Groups selected;
-    TFileData::DirGroups dirGroups;
-    bool isCloud = false;
-    KvCloudObject *cloud = nullptr;
-};
-
-GroupItem buildGroup(const GroupSource &source, const QString &key)
-{
-    GroupItem item;
-    item.key = key;
-    // A folder group's members are its folders.
-    const auto folders = source.dirGroups.constFind(key);
-    if (folders != source.dirGroups.cend() && !source.groups.contains(key))
-        for (const DirGroupEntry &entry : folders.value())
-            item.files.append(entry.folderPath);
-    else
-        item.files = source.groups.value(key);
-    item.count = int(item.files.size());
-    item.firstFile = item.files.isEmpty() ? QString() : item.files.first();
-    item.selectedCount = int(source.selected.value(key).size());
-    if (source.isCloud) {
-        const auto property = [&](const char *name) {
-            return TImageModel::cloudProperty(
-                source.cloud, item.firstFile, QString::fromLatin1(name));
-        };
-        item.name = property("name").toString();
-        item.totalSize = property("size").toLongLong() * item.count;
-        item.type = categoryOfMimeType(property("mimeType").toString());
-        return item;
-    }
-    // Members of a similar-picture group carry their similarity after the path.
-    const QFileInfo info(stripSimilarTag(item.firstFile));
-    item.name = info.fileName();
-    if (!info.exists()) {
-        item.type = CategoryOthers;
-        item.totalSize = 0;
-    } else if (info.isDir()) {
-        item.type = CategoryFolders;
-        for (const DirGroupEntry &entry : source.dirGroups.value(key))
-            item.totalSize += entry.totalSize;
-    } else if (std::any_of(item.files.cbegin(), item.files.cend(), isSimilarEntry)) {
-        // Similar pictures differ in size: each is counted as it is.
-        item.type = getFileType(info.suffix());
-        for (const QString &entry : std::as_const(item.files))
-            item.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);
-    } else {
-        item.type = getFileType(info.suffix());
-        item.totalSize = info.size() * item.count;
-    }
-    return item;
-}
-
-} // namespace
 
 QVariant TImageModel::cloudProperty(KvCloudObject *cloud, const QString &entry, const QString &name)
 {
-    if (!cloud)
-        return {};
-    const QString value = cloud->getCFP(stripSimilarTag(entry), name);
-    return value.isEmpty() ? QVariant() : QVariant(value);
+    return GroupBuilder::cloudProperty(cloud, entry, name);
 }
 
 TImageModel::TImageModel(DataModel mode, int thumbnailCacheSize)
-    : QAbstractListModel(nullptr), m_mode(mode)
+    : QAbstractListModel(nullptr), m_mode(mode), m_thumbnails(thumbnailCacheSize, mode == ListView)
 {
-    m_thumbnails.setMaxCost(thumbnailCacheSize);
+    connect(&m_thumbnails, &ThumbnailLoader::thumbnailStored, this, [this](int row) {
+        if (row >= 0 && row < rowCount())
+            emit dataChanged(index(row, 0), index(row, columnCount() - 1), {ThumbnailRole});
+    });
 }
 
-TImageModel::~TImageModel()
-{
-    for (const auto &task : std::as_const(m_pending))
-        task->cancel();
-    // Loads not yet started are dropped; the ones under way end before the model does.
-    m_loader.clear();
-    m_loader.waitForDone();
-}
+TImageModel::~TImageModel() = default;
 
 int TImageModel::rowCount(const QModelIndex &parent) const
 {
@@ -186,7 +115,7 @@ QVariant TImageModel::groupData(const GroupItem &group, int role, int row) const
     case FilesRole:
         return group.files;
     case ThumbnailRole:
-        if (const QPixmap *cached = m_thumbnails.object(group.firstFile))
+        if (const QPixmap *cached = m_thumbnails.cached(group.firstFile))
             return *cached;
         requestThumbnail(row, group.type, group.firstFile);
         return QPixmap();
@@ -251,7 +180,7 @@ QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, 
     case KeyRole:
         return item.key;
     case ThumbnailRole:
-        if (const QPixmap *cached = m_thumbnails.object(item.path))
+        if (const QPixmap *cached = m_thumbnails.cached(item.path))
             return *cached;
         requestThumbnail(index.row(), item.type, item.path);
         return QPixmap();
@@ -377,34 +306,8 @@ void TImageModel::rebuildItemIndex()
 
 TImageModel::BuiltGroups TImageModel::buildAllGroups(bool isCloud, KvCloudObject *cloud)
 {
-    GroupSource source;
-    TFileData *store = TFileData::instance();
-    source.groups = store->groups();
-    source.selected = store->selected();
-    source.dirGroups = store->dirGroups();
-    source.isCloud = isCloud;
-    source.cloud = cloud;
-    QStringList keys = source.groups.keys();
-    for (auto it = source.dirGroups.cbegin(); it != source.dirGroups.cend(); ++it)
-        if (!source.groups.contains(it.key()))
-            keys.append(it.key());
-
-    std::atomic<qint64> totalSize {0};
-    std::atomic<int> selectedTotal {0};
-    auto map = [&source, &totalSize, &selectedTotal](const QString &key) {
-        GroupItem item = buildGroup(source, key);
-        totalSize.fetch_add(item.totalSize, std::memory_order_relaxed);
-        selectedTotal.fetch_add(item.selectedCount, std::memory_order_relaxed);
-        return item;
-    };
-    auto reduce = [](QList<GroupItem> &result, const GroupItem &item) { result.append(item); };
     BuiltGroups built;
-    built.groups = QtConcurrent::blockingMappedReduced<QList<GroupItem>>(keys,
-        std::function<GroupItem(const QString &)>(map),
-        std::function<void(QList<GroupItem> &, const GroupItem &)>(reduce),
-        QtConcurrent::OrderedReduce);
-    built.totalSize = totalSize.load();
-    built.selectedCount = selectedTotal.load();
+    built.groups = GroupBuilder::buildAll(isCloud, cloud, built.totalSize, built.selectedCount);
     return built;
 }
 
@@ -454,9 +357,7 @@ void TImageModel::setItems(const QList<ImageItem> &items)
 
 void TImageModel::clear()
 {
-    for (const auto &task : std::as_const(m_pending))
-        task->cancel();
-    m_pending.clear();
+    m_thumbnails.cancelAll();
     beginResetModel();
     m_allGroups.clear();
     m_groups.clear();
@@ -464,7 +365,7 @@ void TImageModel::clear()
     m_allItems.clear();
     m_items.clear();
     m_itemRows.clear();
-    m_thumbnails.clear();
+    m_thumbnails.clearCache();
     endResetModel();
 }
 
@@ -549,23 +450,7 @@ template<typename T>
 QList<T> TImageModel::fastParallelFilter(
     const QList<T> &source, const std::function<bool(const T &)> &keep)
 {
-    constexpr qsizetype chunkSize = 1000;
-    QList<QFuture<QList<T>>> chunks;
-    for (qsizetype begin = 0; begin < source.size(); begin += chunkSize) {
-        const qsizetype end = std::min(source.size(), begin + chunkSize);
-        chunks << QtConcurrent::run([&source, &keep, begin, end] {
-            QList<T> kept;
-            for (qsizetype i = begin; i < end; ++i)
-                if (keep(source.at(i)))
-                    kept.append(source.at(i));
-            return kept;
-        });
-    }
-    QList<T> result;
-    // Joined in chunk order, so the result keeps the source order.
-    for (auto &chunk : chunks)
-        result.append(chunk.result());
-    return result;
+    return ResultFilter::parallelFilter<T>(source, keep);
 }
 
 template QList<GroupItem> TImageModel::fastParallelFilter<GroupItem>(
@@ -582,27 +467,8 @@ void TImageModel::setDisplayedGroups(const QList<GroupItem> &groups)
 
 int TImageModel::shownSimilarity(const QString &entry)
 {
-    if (!isSimilarEntry(entry))
-        return 100;
-    // 0 marks the picture the others were compared with.
-    const int percent = similarityOfEntry(entry);
-    return percent == 0 ? 100 : percent;
+    return ResultFilter::shownSimilarity(entry);
 }
-
-namespace {
-
-bool reachesFloor(const GroupItem &group, int floor)
-{
-    if (floor <= 0)
-        return true;
-    int reaching = 0;
-    for (const QString &entry : group.files)
-        if (TImageModel::shownSimilarity(entry) >= floor && ++reaching >= 2)
-            return true;
-    return false;
-}
-
-} // namespace
 
 void TImageModel::filterByName(const QString &text)
 {
@@ -611,47 +477,25 @@ void TImageModel::filterByName(const QString &text)
 
 void TImageModel::filterByType(int type)
 {
-    const int floor = m_minSimilarity;
-    setDisplayedGroups(fastParallelFilter<GroupItem>(m_allGroups,
-        [type, floor](const GroupItem &g) { return g.type == type && reachesFloor(g, floor); }));
+    setDisplayedGroups(m_filter.groupsOfType(m_allGroups, type));
 }
 
 void TImageModel::filterByTypeAndName(int type, const QString &text)
 {
-    const int floor = m_minSimilarity;
-    setDisplayedGroups(
-        fastParallelFilter<GroupItem>(m_allGroups, [type, &text, floor](const GroupItem &g) {
-            return (type < 0 || g.type == type) && g.name.contains(text, Qt::CaseInsensitive)
-                && reachesFloor(g, floor);
-        }));
+    setDisplayedGroups(m_filter.groupsOfTypeAndName(m_allGroups, type, text));
 }
 
 void TImageModel::resetGroupFilter()
 {
-    if (m_minSimilarity > 0)
-        filterByTypeAndName(-1, QString());
-    else
-        setDisplayedGroups(m_allGroups);
+    setDisplayedGroups(m_filter.allGroups(m_allGroups));
 }
 
 void TImageModel::filterByShow(int mode, int minSimilarity)
 {
-    std::function<bool(const ImageItem &)> keep;
-    switch (mode) {
-    case 0:
-        keep = [minSimilarity](
-                   const ImageItem &i) { return !i.hidden && i.similarity >= minSimilarity; };
-        break;
-    case 1:
-        keep = [minSimilarity](
-                   const ImageItem &i) { return i.checked && i.similarity >= minSimilarity; };
-        break;
-    case 2:
-        keep = [minSimilarity](const ImageItem &i) { return i.similarity >= minSimilarity; };
-        break;
-    default:
+    const std::function<bool(const ImageItem &)> keep
+        = ResultFilter::showFilter(mode, minSimilarity);
+    if (!keep)
         return;
-    }
     const QList<ImageItem> shown = fastParallelFilter<ImageItem>(m_allItems, keep);
     beginResetModel();
     m_items = shown;
@@ -694,15 +538,7 @@ void TImageModel::refreshItemSelection()
 
 void TImageModel::reloadGroup(const QString &key)
 {
-    TFileData *store = TFileData::instance();
-    GroupSource source;
-    source.selected.insert(key, store->selectedOf(key));
-    const QList<DirGroupEntry> folders = store->dirGroup(key);
-    if (folders.isEmpty())
-        source.groups.insert(key, store->group(key));
-    else
-        source.dirGroups.insert(key, folders);
-    const GroupItem group = buildGroup(source, key);
+    const GroupItem group = GroupBuilder::buildFromStore(key);
     beginResetModel();
     const auto master = m_groupRows.constFind(key);
     if (master != m_groupRows.constEnd())
@@ -717,28 +553,6 @@ void TImageModel::reloadGroup(const QString &key)
         m_groups.append(group);
     rebuildGroupIndex();
     endResetModel();
-}
-
-void TImageModel::refreshAfterRemoval(GroupItem &group)
-{
-    group.count = int(group.files.size());
-    group.firstFile = group.files.first();
-    // The store has already let the member go, with its selection.
-    group.selectedCount = TFileData::instance()->selectedCount(group.key);
-    const bool similar = std::any_of(group.files.cbegin(), group.files.cend(), isSimilarEntry);
-    const QFileInfo first(stripSimilarTag(group.firstFile));
-    const QList<DirGroupEntry> folders = TFileData::instance()->dirGroup(group.key);
-    if (!folders.isEmpty()) {
-        group.totalSize = 0;
-        for (const DirGroupEntry &entry : folders)
-            group.totalSize += entry.totalSize;
-    } else if (similar) {
-        group.totalSize = 0;
-        for (const QString &entry : std::as_const(group.files))
-            group.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);
-    } else if (first.isFile()) {
-        group.totalSize = first.size() * group.count;
-    }
 }
 
 void TImageModel::removeDeletedFile(const QString &key, const QString &path)
@@ -760,7 +574,7 @@ void TImageModel::removeDeletedFile(const QString &key, const QString &path)
         [&derived](const QString &entry) { return derived.match(entry).hasMatch(); });
 
     if (group.files.size() > 1) {
-        refreshAfterRemoval(group);
+        GroupBuilder::refreshAfterRemoval(group);
         const auto master = m_groupRows.constFind(key);
         if (master != m_groupRows.constEnd())
             m_allGroups[*master] = group;
@@ -800,7 +614,7 @@ void TImageModel::removeDeletedFiles(const QHash<QString, QStringList> &removedB
         }
         if (group.files.size() < 2)
             return false;
-        refreshAfterRemoval(group);
+        GroupBuilder::refreshAfterRemoval(group);
         return true;
     };
     auto keepUpdated = [&update](QList<GroupItem> &groups) {
@@ -857,50 +671,17 @@ void TImageModel::setNameMode(int mode)
 
 void TImageModel::requestThumbnail(int row, int type, const QString &path) const
 {
-    if (m_pending.contains(row))
-        return;
-    // The pool must not delete the task: the pending table shares it. The last owner
-    // hands it back to the model's thread for deletion, so its signal connections are
-    // never torn down on a worker thread.
-    std::shared_ptr<ImageLoadTask> task(new ImageLoadTask(row, type, path, m_mode == ListView),
-        [](ImageLoadTask *t) { t->deleteLater(); });
-    task->setAutoDelete(false);
-    connect(task.get(), &ImageLoadTask::finished, this, &TImageModel::onImageLoadTaskFinash,
-        Qt::QueuedConnection);
-    m_pending.insert(row, task);
-    m_loader.start([task] { task->run(); });
+    m_thumbnails.request(row, type, path);
 }
 
 void TImageModel::onImageLoadTaskFinash(
     int row, bool cancel, const QString &imagefile, const QImage &image)
 {
     Q_UNUSED(cancel)
-    if (!image.isNull() && image.width() > 0 && image.height() > 0) {
-        QMetaObject::invokeMethod(
-            this, [this, row, imagefile, image] { storeThumbnail(row, imagefile, image); },
-            Qt::QueuedConnection);
-    }
-    // A newer request for the same row may have replaced a cancelled one.
-    const auto pending = m_pending.find(row);
-    if (pending != m_pending.end() && (!sender() || pending->get() == sender()))
-        m_pending.erase(pending);
-}
-
-void TImageModel::storeThumbnail(int row, const QString &path, const QImage &image)
-{
-    m_thumbnails.insert(path, new QPixmap(QPixmap::fromImage(image)), 1);
-    if (row >= 0 && row < rowCount())
-        emit dataChanged(index(row, 0), index(row, columnCount() - 1), {ThumbnailRole});
+    m_thumbnails.finish(row, imagefile, image, sender());
 }
 
 void TImageModel::cancelPendingLoads(int firstRow, int lastRow)
 {
-    for (auto it = m_pending.begin(); it != m_pending.end();) {
-        if (it.key() < firstRow || it.key() > lastRow) {
-            it.value()->cancel();
-            it = m_pending.erase(it);
-        } else {
-            ++it;
-        }
-    }
+    m_thumbnails.cancelOutside(firstRow, lastRow);
 }

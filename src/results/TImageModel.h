@@ -3,18 +3,15 @@
 
 #include "results/GroupItem.h"
 #include "results/ImageItem.h"
+#include "results/ResultFilter.h"
+#include "results/ThumbnailLoader.h"
 
 #include <functional>
-#include <memory>
 
 #include <QAbstractListModel>
-#include <QCache>
 #include <QHash>
 #include <QImage>
-#include <QPixmap>
-#include <QThreadPool>
 
-class ImageLoadTask;
 class KvCloudObject;
 
 // Order of the group list. The values are stored and passed around as integers.
@@ -126,7 +123,7 @@ public:
     // The similarity floor of the group filters above: a group takes part only while two
     // of its members reach it (identical copies and the picture the others were
     // compared with count as 100). 0: no floor.
-    void setMinimumSimilarity(int percent) { m_minSimilarity = percent; }
+    void setMinimumSimilarity(int percent) { m_filter.setMinimumSimilarity(percent); }
     // A member entry's similarity as the page shows and filters it.
     static int shownSimilarity(const QString &entry);
 
@@ -150,7 +147,7 @@ public:
     const QList<GroupItem> &allGroups() const { return m_allGroups; }
     const QList<ImageItem> &displayedItems() const { return m_items; }
     const QList<ImageItem> &allItems() const { return m_allItems; }
-    int pendingLoadCount() const { return m_pending.size(); }
+    int pendingLoadCount() const { return m_thumbnails.pendingCount(); }
     bool hasThumbnail(const QString &path) const { return m_thumbnails.contains(path); }
 
     // Shared helpers, public for the pages that show the same texts.
@@ -177,23 +174,16 @@ private:
     void requestThumbnail(int row, int type, const QString &path) const;
     QVariant groupData(const GroupItem &group, int role, int row) const;
     QVariant itemData(const ImageItem &item, const QModelIndex &index, int role) const;
-    void storeThumbnail(int row, const QString &path, const QImage &image);
-    // Count, first member, selected count and size of a group that lost members.
-    static void refreshAfterRemoval(GroupItem &group);
 
     DataModel m_mode;
     QList<GroupItem> m_allGroups;
     QList<GroupItem> m_groups;
     QHash<QString, int> m_groupRows;
-    int m_minSimilarity = 0;
+    ResultFilter m_filter;
     QList<ImageItem> m_allItems;
     QList<ImageItem> m_items;
     QHash<QString, int> m_itemRows;
-    mutable QCache<QString, QPixmap> m_thumbnails;
-    mutable QHash<int, std::shared_ptr<ImageLoadTask>> m_pending;
     int m_nameMode = kPathNameMode;
-    // Thumbnails load on a pool of their own: the raster paint engine splits large fills
-    // across the global pool and waits for them, so loads queued there would hold up
-    // every repaint of the views until they were all done.
-    mutable QThreadPool m_loader;
+    // Declared last, so destroyed first: its loads end before the rest of the model goes.
+    mutable ThumbnailLoader m_thumbnails;
 };
