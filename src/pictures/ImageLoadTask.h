@@ -8,10 +8,10 @@
 #include <QRunnable>
 #include <QString>
 
-// One thumbnail request of the result model, run on the global thread pool (which deletes
-// it afterwards). The model's ThumbnailLoader connects `finished` to its own slot with a
-// queued connection and calls cancel() when the row leaves the view; a cancelled task
-// still reports, with cancel set and no image, so the model can forget the request.
+// One thumbnail request of the result model, run on the model's own thread pool; the
+// model's ThumbnailLoader owns it (shared with the running job) and connects `finished`
+// to its own slot with a queued connection and calls cancel() when the row leaves the view; a
+// cancelled task still reports, with cancel set and no image, so the model can forget the request.
 class ImageLoadTask : public QObject, public QRunnable
 {
     Q_OBJECT
