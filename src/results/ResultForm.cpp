@@ -22,7 +22,8 @@
 #include "preferences/DFSelectionPreferences.h"
 #include "results/GroupRowDelegate.h"
 #include "results/PathElider.h"
-#include "results/RemovalSummaryDialog.h"
+#include "results/ResultGroupLoader.h"
+#include "results/ResultRemovalRun.h"
 #include "results/TImageListView.h"
 #include "results/TTableViewDelegate.h"
 #include "ui_ResultForm.h"
@@ -54,7 +55,6 @@
 #include <QSlider>
 #include <QStandardPaths>
 #include <QStorageInfo>
-#include <QThread>
 #include <QTimer>
 #include <QUrl>
 #include <QWidgetAction>
@@ -63,32 +63,6 @@
 namespace {
 
 const QString kTag = QStringLiteral("[TResultForm]: ");
-// Groups handed to the views per batch, and the time one turn of the event loop may
-// spend on them, so that the window keeps answering while a large result loads.
-constexpr int kBatchSize = 100;
-constexpr int kBatchBudgetMs = 12;
-
-// Caption of a category button.
-QString categoryTitle(int code)
-{
-    switch (code) {
-    case CategoryImages:
-        return ResultForm::tr("Images");
-    case CategoryDocuments:
-        return ResultForm::tr("Documents");
-    case CategoryAudio:
-        return ResultForm::tr("Music");
-    case CategoryVideos:
-        return ResultForm::tr("Videos");
-    case CategoryFolders:
-        return ResultForm::tr("Folders");
-    case 8:
-        return ResultForm::tr("Packages");
-    default:
-        return ResultForm::tr("Others");
-    }
-}
-
 // Middle part of the names of a category's count and size labels beside the chart
 // ("lab_images_num"): fixed, whatever the language.
 QString chartLabelKey(int code)
@@ -124,13 +98,10 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
 {
     ui->setupUi(this);
     connect(m_pieChart, &TPieChart::statsReady, this, &ResultForm::bulidPieChart);
-    connect(&m_buildWatcher, &QFutureWatcherBase::finished, this, [this] {
-        m_loadSums = m_buildWatcher.result();
-        m_pendingGroups = std::move(m_loadSums.groups);
-        m_loadSums.groups.clear();
-        m_nextBatch = 0;
-        feedBatches();
-    });
+    m_loader = new ResultGroupLoader(ui, m_groupModel, m_itemModel, m_isCloud, m_cloud, this);
+    connect(m_loader, &ResultGroupLoader::progressChanged, this, &ResultForm::onLoadProgress);
+    connect(m_loader, &ResultGroupLoader::loaded, this, &ResultForm::onLoadComplated);
+    connect(m_loader, &ResultGroupLoader::membersShown, this, &ResultForm::arrangeMembers);
     connect(&m_totalsWatcher, &QFutureWatcherBase::finished, this, [this] {
         if (!m_totalsWatcher.isCanceled())
             m_totals = m_totalsWatcher.result();
@@ -147,19 +118,12 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
                 SelectionTotals::start(TFileData::instance()->selected(), {}, m_isCloud, m_cloud));
         }
     });
-    connect(&m_memberWatcher, &QFutureWatcherBase::finished, this, [this] {
-        if (!m_memberWatcher.isCanceled())
-            showMembers(m_members);
-    });
-    if (m_isCloud && m_cloud) {
-        connect(m_cloud, &KvCloudObject::onDeletedCloudGroupComplated, this,
-            [this](const QStringList &deleted) { onCloudRemovalDone(deleted); });
-        connect(m_cloud, &KvCloudObject::onDeletedCloudOneFileComplated, this,
-            [this](const QStringList &deleted) { onCloudRemovalDone(deleted); });
-        connect(
-            m_cloud, &KvCloudObject::onDeletedCloudError, this, &ResultForm::onDeletedCloudError);
+    m_removal = new ResultRemovalRun(this, ui->btn_delete, m_isCloud, m_cloud);
+    connect(m_removal, &ResultRemovalRun::progressChanged, this, &ResultForm::onItemFileDeleted);
+    connect(m_removal, &ResultRemovalRun::removalApplied, this, &ResultForm::showRemoval);
+    connect(m_removal, &ResultRemovalRun::totalsStale, this, &ResultForm::updateSelectedAndSize);
+    if (m_isCloud && m_cloud)
         connect(m_cloud, &KvCloudObject::deleteProgress, this, &ResultForm::onItemFileDeleted);
-    }
     initUI();
     initMenu();
     initDelButtonMenu();
@@ -170,10 +134,8 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
 ResultForm::~ResultForm()
 {
     splog_d(kTag + QStringLiteral("~ResultForm()"));
-    m_memberWatcher.cancel();
-    m_memberWatcher.waitForFinished();
+    m_loader->stop();
     m_totalsWatcher.waitForFinished();
-    m_buildWatcher.waitForFinished();
     if (m_chart)
         m_chart->removeAllSeries();
     delete ui;
@@ -532,7 +494,7 @@ void ResultForm::setProblemText(const QString &html)
 
 bool ResultForm::guardLoading()
 {
-    if (m_dataLoaded)
+    if (m_loader->isLoaded())
         return false;
     QMessageBox::warning(this, tr("Loading Data"), tr("Data is still loading, please wait..."));
     return true;
@@ -540,53 +502,7 @@ bool ResultForm::guardLoading()
 
 void ResultForm::loadAllGroupsAsync()
 {
-    if (m_buildWatcher.isRunning())
-        return;
-    m_dataLoaded = false;
-    m_pendingGroups.clear();
-    m_nextBatch = 0;
-    m_groupModel->clear();
-    ui->progressBar_loading->setValue(0);
-    ui->stackedWidget->setCurrentWidget(ui->page_loading);
-    const SortRole role = SortRole(ui->comboBox->currentIndex());
-    const bool isCloud = m_isCloud;
-    KvCloudObject *cloud = m_cloud;
-    // Building reads the disk for every group, so it runs on the pool; the views then
-    // take the sorted groups in batches.
-    m_buildWatcher.setFuture(QtConcurrent::run([isCloud, cloud, role] {
-        TImageModel::BuiltGroups built = TImageModel::buildAllGroups(isCloud, cloud);
-        TImageModel::sortGroups(built.groups, role, true);
-        return built;
-    }));
-}
-
-void ResultForm::feedBatches()
-{
-    // As many batches as fit in this turn's budget; the rest in the next turns.
-    QElapsedTimer turn;
-    turn.start();
-    const qsizetype total = m_pendingGroups.size();
-    while (m_nextBatch * kBatchSize < total) {
-        const qsizetype begin = m_nextBatch * kBatchSize;
-        const qsizetype end = std::min<qsizetype>(begin + kBatchSize, total);
-        m_groupModel->appendGroups(m_pendingGroups.mid(begin, end - begin));
-        ++m_nextBatch;
-        const int progress = int(end * 100 / total);
-        emit onLoadProgress(progress);
-        ui->progressBar_loading->setValue(progress);
-        if (begin == 0) {
-            ui->stackedWidget->setCurrentWidget(ui->page_result);
-            ui->listView_groups->setCurrentIndex(m_groupModel->index(0, 0));
-        }
-        if (turn.elapsed() >= kBatchBudgetMs && end < total) {
-            updateGroupTitle();
-            QTimer::singleShot(0, this, &ResultForm::feedBatches);
-            return;
-        }
-    }
-    m_pendingGroups.clear();
-    m_pendingGroups.squeeze();
-    onLoadComplated(m_loadSums.selectedCount, m_loadSums.totalSize, 100);
+    m_loader->start();
 }
 
 void ResultForm::onLoadComplated(int selectCount, qlonglong selectSize, int progress)
@@ -594,9 +510,9 @@ void ResultForm::onLoadComplated(int selectCount, qlonglong selectSize, int prog
     Q_UNUSED(selectCount)
     Q_UNUSED(selectSize)
     Q_UNUSED(progress)
-    m_dataLoaded = true;
+    m_loader->setLoaded();
     ui->stackedWidget->setCurrentWidget(ui->page_result);
-    updateCategoryButtons();
+    m_loader->updateCategoryButtons(m_category);
     loadAllData(m_category);
     updateSelectedAndSize();
     startAnalytics();
@@ -617,13 +533,12 @@ void ResultForm::loadAllData(int category)
     else
         m_groupModel->filterByTypeAndName(category == kAllCategories ? -1 : category, text);
     m_groupModel->sort(SortRole(ui->comboBox->currentIndex()), m_descending);
-    updateGroupTitle();
+    m_loader->updateGroupTitle();
     if (m_groupModel->rowCount() > 0) {
         // The group on show stays on show (and highlighted) while it is in the list.
-        showGroupRow(std::max(0, rowOfGroup(m_memberKey)));
+        showGroupRow(std::max(0, rowOfGroup(m_loader->memberKey())));
     } else {
-        m_memberWatcher.cancel();
-        m_memberKey.clear();
+        m_loader->clearMembers();
         m_itemModel->setItems({});
         ui->lab_group_title->clear();
         const QPixmap placeholder(LanguageSetup::current().noSelectionLiteBackground.isEmpty()
@@ -656,9 +571,9 @@ void ResultForm::undoHide()
         store->setSelected(hidden.key, hidden.selection);
     splog_d(kTag + QStringLiteral("undoHide. group:[%1]").arg(hidden.key));
     m_groupModel->reloadGroup(hidden.key);
-    m_memberKey = hidden.key;
+    m_loader->setMemberKey(hidden.key);
     loadAllData(m_category);
-    updateCategoryButtons();
+    m_loader->updateCategoryButtons(m_category);
     updateSelectedAndSize();
     startAnalytics();
 }
@@ -679,44 +594,6 @@ void ResultForm::showGroupRow(int row)
     ui->listView_groups->scrollTo(index);
     // Shown even when the row was current already: its group may have changed.
     onTableViewSelectChanged();
-}
-
-void ResultForm::updateCategoryButtons()
-{
-    QHash<int, QPair<int, qint64>> byType;
-    qint64 all = 0;
-    for (const GroupItem &group : m_groupModel->allGroups()) {
-        auto &entry = byType[group.type];
-        ++entry.first;
-        entry.second += group.totalSize;
-        all += group.totalSize;
-    }
-    const auto label = [](const QString &name, int groups, qint64 bytes) {
-        return QStringLiteral("%1  %2 · %3")
-            .arg(name)
-            .arg(groups)
-            .arg(TImageModel::sizeText(bytes));
-    };
-    ui->btn_all->setText(label(tr("All"), int(m_groupModel->allGroups().size()), all));
-    const QList<QPair<QPushButton *, int>> buttons = {{ui->btn_image, CategoryImages},
-        {ui->btn_document, CategoryDocuments}, {ui->btn_music, CategoryAudio},
-        {ui->btn_videos, CategoryVideos}, {ui->btn_archives, CategoryFolders},
-        {ui->btn_packages, 8}, {ui->btn_others, CategoryOthers}};
-    for (const auto &[button, code] : buttons) {
-        const auto entry = byType.value(code);
-        button->setText(label(categoryTitle(code), entry.first, entry.second));
-        // Empty categories stay out of the way, unless the user is looking at one.
-        button->setVisible(entry.first > 0 || m_category == code);
-    }
-}
-
-void ResultForm::updateGroupTitle()
-{
-    const int shown = m_groupModel->rowCount();
-    QString text = tr("%n group(s)", nullptr, shown);
-    if (!m_dataLoaded)
-        text += QStringLiteral(" · ") + tr("loading…");
-    ui->lab_groups_title->setText(text);
 }
 
 // ----------------------------------------------------------------------------- categories
@@ -772,7 +649,7 @@ void ResultForm::on_btn_others_clicked()
 void ResultForm::on_lineEdit_textChanged(const QString &arg1)
 {
     splog_d(kTag + QStringLiteral("on_lineEdit_textChanged. Text :%1").arg(arg1));
-    if (!m_dataLoaded)
+    if (!m_loader->isLoaded())
         return;
     loadAllData(m_category);
 }
@@ -784,7 +661,7 @@ void ResultForm::on_comboBox_activated(int index)
     m_groupModel->sort(SortRole(index), m_descending);
     // The highlighted group is the one on show, wherever the new order put it.
     if (m_groupModel->rowCount() > 0)
-        showGroupRow(std::max(0, rowOfGroup(m_memberKey)));
+        showGroupRow(std::max(0, rowOfGroup(m_loader->memberKey())));
 }
 
 // ----------------------------------------------------------------------------- members
@@ -850,100 +727,11 @@ void ResultForm::onTableViewSelectChanged()
     const QModelIndex index = currentGroupIndex();
     if (!index.isValid() || index.row() >= m_groupModel->displayedGroups().size())
         return;
-    loadGroupMembers(m_groupModel->displayedGroups().at(index.row()));
+    m_loader->loadMembers(m_groupModel->displayedGroups().at(index.row()));
 }
 
-void ResultForm::loadGroupMembers(const GroupItem &group)
+void ResultForm::arrangeMembers(int match)
 {
-    // A newer pick replaces the fill of the previous one.
-    m_memberWatcher.cancel();
-    m_memberWatcher.waitForFinished();
-    m_memberKey = group.key;
-    m_members.clear();
-    m_members.reserve(group.files.size());
-    for (const QString &entry : group.files)
-        m_members.append(IndexFileGroup {group.key, entry});
-    const QHash<QString, DirGroupEntry> folders = [&group] {
-        QHash<QString, DirGroupEntry> byPath;
-        for (const DirGroupEntry &entry : TFileData::instance()->dirGroup(group.key))
-            byPath.insert(entry.folderPath, entry);
-        return byPath;
-    }();
-    const bool isCloud = m_isCloud;
-    KvCloudObject *cloud = m_cloud;
-    m_memberWatcher.setFuture(
-        QtConcurrent::map(m_members, [folders, isCloud, cloud](IndexFileGroup &member) {
-            member.path = stripSimilarTag(member.entry);
-            // Identical copies are as similar as files can be: the slider's floor never
-            // hides them, nor the picture the others were compared with.
-            member.similarity = TImageModel::shownSimilarity(member.entry);
-            if (isCloud) {
-                auto property = [cloud, &member](const char *name) {
-                    return TImageModel::cloudProperty(
-                        cloud, member.path, QString::fromLatin1(name));
-                };
-                member.name = property("name").toString();
-                member.size = property("size").toLongLong();
-                member.createdTime = property("createdTime").toString();
-                member.mimeType = property("mimeType").toString();
-                member.cloudPath = property("cloudPath").toString();
-                if (const int similar = property("similarValue").toInt())
-                    member.similarity = similar;
-                return;
-            }
-            const QFileInfo info(member.path);
-            member.name = info.fileName();
-            const auto folder = folders.constFind(member.path);
-            if (folder != folders.cend()) {
-                member.size = folder->totalSize;
-                return;
-            }
-            // Read through the path codec: a name that is not valid UTF-8 still shows
-            // its real size and date.
-            const FileStamp stamp = FileStamp::of(member.path);
-            member.size = stamp.isValid() ? stamp.size : 0;
-            if (stamp.isValid())
-                member.createdTime = QDateTime::fromMSecsSinceEpoch(stamp.modifiedNs / 1'000'000)
-                                         .toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
-        }));
-}
-
-void ResultForm::showMembers(const QList<IndexFileGroup> &members)
-{
-    int groupIndex = currentGroupIndex().row();
-    TFileData *store = TFileData::instance();
-    const QStringList selected = store->selectedOf(m_memberKey);
-    const TFileData::GroupMatch match = store->groupMatch(m_memberKey);
-    const bool unverified = match != TFileData::MatchContent;
-    QList<ImageItem> items;
-    items.reserve(members.size());
-    QStringList folders;
-    for (const IndexFileGroup &member : members)
-        folders.append(QDir::toNativeSeparators(QFileInfo(member.path).path()));
-    const int distinctFrom = PathElider::distinctFrom(folders);
-    for (const IndexFileGroup &member : members) {
-        ImageItem item;
-        item.key = member.key;
-        item.groupIndex = groupIndex;
-        item.path = member.path;
-        item.size = member.size;
-        item.dateText = member.createdTime;
-        item.checked = selected.contains(member.path) || selected.contains(member.entry);
-        item.type = m_isCloud ? getFileType(QFileInfo(member.name).suffix())
-                              : getPathCategory(member.path);
-        item.similarity = member.similarity;
-        item.unverified = unverified;
-        item.distinctFrom = distinctFrom;
-        item.displayName = member.name;
-        if (isSimilarEntry(member.entry))
-            item.extra = similarityOfEntry(member.entry) == 0
-                ? tr("the picture compared with")
-                : tr("%1% similar").arg(member.similarity);
-        else if (unverified)
-            item.extra = tr("not verified");
-        items.append(item);
-    }
-    m_itemModel->setItems(items);
     // The order the user chose for the list holds for every group.
     if (m_fileSortColumn >= 0)
         m_itemModel->sort(m_fileSortColumn, m_fileSortOrder);
@@ -951,15 +739,15 @@ void ResultForm::showMembers(const QList<IndexFileGroup> &members)
         m_itemModel->filterByShow(m_showFilter, m_similaritySlider->value());
     ui->stackedWidget_members->setCurrentWidget(
         m_viewMode == ListMode ? ui->page_list : ui->page_grid);
-    updateGroupTitle();
+    m_loader->updateGroupTitle();
     const int row = currentGroupIndex().row();
     if (row >= 0 && row < m_groupModel->displayedGroups().size()) {
         const GroupItem &group = m_groupModel->displayedGroups().at(row);
         QString title = tr("%1 · %n copies · %2", nullptr, group.count)
                             .arg(group.name, TImageModel::sizeText(group.totalSize));
-        if (match == TFileData::MatchSampled)
+        if (match == int(TFileData::MatchSampled))
             title += tr(" · not verified: only parts of the files were compared");
-        else if (match == TFileData::MatchName)
+        else if (match == int(TFileData::MatchName))
             title += tr(" · not verified: only the names were compared");
         ui->lab_group_title->setToolTip(title);
         ui->lab_group_title->setText(ui->lab_group_title->fontMetrics().elidedText(
@@ -1156,8 +944,8 @@ void ResultForm::onBtnHideFileClick(const QModelIndex &index)
         ui->tableView_files->setCurrentIndex(next);
         m_imageView->setCurrentIndex(next);
     }
-    updateCategoryButtons();
-    updateGroupTitle();
+    m_loader->updateCategoryButtons(m_category);
+    m_loader->updateGroupTitle();
     updateSelectedAndSize();
     startAnalytics();
 }
@@ -1221,29 +1009,7 @@ void ResultForm::onBtnDeletedClick(const QModelIndex &index)
         return;
     const QString path = index.data(TImageModel::FilePathRole).toString();
     const QString key = index.data(TImageModel::KeyRole).toString();
-    const auto [method, folder] = removalMethod();
-    splog_d(kTag
-        + QStringLiteral("onBtnDeletedClick. DeleteMode:%1. Remove Path:%2. File:%3")
-              .arg(method)
-              .arg(folder, path));
-    if (m_isCloud) {
-        startCloudRemoval({{key, {path}}}, CloudOne);
-        return;
-    }
-    if (method == DFIgnoreListPreferences::removePermanently && !confirmRemoval({{key, {path}}}))
-        return;
-    const QList<DeleteResult> results = removeNow({{key, {path}}});
-    const bool removed = std::any_of(results.cbegin(), results.cend(),
-        [](const DeleteResult &r) { return r.success && r.errorCode == DeleteResult::NoError; });
-    if (!removed) {
-        const DeleteResult failed = results.isEmpty()
-            ? DeleteResult {path, false, DeleteResult::RemovalFailed}
-            : results.first();
-        QMessageBox::warning(this, tr("Delete Failed"),
-            tr("Failed to delete the file: %1").arg(failureText(failed, method)));
-        return;
-    }
-    splog_d(kTag + QStringLiteral("Successfully deleted file: [%1].").arg(path));
+    m_removal->removeOne(key, path);
 }
 
 void ResultForm::onMenuIgnoreGroup(const QString &key, int row, int count)
@@ -1287,8 +1053,8 @@ void ResultForm::removeGroupFromViews(const QString &key)
         ui->listView_groups->setCurrentIndex(m_groupModel->index(0, 0));
     else
         loadAllData(m_category);
-    updateCategoryButtons();
-    updateGroupTitle();
+    m_loader->updateCategoryButtons(m_category);
+    m_loader->updateGroupTitle();
     updateSelectedAndSize();
     startAnalytics();
 }
@@ -1298,376 +1064,55 @@ void ResultForm::onMenuDeleteGroup(const QString &key, int row, int count)
     Q_UNUSED(row)
     if (key.isEmpty() || count < 1 || guardLoading() || isRemoving())
         return;
-    const QStringList selected = TFileData::instance()->selectedOf(key);
-    if (selected.isEmpty()) {
-        QMessageBox::warning(
-            this, tr("No selected"), tr("The current group has no selected files."));
-        return;
-    }
-    const auto [method, folder] = removalMethod();
-    if ((m_isCloud || method == DFIgnoreListPreferences::removePermanently)
-        && !confirmRemoval({{key, selected}}))
-        return;
-    splog_d(kTag
-        + QStringLiteral("onMenuDeleteGroup. DeleteMode:%1. Remove Path:%2. files:[%3]")
-              .arg(method)
-              .arg(folder, selected.join(QLatin1Char(','))));
-    if (m_isCloud) {
-        startCloudRemoval({{key, selected}}, CloudGroup);
-        return;
-    }
-    const QList<DeleteResult> results = removeNow({{key, selected}});
-    QStringList removed, failed;
-    for (const DeleteResult &result : results)
-        (result.success && result.errorCode == DeleteResult::NoError ? removed : failed)
-            << result.path;
-    splog_d(kTag
-        + QStringLiteral("Successfully deleted from group: [%1]. Failed to delete: [%2].")
-              .arg(removed.join(QLatin1Char(',')), failed.join(QLatin1Char(','))));
-    if (!failed.isEmpty())
-        showRemovalSummary(results, method);
+    m_removal->removeGroup(key);
 }
 
 // ----------------------------------------------------------------------------- removal
 
-QPair<int, QString> ResultForm::removalMethod() const
-{
-    DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
-    const int method = prefs->RemovealMethod();
-    return {
-        method, method == DFIgnoreListPreferences::moveToFolder ? prefs->TrashFolder() : QString()};
-}
-
-bool ResultForm::confirmRemoval(const QHash<QString, QStringList> &selection)
-{
-    const int method = removalMethod().first;
-    QString question;
-    if (m_isCloud)
-        question = tr("Selected files will be moved into the Cloud Drive's Recycle Bin, and they "
-                      "may be permanently deleted if the files' size is too large. Are you sure "
-                      "you want to delete them?");
-    else if (method == DFIgnoreListPreferences::removePermanently)
-        question = tr("The selected files will be permanently deleted, are you sure to delete?");
-    else if (method == DFIgnoreListPreferences::moveToTrash)
-        question = tr("Selected files will be moved into the Recycle Bin, and it may be "
-                      "permanently deleted if the files' size is too large. Are you sure you want "
-                      "to delete them?");
-    else
-        return true;
-    // What the answer is about: the number of items and their size as the scan saw them.
-    TFileData *store = TFileData::instance();
-    QHash<QString, qint64> folders;
-    for (const QList<DirGroupEntry> &entries : store->dirGroups())
-        for (const DirGroupEntry &entry : entries)
-            folders.insert(entry.folderPath, entry.totalSize);
-    qint64 count = 0;
-    qint64 bytes = 0;
-    for (const QStringList &entries : selection) {
-        for (const QString &entry : entries) {
-            const QString path = stripSimilarTag(entry);
-            ++count;
-            const FileStamp stamp = store->stamp(path);
-            if (m_isCloud)
-                bytes += TImageModel::cloudProperty(m_cloud, path, QStringLiteral("size"))
-                             .toLongLong();
-            else if (folders.contains(path))
-                bytes += folders.value(path);
-            else
-                bytes += stamp.isValid() ? stamp.size : SelectionTotals::bytesOf(path);
-        }
-    }
-    question += QStringLiteral("\n\n")
-        + tr("%n item(s), %1.", nullptr, int(std::min<qint64>(count, INT_MAX)))
-              .arg(TImageModel::sizeText(bytes));
-    // Losing files for good is never the default answer.
-    const auto defaultAnswer = method == DFIgnoreListPreferences::removePermanently && !m_isCloud
-        ? QMessageBox::No
-        : QMessageBox::Yes;
-    return QMessageBox::question(this, AppIdentity::applicationName, question,
-               QMessageBox::Yes | QMessageBox::No, defaultAnswer)
-        == QMessageBox::Yes;
-}
-
 bool ResultForm::removesEveryCopy(
     const QHash<QString, QStringList> &groups, const QHash<QString, QStringList> &selected)
 {
-    for (auto it = selected.cbegin(); it != selected.cend(); ++it) {
-        const QStringList members = groups.value(it.key());
-        if (members.isEmpty())
-            continue;
-        QSet<QString> chosen;
-        for (const QString &entry : it.value())
-            chosen.insert(stripSimilarTag(entry));
-        const bool keepsOne = std::any_of(members.cbegin(), members.cend(),
-            [&chosen](const QString &member) { return !chosen.contains(stripSimilarTag(member)); });
-        if (!keepsOne)
-            return true;
-    }
-    return false;
-}
-
-void ResultForm::setDeletionMarker(int value)
-{
-    DFPreferences::instance()->ignoreListPreferences()->setDeleteException(value);
-    DFPreferences::instance()->save();
+    return ResultRemovalRun::removesEveryCopy(groups, selected);
 }
 
 void ResultForm::on_btn_delete_clicked()
 {
     if (guardLoading() || isRemoving())
         return;
-    const TFileData::Groups selection = TFileData::instance()->selected();
-    qint64 count = 0;
-    for (const QStringList &paths : selection)
-        count += paths.size();
-    if (count == 0) {
-        QMessageBox::warning(this, tr("Warning"), tr("No Selected Files!"));
-        return;
-    }
-    if (!confirmRemoval(selection))
-        return;
-    if (m_isCloud) {
-        // A cloud group always keeps a copy: the service's copies cannot be compared
-        // again once they are gone.
-        startCloudRemoval(selection, CloudBatch);
-        return;
-    }
-    bool allowAllCopies = false;
-    if (removesEveryCopy(TFileData::instance()->groups(), selection)) {
-        // Losing the last copy is never the default answer.
-        allowAllCopies = QMessageBox::warning(this, AppIdentity::applicationName,
-                             tr("In some groups every copy is selected, so nothing of them "
-                                "would be kept.\n\nRemove every copy of those files too? With "
-                                "\"No\" one copy of each stays."),
-                             QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-            == QMessageBox::Yes;
-    }
-    startBatch(selection, allowAllCopies);
-}
-
-void ResultForm::startBatch(
-    const QHash<QString, QStringList> &selection, bool allowAllCopies, bool allowDifferentContent)
-{
-    const auto [method, folder] = removalMethod();
-    RemovalRequest request = RemovalRequest::fromStore(method, folder);
-    request.selected = selection;
-    request.allowAllCopies = allowAllCopies;
-    request.allowDifferentContent = allowDifferentContent;
-    if (const QString refusal = request.refusal(); !refusal.isEmpty()) {
-        QMessageBox::warning(this, tr("Delete Failed"), tr("Nothing was removed: %1").arg(refusal));
-        return;
-    }
-    m_batchMethod = method;
-    m_batchAllowsDifferent = allowDifferentContent;
-    qint64 count = 0;
-    QStringList paths;
-    for (const QStringList &list : selection) {
-        count += list.size();
-        paths << list;
-    }
-    m_journal = new RemovalJournal;
-    if (!m_journal->begin(RemovalJournal::methodName(method), count, folder)) {
-        QMessageBox::warning(this, tr("Delete Failed"),
-            tr("Nothing was removed: the removal record %1 cannot be written (%2).")
-                .arg(QDir::toNativeSeparators(m_journal->path()), m_journal->error()));
-        delete m_journal;
-        m_journal = nullptr;
-        return;
-    }
-    setDeletionMarker(1);
-    splog_d(kTag
-        + QStringLiteral("on_btn_delete_clicked. DeleteMode:%1. Remove Path:%2. files.count:[%3]")
-              .arg(method)
-              .arg(folder)
-              .arg(paths.size()));
-
-    m_progress = new CustomProgressDialog(tr("Removing files"), this);
-    m_progress->setWindowModality(Qt::ApplicationModal);
-    m_progress->setText(tr("Removing the selected files…"));
-    m_progress->setProgress(0, double(count));
-
-    m_deleteThread = new QThread;
-    m_worker = new TImageDeleteWorker(request);
-    m_worker->setJournal(m_journal);
-    m_worker->moveToThread(m_deleteThread);
-    connect(m_deleteThread, &QThread::started, m_worker, &TImageDeleteWorker::doDelete);
-    connect(m_worker, &TImageDeleteWorker::progressChanged, this, [this, count](int value) {
-        onItemFileDeleted(value, int(std::min<qint64>(count, INT_MAX)));
-    });
-    // The results are taken on the worker's thread as it finishes: the worker is deleted
-    // with its thread, possibly before the page handles the queued end.
-    auto results = std::make_shared<QList<DeleteResult>>();
-    auto journalError = std::make_shared<QString>();
-    m_batchResults = results;
-    m_batchJournalError = journalError;
-    TImageDeleteWorker *worker = m_worker;
-    connect(
-        m_worker, &TImageDeleteWorker::finished, m_worker,
-        [worker, results, journalError] {
-            *results = worker->results();
-            *journalError = worker->journalError();
-        },
-        Qt::DirectConnection);
-    connect(m_worker, &TImageDeleteWorker::finished, m_deleteThread, &QThread::quit);
-    connect(m_worker, &TImageDeleteWorker::finished, this, &ResultForm::onDeletedComplated);
-    connect(m_progress, &CustomProgressDialog::canceled, m_worker,
-        &TImageDeleteWorker::setCancelled, Qt::DirectConnection);
-    connect(m_deleteThread, &QThread::finished, m_worker, &QObject::deleteLater);
-    connect(m_deleteThread, &QThread::finished, m_deleteThread, &QObject::deleteLater);
-    ui->btn_delete->setEnabled(false);
-    m_deleteThread->start(QThread::InheritPriority);
-    // Short batches end before the dialog would show; it must not appear after the end.
-    QTimer::singleShot(200, m_progress.data(), [this, progress = m_progress] {
-        if (progress && progress == m_progress)
-            progress->show();
-    });
+    m_removal->removeSelection();
 }
 
 void ResultForm::onItemFileDeleted(int complate, int total)
 {
     emit onDeleteFileProcess(complate);
-    if (m_progress)
-        m_progress->setProgress(complate, total);
+    m_removal->showProgress(complate, total);
 }
 
 void ResultForm::onDeletedComplated(const QHash<QString, QStringList> &files,
     const QHash<QString, QStringList> &dirs, const QHash<QString, QStringList> &selected)
 {
     Q_UNUSED(selected)
-    const QList<DeleteResult> results = m_batchResults ? *m_batchResults : QList<DeleteResult>();
-    const QString journalError = m_batchJournalError ? *m_batchJournalError : QString();
-    m_batchResults.reset();
-    m_batchJournalError.reset();
-    if (m_journal) {
-        m_journal->end();
-        delete m_journal;
-        m_journal = nullptr;
-    }
-    m_worker = nullptr;
-    m_deleteThread = nullptr;
-    setDeletionMarker(0);
-    if (m_progress) {
-        m_progress->finish();
-        m_progress->deleteLater();
-        m_progress.clear();
-    }
-    finishRemoval(files, dirs, results, true);
-    if (!journalError.isEmpty()) {
-        QMessageBox::warning(this, tr("Delete Failed"),
-            tr("The removal stopped: the removal record %1 cannot be written (%2). Nothing "
-               "more was removed.")
-                .arg(QDir::toNativeSeparators(RemovalJournal::defaultPath()), journalError));
-        return;
-    }
-    offerDifferentContent(results);
+    m_removal->batchEnded(files, dirs);
 }
 
-bool ResultForm::confirmDifferentContent(qsizetype count)
+bool ResultForm::isDataLoaded() const
 {
-    return QMessageBox::question(this, tr("Remove Different Files?"),
-               tr("%n selected file(s) differ in content from every copy that stays: they are "
-                  "similar pictures or files that only share a name. They were kept.\n\nRemove "
-                  "them too?",
-                   nullptr, int(count)),
-               QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-        == QMessageBox::Yes;
+    return m_loader->isLoaded();
 }
 
-void ResultForm::offerDifferentContent(const QList<DeleteResult> &results)
+bool ResultForm::isRemoving() const
 {
-    if (m_batchAllowsDifferent)
-        return;
-    // Similar pictures and files that share a name differ by design: the first batch kept
-    // those that differ from every copy that stays, and only the user's yes lets them go.
-    QSet<QString> differing;
-    for (const DeleteResult &result : results)
-        if (result.errorCode == DeleteResult::Skipped
-            && result.reason == RemovalCheck::differentContent)
-            differing.insert(result.path);
-    if (differing.isEmpty())
-        return;
-    QHash<QString, QStringList> selection;
-    const TFileData::Groups selected = TFileData::instance()->selected();
-    for (auto it = selected.cbegin(); it != selected.cend(); ++it)
-        for (const QString &path : it.value())
-            if (differing.contains(stripSimilarTag(path)))
-                selection[it.key()].append(path);
-    if (selection.isEmpty())
-        return;
-    if (confirmDifferentContent(differing.size()))
-        startBatch(selection, false, true);
+    return m_removal->isRemoving();
 }
 
-QList<DeleteResult> ResultForm::removeNow(
-    const QHash<QString, QStringList> &selection, bool allowDifferentContent)
+QList<DeleteResult> ResultForm::lastRemoval() const
 {
-    const auto [method, folder] = removalMethod();
-    RemovalRequest request = RemovalRequest::fromStore(method, folder);
-    request.selected = selection;
-    request.allowDifferentContent = allowDifferentContent;
-    const QString refusal = request.refusal();
-    qint64 count = 0;
-    for (const QStringList &paths : selection)
-        count += paths.size();
-    RemovalJournal journal;
-    if (!refusal.isEmpty() || !journal.begin(RemovalJournal::methodName(method), count, folder)) {
-        DeleteResult refused {
-            selection.cbegin().value().value(0), false, DeleteResult::RemovalFailed};
-        refused.reason = !refusal.isEmpty()
-            ? refusal
-            : tr("the removal record cannot be written: %1").arg(journal.error());
-        return {refused};
-    }
-    setDeletionMarker(1);
-    TImageDeleteWorker worker(request);
-    worker.setJournal(&journal);
-    TFileData::Groups removedFiles, removedDirs;
-    connect(&worker, &TImageDeleteWorker::finished, this,
-        [&removedFiles, &removedDirs](const TFileData::Groups &files, const TFileData::Groups &dirs,
-            const TFileData::Groups &) {
-            removedFiles = files;
-            removedDirs = dirs;
-        });
-    worker.doDelete();
-    journal.end();
-    setDeletionMarker(0);
-    const QList<DeleteResult> results = worker.results();
-    finishRemoval(removedFiles, removedDirs, results, false);
-    const auto differing = std::count_if(results.cbegin(), results.cend(),
-        [](const DeleteResult &result) { return result.reason == RemovalCheck::differentContent; });
-    if (differing && !allowDifferentContent && confirmDifferentContent(differing))
-        return removeNow(selection, true);
-    return results;
+    return m_removal->lastRemoval();
 }
 
-void ResultForm::finishRemoval(const QHash<QString, QStringList> &files,
-    const QHash<QString, QStringList> &dirs, const QList<DeleteResult> &results, bool showSummary)
+void ResultForm::showRemoval(const QHash<QString, QStringList> &removed)
 {
-    m_lastRemoval = results;
-    TFileData *store = TFileData::instance();
-    QHash<QString, QStringList> removed = files;
-    for (auto it = dirs.cbegin(); it != dirs.cend(); ++it)
-        removed[it.key()] << it.value();
-    for (auto it = removed.cbegin(); it != removed.cend(); ++it)
-        for (const QString &entry : it.value())
-            store->removePath(it.key(), entry);
-    // A group the removal found not to be identical (the sampled mode compared parts of
-    // its files) is no group of copies: it leaves the page whole.
-    QSet<QString> notIdentical;
-    for (const DeleteResult &result : results)
-        if (result.reason == RemovalCheck::notIdentical)
-            notIdentical.insert(result.path);
-    if (!notIdentical.isEmpty()) {
-        const TFileData::Groups groups = store->groups();
-        for (auto it = groups.cbegin(); it != groups.cend(); ++it) {
-            if (std::none_of(it.value().cbegin(), it.value().cend(),
-                    [&](const QString &member) { return notIdentical.contains(member); }))
-                continue;
-            removed[it.key()] << it.value();
-            store->removeGroup(it.key());
-        }
-    }
-    const QString current = m_memberKey;
+    const QString current = m_loader->memberKey();
     m_groupModel->removeDeletedFiles(removed);
     // Groups that the removal emptied leave the list; the others show their new members.
     loadAllData(m_category);
@@ -1678,227 +1123,20 @@ void ResultForm::finishRemoval(const QHash<QString, QStringList> &files,
             break;
         }
     }
-    updateCategoryButtons();
+    m_loader->updateCategoryButtons(m_category);
     updateSelectedAndSize();
     startAnalytics();
     m_changed = true;
-    if (showSummary)
-        showRemovalSummary(results, m_batchMethod);
 }
 
 QString ResultForm::failureText(const DeleteResult &result, int method)
 {
-    // The cloud source words its reasons itself, the service's words included.
-    if (method == kCloudRemoval)
-        return result.reason.isEmpty() ? tr("The cloud service did not remove it.") : result.reason;
-    if (result.errorCode == DeleteResult::Skipped) {
-        // The checks give their reasons in the journal's words; the user reads them here.
-        if (result.reason == RemovalCheck::changedSinceScan)
-            return tr("The file changed after the scan.");
-        if (result.reason == RemovalCheck::noKeptCopyLeft)
-            return tr("No other copy of it would be left.");
-        if (result.reason == RemovalCheck::contentDiffers)
-            return tr("Its content no longer matches the copy that stays.");
-        if (result.reason == RemovalCheck::differentContent)
-            return tr("Its content differs from every copy that stays.");
-        if (result.reason == RemovalCheck::notIdentical)
-            return tr("Not identical (only parts were compared).");
-        if (result.reason == RemovalCheck::folderNotCovered)
-            return tr("Not everything in it has a copy in the folder that stays.");
-        if (result.reason == TImageDeleteWorker::keptLastCopy)
-            return tr("Every copy of its group was selected; this one stays.");
-        return result.reason;
-    }
-    if (!QFileInfo::exists(stripSimilarTag(result.path)) && !result.success)
-        return tr("The file was not found.");
-    switch (result.errorCode) {
-    case DeleteResult::NotAFile:
-        return tr("The item is not a file.");
-    case DeleteResult::NotAFolder:
-        return tr("The item is not a directory.");
-    case DeleteResult::MoveFailed:
-        return tr("Failed to move the file.");
-    default:
-        break;
-    }
-    const QString reason = result.reason.toLower();
-    if (reason.contains(QLatin1String("permission")) || reason.contains(QLatin1String("read-only")))
-        return tr("Permission denied. Please check the file's access rights.");
-    if (reason.contains(QLatin1String("busy")) || reason.contains(QLatin1String("in use")))
-        return tr("The file is currently in use and cannot be deleted.");
-    if (method == DFIgnoreListPreferences::moveToTrash)
-        return tr("Failed to move the file to the recycle bin.");
-    if (!result.reason.isEmpty())
-        return result.reason;
-    return tr("An unknown error occurred while deleting the file.");
+    return ResultRemovalRun::failureText(result, method);
 }
 
 qint64 ResultForm::removedBytes(const QList<DeleteResult> &results)
 {
-    // Sizes as the scan saw them: the items are gone and cannot be asked any more.
-    TFileData *store = TFileData::instance();
-    QHash<QString, qint64> folders;
-    const TFileData::DirGroups dirGroups = store->dirGroups();
-    for (const QList<DirGroupEntry> &entries : dirGroups)
-        for (const DirGroupEntry &entry : entries)
-            folders.insert(entry.folderPath, entry.totalSize);
-    qint64 bytes = 0;
-    for (const DeleteResult &result : results) {
-        if (!result.success || result.errorCode != DeleteResult::NoError || result.alreadyGone)
-            continue;
-        const QString path = stripSimilarTag(result.path);
-        const auto folder = folders.constFind(path);
-        if (folder != folders.cend())
-            bytes += *folder;
-        else if (const FileStamp stamp = store->stamp(path); stamp.isValid())
-            bytes += stamp.size;
-        else if (!result.destination.isEmpty())
-            bytes += SelectionTotals::bytesOf(result.destination);
-    }
-    return bytes;
-}
-
-void ResultForm::showRemovalSummary(const QList<DeleteResult> &results, int method)
-{
-    qint64 bytes = 0;
-    if (method == kCloudRemoval) {
-        for (const DeleteResult &result : results)
-            if (result.success && result.errorCode == DeleteResult::NoError)
-                bytes += m_cloudSizes.value(result.path);
-    } else {
-        bytes = removedBytes(results);
-    }
-    // A move within one disk frees nothing: the files only have another place.
-    bool freed = method != DFIgnoreListPreferences::moveToFolder;
-    for (const DeleteResult &result : results) {
-        if (freed || !result.success || result.destination.isEmpty())
-            continue;
-        const QStorageInfo target(QFileInfo(result.destination).absolutePath());
-        const QStorageInfo source(QFileInfo(result.path).absolutePath());
-        freed = !target.isValid() || !source.isValid() || target.device() != source.device();
-    }
-    RemovalSummaryDialog dialog(results, method, bytes, freed, this);
-    dialog.exec();
-}
-
-void ResultForm::startCloudRemoval(const QHash<QString, QStringList> &selection, CloudRemoval kind)
-{
-    if (!m_cloud)
-        return;
-    TFileData *store = TFileData::instance();
-    QList<DelParams> requests;
-    qsizetype count = 0;
-    m_cloudKeys.clear();
-    m_cloudSizes.clear();
-    for (auto it = selection.cbegin(); it != selection.cend(); ++it) {
-        QStringList members = store->group(it.key());
-        const bool similar = std::any_of(members.cbegin(), members.cend(), isSimilarEntry);
-        stripSimilarTag(members);
-        QSet<QString> chosen;
-        for (const QString &entry : it.value())
-            chosen.insert(stripSimilarTag(entry));
-        DelParams request;
-        request.groupKey = it.key();
-        request.similar = similar;
-        // The first copy not chosen stays; with every copy chosen, the first one.
-        for (const QString &member : std::as_const(members))
-            if (!chosen.contains(member)) {
-                request.keep = member;
-                break;
-            }
-        if (request.keep.isEmpty() && !members.isEmpty())
-            request.keep = members.first();
-        for (const QString &member : std::as_const(members)) {
-            if (!chosen.contains(member) || member == request.keep)
-                continue;
-            request.files << member;
-            m_cloudKeys.insert(member, it.key());
-            m_cloudSizes.insert(member,
-                TImageModel::cloudProperty(m_cloud, member, QStringLiteral("size")).toLongLong());
-        }
-        count += request.files.size();
-        if (!request.files.isEmpty())
-            requests << request;
-    }
-    if (requests.isEmpty()) {
-        QMessageBox::warning(this, tr("Delete Failed"),
-            tr("Nothing was removed: every selected file is the last copy of its group."));
-        return;
-    }
-    m_cloudRemoval = kind;
-    m_batchMethod = kCloudRemoval;
-    setDeletionMarker(1);
-    ui->btn_delete->setEnabled(false);
-    if (kind == CloudOne) {
-        m_cloud->start_delete_one_file(requests.first());
-        return;
-    }
-    if (kind == CloudGroup) {
-        m_cloud->start_delete_group_files(requests.first());
-        return;
-    }
-    splog_d(kTag
-        + QStringLiteral("on_btn_delete_clicked. DeleteMode:cloud. files.count:[%1]").arg(count));
-    m_progress = new CustomProgressDialog(tr("Removing files"), this);
-    m_progress->setWindowModality(Qt::ApplicationModal);
-    m_progress->setText(tr("Removing the selected files…"));
-    m_progress->setProgress(0, double(count));
-    connect(m_progress, &CustomProgressDialog::canceled, m_cloud, &KvCloudObject::stop_deleted);
-    m_cloud->start_delete_all_files(requests);
-    QTimer::singleShot(200, m_progress.data(), [this, progress = m_progress] {
-        if (progress && progress == m_progress)
-            progress->show();
-    });
-}
-
-void ResultForm::onCloudRemovalDone(const QStringList &deleted)
-{
-    const CloudRemoval kind = std::exchange(m_cloudRemoval, NoCloudRemoval);
-    if (kind == NoCloudRemoval)
-        return;
-    setDeletionMarker(0);
-    if (m_progress) {
-        m_progress->finish();
-        m_progress->deleteLater();
-        m_progress.clear();
-    }
-    QHash<QString, QStringList> removed;
-    for (const QString &path : deleted)
-        removed[m_cloudKeys.value(path)] << path;
-    const QList<DeleteResult> results = m_cloud->lastRemovalResults();
-    splog_d(kTag
-        + QStringLiteral("Cloud removal ended: %1 of %2 removed.")
-              .arg(deleted.size())
-              .arg(results.size()));
-    const bool failed = deleted.size() < results.size();
-    finishRemoval(removed, {}, results, kind == CloudBatch || (kind == CloudGroup && failed));
-    if (kind == CloudOne && failed) {
-        const DeleteResult first = results.isEmpty() ? DeleteResult() : results.first();
-        QMessageBox::warning(this, tr("Delete Failed"),
-            tr("Failed to delete the file: %1").arg(failureText(first, kCloudRemoval)));
-    }
-}
-
-void ResultForm::onDeletedCloudError(int failedCount, const QString &errorMsg)
-{
-    splog_d(
-        kTag + QStringLiteral("onDeletedCloudError. failed:%1. %2").arg(failedCount).arg(errorMsg));
-    // Failures of a removal that ended are in its summary; this is a removal refused
-    // before anything was tried.
-    if (failedCount <= 0 || m_cloudRemoval == NoCloudRemoval)
-        return;
-    m_cloudRemoval = NoCloudRemoval;
-    setDeletionMarker(0);
-    if (m_progress) {
-        m_progress->finish();
-        m_progress->deleteLater();
-        m_progress.clear();
-    }
-    updateSelectedAndSize();
-    const QString text
-        = QStringLiteral("%1 %2. ").arg(tr("Failed to delete the files. "), errorMsg);
-    QTimer::singleShot(
-        100, this, [this, text] { QMessageBox::warning(this, tr("Delete Failed"), text); });
+    return ResultRemovalRun::removedBytes(results);
 }
 
 // ----------------------------------------------------------------------------- chart
@@ -2020,8 +1258,7 @@ void ResultForm::closeEvent(QCloseEvent *event)
 {
     if (isRemoving()) {
         // The batch must end (or be cancelled) before its page goes.
-        if (m_progress)
-            m_progress->cancel();
+        m_removal->cancel();
         event->ignore();
         return;
     }
@@ -2071,7 +1308,7 @@ void ResultForm::retranslate()
     m_actTrash->setText(tr("Move to Recycle Bin"));
     m_actPermanent->setText(tr("Remove permanently"));
     m_actFolder->setText(tr("Move to Folder"));
-    if (m_dataLoaded)
-        updateCategoryButtons();
-    updateGroupTitle();
+    if (m_loader->isLoaded())
+        m_loader->updateCategoryButtons(m_category);
+    m_loader->updateGroupTitle();
 }
