@@ -22,7 +22,9 @@
 #include "preferences/DFSelectionPreferences.h"
 #include "results/GroupRowDelegate.h"
 #include "results/PathElider.h"
+#include "results/ResultChart.h"
 #include "results/ResultGroupLoader.h"
+#include "results/ResultMenus.h"
 #include "results/ResultRemovalRun.h"
 #include "results/TImageListView.h"
 #include "results/TTableViewDelegate.h"
@@ -31,23 +33,18 @@
 
 #include <QActionGroup>
 #include <QButtonGroup>
-#include <QChart>
-#include <QChartView>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGraphicsLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPieSeries>
-#include <QPieSlice>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
@@ -63,28 +60,6 @@
 namespace {
 
 const QString kTag = QStringLiteral("[TResultForm]: ");
-// Middle part of the names of a category's count and size labels beside the chart
-// ("lab_images_num"): fixed, whatever the language.
-QString chartLabelKey(int code)
-{
-    switch (code) {
-    case CategoryImages:
-        return QStringLiteral("images");
-    case CategoryDocuments:
-        return QStringLiteral("documents");
-    case CategoryAudio:
-        return QStringLiteral("musics");
-    case CategoryVideos:
-        return QStringLiteral("videos");
-    case CategoryFolders:
-        return QStringLiteral("folder");
-    case CategoryOthers:
-        return QStringLiteral("others");
-    default:
-        return QString();
-    }
-}
-
 } // namespace
 
 ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
@@ -92,12 +67,12 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
     , ui(new Ui::ResultForm)
     , m_groupModel(new TImageModel(TImageModel::ListView, 50))
     , m_itemModel(new TImageModel(TImageModel::IconView, 300))
-    , m_pieChart(new TPieChart(this))
     , m_isCloud(isCloud)
     , m_cloud(cloud)
 {
     ui->setupUi(this);
-    connect(m_pieChart, &TPieChart::statsReady, this, &ResultForm::bulidPieChart);
+    m_chartPart = new ResultChart(this, ui, m_groupModel, m_isCloud, m_cloud);
+    connect(m_chartPart->pieChart(), &TPieChart::statsReady, this, &ResultForm::bulidPieChart);
     m_loader = new ResultGroupLoader(ui, m_groupModel, m_itemModel, m_isCloud, m_cloud, this);
     connect(m_loader, &ResultGroupLoader::progressChanged, this, &ResultForm::onLoadProgress);
     connect(m_loader, &ResultGroupLoader::loaded, this, &ResultForm::onLoadComplated);
@@ -118,6 +93,8 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
                 SelectionTotals::start(TFileData::instance()->selected(), {}, m_isCloud, m_cloud));
         }
     });
+    m_menus = new ResultMenus(this, ui);
+    connect(m_menus, &ResultMenus::similarityChanged, this, &ResultForm::applySimilarityFloor);
     m_removal = new ResultRemovalRun(this, ui->btn_delete, m_isCloud, m_cloud);
     connect(m_removal, &ResultRemovalRun::progressChanged, this, &ResultForm::onItemFileDeleted);
     connect(m_removal, &ResultRemovalRun::removalApplied, this, &ResultForm::showRemoval);
@@ -136,8 +113,7 @@ ResultForm::~ResultForm()
     splog_d(kTag + QStringLiteral("~ResultForm()"));
     m_loader->stop();
     m_totalsWatcher.waitForFinished();
-    if (m_chart)
-        m_chart->removeAllSeries();
+    m_chartPart->clear();
     delete ui;
     delete m_groupModel;
     delete m_itemModel;
@@ -243,25 +219,7 @@ void ResultForm::initUI()
 
     connect(m_itemModel, &TImageModel::onItemSelectedChange, this, &ResultForm::itemCheckedChanged);
 
-    m_chart = new QChart;
-    m_chart->legend()->hide();
-    m_chart->setBackgroundVisible(false);
-    m_chart->setMargins(QMargins(0, 0, 0, 0));
-    m_chart->layout()->setContentsMargins(0, 0, 0, 0);
-    m_chart->setAnimationOptions(QChart::NoAnimation);
-    m_chartView = new QChartView(m_chart, ui->widget_chart);
-    m_chartView->setObjectName(QStringLiteral("chartView"));
-    m_chartView->setRenderHint(QPainter::Antialiasing);
-    m_chartView->setStyleSheet(QStringLiteral("background: transparent;"));
-    ui->verticalLayout_chart->addWidget(m_chartView);
-    const QList<QPair<QLabel *, int>> dots
-        = {{ui->lab_images_dot, CategoryImages}, {ui->lab_documents_dot, CategoryDocuments},
-            {ui->lab_musics_dot, CategoryAudio}, {ui->lab_videos_dot, CategoryVideos},
-            {ui->lab_folder_dot, CategoryFolders}, {ui->lab_others_dot, CategoryOthers}};
-    for (const auto &[label, code] : dots)
-        label->setStyleSheet(QStringLiteral("background:%1; border-radius:6px;")
-                                 .arg(TPieChart::categoryColour(code).name()));
-
+    m_chartPart->build();
     ui->comboBox->setCurrentIndex(BySize);
     ui->splitter_2->setStretchFactor(0, 0);
     ui->splitter_2->setStretchFactor(1, 1);
@@ -298,146 +256,12 @@ void ResultForm::initUI()
 
 void ResultForm::initMenu()
 {
-    m_selectMenu = new QMenu(this);
-    m_selectMenu->setObjectName(QStringLiteral("menu_select"));
-    const QList<QPair<const char *, int>> rules = {
-        {QT_TR_NOOP("Select by Filename"), GroupItemAutoSelector::autoSelect},
-        {QT_TR_NOOP("Select by Priority"), GroupItemAutoSelector::selectPriority},
-        {QT_TR_NOOP("Select Newest"), GroupItemAutoSelector::selectNewest},
-        {QT_TR_NOOP("Select Oldest"), GroupItemAutoSelector::selectOldest},
-        {QT_TR_NOOP("Select high-quality"), GroupItemAutoSelector::selectHighQuality},
-        {QT_TR_NOOP("Select low-quality"), GroupItemAutoSelector::selectLowQuality},
-        {QT_TR_NOOP("Select high-resolution"), GroupItemAutoSelector::selectHighResolution},
-        {QT_TR_NOOP("Select low-resolution"), GroupItemAutoSelector::selectLowResolution},
-        {QT_TR_NOOP("Select All"), GroupItemAutoSelector::selectAllFiles},
-        {QT_TR_NOOP("Deselect"), GroupItemAutoSelector::deselectAll},
-    };
-    for (const auto &[text, rule] : rules) {
-        if (rule == GroupItemAutoSelector::selectAllFiles)
-            m_selectMenu->addSeparator();
-        QAction *action = m_selectMenu->addAction(tr(text));
-        action->setData(rule);
-        action->setProperty("sourceText", QString::fromLatin1(text));
-        connect(action, &QAction::triggered, this, &ResultForm::onTaskContextMenuEvent);
-    }
-    ui->btn_select->setMenu(m_selectMenu);
-
-    m_filterMenu = new QMenu(this);
-    m_filterMenu->setObjectName(QStringLiteral("menu_filter"));
-    m_filterActions = new QActionGroup(this);
-    m_filterActions->setExclusive(true);
-    const QList<QPair<const char *, int>> filters = {
-        {QT_TR_NOOP("Show Only Duplicate Files"), 0},
-        {QT_TR_NOOP("Show Only Selected Files"), 1},
-        {QT_TR_NOOP("Show All Files"), 2},
-    };
-    for (const auto &[text, mode] : filters) {
-        QAction *action = m_filterMenu->addAction(tr(text));
-        action->setCheckable(true);
-        action->setData(mode);
-        action->setProperty("sourceText", QString::fromLatin1(text));
-        action->setChecked(mode == 2);
-        m_filterActions->addAction(action);
-        connect(action, &QAction::triggered, this, &ResultForm::onTaskFilterMenuEvent);
-    }
-    m_filterMenu->addSeparator();
-
-    // The slider never goes below the threshold the scan used: lower values would
-    // promise pictures the scan never compared.
-    const int threshold
-        = std::clamp(DFPreferences::instance()->generalPreferences()->SimilarityValue(), 1, 100);
-    auto *line = new QWidget(m_filterMenu);
-    auto *layout = new QHBoxLayout(line);
-    layout->setContentsMargins(12, 6, 12, 6);
-    auto *title = new QLabel(tr("Similarity"), line);
-    title->setObjectName(QStringLiteral("lab_similarity"));
-    m_similaritySlider = new QSlider(Qt::Horizontal, line);
-    m_similaritySlider->setObjectName(QStringLiteral("slider_similarity"));
-    m_similaritySlider->setRange(threshold, 100);
-    m_similaritySlider->setValue(threshold);
-    m_similaritySlider->setMinimumWidth(140);
-    m_similaritySlider->setStyleSheet(QStringLiteral(
-        "QSlider::groove:horizontal { height: 4px; background: #d0d0d0; border-radius: 2px; }"
-        "QSlider::sub-page:horizontal { background: #3b99fc; border-radius: 2px; }"
-        "QSlider::handle:horizontal { background: white; border: 1px solid #3b99fc;"
-        " width: 12px; margin: -5px 0; border-radius: 6px; }"));
-    auto *value = new QLabel(QString::number(threshold), line);
-    value->setObjectName(QStringLiteral("lab_similarity_value"));
-    value->setMinimumWidth(30);
-    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    layout->addWidget(title);
-    layout->addWidget(m_similaritySlider, 1);
-    layout->addWidget(value);
-    auto *holder = new QWidgetAction(m_filterMenu);
-    holder->setDefaultWidget(line);
-    m_filterMenu->addAction(holder);
-    connect(m_similaritySlider, &QSlider::valueChanged, this, [this, value](int v) {
-        value->setText(QString::number(v));
-        if (guardLoading())
-            return;
-        // Groups left with fewer than two members at or above the floor leave the list.
-        m_groupModel->setMinimumSimilarity(v > m_similaritySlider->minimum() ? v : 0);
-        loadAllData(m_category);
-        applyShowFilter(m_showFilter);
-    });
-    ui->btn_filter->setMenu(m_filterMenu);
+    m_menus->buildSelectAndFilter();
 }
 
 void ResultForm::initDelButtonMenu()
 {
-    m_deleteMenu = new QMenu(this);
-    m_deleteMenu->setObjectName(QStringLiteral("menu_delete"));
-    m_actTrash = m_deleteMenu->addAction(tr("Move to Recycle Bin"));
-    m_actPermanent = m_deleteMenu->addAction(tr("Remove permanently"));
-    m_actFolder = m_deleteMenu->addAction(tr("Move to Folder"));
-    for (QAction *action : {m_actTrash, m_actPermanent, m_actFolder})
-        action->setCheckable(true);
-    m_actTrash->setData(DFIgnoreListPreferences::moveToTrash);
-    m_actPermanent->setData(DFIgnoreListPreferences::removePermanently);
-    m_actFolder->setData(DFIgnoreListPreferences::moveToFolder);
-
-    DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
-    switch (prefs->RemovealMethod()) {
-    case DFIgnoreListPreferences::removePermanently:
-        setActiveDeleteAction(m_actPermanent);
-        break;
-    case DFIgnoreListPreferences::moveToFolder:
-        setActiveDeleteAction(m_actFolder);
-        break;
-    default:
-        setActiveDeleteAction(m_actTrash);
-    }
-
-    connect(m_actTrash, &QAction::triggered, this, [this, prefs] {
-        prefs->setRemovealMethod(DFIgnoreListPreferences::moveToTrash);
-        DFPreferences::instance()->save();
-        setActiveDeleteAction(m_actTrash);
-        on_btn_delete_clicked();
-    });
-    connect(m_actPermanent, &QAction::triggered, this, [this, prefs] {
-        prefs->setRemovealMethod(DFIgnoreListPreferences::removePermanently);
-        DFPreferences::instance()->save();
-        setActiveDeleteAction(m_actPermanent);
-        on_btn_delete_clicked();
-    });
-    connect(m_actFolder, &QAction::triggered, this, [this, prefs] {
-        QString folder = prefs->TrashFolder();
-        if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
-            QAction *previous = m_activeDeleteAction;
-            folder = QFileDialog::getExistingDirectory(this, tr("Select Folder"),
-                QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-            if (folder.isEmpty()) {
-                setActiveDeleteAction(previous);
-                return;
-            }
-            prefs->setTrashFolder(folder);
-        }
-        prefs->setRemovealMethod(DFIgnoreListPreferences::moveToFolder);
-        setActiveDeleteAction(m_actFolder);
-        on_btn_delete_clicked();
-    });
-    ui->btn_delete->setMenu(m_deleteMenu);
+    m_menus->buildDelete();
 }
 
 void ResultForm::setTitle()
@@ -457,31 +281,7 @@ void ResultForm::setProjectName(const QString &name)
 
 void ResultForm::setActiveDeleteAction(QAction *newAction)
 {
-    // A checkable action checks itself when triggered, even when the choice is then
-    // cancelled: every other one is cleared here, not only the previous one.
-    for (QAction *action : m_deleteMenu->actions()) {
-        if (action != newAction) {
-            action->setChecked(false);
-            action->setIcon(QIcon());
-        }
-    }
-    m_activeDeleteAction = newAction;
-    if (newAction) {
-        // The style sheet draws a checked item's indicator with ":/resource/check.svg"; an
-        // icon of its own would take the indicator's place and hide the mark.
-        newAction->setChecked(true);
-    }
-    // The button says what a click does.
-    if (newAction == m_actPermanent) {
-        ui->btn_delete->setText(tr("Remove permanently…"));
-        ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_DialogDiscardButton));
-    } else if (newAction == m_actFolder) {
-        ui->btn_delete->setText(tr("Move to folder…"));
-        ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
-    } else {
-        ui->btn_delete->setText(tr("Remove Selected"));
-        ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
-    }
+    m_menus->setActiveDeleteAction(newAction);
 }
 
 void ResultForm::setProblemText(const QString &html)
@@ -735,8 +535,8 @@ void ResultForm::arrangeMembers(int match)
     // The order the user chose for the list holds for every group.
     if (m_fileSortColumn >= 0)
         m_itemModel->sort(m_fileSortColumn, m_fileSortOrder);
-    if (m_showFilter != 2 || m_similaritySlider->value() > m_similaritySlider->minimum())
-        m_itemModel->filterByShow(m_showFilter, m_similaritySlider->value());
+    if (m_showFilter != 2 || similaritySlider()->value() > similaritySlider()->minimum())
+        m_itemModel->filterByShow(m_showFilter, similaritySlider()->value());
     ui->stackedWidget_members->setCurrentWidget(
         m_viewMode == ListMode ? ui->page_list : ui->page_grid);
     m_loader->updateGroupTitle();
@@ -853,7 +653,7 @@ void ResultForm::onTaskFilterMenuEvent()
         return;
     if (guardLoading())
         return;
-    for (QAction *other : m_filterActions->actions())
+    for (QAction *other : m_menus->filterActions()->actions())
         other->setChecked(other == action);
     applyShowFilter(action->data().toInt());
 }
@@ -862,7 +662,7 @@ void ResultForm::applyShowFilter(int mode)
 {
     splog_d(kTag + QStringLiteral("onTaskFilter. Role :%1").arg(mode));
     m_showFilter = mode;
-    m_itemModel->filterByShow(mode, m_similaritySlider->value());
+    m_itemModel->filterByShow(mode, similaritySlider()->value());
     if (m_viewMode == FlowMode) {
         splog_d(kTag
             + QStringLiteral("rebuildGroupHeadersFromImageList. images count:[%1]")
@@ -874,18 +674,7 @@ void ResultForm::applyShowFilter(int mode)
 
 void ResultForm::onGroupContextMenu(const QPoint &pos)
 {
-    const QModelIndex index = ui->listView_groups->indexAt(pos);
-    if (!index.isValid())
-        return;
-    const QString key = index.data(TImageModel::KeyRole).toString();
-    const int count = index.data(TImageModel::CountRole).toInt();
-    QMenu menu(this);
-    menu.addAction(tr("Ignore Group"), this,
-        [this, key, index, count] { onMenuIgnoreGroup(key, index.row(), count); });
-    QAction *remove = menu.addAction(tr("Remove Selected Files of This Group"), this,
-        [this, key, index, count] { onMenuDeleteGroup(key, index.row(), count); });
-    remove->setEnabled(index.data(TImageModel::SelectedCountRole).toInt() > 0);
-    menu.exec(ui->listView_groups->viewport()->mapToGlobal(pos));
+    m_menus->showGroupMenu(pos);
 }
 
 void ResultForm::onMemberContextMenu(const QPoint &pos)
@@ -893,17 +682,17 @@ void ResultForm::onMemberContextMenu(const QPoint &pos)
     auto *view = qobject_cast<QAbstractItemView *>(sender());
     if (!view)
         return;
-    const QModelIndex index = view->indexAt(pos);
-    if (!index.isValid())
+    m_menus->showMemberMenu(view, pos);
+}
+
+void ResultForm::applySimilarityFloor(int value)
+{
+    if (guardLoading())
         return;
-    const QPersistentModelIndex member(index);
-    QMenu menu(this);
-    menu.addAction(tr("Show in Folder"), this, [this, member] { onBtnOpenFinderClick(member); });
-    menu.addAction(tr("Hide from Results"), this, [this, member] { onBtnHideFileClick(member); });
-    menu.addSeparator();
-    menu.addAction(style()->standardIcon(QStyle::SP_TrashIcon), tr("Remove This File"), this,
-        [this, member] { onBtnDeletedClick(member); });
-    menu.exec(view->viewport()->mapToGlobal(pos));
+    // Groups left with fewer than two members at or above the floor leave the list.
+    m_groupModel->setMinimumSimilarity(value > similaritySlider()->minimum() ? value : 0);
+    loadAllData(m_category);
+    applyShowFilter(m_showFilter);
 }
 
 // ----------------------------------------------------------------------------- one row
@@ -1105,6 +894,36 @@ bool ResultForm::isRemoving() const
     return m_removal->isRemoving();
 }
 
+QMenu *ResultForm::selectionMenu() const
+{
+    return m_menus->selectMenu();
+}
+
+QMenu *ResultForm::filterMenu() const
+{
+    return m_menus->filterMenu();
+}
+
+QMenu *ResultForm::deleteMenu() const
+{
+    return m_menus->deleteMenu();
+}
+
+QSlider *ResultForm::similaritySlider() const
+{
+    return m_menus->similaritySlider();
+}
+
+QChart *ResultForm::chart() const
+{
+    return m_chartPart->chart();
+}
+
+FileCategoryStatsMap ResultForm::chartStats() const
+{
+    return m_chartPart->stats();
+}
+
 QList<DeleteResult> ResultForm::lastRemoval() const
 {
     return m_removal->lastRemoval();
@@ -1143,61 +962,12 @@ qint64 ResultForm::removedBytes(const QList<DeleteResult> &results)
 
 void ResultForm::startAnalytics()
 {
-    m_analyticsTimer.start();
-    TFileData::Groups groups = TFileData::instance()->groups();
-    // Folder groups count as groups of their folders.
-    const TFileData::DirGroups folders = TFileData::instance()->dirGroups();
-    for (auto it = folders.cbegin(); it != folders.cend(); ++it) {
-        QStringList paths;
-        for (const DirGroupEntry &entry : it.value())
-            paths.append(entry.folderPath);
-        groups.insert(it.key() + QStringLiteral("/folders"), paths);
-    }
-    splog_d(kTag + QStringLiteral("startAnalytics :%1").arg(groups.size()));
-    m_pieChart->start(groups, m_cloud, m_isCloud);
+    m_chartPart->start();
 }
 
 void ResultForm::bulidPieChart(const FileCategoryStatsMap &result, int count, qlonglong totalSize)
 {
-    splog_d(kTag + QStringLiteral("statistics ready in %1 ms").arg(m_analyticsTimer.elapsed()));
-    m_chartStats = result;
-    m_chartView->setRenderHint(QPainter::Antialiasing);
-    m_chart->removeAllSeries();
-    auto *series = new QPieSeries;
-    series->setHoleSize(0.45);
-    series->setPieSize(0.8);
-    for (QLabel *label : ui->widget_stats->findChildren<QLabel *>()) {
-        const QString name = label->objectName();
-        if (name.contains(QLatin1String("num")) && name != QLatin1String("lab_total_num"))
-            label->setText(QStringLiteral("0"));
-        else if (name.contains(QLatin1String("size"))
-            && !name.startsWith(QLatin1String("lab_total")))
-            label->setText(TImageModel::sizeText(0));
-    }
-    ui->lab_total_num->setText(QString::number(count));
-    ui->lab_total_size->setText(TImageModel::sizeText(totalSize));
-    // What a removal of all but one copy of each group would free.
-    qint64 reclaimable = 0;
-    for (const GroupItem &group : m_groupModel->allGroups())
-        if (group.count > 0)
-            reclaimable += group.totalSize - group.totalSize / group.count;
-    ui->lab_total_size_2->setText(TImageModel::sizeText(reclaimable));
-    for (auto it = result.cbegin(); it != result.cend(); ++it) {
-        const QString name = TPieChart::categoryName(it.key());
-        const QString lower = chartLabelKey(it.key());
-        splog_d(kTag + QStringLiteral("bulidPieChart %1 %2").arg(name, lower));
-        if (it->count == 0)
-            continue;
-        QPieSlice *slice = series->append(
-            QStringLiteral("%1  %2").arg(name, TImageModel::sizeText(it->size)), double(it->size));
-        slice->setColor(TPieChart::categoryColour(it.key()));
-        slice->setBorderColor(Qt::white);
-        if (auto *num = findChild<QLabel *>(QStringLiteral("lab_%1_num").arg(lower)))
-            num->setText(QString::number(it->count));
-        if (auto *size = findChild<QLabel *>(QStringLiteral("lab_%1_size").arg(lower)))
-            size->setText(TImageModel::sizeText(it->size));
-    }
-    m_chart->addSeries(series);
+    m_chartPart->show(result, count, totalSize);
 }
 
 // ----------------------------------------------------------------------------- window
@@ -1300,14 +1070,7 @@ void ResultForm::retranslate()
 {
     ui->retranslateUi(this);
     setTitle();
-    for (QMenu *menu : {m_selectMenu, m_filterMenu})
-        for (QAction *action : menu->actions())
-            if (action->property("sourceText").isValid())
-                action->setText(
-                    tr(action->property("sourceText").toString().toLatin1().constData()));
-    m_actTrash->setText(tr("Move to Recycle Bin"));
-    m_actPermanent->setText(tr("Remove permanently"));
-    m_actFolder->setText(tr("Move to Folder"));
+    m_menus->retranslate();
     if (m_loader->isLoaded())
         m_loader->updateCategoryButtons(m_category);
     m_loader->updateGroupTitle();

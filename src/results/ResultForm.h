@@ -7,7 +7,6 @@
 #include "results/TImageModel.h"
 #include "results/TPieChart.h"
 
-#include <QElapsedTimer>
 #include <QFutureWatcher>
 #include <QHash>
 #include <QItemSelection>
@@ -24,7 +23,9 @@ class QChart;
 class QChartView;
 class QMenu;
 class QSlider;
+class ResultChart;
 class ResultGroupLoader;
+class ResultMenus;
 class ResultRemovalRun;
 class TImageListView;
 
@@ -52,13 +53,13 @@ public:
     int showFilter() const { return m_showFilter; }
     SelectionTotals totals() const { return m_totals; }
     bool isRemoving() const;
-    QMenu *selectionMenu() const { return m_selectMenu; }
-    QMenu *filterMenu() const { return m_filterMenu; }
-    QMenu *deleteMenu() const { return m_deleteMenu; }
-    QSlider *similaritySlider() const { return m_similaritySlider; }
-    QChart *chart() const { return m_chart; }
+    QMenu *selectionMenu() const;
+    QMenu *filterMenu() const;
+    QMenu *deleteMenu() const;
+    QSlider *similaritySlider() const;
+    QChart *chart() const;
     // Category code -> (count, bytes) as the chart shows it.
-    FileCategoryStatsMap chartStats() const { return m_chartStats; }
+    FileCategoryStatsMap chartStats() const;
     // Every item of the last batch, the one-file and one-group removals included.
     QList<DeleteResult> lastRemoval() const;
     // A line about what the scan could not read, with its own "Details" link.
@@ -166,27 +167,17 @@ private:
     void showRemoval(const QHash<QString, QStringList> &removed);
     void onGroupContextMenu(const QPoint &pos);
     void onMemberContextMenu(const QPoint &pos);
+    // The similarity slider's floor: groups and members below it leave the views.
+    void applySimilarityFloor(int value);
     void retranslate();
 
     Ui::ResultForm *ui = nullptr;
     TImageModel *m_groupModel = nullptr;
     TImageModel *m_itemModel = nullptr;
     TImageListView *m_imageView = nullptr;
-    QChartView *m_chartView = nullptr;
-    QChart *m_chart = nullptr;
-    TPieChart *m_pieChart = nullptr;
-    QElapsedTimer m_analyticsTimer;
-    FileCategoryStatsMap m_chartStats;
+    ResultChart *m_chartPart = nullptr;
 
-    QMenu *m_selectMenu = nullptr;
-    QMenu *m_filterMenu = nullptr;
-    QMenu *m_deleteMenu = nullptr;
-    QActionGroup *m_filterActions = nullptr;
-    QSlider *m_similaritySlider = nullptr;
-    QAction *m_activeDeleteAction = nullptr;
-    QAction *m_actTrash = nullptr;
-    QAction *m_actPermanent = nullptr;
-    QAction *m_actFolder = nullptr;
+    ResultMenus *m_menus = nullptr;
 
     bool m_isCloud = false;
     KvCloudObject *m_cloud = nullptr;
