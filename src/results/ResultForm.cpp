@@ -21,10 +21,12 @@
 #include "preferences/DFPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
 #include "results/GroupRowDelegate.h"
+#include "results/MemberTable.h"
 #include "results/PathElider.h"
 #include "results/ResultChart.h"
 #include "results/ResultGroupLoader.h"
 #include "results/ResultMenus.h"
+#include "results/ResultPageLayout.h"
 #include "results/ResultRemovalRun.h"
 #include "results/TImageListView.h"
 #include "results/TTableViewDelegate.h"
@@ -123,86 +125,22 @@ ResultForm::~ResultForm()
 
 void ResultForm::initUI()
 {
-    setWindowFlag(Qt::Window);
-    setMinimumSize(1000, 600);
-
-    auto *categories = new QButtonGroup(this);
-    for (QPushButton *button : {ui->btn_all, ui->btn_image, ui->btn_document, ui->btn_music,
-             ui->btn_videos, ui->btn_archives, ui->btn_packages, ui->btn_others})
-        categories->addButton(button);
-    categories->setExclusive(true);
-    ui->btn_all->setChecked(true);
-
-    auto *modes = new QButtonGroup(this);
-    for (QToolButton *button : {ui->btn_right_list, ui->btn_right_grid, ui->btn_right_flow}) {
-        modes->addButton(button);
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        button->setAutoRaise(true);
-    }
-    ui->btn_right_list->setIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
-    ui->btn_right_grid->setIcon(style()->standardIcon(QStyle::SP_FileDialogListView));
-    ui->btn_right_flow->setIcon(style()->standardIcon(QStyle::SP_FileDialogContentsView));
-    ui->btnBack->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    ui->btn_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    ResultPageLayout::arrangeButtons(this, ui);
     ui->lab_undo->setVisible(false);
     connect(ui->lab_undo, &QLabel::linkActivated, this, [this] { undoHide(); });
     // Cloud results cannot be saved as a project.
     ui->btn_save->setVisible(!m_isCloud);
     connect(ui->btn_save, &QPushButton::clicked, this, &ResultForm::saveRequested);
 
-    ui->listView_groups->setModel(m_groupModel);
-    ui->listView_groups->setItemDelegate(new GroupRowDelegate(ui->listView_groups));
-    ui->listView_groups->setSelectionMode(QAbstractItemView::SingleSelection);
-    // Laid out a slice at a time: a list of a hundred thousand groups would otherwise
-    // hold the window for the whole layout after every reset.
-    ui->listView_groups->setLayoutMode(QListView::Batched);
-    ui->listView_groups->setBatchSize(2000);
+    ResultPageLayout::arrangeGroupList(ui, m_groupModel);
     connect(ui->listView_groups->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &ResultForm::groupSelectionChanged);
     connect(ui->listView_groups, &QWidget::customContextMenuRequested, this,
         &ResultForm::onGroupContextMenu);
 
     QTableView *table = ui->tableView_files;
-    table->setModel(m_itemModel);
-    auto *delegate = new TTableViewDelegate(table);
-    table->setItemDelegate(delegate);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(30);
-    table->setTextElideMode(Qt::ElideMiddle);
-    table->setWordWrap(false);
-    table->setContextMenuPolicy(Qt::CustomContextMenu);
-    QHeaderView *header = table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setSectionResizeMode(QHeaderView::Interactive);
-    // The name keeps a fixed share; the folder, where copies differ, takes the rest.
-    header->setSectionResizeMode(TImageModel::NameColumn, QHeaderView::Interactive);
-    table->setColumnWidth(TImageModel::NameColumn, 220);
-    for (int column : {0, 4, 5}) {
-        header->setSectionResizeMode(column, QHeaderView::Fixed);
-        table->setColumnWidth(column, 40);
-    }
-    table->setColumnWidth(TImageModel::SizeColumn, 90);
-    table->setColumnWidth(TImageModel::DateColumn, 150);
-    // Where each copy lives, right after its name; any of the four text columns sorts the
-    // list, a second click the other way round.
-    header->moveSection(TImageModel::FolderColumn, TImageModel::SizeColumn);
-    header->setSectionResizeMode(TImageModel::FolderColumn, QHeaderView::Stretch);
-    header->setSectionsClickable(true);
-    header->setSortIndicatorShown(false);
-    connect(header, &QHeaderView::sectionClicked, this, [this, header](int column) {
-        const bool sortable = column == TImageModel::NameColumn || column == TImageModel::SizeColumn
-            || column == TImageModel::DateColumn || column == TImageModel::FolderColumn;
-        if (sortable) {
-            m_fileSortOrder = column == m_fileSortColumn && m_fileSortOrder == Qt::AscendingOrder
-                ? Qt::DescendingOrder
-                : Qt::AscendingOrder;
-            m_fileSortColumn = column;
-            m_itemModel->sort(column, m_fileSortOrder);
-        }
-        // The header turns its indicator on every click; it shows the list's order.
-        header->setSortIndicatorShown(m_fileSortColumn >= 0);
-        header->setSortIndicator(m_fileSortColumn, m_fileSortOrder);
-    });
+    m_memberTable = new MemberTable(table, m_itemModel, this);
+    TTableViewDelegate *delegate = m_memberTable->delegate();
     // Space checks or unchecks the rows, as in the thumbnail grid.
     table->installEventFilter(this);
     connect(delegate, &TTableViewDelegate::hideClicked, this, &ResultForm::onBtnHideFileClick);
@@ -220,37 +158,8 @@ void ResultForm::initUI()
     connect(m_itemModel, &TImageModel::onItemSelectedChange, this, &ResultForm::itemCheckedChanged);
 
     m_chartPart->build();
-    ui->comboBox->setCurrentIndex(BySize);
-    ui->splitter_2->setStretchFactor(0, 0);
-    ui->splitter_2->setStretchFactor(1, 1);
-    ui->splitter_2->setStretchFactor(2, 0);
-    ui->splitter_2->setSizes({320, 700, 280});
-    ui->lab_problems->hide();
+    ResultPageLayout::arrangeTools(this, ui);
     connect(ui->lab_problems, &QLabel::linkActivated, this, &ResultForm::problemDetailsRequested);
-    ui->btn_delete->setPopupMode(QToolButton::MenuButtonPopup);
-    ui->btn_delete->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    ui->btn_delete->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
-    ui->btn_delete->setEnabled(false);
-    ui->btn_select->setPopupMode(QToolButton::InstantPopup);
-    ui->btn_filter->setPopupMode(QToolButton::InstantPopup);
-    for (QToolButton *button : {ui->btn_select, ui->btn_filter}) {
-        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        // Room for the menu arrow beside the text rather than over it.
-        button->setStyleSheet(
-            QStringLiteral("QToolButton { padding: 3px 18px 3px 10px; }"
-                           "QToolButton::menu-indicator { subcontrol-origin: padding;"
-                           " subcontrol-position: center right; right: 5px; }"));
-    }
-    ui->lab_preview->setMinimumSize(200, 200);
-    ui->horizontalSlider->setMinimumWidth(90);
-    // The group's title has a line of its own above the view's tools: long names and long
-    // translations of the tools then never squeeze each other.
-    ui->horizontalLayout_members->removeWidget(ui->lab_group_title);
-    ui->verticalLayout_members->insertWidget(0, ui->lab_group_title);
-    ui->lab_group_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    QFont titleFont = ui->lab_group_title->font();
-    titleFont.setBold(true);
-    ui->lab_group_title->setFont(titleFont);
     setViewMode(GridMode);
 }
 
@@ -533,8 +442,7 @@ void ResultForm::onTableViewSelectChanged()
 void ResultForm::arrangeMembers(int match)
 {
     // The order the user chose for the list holds for every group.
-    if (m_fileSortColumn >= 0)
-        m_itemModel->sort(m_fileSortColumn, m_fileSortOrder);
+    m_memberTable->applyOrder();
     if (m_showFilter != 2 || similaritySlider()->value() > similaritySlider()->minimum())
         m_itemModel->filterByShow(m_showFilter, similaritySlider()->value());
     ui->stackedWidget_members->setCurrentWidget(
@@ -1002,25 +910,8 @@ void ResultForm::on_btn_over_clicked()
 
 bool ResultForm::eventFilter(QObject *watched, QEvent *event)
 {
-    // Space in the file table checks or unchecks the selected rows (or the current one),
-    // all to the opposite of the current row, as the thumbnail grid does.
-    if (watched == ui->tableView_files && event->type() == QEvent::KeyPress) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() == Qt::Key_Space && !(key->modifiers() & ~Qt::KeypadModifier)) {
-            QTableView *table = ui->tableView_files;
-            const QModelIndex current = table->currentIndex();
-            QModelIndexList rows = table->selectionModel()->selectedRows(TImageModel::CheckColumn);
-            if (rows.size() < 2 && current.isValid())
-                rows = {current.siblingAtColumn(TImageModel::CheckColumn)};
-            if (!rows.isEmpty()) {
-                const QModelIndex lead = current.isValid() ? current : rows.first();
-                const bool next = !lead.data(TImageModel::CheckedRole).toBool();
-                for (const QModelIndex &row : std::as_const(rows))
-                    m_itemModel->setData(row, next, TImageModel::CheckedRole, true);
-            }
-            return true;
-        }
-    }
+    if (watched == ui->tableView_files && m_memberTable->handleKey(event))
+        return true;
     return QWidget::eventFilter(watched, event);
 }
 

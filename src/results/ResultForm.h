@@ -23,6 +23,7 @@ class QChart;
 class QChartView;
 class QMenu;
 class QSlider;
+class MemberTable;
 class ResultChart;
 class ResultGroupLoader;
 class ResultMenus;
@@ -200,9 +201,7 @@ private:
         quint64 revision = 0;
     };
     QList<HiddenFile> m_hidden;
-    // The file list's order: a column of TImageModel, -1 for the group's own order.
-    int m_fileSortColumn = -1;
-    Qt::SortOrder m_fileSortOrder = Qt::AscendingOrder;
+    MemberTable *m_memberTable = nullptr;
     int m_category = kAllCategories;
     int m_viewMode = GridMode;
     int m_selectRule = -1;
