@@ -8,56 +8,33 @@
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
-#include "engine/FileStamp.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
-#include "fileops/RemovalCheck.h"
-#include "fileops/RemovalJournal.h"
-#include "fileops/RemovalRequest.h"
-#include "fileops/TImageDeleteWorker.h"
-#include "platform/Platform.h"
-#include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
-#include "results/GroupRowDelegate.h"
+#include "results/HiddenFiles.h"
 #include "results/MemberTable.h"
-#include "results/PathElider.h"
 #include "results/ResultChart.h"
 #include "results/ResultGroupLoader.h"
 #include "results/ResultMenus.h"
 #include "results/ResultPageLayout.h"
 #include "results/ResultRemovalRun.h"
+#include "results/ShowInFolder.h"
 #include "results/TImageListView.h"
 #include "results/TTableViewDelegate.h"
 #include "ui_ResultForm.h"
-#include "widgets/CustomProgressDialog.h"
 
 #include <QActionGroup>
-#include <QButtonGroup>
 #include <QCloseEvent>
-#include <QDateTime>
-#include <QDesktopServices>
-#include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QSlider>
-#include <QStandardPaths>
-#include <QStorageInfo>
 #include <QTimer>
-#include <QUrl>
-#include <QWidgetAction>
-#include <QtConcurrent>
 
 namespace {
 
@@ -71,6 +48,7 @@ ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)
     , m_itemModel(new TImageModel(TImageModel::IconView, 300))
     , m_isCloud(isCloud)
     , m_cloud(cloud)
+    , m_showInFolder(this, isCloud, cloud)
 {
     ui->setupUi(this);
     m_chartPart = new ResultChart(this, ui, m_groupModel, m_isCloud, m_cloud);
@@ -263,24 +241,13 @@ void ResultForm::undoHide()
 {
     if (m_hidden.isEmpty() || guardLoading())
         return;
-    const HiddenFile hidden = m_hidden.takeLast();
-    TFileData *store = TFileData::instance();
     ui->lab_undo->setVisible(false);
-    if (store->revision() != hidden.revision)
+    const QString key = m_hidden.undo();
+    if (key.isEmpty())
         return;
-    // The group as it was, whether the hide left it smaller or took it off the list.
-    if (hidden.folders.isEmpty())
-        store->replaceGroup(hidden.key, hidden.members);
-    else
-        store->insertDirGroup(hidden.key, hidden.folders);
-    store->setGroupMatch(hidden.key, TFileData::GroupMatch(hidden.match));
-    if (hidden.selection.isEmpty())
-        store->removeSelected(hidden.key);
-    else
-        store->setSelected(hidden.key, hidden.selection);
-    splog_d(kTag + QStringLiteral("undoHide. group:[%1]").arg(hidden.key));
-    m_groupModel->reloadGroup(hidden.key);
-    m_loader->setMemberKey(hidden.key);
+    splog_d(kTag + QStringLiteral("undoHide. group:[%1]").arg(key));
+    m_groupModel->reloadGroup(key);
+    m_loader->setMemberKey(key);
     loadAllData(m_category);
     m_loader->updateCategoryButtons(m_category);
     updateSelectedAndSize();
@@ -497,10 +464,8 @@ void ResultForm::updateSelectedAndSize()
 {
     // Every change of the results passes here: a hide whose results changed since can
     // no longer be undone.
-    if (!m_hidden.isEmpty() && TFileData::instance()->revision() != m_hidden.last().revision) {
-        m_hidden.clear();
+    if (m_hidden.forgetIfChanged())
         ui->lab_undo->setVisible(false);
-    }
     if (m_totalsWatcher.isRunning()) {
         m_totalsAgain = true;
         return;
@@ -613,23 +578,10 @@ void ResultForm::onBtnHideFileClick(const QModelIndex &index)
     const QString key = index.data(TImageModel::KeyRole).toString();
     splog_d(kTag + QStringLiteral("onBtnHideFileClick. file:[%1]").arg(path));
     const int row = index.row();
-    QString entry = path;
-    for (const QString &member : TFileData::instance()->group(key))
-        if (stripSimilarTag(member) == path)
-            entry = member;
-    TFileData *store = TFileData::instance();
-    HiddenFile hidden {key, QFileInfo(path).fileName(), store->group(key), store->selectedOf(key),
-        store->dirGroup(key), int(store->groupMatch(key)), 0};
-    store->removePath(key, entry);
-    // Undo puts back exactly what was there, so it is offered only until anything else
-    // changes the results. Cloud groups are not rebuilt here.
-    hidden.revision = store->revision();
-    m_hidden.clear();
-    if (!m_isCloud) {
-        m_hidden.append(hidden);
+    const QString entry = m_hidden.hide(key, path, !m_isCloud);
+    if (!m_hidden.isEmpty())
         ui->lab_undo->setText(tr("“%1” is hidden from the results. <a href=\"undo\">Undo</a>")
-                                  .arg(hidden.name.toHtmlEscaped()));
-    }
+                                  .arg(m_hidden.lastName().toHtmlEscaped()));
     ui->lab_undo->setVisible(!m_hidden.isEmpty());
     m_changed = true;
     m_groupModel->removeDeletedFile(key, entry);
@@ -651,53 +603,7 @@ void ResultForm::onBtnOpenFinderClick(const QModelIndex &index)
 {
     if (guardLoading() || !index.isValid())
         return;
-    const QString path = index.data(TImageModel::FilePathRole).toString();
-    if (m_isCloud) {
-        const QString link
-            = TImageModel::cloudProperty(m_cloud, path, QStringLiteral("webViewLink")).toString();
-        if (link.isEmpty()) {
-            splog_d(
-                kTag + QStringLiteral("onBtnOpenFinderClick. webLink is empty. file:%1").arg(path));
-            QMessageBox::warning(
-                this, tr("Open Link Failed"), tr("Failed to get the web link for the file."));
-            return;
-        }
-        QDesktopServices::openUrl(QUrl(link));
-        return;
-    }
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        splog_d(kTag + QStringLiteral("onBtnOpenFinderClick. File does not exist:%1").arg(path));
-        QMessageBox::warning(this, tr("Show in Folder"), tr("The file was not found."));
-        return;
-    }
-    // The file manager selects the file when it offers that; otherwise its folder opens.
-    const QString uri = QUrl::fromLocalFile(info.absoluteFilePath()).toString(QUrl::FullyEncoded);
-    const std::vector<std::string> command = platform::current().showItemCommand(
-        info.absoluteFilePath().toStdString(), uri.toStdString());
-    const QUrl folder = QUrl::fromLocalFile(info.absolutePath());
-    if (command.empty()) {
-        QDesktopServices::openUrl(folder);
-        return;
-    }
-    auto *process = new QProcess(this);
-    QStringList arguments;
-    for (size_t i = 1; i < command.size(); ++i)
-        arguments << QString::fromStdString(command[i]);
-    connect(process, &QProcess::finished, this,
-        [process, folder](int code, QProcess::ExitStatus status) {
-            if (code != 0 || status != QProcess::NormalExit)
-                QDesktopServices::openUrl(folder);
-            process->deleteLater();
-        });
-    connect(
-        process, &QProcess::errorOccurred, this, [process, folder](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart) {
-                QDesktopServices::openUrl(folder);
-                process->deleteLater();
-            }
-        });
-    process->start(QString::fromStdString(command.front()), arguments);
+    m_showInFolder.show(index.data(TImageModel::FilePathRole).toString());
 }
 
 void ResultForm::onBtnDeletedClick(const QModelIndex &index)

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "engine/DeleteResult.h"
-#include "engine/DirGroupEntry.h"
+#include "results/HiddenFiles.h"
 #include "results/SelectionTotals.h"
+#include "results/ShowInFolder.h"
 #include "results/TImageModel.h"
 #include "results/TPieChart.h"
 
@@ -182,25 +183,15 @@ private:
 
     bool m_isCloud = false;
     KvCloudObject *m_cloud = nullptr;
+    ShowInFolder m_showInFolder;
     bool m_incompleteScan = false;
     bool m_left = false;
     bool m_sizeRestored = false;
     // Something was removed or taken out of the result since the page opened.
     bool m_changed = false;
     QString m_projectName;
-    // The last file hidden from the results, as its group was before: Undo brings it back.
-    struct HiddenFile
-    {
-        QString key;
-        QString name;
-        QStringList members;
-        QStringList selection;
-        QList<DirGroupEntry> folders;
-        int match = 0;
-        // The store's revision right after the hide.
-        quint64 revision = 0;
-    };
-    QList<HiddenFile> m_hidden;
+    // The last file hidden from the results: Undo brings it back.
+    HiddenFiles m_hidden;
     MemberTable *m_memberTable = nullptr;
     int m_category = kAllCategories;
     int m_viewMode = GridMode;
