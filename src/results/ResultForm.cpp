@@ -8,11 +8,8 @@
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
-#include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
-#include "preferences/DFIgnoreListPreferences.h"
-#include "preferences/DFPreferences.h"
-#include "preferences/DFSelectionPreferences.h"
+#include "results/GroupIgnorer.h"
 #include "results/HiddenFiles.h"
 #include "results/MemberTable.h"
 #include "results/ResultChart.h"
@@ -20,6 +17,7 @@
 #include "results/ResultMenus.h"
 #include "results/ResultPageLayout.h"
 #include "results/ResultRemovalRun.h"
+#include "results/SelectionRule.h"
 #include "results/ShowInFolder.h"
 #include "results/TImageListView.h"
 #include "results/TTableViewDelegate.h"
@@ -27,7 +25,6 @@
 
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -492,30 +489,7 @@ void ResultForm::applySelectionRule(int rule)
     if (guardLoading())
         return;
     m_selectRule = rule;
-    const TFileData::Groups groups = TFileData::instance()->groups();
-    QList<QPair<QString, QStringList>> pairs;
-    pairs.reserve(groups.size());
-    for (auto it = groups.cbegin(); it != groups.cend(); ++it)
-        pairs.append({it.key(), it.value()});
-    // Folder groups follow the rule too: their members are their folders.
-    const TFileData::DirGroups folders = TFileData::instance()->dirGroups();
-    for (auto it = folders.cbegin(); it != folders.cend(); ++it) {
-        QStringList paths;
-        for (const DirGroupEntry &entry : it.value())
-            paths.append(entry.folderPath);
-        pairs.append({it.key(), paths});
-    }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    CloudPropertyReader reader;
-    if (m_isCloud) {
-        KvCloudObject *cloud = m_cloud;
-        reader = [cloud](const QString &entry, const QString &name) {
-            return TImageModel::cloudProperty(cloud, entry, name);
-        };
-    }
-    GroupItemAutoSelector::autoSelectAllEx(
-        pairs, rule, reader, DFPreferences::instance()->selectionPreferences()->mapPriority());
-    QApplication::restoreOverrideCursor();
+    SelectionRule::applyToAll(rule, m_isCloud, m_cloud);
     refreshAfterSelection();
 }
 
@@ -622,23 +596,7 @@ void ResultForm::onMenuIgnoreGroup(const QString &key, int row, int count)
     splog_d(kTag + QStringLiteral("onMenuIgnoreGroup"));
     if (guardLoading() || key.isEmpty())
         return;
-    QStringList members = TFileData::instance()->group(key);
-    for (const DirGroupEntry &entry : TFileData::instance()->dirGroup(key))
-        members.append(entry.folderPath);
-    stripSimilarTag(members);
-    DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
-    QStringList ignored = prefs->IgnorePathFile();
-    for (const QString &member : std::as_const(members)) {
-        const QString entry = m_isCloud && m_cloud
-            ? QStringLiteral("%1:%2:%3")
-                  .arg(m_cloud->account(), QFileInfo(member).completeBaseName(), member)
-            : member;
-        if (!ignored.contains(entry))
-            ignored << entry;
-    }
-    prefs->setIgnorePathFile(ignored);
-    DFPreferences::instance()->save();
-    TFileData::instance()->removeGroup(key);
+    GroupIgnorer::ignore(key, m_isCloud, m_cloud);
     m_changed = true;
     removeGroupFromViews(key);
 }
@@ -696,51 +654,6 @@ void ResultForm::onDeletedComplated(const QHash<QString, QStringList> &files,
 {
     Q_UNUSED(selected)
     m_removal->batchEnded(files, dirs);
-}
-
-bool ResultForm::isDataLoaded() const
-{
-    return m_loader->isLoaded();
-}
-
-bool ResultForm::isRemoving() const
-{
-    return m_removal->isRemoving();
-}
-
-QMenu *ResultForm::selectionMenu() const
-{
-    return m_menus->selectMenu();
-}
-
-QMenu *ResultForm::filterMenu() const
-{
-    return m_menus->filterMenu();
-}
-
-QMenu *ResultForm::deleteMenu() const
-{
-    return m_menus->deleteMenu();
-}
-
-QSlider *ResultForm::similaritySlider() const
-{
-    return m_menus->similaritySlider();
-}
-
-QChart *ResultForm::chart() const
-{
-    return m_chartPart->chart();
-}
-
-FileCategoryStatsMap ResultForm::chartStats() const
-{
-    return m_chartPart->stats();
-}
-
-QList<DeleteResult> ResultForm::lastRemoval() const
-{
-    return m_removal->lastRemoval();
 }
 
 void ResultForm::showRemoval(const QHash<QString, QStringList> &removed)

@@ -3,6 +3,10 @@
 
 #include "engine/DeleteResult.h"
 #include "results/HiddenFiles.h"
+#include "results/ResultChart.h"
+#include "results/ResultGroupLoader.h"
+#include "results/ResultMenus.h"
+#include "results/ResultRemovalRun.h"
 #include "results/SelectionTotals.h"
 #include "results/ShowInFolder.h"
 #include "results/TImageModel.h"
@@ -19,22 +23,19 @@ class ResultForm;
 
 class KvCloudObject;
 class QAction;
-class QActionGroup;
 class QChart;
-class QChartView;
 class QMenu;
 class QSlider;
 class MemberTable;
-class ResultChart;
-class ResultGroupLoader;
-class ResultMenus;
-class ResultRemovalRun;
 class TImageListView;
 
 // The page of a scan's outcome: the groups on the left, the files of the current group in
 // the middle (a table, a thumbnail grid or a flow of large thumbnails), the duplicates by
 // type on the right, and below the selection totals and the removal button. It reads and
-// changes the groups only through the result store and its two models.
+// changes the groups only through the result store and its two models. The page keeps
+// the views in step and answers its form's slots; the work is done by its parts: the
+// loader (ResultGroupLoader), the removal (ResultRemovalRun), the menus (ResultMenus), the
+// chart (ResultChart), the member table (MemberTable) and the hidden files (HiddenFiles).
 class ResultForm : public QWidget
 {
     Q_OBJECT
@@ -47,23 +48,23 @@ public:
         QWidget *parent = nullptr, bool isCloud = false, KvCloudObject *cloud = nullptr);
     ~ResultForm() override;
 
-    bool isDataLoaded() const;
+    bool isDataLoaded() const { return m_loader->isLoaded(); }
     TImageModel *groupModel() const { return m_groupModel; }
     TImageModel *itemModel() const { return m_itemModel; }
     int currentCategory() const { return m_category; }
     int viewMode() const { return m_viewMode; }
     int showFilter() const { return m_showFilter; }
     SelectionTotals totals() const { return m_totals; }
-    bool isRemoving() const;
-    QMenu *selectionMenu() const;
-    QMenu *filterMenu() const;
-    QMenu *deleteMenu() const;
-    QSlider *similaritySlider() const;
-    QChart *chart() const;
+    bool isRemoving() const { return m_removal->isRemoving(); }
+    QMenu *selectionMenu() const { return m_menus->selectMenu(); }
+    QMenu *filterMenu() const { return m_menus->filterMenu(); }
+    QMenu *deleteMenu() const { return m_menus->deleteMenu(); }
+    QSlider *similaritySlider() const { return m_menus->similaritySlider(); }
+    QChart *chart() const { return m_chartPart->chart(); }
     // Category code -> (count, bytes) as the chart shows it.
-    FileCategoryStatsMap chartStats() const;
+    FileCategoryStatsMap chartStats() const { return m_chartPart->stats(); }
     // Every item of the last batch, the one-file and one-group removals included.
-    QList<DeleteResult> lastRemoval() const;
+    QList<DeleteResult> lastRemoval() const { return m_removal->lastRemoval(); }
     // A line about what the scan could not read, with its own "Details" link.
     void setProblemText(const QString &html);
     // The project file the results were saved to or opened from (empty: none), named in
