@@ -48,7 +48,13 @@ ResultRemovalRun::ResultRemovalRun(
     }
 }
 
-ResultRemovalRun::~ResultRemovalRun() = default;
+ResultRemovalRun::~ResultRemovalRun()
+{
+    // A batch still running writes to the sequence's journal from its own thread, and the
+    // page that goes cannot wait for it: the sequence is left to it.
+    if (m_sequence)
+        (void)m_sequence.release();
+}
 
 void ResultRemovalRun::showProgress(int complate, int total)
 {
