@@ -7,6 +7,7 @@
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRestorer.h"
+#include "fileops/RemovalSequence.h"
 #include "fileops/TImageDeleteWorker.h"
 
 #include <atomic>
@@ -180,47 +181,37 @@ int RemovalCommands::remove(const CliOptions &options)
             CliText::lineText(refusal).constData());
         return kBadArguments;
     }
-    TImageDeleteWorker worker(request);
-    RemovalJournal journal;
-    if (!options.dryRun()) {
-        qint64 items = 0;
-        for (const QStringList &paths : std::as_const(request.selected))
-            items += paths.size();
-        // No journal, no removal: every item must be on record before it goes.
-        if (!journal.begin(RemovalJournal::methodName(options.removalMethod()), items,
-                options.targetFolder())) {
-            std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the journal %s: %s\n",
-                CliText::lineText(journal.path()).constData(), qPrintable(journal.error()));
-            return kJournalFailed;
-        }
-        worker.setJournal(&journal);
+    RemovalSequence sequence(request, false);
+    if (!sequence.begin()) {
+        std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the journal %s: %s\n",
+            CliText::lineText(sequence.journal().path()).constData(),
+            qPrintable(sequence.journal().error()));
+        return kJournalFailed;
     }
     g_stopSignal.store(0);
     const StopSignals stopSignals;
-    worker.setStopFlag(&g_stopSignal);
-    worker.doDelete();
+    sequence.worker()->setStopFlag(&g_stopSignal);
+    sequence.run();
     const int signal = g_stopSignal.load();
-    const bool journalFailed = !worker.journalError().isEmpty();
-    if (!options.dryRun()) {
-        // After a failed write the end line most likely fails too; it is tried all the
-        // same, and the batch without an end is what the next start reports.
-        journal.end(signal);
-        std::fprintf(stderr, "journal: %s\n", CliText::lineText(journal.path()).constData());
-    }
+    const bool journalFailed = !sequence.journalError().isEmpty();
+    sequence.end(signal);
+    if (!options.dryRun())
+        std::fprintf(
+            stderr, "journal: %s\n", CliText::lineText(sequence.journal().path()).constData());
     const int status
-        = report(worker.results(), options.json(), options.dryRun(), QStringLiteral("removed"));
+        = report(sequence.results(), options.json(), options.dryRun(), QStringLiteral("removed"));
     if (journalFailed) {
         std::fprintf(stderr,
             "veltrine-duplicate-finder-cli: the removal stopped: the journal %s cannot be "
             "written: %s\n",
-            CliText::lineText(journal.path()).constData(),
-            CliText::lineText(worker.journalError()).constData());
+            CliText::lineText(sequence.journal().path()).constData(),
+            CliText::lineText(sequence.journalError()).constData());
         return kJournalFailed;
     }
     if (signal) {
         std::fprintf(stderr,
             "veltrine-duplicate-finder-cli: stopped by signal %d after %lld items\n", signal,
-            static_cast<long long>(worker.results().size()));
+            static_cast<long long>(sequence.results().size()));
         return 128 + signal;
     }
     return status;

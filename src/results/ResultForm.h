@@ -2,55 +2,40 @@
 #pragma once
 
 #include "engine/DeleteResult.h"
-#include "engine/DirGroupEntry.h"
+#include "results/HiddenFiles.h"
+#include "results/ResultChart.h"
+#include "results/ResultGroupLoader.h"
+#include "results/ResultMenus.h"
+#include "results/ResultRemovalRun.h"
 #include "results/SelectionTotals.h"
+#include "results/ShowInFolder.h"
 #include "results/TImageModel.h"
 #include "results/TPieChart.h"
 
-#include <memory>
-
-#include <QElapsedTimer>
 #include <QFutureWatcher>
 #include <QHash>
 #include <QItemSelection>
-#include <QPointer>
 #include <QWidget>
 
 namespace Ui {
 class ResultForm;
 }
 
-class CustomProgressDialog;
 class KvCloudObject;
 class QAction;
-class QActionGroup;
 class QChart;
-class QChartView;
 class QMenu;
 class QSlider;
-class QThread;
-class RemovalJournal;
-class TImageDeleteWorker;
+class MemberTable;
 class TImageListView;
-
-// One member of the group being opened, filled in parallel before the member view gets it.
-struct IndexFileGroup
-{
-    QString key;
-    QString entry;
-    QString path;
-    QString name;
-    qint64 size = 0;
-    QString createdTime;
-    QString mimeType;
-    int similarity = 0;
-    QString cloudPath;
-};
 
 // The page of a scan's outcome: the groups on the left, the files of the current group in
 // the middle (a table, a thumbnail grid or a flow of large thumbnails), the duplicates by
 // type on the right, and below the selection totals and the removal button. It reads and
-// changes the groups only through the result store and its two models.
+// changes the groups only through the result store and its two models. The page keeps
+// the views in step and answers its form's slots; the work is done by its parts: the
+// loader (ResultGroupLoader), the removal (ResultRemovalRun), the menus (ResultMenus), the
+// chart (ResultChart), the member table (MemberTable) and the hidden files (HiddenFiles).
 class ResultForm : public QWidget
 {
     Q_OBJECT
@@ -63,23 +48,23 @@ public:
         QWidget *parent = nullptr, bool isCloud = false, KvCloudObject *cloud = nullptr);
     ~ResultForm() override;
 
-    bool isDataLoaded() const { return m_dataLoaded; }
+    bool isDataLoaded() const { return m_loader->isLoaded(); }
     TImageModel *groupModel() const { return m_groupModel; }
     TImageModel *itemModel() const { return m_itemModel; }
     int currentCategory() const { return m_category; }
     int viewMode() const { return m_viewMode; }
     int showFilter() const { return m_showFilter; }
     SelectionTotals totals() const { return m_totals; }
-    bool isRemoving() const { return m_worker != nullptr || m_cloudRemoval != NoCloudRemoval; }
-    QMenu *selectionMenu() const { return m_selectMenu; }
-    QMenu *filterMenu() const { return m_filterMenu; }
-    QMenu *deleteMenu() const { return m_deleteMenu; }
-    QSlider *similaritySlider() const { return m_similaritySlider; }
-    QChart *chart() const { return m_chart; }
+    bool isRemoving() const { return m_removal->isRemoving(); }
+    QMenu *selectionMenu() const { return m_menus->selectMenu(); }
+    QMenu *filterMenu() const { return m_menus->filterMenu(); }
+    QMenu *deleteMenu() const { return m_menus->deleteMenu(); }
+    QSlider *similaritySlider() const { return m_menus->similaritySlider(); }
+    QChart *chart() const { return m_chartPart->chart(); }
     // Category code -> (count, bytes) as the chart shows it.
-    FileCategoryStatsMap chartStats() const { return m_chartStats; }
+    FileCategoryStatsMap chartStats() const { return m_chartPart->stats(); }
     // Every item of the last batch, the one-file and one-group removals included.
-    QList<DeleteResult> lastRemoval() const { return m_lastRemoval; }
+    QList<DeleteResult> lastRemoval() const { return m_removal->lastRemoval(); }
     // A line about what the scan could not read, with its own "Details" link.
     void setProblemText(const QString &html);
     // The project file the results were saved to or opened from (empty: none), named in
@@ -175,101 +160,45 @@ protected:
 
 private:
     bool guardLoading();
-    void feedBatches();
     void loadAllData(int category);
-    void loadGroupMembers(const GroupItem &group);
-    void showMembers(const QList<IndexFileGroup> &members);
-    void updateCategoryButtons();
-    void updateGroupTitle();
+    // The member views after a fill: the list's order, the show filter and the group's title.
+    void arrangeMembers(int match);
     void refreshAfterSelection();
     void removeGroupFromViews(const QString &key);
     QModelIndex currentGroupIndex() const;
-    QPair<int, QString> removalMethod() const;
-    // The question of the current method; true when the removal may go on.
-    // Asks before a removal, naming how many items of what size go; No is the default
-    // answer for a permanent one.
-    bool confirmRemoval(const QHash<QString, QStringList> &selection);
-    // Runs a removal of the given selection on the GUI thread (one file, one group).
-    QList<DeleteResult> removeNow(
-        const QHash<QString, QStringList> &selection, bool allowDifferentContent = false);
-    // Asks whether count members that differ from every copy that stays may go.
-    bool confirmDifferentContent(qsizetype count);
-    void startBatch(const QHash<QString, QStringList> &selection, bool allowAllCopies,
-        bool allowDifferentContent = false);
-    // After a batch: asks whether the members kept for differing from every copy that
-    // stays may go too, and removes them on a yes.
-    void offerDifferentContent(const QList<DeleteResult> &results);
-    void finishRemoval(const QHash<QString, QStringList> &files,
-        const QHash<QString, QStringList> &dirs, const QList<DeleteResult> &results,
-        bool showSummary);
-    void setDeletionMarker(int value);
-    void showRemovalSummary(const QList<DeleteResult> &results, int method);
-    enum CloudRemoval { NoCloudRemoval, CloudOne, CloudGroup, CloudBatch };
-    // Hands the selection to the cloud source, group by group with the copy that stays;
-    // the answer comes back through onCloudRemovalDone.
-    void startCloudRemoval(const QHash<QString, QStringList> &selection, CloudRemoval kind);
-    void onCloudRemovalDone(const QStringList &deleted);
-    void onDeletedCloudError(int failedCount, const QString &errorMsg);
+    // The views after a removal: the removed items leave them.
+    void showRemoval(const QHash<QString, QStringList> &removed);
     void onGroupContextMenu(const QPoint &pos);
     void onMemberContextMenu(const QPoint &pos);
+    // The similarity slider's floor: groups and members below it leave the views.
+    void applySimilarityFloor(int value);
     void retranslate();
 
     Ui::ResultForm *ui = nullptr;
     TImageModel *m_groupModel = nullptr;
     TImageModel *m_itemModel = nullptr;
     TImageListView *m_imageView = nullptr;
-    QChartView *m_chartView = nullptr;
-    QChart *m_chart = nullptr;
-    TPieChart *m_pieChart = nullptr;
-    QElapsedTimer m_analyticsTimer;
-    FileCategoryStatsMap m_chartStats;
+    ResultChart *m_chartPart = nullptr;
 
-    QMenu *m_selectMenu = nullptr;
-    QMenu *m_filterMenu = nullptr;
-    QMenu *m_deleteMenu = nullptr;
-    QActionGroup *m_filterActions = nullptr;
-    QSlider *m_similaritySlider = nullptr;
-    QAction *m_activeDeleteAction = nullptr;
-    QAction *m_actTrash = nullptr;
-    QAction *m_actPermanent = nullptr;
-    QAction *m_actFolder = nullptr;
+    ResultMenus *m_menus = nullptr;
 
     bool m_isCloud = false;
     KvCloudObject *m_cloud = nullptr;
-    bool m_dataLoaded = false;
+    ShowInFolder m_showInFolder;
     bool m_incompleteScan = false;
     bool m_left = false;
     bool m_sizeRestored = false;
     // Something was removed or taken out of the result since the page opened.
     bool m_changed = false;
     QString m_projectName;
-    // The last file hidden from the results, as its group was before: Undo brings it back.
-    struct HiddenFile
-    {
-        QString key;
-        QString name;
-        QStringList members;
-        QStringList selection;
-        QList<DirGroupEntry> folders;
-        int match = 0;
-        // The store's revision right after the hide.
-        quint64 revision = 0;
-    };
-    QList<HiddenFile> m_hidden;
-    // The file list's order: a column of TImageModel, -1 for the group's own order.
-    int m_fileSortColumn = -1;
-    Qt::SortOrder m_fileSortOrder = Qt::AscendingOrder;
+    // The last file hidden from the results: Undo brings it back.
+    HiddenFiles m_hidden;
+    MemberTable *m_memberTable = nullptr;
     int m_category = kAllCategories;
     int m_viewMode = GridMode;
     int m_selectRule = -1;
     int m_showFilter = 2;
     bool m_descending = true;
-
-    // Loading in batches: the built groups wait here until the views have taken them.
-    QFutureWatcher<TImageModel::BuiltGroups> m_buildWatcher;
-    QList<GroupItem> m_pendingGroups;
-    qsizetype m_nextBatch = 0;
-    TImageModel::BuiltGroups m_loadSums;
 
     QFutureWatcher<SelectionTotals> m_totalsWatcher;
     SelectionTotals m_totals;
@@ -277,21 +206,6 @@ private:
     // The totals shown were confirmed against the disk (not only the scan's sizes).
     bool m_totalsChecked = false;
 
-    QFutureWatcher<void> m_memberWatcher;
-    QList<IndexFileGroup> m_members;
-    QString m_memberKey;
-
-    QPointer<CustomProgressDialog> m_progress;
-    QThread *m_deleteThread = nullptr;
-    TImageDeleteWorker *m_worker = nullptr;
-    RemovalJournal *m_journal = nullptr;
-    int m_batchMethod = 0;
-    std::shared_ptr<QList<DeleteResult>> m_batchResults;
-    std::shared_ptr<QString> m_batchJournalError;
-    bool m_batchAllowsDifferent = false;
-    CloudRemoval m_cloudRemoval = NoCloudRemoval;
-    // The group and the listed size of each cloud file under removal.
-    QHash<QString, QString> m_cloudKeys;
-    QHash<QString, qint64> m_cloudSizes;
-    QList<DeleteResult> m_lastRemoval;
+    ResultGroupLoader *m_loader = nullptr;
+    ResultRemovalRun *m_removal = nullptr;
 };
