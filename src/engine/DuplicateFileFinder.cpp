@@ -5,7 +5,9 @@
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
+#include "engine/FinderCommon.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/KeyRuns.h"
 #include "engine/SampledKey.h"
 #include "engine/TFileData.h"
 
@@ -44,8 +46,11 @@ namespace {
 
 // The log tags of this file.
 const QString kStreamHashTag = QStringLiteral("[streamHash] ");
-const QString kTag = QStringLiteral("[TDuplicateFinleFinder]: ");
 
+using FinderCommon::fileNameOf;
+using FinderCommon::folderOf;
+using FinderCommon::hexKey;
+using FinderCommon::kTag;
 using SampledKey::kBlock;
 using SampledKey::kExternalDrive;
 using SampledKey::kWholeFileLimit;
@@ -59,30 +64,6 @@ constexpr qint64 kMapLimit = 4294967296LL;
 constexpr qint64 kStreamMapThreshold = 1 << 20;
 // Image suffixes up to this length are tested on the name's bytes.
 constexpr size_t kShortSuffix = 16;
-
-QByteArray hexKey(XXH64_hash_t digest)
-{
-    char text[17];
-    static const char digits[] = "0123456789abcdef";
-    for (int i = 15; i >= 0; --i) {
-        text[i] = digits[digest & 0xF];
-        digest >>= 4;
-    }
-    return QByteArray(text, 16);
-}
-
-QString folderOf(const QString &path)
-{
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    if (slash <= 0)
-        return QStringLiteral("/");
-    return path.left(slash);
-}
-
-QString fileNameOf(const QString &path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
 
 #ifdef Q_OS_UNIX
 // Whole-content key of an open regular file of the given size; false (after a message)
@@ -363,15 +344,15 @@ void DuplicateFileFinder::run()
     stopRequested.store(0);
     {
         QMutexLocker locker(&m_mutex);
-        dirTable.clear();
         uniqueImages.clear();
-        m_signatureTable.clear();
     }
+    m_folders.clear();
     duplicateFileCount.store(0);
     duplicateTotalSize.store(0);
     processDuplicates();
     if (!isStopRequested() && scanDupDirectory) {
-        processDirectories();
+        m_folders.match(m_roots, duplicateSelectHint, mapPriority,
+            [this](double percent) { emit progressUpdated(1, percent); });
         emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
     }
     m_table.clear();
@@ -379,11 +360,7 @@ void DuplicateFileFinder::run()
     decltype(m_runs)().swap(m_runs);
     decltype(m_keys)().swap(m_keys);
     decltype(m_keyState)().swap(m_keyState);
-    {
-        QMutexLocker locker(&m_mutex);
-        dirTable.clear();
-        m_signatureTable.clear();
-    }
+    m_folders.clear();
     emit scanFinished();
 }
 
@@ -901,157 +878,116 @@ bool DuplicateFileFinder::stillExists(quint32 file)
 #endif
 }
 
-void DuplicateFileFinder::hashGroup(const SizeRun &run)
+bool DuplicateFileFinder::groupByName(const SizeRun &run, std::vector<Found> &found)
 {
-    if (isStopRequested() || run.count == 0)
-        return;
-    const qint64 size = m_table.file(m_order[run.begin]).size;
-    // Empty files are never duplicates of one another, in any mode: they hold nothing
-    // to recover.
-    if (size < 1) {
-        m_done.fetch_add(1);
-        return;
+    QHash<QByteArray, size_t> byText;
+    for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
+        if (isStopRequested())
+            return false;
+        const quint32 file = m_order[i];
+        // Names are compared without reading the files; a file must still be there
+        // to be a member.
+        if (!stillExists(file))
+            continue;
+        const QByteArray key = nameKey(m_table.fileName(file));
+        const auto at = byText.constFind(key);
+        if (at == byText.constEnd()) {
+            byText.insert(key, found.size());
+            found.push_back(Found {key, {file}});
+        } else {
+            found[at.value()].members.push_back(file);
+        }
     }
-    // Files by key, keys in first-seen order, members in their order. Content keys are
-    // the 64-bit digests, grouped by sorting (no allocation per file or key); the name
-    // mode's keys are the MD5 texts.
-    struct Keyed
-    {
-        quint64 key;
-        quint32 seq;
-        quint32 file;
-    };
-    struct Range
-    {
-        quint32 begin;
-        quint32 end;
-    };
+    return true;
+}
+
+bool DuplicateFileFinder::wholeKeys(const std::vector<KeyRuns::Keyed> &keyed,
+    const std::vector<KeyRuns::Range> &ranges, std::vector<KeyRuns::Keyed> &full)
+{
+    using Keyed = KeyRuns::Keyed;
+    // Whole files are read only where the sampled keys already agree: files whose
+    // samples differ cannot have equal contents, so the groups are the same as
+    // from hashing every file whole.
+    full.clear();
+    for (const KeyRuns::Range &range : ranges) {
+        if (range.end - range.begin < 2) {
+            full.push_back(
+                Keyed {keyed[range.begin].key, quint32(full.size()), keyed[range.begin].file});
+            continue;
+        }
+        for (quint32 k = range.begin; k < range.end; ++k) {
+            if (isStopRequested())
+                return false;
+            const quint32 file = keyed[k].file;
+            const int driveType = m_table.folder(m_table.file(file).folder).driveType;
+            quint64 key = 0;
+#ifdef Q_OS_UNIX
+            if (!cachedFullKey(file, key)) {
+                const QByteArray native = m_table.nativePath(file);
+                int error = 0;
+                struct stat opened
+                {
+                };
+                if (!streamKeyAt(
+                        AT_FDCWD, native.constData(), driveType, key,
+                        [this, file] { return m_table.fileName(file); }, error, &opened)) {
+                    noteUnread(file, error);
+                    continue;
+                }
+                noteFullKey(file, key, stampOf(opened));
+            }
+#else
+            const QByteArray hex = streamHash(m_table.filePath(file), driveType);
+            if (hex.isEmpty())
+                continue;
+            key = hex.toULongLong(nullptr, 16);
+#endif
+            full.push_back(Keyed {key, quint32(full.size()), file});
+        }
+    }
+    return true;
+}
+
+bool DuplicateFileFinder::groupByContent(
+    const SizeRun &run, qint64 size, std::vector<Found> &found, std::vector<quint32> &singles)
+{
+    using Keyed = KeyRuns::Keyed;
+    using Range = KeyRuns::Range;
     thread_local std::vector<Keyed> keyed;
     thread_local std::vector<Keyed> full;
     thread_local std::vector<Range> ranges;
     thread_local std::vector<Range> fullRanges;
-    // Sorts items by key (then arrival) and lists the runs of one key in first-seen order.
-    const auto group = [](std::vector<Keyed> &items, std::vector<Range> &out) {
-        std::sort(items.begin(), items.end(), [](const Keyed &a, const Keyed &b) {
-            return a.key != b.key ? a.key < b.key : a.seq < b.seq;
-        });
-        out.clear();
-        for (quint32 b = 0; b < quint32(items.size());) {
-            quint32 e = b + 1;
-            while (e < quint32(items.size()) && items[e].key == items[b].key)
-                ++e;
-            out.push_back(Range {b, e});
-            b = e;
-        }
-        std::sort(out.begin(), out.end(), [&items](const Range &a, const Range &b) {
-            return items[a.begin].seq < items[b.begin].seq;
-        });
-    };
-    // The groups to report: members in order, with the content key of each.
-    struct Found
-    {
-        QByteArray key;
-        std::vector<quint32> members;
-    };
-    std::vector<Found> found;
-    std::vector<quint32> singles;
-
-    if (scanMethod == scanName) {
-        QHash<QByteArray, size_t> byText;
-        for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
-            if (isStopRequested())
-                return;
-            const quint32 file = m_order[i];
-            // Names are compared without reading the files; a file must still be there
-            // to be a member.
-            if (!stillExists(file))
-                continue;
-            const QByteArray key = nameKey(m_table.fileName(file));
-            const auto at = byText.constFind(key);
-            if (at == byText.constEnd()) {
-                byText.insert(key, found.size());
-                found.push_back(Found {key, {file}});
-            } else {
-                found[at.value()].members.push_back(file);
-            }
-        }
-    } else {
-        keyed.clear();
-        for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
-            const quint32 file = m_order[i];
-            if (m_keyState[file] == 2)
-                keyed.push_back(Keyed {m_keys[file], quint32(keyed.size()), file});
-        }
-        group(keyed, ranges);
-        std::vector<Keyed> *result = &keyed;
-        std::vector<Range> *resultRanges = &ranges;
-        if (scanMethod == scanAllContent && size > kWholeFileLimit) {
-            // Whole files are read only where the sampled keys already agree: files whose
-            // samples differ cannot have equal contents, so the groups are the same as
-            // from hashing every file whole.
-            full.clear();
-            for (const Range &range : ranges) {
-                if (range.end - range.begin < 2) {
-                    full.push_back(Keyed {
-                        keyed[range.begin].key, quint32(full.size()), keyed[range.begin].file});
-                    continue;
-                }
-                for (quint32 k = range.begin; k < range.end; ++k) {
-                    if (isStopRequested())
-                        return;
-                    const quint32 file = keyed[k].file;
-                    const int driveType = m_table.folder(m_table.file(file).folder).driveType;
-                    quint64 key = 0;
-#ifdef Q_OS_UNIX
-                    if (!cachedFullKey(file, key)) {
-                        const QByteArray native = m_table.nativePath(file);
-                        int error = 0;
-                        struct stat opened
-                        {
-                        };
-                        if (!streamKeyAt(
-                                AT_FDCWD, native.constData(), driveType, key,
-                                [this, file] { return m_table.fileName(file); }, error, &opened)) {
-                            noteUnread(file, error);
-                            continue;
-                        }
-                        noteFullKey(file, key, stampOf(opened));
-                    }
-#else
-                    const QByteArray hex = streamHash(m_table.filePath(file), driveType);
-                    if (hex.isEmpty())
-                        continue;
-                    key = hex.toULongLong(nullptr, 16);
-#endif
-                    full.push_back(Keyed {key, quint32(full.size()), file});
-                }
-            }
-            group(full, fullRanges);
-            result = &full;
-            resultRanges = &fullRanges;
-        }
-        for (const Range &range : *resultRanges) {
-            if (range.end - range.begin == 1) {
-                singles.push_back((*result)[range.begin].file);
-                continue;
-            }
-            Found entry {hexKey((*result)[range.begin].key), {}};
-            for (quint32 k = range.begin; k < range.end; ++k)
-                entry.members.push_back((*result)[k].file);
-            found.push_back(std::move(entry));
-        }
+    keyed.clear();
+    for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
+        const quint32 file = m_order[i];
+        if (m_keyState[file] == 2)
+            keyed.push_back(Keyed {m_keys[file], quint32(keyed.size()), file});
     }
-
-    // Keys in first-seen order: a single file is only looked at as a picture.
-    for (const Found &entry : found)
-        if (entry.members.size() == 1)
-            singles.push_back(entry.members.front());
-    for (quint32 file : singles) {
-        if (m_collectsPictures && isImage(file)) {
-            QMutexLocker locker(&m_mutex);
-            uniqueImages.append(m_table.filePath(file));
-        }
+    KeyRuns::group(keyed, ranges);
+    std::vector<Keyed> *result = &keyed;
+    std::vector<Range> *resultRanges = &ranges;
+    if (scanMethod == scanAllContent && size > kWholeFileLimit) {
+        if (!wholeKeys(keyed, ranges, full))
+            return false;
+        KeyRuns::group(full, fullRanges);
+        result = &full;
+        resultRanges = &fullRanges;
     }
+    for (const Range &range : *resultRanges) {
+        if (range.end - range.begin == 1) {
+            singles.push_back((*result)[range.begin].file);
+            continue;
+        }
+        Found entry {hexKey((*result)[range.begin].key), {}};
+        for (quint32 k = range.begin; k < range.end; ++k)
+            entry.members.push_back((*result)[k].file);
+        found.push_back(std::move(entry));
+    }
+    return true;
+}
+
+bool DuplicateFileFinder::storeFound(qint64 size, const std::vector<Found> &found)
+{
     for (const Found &entry : found) {
         if (entry.members.size() < 2)
             continue;
@@ -1073,8 +1009,44 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
         }
         storeGroup(size, entry.key, paths, members);
         if (isStopRequested())
-            return;
+            return false;
     }
+    return true;
+}
+
+void DuplicateFileFinder::hashGroup(const SizeRun &run)
+{
+    if (isStopRequested() || run.count == 0)
+        return;
+    const qint64 size = m_table.file(m_order[run.begin]).size;
+    // Empty files are never duplicates of one another, in any mode: they hold nothing
+    // to recover.
+    if (size < 1) {
+        m_done.fetch_add(1);
+        return;
+    }
+    // Files by key, keys in first-seen order, members in their order. Content keys are
+    // the 64-bit digests, grouped by sorting (no allocation per file or key); the name
+    // mode's keys are the MD5 texts.
+    std::vector<Found> found;
+    std::vector<quint32> singles;
+    const bool grouped = scanMethod == scanName ? groupByName(run, found)
+                                                : groupByContent(run, size, found, singles);
+    if (!grouped)
+        return;
+
+    // Keys in first-seen order: a single file is only looked at as a picture.
+    for (const Found &entry : found)
+        if (entry.members.size() == 1)
+            singles.push_back(entry.members.front());
+    for (quint32 file : singles) {
+        if (m_collectsPictures && isImage(file)) {
+            QMutexLocker locker(&m_mutex);
+            uniqueImages.append(m_table.filePath(file));
+        }
+    }
+    if (!storeFound(size, found))
+        return;
 
     const int done = m_done.fetch_add(1) + 1;
     reportProgress(done == int(m_runs.size()));
@@ -1084,20 +1056,8 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     const QStringList &paths, const std::vector<quint32> &members)
 {
     const QString groupKey = TFileData::groupKey(paths.first());
-    if (scanDupDirectory) {
-        for (const QString &path : paths) {
-            if (isStopRequested())
-                return;
-            QMutexLocker locker(&m_mutex);
-            DirMatchInfo &info = dirTable[folderOf(path)];
-            info.contentKeys.append(contentKey);
-            info.groupKeys.append(groupKey);
-            info.names.append(fileNameOf(path));
-            info.sizes.append(size);
-            ++info.fileCount;
-            info.totalSize += size;
-        }
-    }
+    if (scanDupDirectory && !m_folders.addGroupFiles(size, contentKey, groupKey, paths))
+        return;
     TFileData *store = TFileData::instance();
     QList<FileStamp> stamps;
     if (m_keepsStamps)
@@ -1142,319 +1102,4 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     // What could go: every copy but one.
     duplicateFileCount.fetch_add(int(paths.size()) - 1);
     duplicateTotalSize.fetch_add(qint64(paths.size() - 1) * size);
-}
-
-namespace {
-
-int depthOf(const QString &path)
-{
-    return int(path.count(QLatin1Char('/')));
-}
-
-bool isBelow(const QString &path, const QString &folder)
-{
-    return path.size() > folder.size() && path.startsWith(folder)
-        && (folder.endsWith(QLatin1Char('/')) || path.at(folder.size()) == QLatin1Char('/'));
-}
-
-// Whether a folder that holds no duplicate file holds anything but empty folders.
-bool holdsAnything(const QString &folder)
-{
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QFileInfo &entry : entries)
-        if (entry.isSymLink() || !entry.isDir() || holdsAnything(entry.filePath()))
-            return true;
-    return !QFileInfo(folder).isReadable();
-}
-
-} // namespace
-
-// Two independent mixes of the key make the order-free digest: sums of mixed keys are
-// equal for equal multisets, and a chance match of both 64-bit sums, the file count and
-// the byte count is negligible (removal checks the contents again in any case).
-DuplicateFileFinder::FolderDigest DuplicateFileFinder::FolderDigest::ofFile(
-    const QByteArray &key, qint64 size)
-{
-    FolderDigest digest;
-    digest.sum = XXH3_64bits_withSeed(key.constData(), size_t(key.size()), 0);
-    digest.mixedSum
-        = XXH3_64bits_withSeed(key.constData(), size_t(key.size()), 0x9E3779B97F4A7C15ULL);
-    digest.fileCount = 1;
-    digest.totalSize = size;
-    return digest;
-}
-
-void DuplicateFileFinder::FolderDigest::add(const FolderDigest &other)
-{
-    sum += other.sum;
-    mixedSum += other.mixedSum;
-    fileCount += other.fileCount;
-    totalSize += other.totalSize;
-}
-
-DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QString &folder,
-    const QHash<QString, FolderDigest> &below, const QSet<QString> &candidates) const
-{
-    FolderDigest digest;
-    const DirMatchInfo info = dirTable.value(folder);
-    const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
-#ifdef Q_OS_UNIX
-    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-    if (!dir)
-        return digest;
-    const int fd = ::dirfd(dir);
-    bool complete = true;
-    while (const dirent *entry = ::readdir(dir)) {
-        const char *name = entry->d_name;
-        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-            continue;
-        struct stat status
-        {
-        };
-        if (::fstatat(fd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-            complete = false;
-            break;
-        }
-        const QString entryName = FilePathCodec::decode(name, qsizetype(std::strlen(name)));
-        if (S_ISREG(status.st_mode)) {
-            const qsizetype at = info.names.indexOf(entryName);
-            if (at < 0) {
-                complete = false;
-                break;
-            }
-            digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
-        } else if (S_ISDIR(status.st_mode)) {
-            const QString child = prefix + entryName;
-            if (candidates.contains(child)) {
-                const FolderDigest sub = below.value(child);
-                if (!sub.complete) {
-                    complete = false;
-                    break;
-                }
-                digest.add(sub);
-            } else if (holdsAnything(child)) {
-                complete = false;
-                break;
-            }
-        } else {
-            // Links, pipes and devices would be lost with the folder and have no copy.
-            complete = false;
-            break;
-        }
-    }
-    ::closedir(dir);
-    digest.complete = complete;
-#else
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    digest.complete = QFileInfo(folder).isReadable();
-    for (const QFileInfo &entry : entries) {
-        if (entry.isSymLink()) {
-            digest.complete = false;
-        } else if (entry.isFile()) {
-            const qsizetype at = info.names.indexOf(entry.fileName());
-            if (at < 0) {
-                digest.complete = false;
-            } else {
-                digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
-            }
-        } else if (entry.isDir()) {
-            const QString child = prefix + entry.fileName();
-            const FolderDigest sub = below.value(child);
-            if (candidates.contains(child) && sub.complete) {
-                digest.add(sub);
-            } else if (candidates.contains(child) || holdsAnything(child)) {
-                digest.complete = false;
-            }
-        } else {
-            digest.complete = false;
-        }
-        if (!digest.complete)
-            break;
-    }
-#endif
-    return digest;
-}
-
-void DuplicateFileFinder::processDirectories()
-{
-    // Candidates: every folder holding a duplicate file, and its folders up to the root
-    // it was found under (a folder is a duplicate of another only with everything in it,
-    // sub-folders included, so the whole chain is looked at).
-    QSet<QString> candidates;
-    {
-        QMutexLocker locker(&m_mutex);
-        for (auto it = dirTable.cbegin(); it != dirTable.cend(); ++it) {
-            QString folder = it.key();
-            QString root;
-            for (const QString &candidate : std::as_const(m_roots))
-                if ((folder == candidate || isBelow(folder, candidate))
-                    && candidate.size() > root.size())
-                    root = candidate;
-            while (!candidates.contains(folder)) {
-                candidates.insert(folder);
-                if (root.isEmpty() || folder == root || !isBelow(folder, root))
-                    break;
-                folder = folderOf(folder);
-            }
-        }
-    }
-    splog_d(kTag
-        + QStringLiteral("Start matching duplicate directories. Number "
-                         "of groups to match [%1].")
-              .arg(candidates.size()));
-    // Deepest folders first: a folder's digest takes its sub-folders' digests.
-    QMap<int, QStringList> byDepth;
-    for (const QString &folder : std::as_const(candidates))
-        byDepth[-depthOf(folder)].append(folder);
-    QHash<QString, FolderDigest> digests;
-    std::atomic<int> processed {0};
-    const qsizetype total = candidates.size();
-    for (auto level = byDepth.begin(); level != byDepth.end() && !isStopRequested(); ++level) {
-        const QList<FolderDigest> results
-            = QtConcurrent::blockingMapped(level.value(), [&](const QString &folder) {
-                  if (isStopRequested())
-                      return FolderDigest();
-                  const FolderDigest digest = digestFolder(folder, digests, candidates);
-                  const int done = processed.fetch_add(1) + 1;
-                  emit progressUpdated(1, done * 100.0 / total);
-                  return digest;
-              });
-        for (qsizetype i = 0; i < results.size(); ++i)
-            digests.insert(level.value().at(i), results.at(i));
-    }
-    if (isStopRequested()) {
-        emit progressUpdated(1, 0.0);
-        return;
-    }
-    for (auto it = digests.cbegin(); it != digests.cend(); ++it) {
-        const FolderDigest &digest = it.value();
-        if (!digest.complete || digest.fileCount == 0)
-            continue;
-        QByteArray signature;
-        QDataStream stream(&signature, QIODevice::WriteOnly);
-        stream << digest.fileCount << digest.totalSize << digest.sum << digest.mixedSum;
-        m_signatureTable[signature].append(it.key());
-    }
-    // A folder inside a matched folder is covered by it: only the outermost matches are
-    // reported, and a folder is never matched with a folder that holds it.
-    QSet<QString> matchedFolders;
-    for (const QStringList &folders : std::as_const(m_signatureTable))
-        if (folders.size() > 1)
-            for (const QString &folder : folders)
-                matchedFolders.insert(folder);
-    const auto insideMatched = [&matchedFolders](const QString &folder) {
-        for (QString parent = folder; parent != QLatin1String("/");) {
-            parent = folderOf(parent);
-            if (matchedFolders.contains(parent))
-                return true;
-        }
-        return false;
-    };
-    QList<QStringList> matched;
-    for (const QStringList &folders : std::as_const(m_signatureTable)) {
-        if (folders.size() < 2)
-            continue;
-        QStringList outermost;
-        for (const QString &folder : folders)
-            if (!insideMatched(folder))
-                outermost.append(folder);
-        if (outermost.size() < 2)
-            continue;
-        // The pool finishes folders in any order; a fixed order keeps the key stable and
-        // the first folder is the one kept.
-        outermost.sort();
-        matched.append(outermost);
-    }
-    std::sort(matched.begin(), matched.end());
-    TFileData *store = TFileData::instance();
-    for (const QStringList &folders : std::as_const(matched)) {
-        QList<DirGroupEntry> entries;
-        for (const QString &folder : folders) {
-            const FolderDigest &digest = digests[folder];
-            entries.append(DirGroupEntry {folder, digest.fileCount, digest.totalSize});
-            // The files of every folder but the first, which stays.
-            if (folder == folders.first())
-                continue;
-            duplicateFileCount.fetch_add(digest.fileCount);
-            duplicateTotalSize.fetch_add(digest.totalSize);
-        }
-        const QString key = TFileData::groupKey(folders.first());
-        store->insertDirGroup(key, entries);
-        // Selected by the same rule as the copies of files.
-        if (duplicateSelectHint != 8)
-            GroupItemAutoSelector::applyToGroup(key, folders, duplicateSelectHint, mapPriority);
-    }
-    pruneMatchedFolders(matched);
-}
-
-void DuplicateFileFinder::pruneMatchedFolders(const QList<QStringList> &matched)
-{
-    if (matched.isEmpty())
-        return;
-    // Each matched folder, and whether it is the kept one of its group.
-    QHash<QString, bool> kept;
-    QSet<QString> touchedGroups;
-    for (const QStringList &folders : matched) {
-        for (const QString &folder : folders) {
-            kept.insert(folder, folder == folders.first());
-            for (auto it = dirTable.cbegin(); it != dirTable.cend(); ++it)
-                if (it.key() == folder || isBelow(it.key(), folder))
-                    for (const QString &key : it.value().groupKeys)
-                        touchedGroups.insert(key);
-        }
-    }
-    // The matched folder holding a path, if any.
-    const auto holder = [&kept](const QString &path) -> const QString * {
-        for (QString folder = folderOf(path);; folder = folderOf(folder)) {
-            const auto found = kept.constFind(folder);
-            if (found != kept.constEnd())
-                return &found.key();
-            if (folder == QLatin1String("/"))
-                return nullptr;
-        }
-    };
-    TFileData *store = TFileData::instance();
-    for (const QString &key : std::as_const(touchedGroups)) {
-        const QStringList members = store->group(key);
-        QStringList outside;
-        QStringList inKept;
-        for (const QString &path : members) {
-            const QString *folder = holder(path);
-            if (!folder)
-                outside.append(path);
-            else if (kept.value(*folder))
-                inKept.append(path);
-        }
-        // Every copy inside matched folders: the folder groups report them all. Otherwise
-        // the copies outside stay, with the one in the kept folder beside them, so that no
-        // copy goes unreported and the group never lists only copies to be removed.
-        QStringList remaining;
-        if (!outside.isEmpty()) {
-            for (const QString &path : members)
-                if (outside.contains(path) || inKept.contains(path))
-                    remaining.append(path);
-        }
-        if (remaining == members)
-            continue;
-        // The running totals count the copies that could go: those of the copies dropped
-        // leave them (the folder groups count their files instead).
-        const qsizetype dropped
-            = (members.size() - 1) - (remaining.size() < 2 ? 0 : remaining.size() - 1);
-        const DirMatchInfo &info = dirTable[folderOf(members.first())];
-        const qsizetype at = info.names.indexOf(fileNameOf(members.first()));
-        duplicateFileCount.fetch_sub(int(dropped));
-        duplicateTotalSize.fetch_sub(qint64(dropped) * (at < 0 ? 0 : info.sizes.at(at)));
-        if (remaining.size() < 2) {
-            store->removeGroup(key);
-            continue;
-        }
-        store->replaceGroup(key, remaining);
-        if (duplicateSelectHint != 8) {
-            GroupItemAutoSelector::applyToGroup(key, remaining, duplicateSelectHint, mapPriority);
-        } else {
-            store->removeSelected(key);
-        }
-    }
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "engine/ContentKeyCache.h"
+#include "engine/DuplicateFolderMatcher.h"
 #include "engine/FileMeta.h"
+#include "engine/KeyRuns.h"
 #include "engine/OverlappedKeyReader.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
@@ -37,17 +39,8 @@ public:
     using FileMeta = ::FileMeta;
     using SizeTable = QHash<qint64, QList<FileMeta>>;
 
-    // One folder holding duplicate files, for the folder matching: per duplicate file
-    // directly in it, its content key, its group and its name.
-    struct DirMatchInfo
-    {
-        QList<QByteArray> contentKeys;
-        QStringList groupKeys;
-        int fileCount = 0;
-        qint64 totalSize = 0;
-        QStringList names;
-        QList<qint64> sizes;
-    };
+    // One folder holding duplicate files, for the folder matching.
+    using DirMatchInfo = DuplicateFolderMatcher::DirMatchInfo;
 
     enum ScanMethod : int { scanContent = 0, scanName = 1, scanAllContent = 2 };
 
@@ -145,6 +138,20 @@ private:
     void keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read);
     void storeKeys();
     void hashGroup(const SizeRun &run);
+    // A group found in a size group: members in order, with the content key of each.
+    struct Found
+    {
+        QByteArray key;
+        std::vector<quint32> members;
+    };
+    // The steps of hashGroup; each is false when a stop cut it short.
+    bool groupByName(const SizeRun &run, std::vector<Found> &found);
+    bool groupByContent(
+        const SizeRun &run, qint64 size, std::vector<Found> &found, std::vector<quint32> &singles);
+    // Whole-content keys of the files whose sampled keys agree with another's.
+    bool wholeKeys(const std::vector<KeyRuns::Keyed> &keyed,
+        const std::vector<KeyRuns::Range> &ranges, std::vector<KeyRuns::Keyed> &full);
+    bool storeFound(qint64 size, const std::vector<Found> &found);
     void reportProgress(bool force);
     // Counts a file that could not be read (error: its errno; 0 for an empty file, which
     // is no failure) as unreadable, or as vanished when it is gone.
@@ -156,26 +163,6 @@ private:
     // string per file.
     void prepareImageTest();
     bool isImage(quint32 file) const;
-    // A folder's whole content, sub-folders and hidden files included, as an order-free
-    // digest of its files' content keys; complete only when every file below it is a
-    // member of a duplicate group and nothing but files and folders is there.
-    struct FolderDigest
-    {
-        bool complete = false;
-        int fileCount = 0;
-        qint64 totalSize = 0;
-        quint64 sum = 0;
-        quint64 mixedSum = 0;
-
-        static FolderDigest ofFile(const QByteArray &key, qint64 size);
-        void add(const FolderDigest &other);
-    };
-    void processDirectories();
-    FolderDigest digestFolder(const QString &folder, const QHash<QString, FolderDigest> &below,
-        const QSet<QString> &candidates) const;
-    // Takes the files of matched folders out of the file groups, except where a copy
-    // lives outside every matched folder: then the copy in the kept folder stays too.
-    void pruneMatchedFolders(const QList<QStringList> &matched);
     // members: the paths' files in the table, whose walk stat gives their stamps.
     void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths,
         const std::vector<quint32> &members);
@@ -184,7 +171,6 @@ private:
     QStringList m_roots;
     ScanProblems *m_problems = nullptr;
     QStringList uniqueImages;
-    QHash<QString, DirMatchInfo> dirTable;
     mutable QMutex m_mutex;
     std::atomic<qint64> stopRequested {0};
     QElapsedTimer m_timer;
@@ -218,7 +204,6 @@ private:
     std::atomic<qint64> m_keyedFiles {0};
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
-    QHash<QByteArray, QStringList> m_signatureTable;
     // The key cache of the running scan. The sampled keys go through it one run of
     // folders at a time: an entry per wanted file of the run (m_cachedFiles, ascending file
     // indices, gives each entry's file). The whole-content keys found in it wait in
@@ -239,4 +224,5 @@ private:
     qint64 m_overlappedKeys = 0;
     // Group key of every file group touched by a folder with duplicates.
     QSet<QString> m_folderGroupKeys;
+    DuplicateFolderMatcher m_folders {stopRequested, duplicateFileCount, duplicateTotalSize};
 };
