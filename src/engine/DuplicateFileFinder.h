@@ -3,6 +3,7 @@
 
 #include "engine/ContentKeyCache.h"
 #include "engine/DuplicateFolderMatcher.h"
+#include "engine/DuplicateKeyReader.h"
 #include "engine/FileMeta.h"
 #include "engine/KeyRuns.h"
 #include "engine/OverlappedKeyReader.h"
@@ -61,12 +62,12 @@ public:
     void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
     ContentKeyCache::Options cacheOptions() const { return m_cacheOptions; }
     // Keys the last scan took from the cache instead of reading the file.
-    qint64 keysFromCache() const { return m_keysFromCache.load(); }
+    qint64 keysFromCache() const { return m_keyReader.keysFromCache(); }
     // The reader that took sampled keys while the walk went on; its keys are taken over at
     // the start of run(). Null: every key is read here.
     void setOverlappedReader(OverlappedKeyReader *reader) { m_reader = reader; }
     // Sampled keys of the last scan that were read (or taken from the cache) during the walk.
-    qint64 overlappedKeys() const { return m_overlappedKeys; }
+    qint64 overlappedKeys() const { return m_keyReader.overlappedKeys(); }
 
     void requestStop()
     {
@@ -111,32 +112,9 @@ protected:
 
 private:
     // One size group: a run of m_order.
-    struct SizeRun
-    {
-        quint32 begin = 0;
-        quint32 count = 0;
-    };
+    using SizeRun = DuplicateKeyReader::SizeRun;
 
     void processDuplicates();
-    // Sampled keys of every file of a size group, computed folder by folder so that each
-    // file is opened relative to its folder (one short look-up instead of a walk of the
-    // whole path); hashGroup then only compares them.
-    void computeSampledKeys();
-    void keyFolder(quint32 folder);
-    // The cache's part: the stamps of the wanted files of a folder, before any is read.
-    void keyFoldersWithCache(const QList<quint32> &folders);
-    void stampFolder(quint32 folder);
-    // Looks up every wanted file the walk kept a stat of, in one pass over the cache,
-    // before anything is read.
-    void lookUpWalkStamps();
-    void takeOverlappedKeys();
-    void takeCachedSampledKeys();
-    // The cached whole-content key of a file whose stamp matched; false when there is none.
-    bool cachedFullKey(quint32 file, quint64 &key);
-    // A whole-content key just read, with the status of the file it was read from.
-    void noteFullKey(quint32 file, quint64 key, const ContentKeyCache::Stamp &read);
-    void keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read);
-    void storeKeys();
     void hashGroup(const SizeRun &run);
     // A group found in a size group: members in order, with the content key of each.
     struct Found
@@ -153,11 +131,6 @@ private:
         const std::vector<KeyRuns::Range> &ranges, std::vector<KeyRuns::Keyed> &full);
     bool storeFound(qint64 size, const std::vector<Found> &found);
     void reportProgress(bool force);
-    // Counts a file that could not be read (error: its errno; 0 for an empty file, which
-    // is no failure) as unreadable, or as vanished when it is gone.
-    void noteUnread(quint32 file, int error);
-    // For the name mode, which reads no file: whether the file is still a regular file.
-    bool stillExists(quint32 file);
     // The file-type catalogue's image test on a file of the table, answered from the
     // name's bytes where the suffix is plain ASCII (nearly always), without building a
     // string per file.
@@ -186,9 +159,6 @@ private:
     // File indices of m_table ordered by size, and the size groups of two or more files.
     std::vector<quint32> m_order;
     std::vector<SizeRun> m_runs;
-    // Per file: the sampled key and its state (0 not wanted, 1 wanted, 2 keyed, 3 unreadable).
-    std::vector<quint64> m_keys;
-    std::vector<quint8> m_keyState;
     // Lower-case image suffixes for isImage(); empty m_asciiImageTest when the catalogue
     // lists a suffix that is not plain ASCII (then every test goes through the catalogue).
     std::vector<std::string> m_imageSuffixes;
@@ -198,31 +168,14 @@ private:
     bool m_asciiImageTest = false;
     bool m_collectsPictures = true;
     bool m_keepsStamps = true;
-    // Progress of the file phase, shared by the pool threads: files keyed and size groups
-    // done, out of m_wantedFiles and m_runs.size().
-    qint64 m_wantedFiles = 0;
-    std::atomic<qint64> m_keyedFiles {0};
+    // Progress of the file phase, shared by the pool threads: size groups done, out of
+    // m_runs.size() (the files keyed are the key reader's count).
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
-    // The key cache of the running scan. The sampled keys go through it one run of
-    // folders at a time: an entry per wanted file of the run (m_cachedFiles, ascending file
-    // indices, gives each entry's file). The whole-content keys found in it wait in
-    // m_cachedFullKeys (only read by the pool threads), those read in m_fullEntries (under
-    // m_cacheLock).
     ContentKeyCache::Options m_cacheOptions;
-    std::unique_ptr<ContentKeyCache> m_cache;
-    std::vector<quint32> m_cachedFiles;
-    std::vector<ContentKeyCache::Entry> m_cacheEntries;
-    // (file, whole-content key) pairs, sorted by file once the sampled keys are known.
-    std::vector<std::pair<quint32, quint64>> m_cachedFullKeys;
-    std::vector<ContentKeyCache::Entry> m_fullEntries;
-    QMutex m_cacheLock;
-    qint64 m_readStartNs = 0;
-    qint64 m_fullReadStartNs = 0;
-    std::atomic<qint64> m_keysFromCache {0};
     OverlappedKeyReader *m_reader = nullptr;
-    qint64 m_overlappedKeys = 0;
     // Group key of every file group touched by a folder with duplicates.
     QSet<QString> m_folderGroupKeys;
     DuplicateFolderMatcher m_folders {stopRequested, duplicateFileCount, duplicateTotalSize};
+    DuplicateKeyReader m_keyReader {m_table, stopRequested};
 };
