@@ -2,67 +2,15 @@
 #include "cloud/KvCloudObject.h"
 
 #include "app/DataDirectory.h"
-#include "app/FileTypeCatalogue.h"
-#include "app/SnapshotKeys.h"
-#include "app/TLogger.h"
-#include "cloud/CloudPath.h"
+#include "cloud/CloudFolderBrowser.h"
+#include "cloud/CloudHashKinds.h"
 #include "cloud/CloudRemoval.h"
-#include "cloud/CloudService.h"
+#include "cloud/CloudScan.h"
+#include "cloud/CloudSession.h"
 #include "cloud/RcloneClient.h"
-#include "engine/ContentHash.h"
 #include "engine/DeleteResult.h"
-#include "engine/PictureStage.h"
-#include "engine/TFileData.h"
-#include "preferences/PreferenceRanges.h"
-
-#include <algorithm>
-#include <memory>
 
 #include <QCoreApplication>
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFutureWatcher>
-#include <QJsonArray>
-#include <QStorageInfo>
-#include <QTimer>
-#include <QtConcurrent/QtConcurrentRun>
-
-namespace {
-
-// The log tag of this file.
-const QString kTag = QStringLiteral("[KvCloudObject]: ");
-
-// The hash kinds in the order they are preferred when a service offers several: the
-// cheapest for the service to give that still tells contents apart.
-const QStringList &preferredHashes()
-{
-    static const QStringList kinds {QStringLiteral("md5"), QStringLiteral("sha1"),
-        QStringLiteral("dropbox"), QStringLiteral("quickxor"), QStringLiteral("sha256"),
-        QStringLiteral("crc32")};
-    return kinds;
-}
-
-QString chooseHash(const QJsonArray &offered)
-{
-    for (const QString &kind : preferredHashes())
-        if (offered.contains(kind))
-            return kind;
-    return {};
-}
-
-constexpr qint64 kCountStep = 1000;
-// What a download must leave free on the disk of the download folder.
-constexpr qint64 kDiskReserve = 256LL << 20;
-// The kind of hash computed here from a downloaded copy, after the service's kinds.
-const QString kDownloadedHash = QStringLiteral("xxh128");
-
-QString hashName(int kind)
-{
-    return kind < preferredHashes().size() ? preferredHashes().at(kind) : kDownloadedHash;
-}
-
-} // namespace
 
 KvCloudObject *KvCloudObject::instance()
 {
@@ -72,698 +20,145 @@ KvCloudObject *KvCloudObject::instance()
 }
 
 KvCloudObject::KvCloudObject(QObject *parent)
-    : QObject(parent), m_process(new RcloneProcess(this)), m_client(new RcloneClient(this))
+    : QObject(parent)
+    , m_session(new CloudSession(*this, m_members))
+    , m_folderBrowser(new CloudFolderBrowser(*this, *m_session))
+    , m_scan(new CloudScan(*this, *m_session, m_members))
 {
     qRegisterMetaType<DelParams>();
     m_removal = CloudRemoval::create(this);
     qRegisterMetaType<CloudFolderInfo>();
     qRegisterMetaType<QList<CloudFolderInfo>>();
     initialization(DataDirectory::base());
-    connect(m_process, &RcloneProcess::signInLink, this, &KvCloudObject::authorizationLink);
-    connect(m_process, &RcloneProcess::died, this, [this](const QString &reason) {
-        m_client->abortAll();
-        if (std::exchange(m_authorizing, false))
+    connect(m_session->process(), &RcloneProcess::died, this, [this](const QString &reason) {
+        m_session->client()->abortAll();
+        if (m_session->dropAuthorization())
             emit onAuthorizedFailed(reason);
-        if (m_scanning)
-            finishScan(true, reason);
+        if (m_scan->isScanning())
+            m_scan->finishScan(true, reason);
         if (m_removal)
             m_removal->abort(reason, false);
-    });
-    m_scanTimer = new QTimer(this);
-    m_scanTimer->setInterval(1000);
-    connect(m_scanTimer, &QTimer::timeout, this, [this] {
-        const qint64 seconds = m_scanClock.elapsed() / 1000;
-        emit onUpdateTimer(QStringLiteral("%1:%2:%3")
-                               .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
-                               .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
-                               .arg(seconds % 60, 2, 10, QLatin1Char('0')));
     });
 }
 
 KvCloudObject::~KvCloudObject()
 {
-    m_client->abortAll();
-    m_process->stop();
+    m_session->client()->abortAll();
+    m_session->process()->stop();
 }
 
 void KvCloudObject::initialization(const QString &dataDirectory)
 {
-    m_dataDirectory = dataDirectory.endsWith(QLatin1Char('/')) ? dataDirectory
-                                                               : dataDirectory + QLatin1Char('/');
-    m_settings.configFile = m_dataDirectory + QStringLiteral("rclone/rclone.conf");
+    m_session->initialization(dataDirectory);
 }
 
 void KvCloudObject::setRcloneSettings(const RcloneSettings &settings)
 {
-    if (m_process->isRunning()
-        && (settings.program != m_settings.program || settings.configFile != m_settings.configFile))
-        m_process->stop();
-    m_settings = settings;
+    m_session->setRcloneSettings(settings);
+}
+
+RcloneSettings KvCloudObject::rcloneSettings() const
+{
+    return m_session->rcloneSettings();
 }
 
 QString KvCloudObject::ensureStarted()
 {
-    if (m_process->isRunning())
-        return {};
-    const QString problem = m_process->start(m_settings);
-    if (problem.isEmpty())
-        m_client->setEndpoint(m_process->baseUrl(), m_process->user(), m_process->password());
-    return problem;
+    return m_session->ensureStarted();
 }
 
 bool KvCloudObject::start_authorization(const QString &account, int cloudType, int flags)
 {
-    const CloudService *service = CloudService::byType(cloudType);
-    QString problem;
-    if (!service)
-        problem = QStringLiteral("Unknown cloud type %1.").arg(cloudType);
-    else if (account.isEmpty() || account.contains(QLatin1Char(':')))
-        problem = QStringLiteral("\"%1\" cannot name an account.").arg(account);
-    else
-        problem = ensureStarted();
-    if (!problem.isEmpty()) {
-        splog_d(kTag + QStringLiteral("start_authorization: %1").arg(problem));
-        QTimer::singleShot(0, this, [this, problem] { emit onAuthorizedFailed(problem); });
-        return false;
-    }
-    // A remote made by an earlier run is used again as it is, unless a new sign-in is
-    // asked for (its token was refused); only then does the user see the browser again.
-    m_authorizing = true;
-    m_client->call(QStringLiteral("config/get"), {{"name", account}},
-        [this, account, cloudType, flags, service](
-            const QJsonObject &answer, const QString &error) {
-            const bool known = error.isEmpty()
-                && answer.value(QLatin1String("type")).toString() == service->backend
-                && (!service->signsIn
-                    || !answer.value(QLatin1String("token")).toString().isEmpty());
-            if (known && !(flags & kNewSignIn)) {
-                authorized(account, cloudType, false);
-                return;
-            }
-            // For the services that sign in through OAuth, rclone opens the browser and the
-            // call returns once the user is through (or cancel_authorization gives up).
-            m_client->call(QStringLiteral("config/create"),
-                {{"name", account}, {"type", service->backend},
-                    {"parameters", service->parameters}},
-                [this, account, cloudType](const QJsonObject &created, const QString &failed) {
-                    const QString failure = failed.isEmpty()
-                        ? created.value(QLatin1String("Error")).toString()
-                        : failed;
-                    if (!failure.isEmpty()) {
-                        m_authorizing = false;
-                        emit onAuthorizedFailed(failure);
-                        return;
-                    }
-                    authorized(account, cloudType, true);
-                });
-        });
-    return true;
-}
-
-void KvCloudObject::authorized(const QString &account, int cloudType, bool updated)
-{
-    m_authorizing = false;
-    m_account = account;
-    {
-        QWriteLocker lock(&m_filesLock);
-        m_remoteTypes.insert(account, cloudType);
-    }
-    emit onAuthorizedCompleted(updated);
-    emit onAuthorizedSuccess(account, cloudType);
+    return m_session->start_authorization(account, cloudType, flags);
 }
 
 void KvCloudObject::cancel_authorization()
 {
-    if (!m_authorizing)
-        return;
-    m_authorizing = false;
-    m_client->abortAll();
-    // The daemon would go on waiting for the browser, holding the sign-in port.
-    m_process->stop();
-    splog_d(kTag + QStringLiteral("sign-in cancelled"));
-    emit onAuthorizedFailed(QStringLiteral("The sign-in was cancelled."));
+    m_session->cancel_authorization();
+}
+
+bool KvCloudObject::isAuthorizing() const
+{
+    return m_session->isAuthorizing();
 }
 
 void KvCloudObject::init_traversal_folder()
 {
-    ++m_folderSession;
-}
-
-void KvCloudObject::end_traversal_folders()
-{
-    ++m_folderSession;
+    m_folderBrowser->init_traversal_folder();
 }
 
 void KvCloudObject::start_traversal_folders(int cloudType, const QString &folderId)
 {
-    Q_UNUSED(cloudType)
-    const QString folder
-        = folderId == QLatin1String("root") ? m_account + QLatin1Char(':') : folderId;
-    if (const QString problem = ensureStarted(); !problem.isEmpty() || m_account.isEmpty()) {
-        const QString reason
-            = problem.isEmpty() ? QStringLiteral("No account is signed in.") : problem;
-        QTimer::singleShot(0, this, [this, reason] { emit onAuthorizedFailed(reason); });
-        return;
-    }
-    const quint64 session = m_folderSession;
-    auto folders = std::make_shared<QList<CloudFolderInfo>>();
-    m_client->list(
-        {{"fs", folder}, {"remote", QString()}, {"opt", QJsonObject {{"dirsOnly", true}}}},
-        [folders, folder](const QJsonObject &entry) {
-            folders->append({CloudPath::join(folder, entry.value(QLatin1String("Path")).toString()),
-                entry.value(QLatin1String("Name")).toString(), true});
-        },
-        [this, folders, folderId, session](const QJsonObject &, const QString &error) {
-            if (session != m_folderSession)
-                return;
-            if (!error.isEmpty()) {
-                emit onAuthorizedFailed(error);
-                return;
-            }
-            std::sort(folders->begin(), folders->end(),
-                [](const CloudFolderInfo &a, const CloudFolderInfo &b) { return a.name < b.name; });
-            emit onFindedFolders(*folders, folderId);
-        });
+    m_folderBrowser->start_traversal_folders(cloudType, folderId);
 }
 
-QString KvCloudObject::get_download_dir() const
+void KvCloudObject::end_traversal_folders()
 {
-    return m_dataDirectory + QStringLiteral("CloudDownload/");
+    m_folderBrowser->end_traversal_folders();
+}
+
+QString KvCloudObject::account() const
+{
+    return m_session->account();
 }
 
 void KvCloudObject::set_common_config(const QJsonObject &config)
 {
-    m_commonConfig = config;
-    m_minSize = qint64(config.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
-    m_maxSize = qint64(config.value(SnapshotKeys::maxFileSize)
-                           .toDouble(double(PreferenceRanges::MaxFileSize.byDefault)))
-        << 20;
-    m_skipHidden = config.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
-    const auto list = [&config](QLatin1String key) {
-        QStringList out;
-        for (const QJsonValue &value : config.value(key).toArray())
-            out.append(value.toString().toLower());
-        return out;
-    };
-    const bool ignoreGoverns = config.value(SnapshotKeys::scanFileType).toInt(0) == 1;
-    m_onlyTypes = ignoreGoverns ? QStringList() : list(SnapshotKeys::onlyFileType);
-    m_ignoreTypes = ignoreGoverns ? list(SnapshotKeys::ignoreFileType) : QStringList();
-    // The result page enters an ignored cloud file as "account:name:remote:path".
-    m_ignoredFiles.clear();
-    for (const QJsonValue &value : config.value(SnapshotKeys::ignorePathFile).toArray()) {
-        const QString entry = value.toString();
-        if (entry.count(QLatin1Char(':')) >= 3)
-            m_ignoredFiles.insert(entry.section(QLatin1Char(':'), 2));
-    }
+    m_scan->set_common_config(config);
 }
 
 void KvCloudObject::set_similar_config(const QJsonObject &config)
 {
-    m_similarConfig = config;
-    m_similar = config.value(SnapshotKeys::hasSimilar).toBool();
-}
-
-bool KvCloudObject::accepted(const QString &relative, qint64 size) const
-{
-    // Empty files hold nothing to compare, as in a local scan.
-    if (size <= 0 || size < m_minSize || size > m_maxSize)
-        return false;
-    if (m_skipHidden
-        && (relative.startsWith(QLatin1Char('.')) || relative.contains(QLatin1String("/."))))
-        return false;
-    if (m_onlyTypes.isEmpty() && m_ignoreTypes.isEmpty())
-        return true;
-    const qsizetype slash = relative.lastIndexOf(QLatin1Char('/'));
-    const qsizetype dot = relative.lastIndexOf(QLatin1Char('.'));
-    const QString suffix = dot > slash + 0 ? relative.mid(dot + 1).toLower() : QString();
-    if (!m_onlyTypes.isEmpty() && !m_onlyTypes.contains(suffix))
-        return false;
-    return !m_ignoreTypes.contains(suffix);
+    m_scan->set_similar_config(config);
 }
 
 void KvCloudObject::start_traversal_files(const QList<QString> &folders, int budget)
 {
     Q_UNUSED(budget)
-    if (m_scanning)
-        return;
-    m_scanning = true;
-    m_picturePhase = PicturesNotStarted;
-    m_pictures.clear();
-    m_pictureCopies.clear();
-    m_groups.clear();
-    m_scanClock.start();
-    m_scanTimer->start();
-    m_downloadsPlanned = false;
-    // A folder inside another chosen one would be listed twice, and each of its files
-    // would then look like a copy of itself.
-    m_folders = CloudPath::outermost(folders);
-    m_folderIndex = 0;
-    m_scanned = 0;
-    m_listed.clear();
-    m_paths.clear();
-    m_mimeIndex.clear();
-    m_mimeTypes.clear();
-    {
-        QWriteLocker lock(&m_filesLock);
-        m_members.clear();
-    }
-    splog_d(kTag + QStringLiteral("start_traversal_files: %1").arg(folders.join(", ")));
-    const QString problem = ensureStarted();
-    if (!problem.isEmpty()) {
-        // Reported after the caller has returned, like every other end of a scan.
-        QTimer::singleShot(0, this, [this, problem] { finishScan(true, problem); });
-        return;
-    }
-    listFolder();
+    m_scan->start_traversal_files(folders);
 }
 
-void KvCloudObject::listFolder()
+bool KvCloudObject::isScanning() const
 {
-    if (!m_scanning)
-        return;
-    if (m_folderIndex >= m_folders.size()) {
-        finishScan(false);
-        return;
-    }
-    const QString folder = m_folders.at(m_folderIndex);
-    const quint16 folderIndex = quint16(m_folderIndex);
-    // The hash kind is the service's, asked once per folder: folders of one scan may lie
-    // on remotes of different kinds.
-    m_client->call(QStringLiteral("operations/fsinfo"), {{"fs", folder}},
-        [this, folder, folderIndex](const QJsonObject &info, const QString &error) {
-            if (!error.isEmpty()) {
-                finishScan(true, QStringLiteral("%1: %2").arg(folder, error));
-                return;
-            }
-            const QString hashType = chooseHash(info.value(QLatin1String("Hashes")).toArray());
-            if (hashType.isEmpty())
-                emit logMessage(
-                    QStringLiteral("%1 offers no hash: its files are not compared").arg(folder));
-            QJsonObject options {{"recurse", true}, {"filesOnly", true}};
-            if (!hashType.isEmpty()) {
-                options.insert(QStringLiteral("showHash"), true);
-                options.insert(QStringLiteral("hashTypes"), QJsonArray {hashType});
-            }
-            m_client->list(
-                {{"fs", folder}, {"remote", QString()}, {"opt", options}},
-                [this, folderIndex, kind = int(preferredHashes().indexOf(hashType))](
-                    const QJsonObject &entry) { addEntry(folderIndex, kind, entry); },
-                [this, folder](const QJsonObject &, const QString &listError) {
-                    if (!listError.isEmpty()) {
-                        finishScan(true, QStringLiteral("%1: %2").arg(folder, listError));
-                        return;
-                    }
-                    ++m_folderIndex;
-                    emit onFilesFetchCount(int(m_scanned));
-                    emit processChange(100.0 * m_folderIndex / m_folders.size());
-                    listFolder();
-                });
-        });
+    return m_scan->isScanning();
 }
 
-void KvCloudObject::addEntry(quint16 folder, int hashType, const QJsonObject &entry)
+int KvCloudObject::scannedFileCount() const
 {
-    if (!m_scanning || entry.value(QLatin1String("IsDir")).toBool())
-        return;
-    ++m_scanned;
-    if (m_scanned % kCountStep == 0)
-        emit onFilesFetchCount(int(m_scanned));
-    const QString relative = entry.value(QLatin1String("Path")).toString();
-    const qint64 size = entry.value(QLatin1String("Size")).toInteger(-1);
-    if (!accepted(relative, size))
-        return;
-    if (!m_ignoredFiles.isEmpty()
-        && m_ignoredFiles.contains(CloudPath::join(m_folders.at(folder), relative)))
-        return;
-    ListedFile file;
-    file.relativePath = m_paths.add(relative.toUtf8());
-    file.size = size;
-    file.folder = folder;
-    file.modTime = ListedFile::parseTime(entry.value(QLatin1String("ModTime")).toString());
-    const QString mime = entry.value(QLatin1String("MimeType")).toString();
-    auto known = m_mimeIndex.constFind(mime);
-    if (known == m_mimeIndex.constEnd() && m_mimeTypes.size() < 0xFFFF) {
-        known = m_mimeIndex.insert(mime, quint16(m_mimeTypes.size()));
-        m_mimeTypes.append(mime);
-    }
-    file.mimeType = known == m_mimeIndex.constEnd() ? 0 : known.value();
-    if (hashType >= 0)
-        file.setHash(entry.value(QLatin1String("Hashes"))
-                         .toObject()
-                         .value(preferredHashes().at(hashType))
-                         .toString(),
-            quint8(hashType));
-    m_listed.push_back(std::move(file));
+    return m_scan->scannedFileCount();
 }
 
-void KvCloudObject::groupFiles()
+qint64 KvCloudObject::rcloneProcessId() const
 {
-    if (m_similar) {
-        for (const ListedFile &listed : std::as_const(m_listed)) {
-            const QString path = CloudPath::join(
-                m_folders.at(listed.folder), QString::fromUtf8(m_paths.view(listed.relativePath)));
-            if (!isImageFile(path))
-                continue;
-            CloudFile picture;
-            picture.path = path;
-            picture.size = listed.size;
-            picture.modTime = listed.modTime;
-            picture.mimeType = m_mimeTypes.value(listed.mimeType);
-            picture.hash = listed.hashBytes().toByteArray();
-            picture.hashType = hashName(listed.hashType);
-            m_pictures.append(picture);
-        }
-    }
-    // Files the service gave no hash for cannot be compared without downloading them.
-    const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
-        [](const ListedFile &file) { return file.hashLength > 0; });
-    const qsizetype notCompared = m_listed.end() - unhashed;
-    if (notCompared > 0)
-        emit logMessage(
-            QStringLiteral("%1 files without a hash were not compared").arg(notCompared));
-    m_listed.erase(unhashed, m_listed.end());
-    const auto sameContent = [](const ListedFile &a, const ListedFile &b) {
-        return a.size == b.size && a.hashType == b.hashType && a.hashBytes() == b.hashBytes();
-    };
-    std::sort(m_listed.begin(), m_listed.end(), [this](const ListedFile &a, const ListedFile &b) {
-        if (a.size != b.size)
-            return a.size < b.size;
-        if (a.hashType != b.hashType)
-            return a.hashType < b.hashType;
-        const int order = a.hashBytes().compare(b.hashBytes());
-        if (order != 0)
-            return order < 0;
-        return a.folder != b.folder
-            ? a.folder < b.folder
-            : m_paths.view(a.relativePath).compare(m_paths.view(b.relativePath)) < 0;
-    });
-    QHash<QString, QList<QString>> groups;
-    QHash<QString, CloudFile> members;
-    qint64 duplicateBytes = 0;
-    for (auto begin = m_listed.cbegin(); begin != m_listed.cend();) {
-        auto end = begin + 1;
-        while (end != m_listed.cend() && sameContent(*end, *begin))
-            ++end;
-        if (end - begin > 1) {
-            QStringList paths;
-            for (auto it = begin; it != end; ++it) {
-                CloudFile member;
-                member.path = CloudPath::join(
-                    m_folders.at(it->folder), QString::fromUtf8(m_paths.view(it->relativePath)));
-                member.size = it->size;
-                member.modTime = it->modTime;
-                member.mimeType = m_mimeTypes.at(it->mimeType);
-                member.hash = it->hashBytes().toByteArray();
-                member.hashType = hashName(it->hashType);
-                paths.append(member.path);
-                members.insert(member.path, member);
-            }
-            duplicateBytes += begin->size * (end - begin - 1);
-            groups.insert(TFileData::groupKey(paths.first()), paths);
-            emit onDuplicateItemFound(int(groups.size()), duplicateBytes);
-        }
-        begin = end;
-    }
-    std::deque<ListedFile>().swap(m_listed);
-    m_paths.clear();
-    {
-        QWriteLocker lock(&m_filesLock);
-        m_members = std::move(members);
-    }
-    m_groups = std::move(groups);
+    const RcloneProcess *process = m_session->process();
+    return process->isRunning() ? process->processId() : 0;
 }
 
-void KvCloudObject::fetchNextPicture()
+QString KvCloudObject::get_download_dir() const
 {
-    if (!m_scanning || m_picturePhase != PicturesFetching)
-        return;
-    if (m_nextPicture >= m_pictures.size()) {
-        comparePictures();
-        return;
-    }
-    const qsizetype index = m_nextPicture++;
-    const CloudFile &picture = m_pictures.at(index);
-    const QString directory = get_download_dir() + QStringLiteral("pictures/");
-    QDir().mkpath(directory);
-    if (QStorageInfo(directory).bytesAvailable() < picture.size + kDiskReserve) {
-        emit diskSpaceLow();
-        emit logMessage(QStringLiteral("%1 pictures were not compared: low disk space")
-                            .arg(m_pictures.size() - index));
-        m_nextPicture = m_pictures.size();
-        comparePictures();
-        return;
-    }
-    const CloudPath source = CloudPath::split(picture.path);
-    const qsizetype dot = source.remote.lastIndexOf(QLatin1Char('.'));
-    // The picture's own extension: the comparison reads the format from it.
-    const QString name = QStringLiteral("%1%2").arg(index).arg(source.remote.mid(dot));
-    const quint64 generation = m_generation;
-    m_client->call(QStringLiteral("operations/copyfile"),
-        {{"srcFs", source.fs}, {"srcRemote", source.remote}, {"dstFs", directory},
-            {"dstRemote", name}},
-        [this, index, generation, source, target = directory + name](
-            const QJsonObject &, const QString &error) {
-            if (generation != m_generation)
-                return;
-            if (error.isEmpty())
-                m_pictureCopies.insert(target, index);
-            else
-                emit logMessage(QStringLiteral("%1 not compared: %2").arg(source.remote, error));
-            emit processChange(100.0 * double(m_nextPicture) / double(m_pictures.size()));
-            fetchNextPicture();
-        });
+    return m_session->downloadDir();
 }
 
-void KvCloudObject::comparePictures()
+QString KvCloudObject::getCFP(const QString &file, const QString &property) const
 {
-    m_picturePhase = PicturesComparing;
-    m_pictureStage = m_pictureCopies.size() > 1 ? PictureStage::create(this) : nullptr;
-    if (!m_pictureStage) {
-        endPicturePhase();
-        return;
-    }
-    m_pictureStage->applyConfig(m_similarConfig);
-    m_pictureStage->setInput({}, m_pictureCopies.keys());
-    connect(m_pictureStage, &PictureStage::ended, this, [this, stage = m_pictureStage] {
-        if (stage != m_pictureStage)
-            return;
-        takePictureGroups();
-        endPicturePhase();
-    });
-    m_pictureStage->start();
+    return m_members.property(file, property);
 }
 
-void KvCloudObject::takePictureGroups()
+const CloudFile *KvCloudObject::recorded(const QString &path) const
 {
-    // The comparison writes its groups to the result store, in terms of the local copies;
-    // they are taken out of it and named by the cloud paths.
-    TFileData *store = TFileData::instance();
-    const TFileData::Groups stored = store->groups();
-    QWriteLocker lock(&m_filesLock);
-    for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
-        QStringList members;
-        for (const QString &entry : it.value()) {
-            const QString local = stripSimilarTag(entry);
-            const auto copy = m_pictureCopies.constFind(local);
-            if (copy == m_pictureCopies.cend())
-                break;
-            const CloudFile &picture = m_pictures.at(*copy);
-            members.append(picture.path + entry.mid(local.size()));
-            m_members.insert(picture.path, picture);
-        }
-        if (members.size() != it.value().size())
-            continue;
-        store->removeGroup(it.key());
-        m_groups.insert(TFileData::groupKey(members.first()), members);
-    }
+    return m_members.recorded(path);
 }
 
-void KvCloudObject::endPicturePhase()
+RcloneClient *KvCloudObject::client()
 {
-    if (m_pictureStage) {
-        m_pictureStage->cancel();
-        m_pictureStage->wait();
-        m_pictureStage->deleteLater();
-        m_pictureStage = nullptr;
-    }
-    for (auto it = m_pictureCopies.cbegin(); it != m_pictureCopies.cend(); ++it)
-        QFile::remove(it.key());
-    m_pictureCopies.clear();
-    m_pictures.clear();
-    if (m_picturePhase == PicturesComparing) {
-        m_picturePhase = PicturesDone;
-        finishScan(false);
-    } else {
-        m_picturePhase = PicturesDone;
-    }
-}
-
-bool KvCloudObject::planDownloads()
-{
-    // Only files that share their size with another one the service gave no hash for
-    // can have a copy among them; those alone are fetched.
-    const auto unhashed = std::partition(m_listed.begin(), m_listed.end(),
-        [](const ListedFile &file) { return file.hashLength > 0; });
-    std::sort(unhashed, m_listed.end(),
-        [](const ListedFile &a, const ListedFile &b) { return a.size < b.size; });
-    m_downloads.clear();
-    m_nextDownload = 0;
-    for (auto it = unhashed; it != m_listed.end();) {
-        auto end = it + 1;
-        while (end != m_listed.end() && end->size == it->size)
-            ++end;
-        if (end - it > 1)
-            for (; it != end; ++it)
-                m_downloads.push_back(size_t(it - m_listed.begin()));
-        it = end;
-    }
-    return !m_downloads.empty();
-}
-
-void KvCloudObject::downloadNext()
-{
-    if (!m_scanning)
-        return;
-    if (m_nextDownload >= m_downloads.size()) {
-        finishScan(false);
-        return;
-    }
-    const size_t index = m_downloads.at(m_nextDownload++);
-    const ListedFile &file = m_listed.at(index);
-    const QString directory = get_download_dir();
-    QDir().mkpath(directory);
-    if (QStorageInfo(directory).bytesAvailable() < file.size + kDiskReserve) {
-        emit diskSpaceLow();
-        emit logMessage(QStringLiteral("%1 files without a hash were not compared: low disk space")
-                            .arg(m_downloads.size() - m_nextDownload + 1));
-        m_nextDownload = m_downloads.size();
-        finishScan(false);
-        return;
-    }
-    const CloudPath source = CloudPath::split(CloudPath::join(
-        m_folders.at(file.folder), QString::fromUtf8(m_paths.view(file.relativePath))));
-    const QString name = QStringLiteral("scan-%1").arg(index);
-    const QString target = directory + name;
-    const quint64 generation = m_generation;
-    m_client->call(QStringLiteral("operations/copyfile"),
-        {{"srcFs", source.fs}, {"srcRemote", source.remote}, {"dstFs", directory},
-            {"dstRemote", name}},
-        [this, index, target, generation, source](const QJsonObject &, const QString &error) {
-            if (!error.isEmpty()) {
-                emit logMessage(QStringLiteral("%1 not compared: %2").arg(source.remote, error));
-                QFile::remove(target);
-                downloadNext();
-                return;
-            }
-            // Read off this thread: a download may be gigabytes.
-            auto *watcher = new QFutureWatcher<QByteArray>(this);
-            connect(watcher, &QFutureWatcher<QByteArray>::finished, this,
-                [this, watcher, index, target, generation] {
-                    watcher->deleteLater();
-                    QFile::remove(target);
-                    if (!m_scanning || generation != m_generation)
-                        return;
-                    const QByteArray digest = watcher->result();
-                    ListedFile &file = m_listed.at(index);
-                    if (!digest.isEmpty() && digest.size() <= ListedFile::kMaxHash) {
-                        std::copy(digest.begin(), digest.end(), file.hash.begin());
-                        file.hashLength = quint8(digest.size());
-                        file.hashType = quint8(preferredHashes().size());
-                    }
-                    downloadNext();
-                });
-            watcher->setFuture(QtConcurrent::run([target] { return ContentHash::ofFile(target); }));
-        });
-}
-
-void KvCloudObject::finishScan(bool aborted, const QString &failure)
-{
-    if (!m_scanning)
-        return;
-    if (!aborted && failure.isEmpty() && !m_downloadsPlanned) {
-        m_downloadsPlanned = true;
-        if (planDownloads()) {
-            downloadNext();
-            return;
-        }
-    }
-    if (m_picturePhase == PicturesNotStarted) {
-        groupFiles();
-        m_picturePhase = PicturesDone;
-        if (!aborted && failure.isEmpty() && m_pictures.size() > 1) {
-            m_picturePhase = PicturesFetching;
-            m_nextPicture = 0;
-            fetchNextPicture();
-            return;
-        }
-        m_pictures.clear();
-    } else if (m_picturePhase != PicturesDone) {
-        // Stopped or failed while pictures were fetched or compared.
-        m_picturePhase = PicturesDone;
-        endPicturePhase();
-    }
-    m_scanning = false;
-    m_scanTimer->stop();
-    ++m_generation;
-    m_client->abortAll();
-    if (!failure.isEmpty()) {
-        splog_d(kTag + QStringLiteral("scan failed: %1").arg(failure));
-        emit onTraversalFailed(failure);
-    }
-    emit onFindedDuplicateItem(std::exchange(m_groups, {}));
-    emit onFilesFetchCount(int(m_scanned));
-    if (!aborted)
-        emit processChange(100.0);
-    splog_d(kTag
-        + QStringLiteral("scan ended%1, %2 files listed")
-              .arg(aborted ? QStringLiteral(" early") : QString())
-              .arg(m_scanned));
-    emit onAllComplate(aborted);
+    return m_session->client();
 }
 
 void KvCloudObject::stop_all_tasks()
 {
     stop_deleted();
-    if (m_scanning)
-        finishScan(true);
-}
-
-QString KvCloudObject::getCFP(const QString &file, const QString &property) const
-{
-    QReadLocker lock(&m_filesLock);
-    const auto found = m_members.constFind(file);
-    if (found == m_members.constEnd())
-        return {};
-    const CloudFile &item = found.value();
-    if (property == QLatin1String("size"))
-        return QString::number(item.size);
-    if (property == QLatin1String("mimeType"))
-        return item.mimeType;
-    if (property == QLatin1String("createdTime"))
-        return QDateTime::fromMSecsSinceEpoch(item.modTime, Qt::UTC).toString(Qt::ISODateWithMs);
-    if (property == QLatin1String("name"))
-        return CloudPath::split(item.path).remote;
-    if (property == QLatin1String("cloudPath"))
-        return item.path;
-    if (property == QLatin1String("hash"))
-        return item.hashType + QLatin1Char(':') + QString::fromLatin1(item.hash.toHex());
-    if (property == QLatin1String("webViewLink")) {
-        const CloudService *service = CloudService::byType(
-            m_remoteTypes.value(item.path.left(item.path.indexOf(QLatin1Char(':')))));
-        if (!service)
-            return {};
-        const CloudPath where = CloudPath::split(item.path);
-        return service->webLink(where.fs.mid(where.fs.indexOf(QLatin1Char(':')) + 1), where.remote)
-            .toString();
-    }
-    return {};
-}
-
-const CloudFile *KvCloudObject::recorded(const QString &path) const
-{
-    // Only called on the owning thread, the one thread that changes the table.
-    const auto found = m_members.constFind(path);
-    return found == m_members.constEnd() ? nullptr : &found.value();
+    if (m_scan->isScanning())
+        m_scan->finishScan(true);
 }
 
 void KvCloudObject::start_delete_one_file(const DelParams &params)
@@ -805,19 +200,18 @@ QList<DeleteResult> KvCloudObject::lastRemovalResults() const
 
 void KvCloudObject::forget(const QString &path)
 {
-    QWriteLocker lock(&m_filesLock);
-    m_members.remove(path);
+    m_members.forget(path);
 }
 
 bool KvCloudObject::isDownloadedHash(const QString &hashType)
 {
-    return hashType == kDownloadedHash;
+    return hashType == CloudHashKinds::downloaded();
 }
 
 void KvCloudObject::stop_deleted()
 {
     if (!isDeleting())
         return;
-    m_client->abortAll();
+    m_session->client()->abortAll();
     m_removal->abort(QStringLiteral("stopped before it was removed"), true);
 }

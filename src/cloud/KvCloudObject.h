@@ -3,26 +3,22 @@
 
 #include "cloud/CloudFile.h"
 #include "cloud/CloudFolderInfo.h"
+#include "cloud/CloudMembers.h"
 #include "cloud/DelParams.h"
 #include "cloud/ListedFile.h"
 #include "cloud/RcloneProcess.h"
 #include "engine/DeleteResult.h"
 
-#include <deque>
-#include <vector>
-
-#include <QElapsedTimer>
 #include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QObject>
-#include <QReadWriteLock>
-#include <QSet>
 #include <QStringList>
-#include <QTimer>
 
+class CloudFolderBrowser;
 class CloudRemoval;
-class PictureStage;
+class CloudScan;
+class CloudSession;
 class RcloneClient;
 
 // The cloud source: lists, compares and removes files of cloud folders through an
@@ -44,7 +40,7 @@ public:
     void initialization(const QString &dataDirectory);
     // Another rclone program or configuration than the data folder's own.
     void setRcloneSettings(const RcloneSettings &settings);
-    RcloneSettings rcloneSettings() const { return m_settings; }
+    RcloneSettings rcloneSettings() const;
     // Starts the daemon when it is not running; empty, or the reason it cannot run.
     QString ensureStarted();
 
@@ -56,14 +52,14 @@ public:
     static constexpr int kNewSignIn = 1;
     // Gives up a sign-in that waits in the browser; it ends with onAuthorizedFailed.
     void cancel_authorization();
-    bool isAuthorizing() const { return m_authorizing; }
+    bool isAuthorizing() const;
 
     // The folder chooser: the sub-folders of one folder of the signed-in account ("root"
     // for its top), answered by onFindedFolders. Each call lists one level only.
     void init_traversal_folder();
     void start_traversal_folders(int cloudType, const QString &folderId);
     void end_traversal_folders();
-    QString account() const { return m_account; }
+    QString account() const;
 
     void set_common_config(const QJsonObject &config);
     void set_similar_config(const QJsonObject &config);
@@ -71,10 +67,10 @@ public:
     // has no use for it.
     void start_traversal_files(const QList<QString> &folders, int budget);
     void stop_all_tasks();
-    bool isScanning() const { return m_scanning; }
-    int scannedFileCount() const { return int(m_scanned); }
+    bool isScanning() const;
+    int scannedFileCount() const;
     // The daemon's process id, 0 when it is not running.
-    qint64 rcloneProcessId() const { return m_process->isRunning() ? m_process->processId() : 0; }
+    qint64 rcloneProcessId() const;
 
     QString get_download_dir() const;
     // A property of a listed member of a group: "size", "mimeType", "createdTime",
@@ -97,7 +93,7 @@ public:
     // For the removal (CloudRemoval), on the owning thread: a member of the groups as
     // listed (nullptr when unknown), the daemon's client, and forgetting a removed member.
     const CloudFile *recorded(const QString &path) const;
-    RcloneClient *client() { return m_client; }
+    RcloneClient *client();
     void forget(const QString &path);
     // Whether a hash is the one computed here from a fetched copy, not the service's.
     static bool isDownloadedHash(const QString &hashType);
@@ -127,77 +123,16 @@ signals:
     void onUpdateTimer(const QString &elapsed);
 
 private:
-    void authorized(const QString &account, int cloudType, bool updated);
-    void listFolder();
-    void addEntry(quint16 folder, int hashType, const QJsonObject &entry);
-    bool accepted(const QString &relative, qint64 size) const;
-    void finishScan(bool aborted, const QString &failure = {});
-    // Files without a service hash that might have copies: fetched and hashed here.
-    bool planDownloads();
-    void downloadNext();
-    // Groups the listing into m_groups and m_members; keeps the pictures for comparing.
-    void groupFiles();
-    // The similar-picture stage: every listed picture is fetched into the download
-    // folder and compared there as a local scan compares them.
-    void fetchNextPicture();
-    void comparePictures();
-    void takePictureGroups();
-    void endPicturePhase();
-
     void startRemoval(const QList<DelParams> &groups, bool single);
 
-    RcloneSettings m_settings;
-    QString m_account;
-    bool m_authorizing = false;
-    // Folder listings in flight belong to the chooser that asked; a new one drops them.
-    quint64 m_folderSession = 0;
-    QString m_dataDirectory;
     QString m_journalPath;
-    RcloneProcess *m_process;
-    RcloneClient *m_client;
-
-    QJsonObject m_commonConfig;
-    QJsonObject m_similarConfig;
-    qint64 m_minSize = 0;
-    qint64 m_maxSize = std::numeric_limits<qint64>::max();
-    bool m_skipHidden = true;
-    QStringList m_onlyTypes;
-    QStringList m_ignoreTypes;
-    QSet<QString> m_ignoredFiles;
-
-    QStringList m_folders;
-    int m_folderIndex = 0;
-    bool m_scanning = false;
-    qint64 m_scanned = 0;
-    // In blocks: a listing of unknown length grows without ever being copied whole.
-    std::deque<ListedFile> m_listed;
-    PathPool m_paths;
-    std::vector<size_t> m_downloads;
-    size_t m_nextDownload = 0;
-    bool m_downloadsPlanned = false;
-    // Tells the answers of an ended scan from those of the next.
-    quint64 m_generation = 0;
-    QHash<QString, quint16> m_mimeIndex;
-    QStringList m_mimeTypes;
-
-    bool m_similar = false;
-    enum PicturePhase { PicturesNotStarted, PicturesFetching, PicturesComparing, PicturesDone };
-    PicturePhase m_picturePhase = PicturesNotStarted;
-    QList<CloudFile> m_pictures;
-    qsizetype m_nextPicture = 0;
-    // Local copy -> index into m_pictures.
-    QHash<QString, qsizetype> m_pictureCopies;
-    PictureStage *m_pictureStage = nullptr;
-    QHash<QString, QList<QString>> m_groups;
-
-    // The members of the groups, by path, for getCFP and the removal checks.
-    mutable QReadWriteLock m_filesLock;
-    QHash<QString, CloudFile> m_members;
-    // The service of each remote signed in during this run, for the web links.
-    QHash<QString, int> m_remoteTypes;
+    // The members of the groups found, shared by the parts and read from any thread.
+    CloudMembers m_members;
+    // The parts, owned as children.
+    CloudSession *m_session;
+    CloudFolderBrowser *m_folderBrowser;
+    CloudScan *m_scan;
 
     // Made by the installed factory, owned as a child; nullptr where none is installed.
     CloudRemoval *m_removal = nullptr;
-    QElapsedTimer m_scanClock;
-    QTimer *m_scanTimer;
 };

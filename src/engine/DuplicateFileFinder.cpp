@@ -3,197 +3,25 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "app/SnapshotKeys.h"
-#include "app/TLogger.h"
-#include "engine/FilePathCodec.h"
+#include "engine/FinderCommon.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/KeyRuns.h"
 #include "engine/SampledKey.h"
 #include "engine/TFileData.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <exception>
 #include <string_view>
-#include <unordered_map>
 
-#include <QCryptographicHash>
-#include <QDataStream>
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonValue>
 #include <QMutexLocker>
-#include <QReadLocker>
-#include <QWriteLocker>
 #include <QtConcurrent>
-
-#define XXH_STATIC_LINKING_ONLY
-#include <xxhash.h>
-
-#ifdef Q_OS_UNIX
-#include <cerrno>
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 namespace {
 
-// The log tags of this file.
-const QString kStreamHashTag = QStringLiteral("[streamHash] ");
-const QString kTag = QStringLiteral("[TDuplicateFinleFinder]: ");
-
-using SampledKey::kBlock;
-using SampledKey::kExternalDrive;
+using FinderCommon::hexKey;
 using SampledKey::kWholeFileLimit;
-#ifdef Q_OS_UNIX
-using SampledKey::stampOf;
-#endif
-constexpr qint64 kStreamPiece = 65536;
-constexpr qint64 kMapLimit = 4294967296LL;
-// Below this size a memory map costs more than the reads it replaces, so smaller files are
-// read with pread; the keys are the same either way.
-constexpr qint64 kStreamMapThreshold = 1 << 20;
 // Image suffixes up to this length are tested on the name's bytes.
 constexpr size_t kShortSuffix = 16;
-
-QByteArray hexKey(XXH64_hash_t digest)
-{
-    char text[17];
-    static const char digits[] = "0123456789abcdef";
-    for (int i = 15; i >= 0; --i) {
-        text[i] = digits[digest & 0xF];
-        digest >>= 4;
-    }
-    return QByteArray(text, 16);
-}
-
-QString folderOf(const QString &path)
-{
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    if (slash <= 0)
-        return QStringLiteral("/");
-    return path.left(slash);
-}
-
-QString fileNameOf(const QString &path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-#ifdef Q_OS_UNIX
-// Whole-content key of an open regular file of the given size; false (after a message)
-// when the file cannot be read to its end.
-template<typename NameOf>
-bool streamKeyOf(int fd, qint64 size, int driveType, quint64 &key, const NameOf &nameOf, int &error)
-{
-    XXH3_state_t *state = XXH3_createState();
-    if (!state) {
-        splog_d(kStreamHashTag + QStringLiteral("Failed to create XXH3 state"));
-        return false;
-    }
-    XXH3_64bits_reset(state);
-    bool hashed = false;
-    if (driveType != kExternalDrive && size <= kMapLimit && size >= kStreamMapThreshold) {
-        void *map = ::mmap(nullptr, size_t(size), PROT_READ, MAP_SHARED, fd, 0);
-        if (map != MAP_FAILED) {
-            ::madvise(map, size_t(size), MADV_SEQUENTIAL | MADV_WILLNEED);
-            const char *bytes = static_cast<const char *>(map);
-            for (qint64 offset = 0; offset < size; offset += kStreamPiece)
-                XXH3_64bits_update(
-                    state, bytes + offset, size_t(std::min(kStreamPiece, size - offset)));
-            ::munmap(map, size_t(size));
-            hashed = true;
-        }
-    }
-    if (!hashed) {
-        static thread_local QByteArray buffer(kStreamPiece * 4, Qt::Uninitialized);
-        qint64 offset = 0;
-        while (offset < size) {
-            const ssize_t got = ::read(fd, buffer.data(), size_t(buffer.size()));
-            if (got < 0 && errno == EINTR)
-                continue;
-            if (got <= 0) {
-                error = got < 0 ? errno : ENODATA;
-                splog_repeated("[streamHash] Failed to read file or reached EOF",
-                    kStreamHashTag
-                        + QStringLiteral("Failed to read file or reached EOF: %1").arg(nameOf()));
-                XXH3_freeState(state);
-                return false;
-            }
-            XXH3_64bits_update(state, buffer.constData(), size_t(got));
-            offset += got;
-        }
-    }
-    key = XXH3_64bits_digest(state);
-    XXH3_freeState(state);
-    return true;
-}
-
-// Whole-content key of the file `name` relative to `dirfd`.
-template<typename NameOf>
-bool streamKeyAt(int dirfd, const char *name, int driveType, quint64 &key, const NameOf &nameOf,
-    int &error, struct stat *opened = nullptr)
-{
-    error = 0;
-    const int fd = ::openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    struct stat info
-    {
-    };
-    if (fd < 0)
-        error = errno;
-    else if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
-        error = EINVAL;
-    if (error != 0 || info.st_size < 1) {
-        if (fd >= 0)
-            ::close(fd);
-        splog_repeated("[streamHash] File not accessible",
-            kStreamHashTag + QStringLiteral("File not accessible: %1").arg(nameOf()));
-        return false;
-    }
-    const bool ok = streamKeyOf(fd, info.st_size, driveType, key, nameOf, error);
-    ::close(fd);
-    if (opened)
-        *opened = info;
-    return ok;
-}
-
-// Counts the plain files of a folder the way a directory listing of files only does:
-// regular files and links to them, hidden (dot) entries not counted.
-int countPlainFiles(const QString &folder)
-{
-    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-    if (!dir)
-        return -1;
-    const int fd = ::dirfd(dir);
-    int count = 0;
-    while (const dirent *entry = ::readdir(dir)) {
-        if (entry->d_name[0] == '.')
-            continue;
-        if (entry->d_type == DT_REG) {
-            ++count;
-            continue;
-        }
-        if (entry->d_type != DT_LNK && entry->d_type != DT_UNKNOWN)
-            continue;
-        struct stat info
-        {
-        };
-        if (::fstatat(fd, entry->d_name, &info, 0) == 0 && S_ISREG(info.st_mode))
-            ++count;
-    }
-    ::closedir(dir);
-    return count;
-}
-#else
-int countPlainFiles(const QString &folder)
-{
-    return QDir(folder).entryList(QDir::Files).size();
-}
-#endif
 
 } // namespace
 
@@ -244,118 +72,18 @@ QStringList DuplicateFileFinder::uniqueImageFiles() const
 
 QByteArray DuplicateFileFinder::nameKey(const QString &filePath)
 {
-    return QCryptographicHash::hash(fileNameOf(filePath).toUtf8(), QCryptographicHash::Md5)
-        .toHex()
-        .toUpper();
+    return DuplicateKeyReader::nameKeyOf(filePath);
 }
 
 QByteArray DuplicateFileFinder::calculateFileHash(
     const QString &filePath, qint64 size, int driveType)
 {
-    try {
-#ifdef Q_OS_UNIX
-        const QByteArray native = FilePathCodec::encode(filePath);
-        quint64 key = 0;
-        int error = 0;
-        if (!SampledKey::readAt(
-                AT_FDCWD, native.constData(), size, key, [&filePath] { return filePath; }, error))
-            return {};
-        return hexKey(key);
-#else
-        QFile file(filePath);
-        if (!file.open(QIODevice::ReadOnly)) {
-            splog_d(kTag
-                + QStringLiteral("Cannot read file, skipped: [%1]. %2")
-                      .arg(filePath, file.errorString()));
-            return {};
-        }
-        if (file.size() < 1)
-            return {};
-        const qint64 n = std::min(file.size(), size);
-        if (n <= kWholeFileLimit) {
-            const QByteArray data = file.read(n);
-            return hexKey(XXH3_64bits(data.constData(), size_t(data.size())));
-        }
-        const qint64 offsets[3] = {0, std::clamp<qint64>(n / 2 - 2048, 0, n - kBlock), n - kBlock};
-        XXH3_state_t state;
-        XXH3_64bits_reset(&state);
-        uchar *map = driveType != kExternalDrive ? file.map(0, n) : nullptr;
-        if (driveType != kExternalDrive && !map)
-            splog_d(kTag + QStringLiteral("file.map failed.: [%1].").arg(filePath));
-        char buffer[kBlock];
-        for (qint64 offset : offsets) {
-            if (map) {
-                XXH3_64bits_update(&state, map + offset, kBlock);
-            } else if (file.seek(offset)) {
-                const qint64 got = file.read(buffer, kBlock);
-                if (got > 0)
-                    XXH3_64bits_update(&state, buffer, size_t(got));
-            }
-        }
-        if (map)
-            file.unmap(map);
-        return hexKey(XXH3_64bits_digest(&state));
-#endif
-    } catch (const std::exception &error) {
-        splog_d(kTag
-            + QStringLiteral("Exception in calculateFileHash: [%1].")
-                  .arg(QString::fromLocal8Bit(error.what())));
-    } catch (...) {
-        splog_d(kTag + QStringLiteral("Unknown exception in calculateFileHash."));
-    }
-    return {};
+    return DuplicateKeyReader::sampledKeyOf(filePath, size, driveType);
 }
 
 QByteArray DuplicateFileFinder::streamHash(const QString &filePath, int driveType)
 {
-#ifdef Q_OS_UNIX
-    const QByteArray native = FilePathCodec::encode(filePath);
-    quint64 key = 0;
-    int error = 0;
-    if (!streamKeyAt(
-            AT_FDCWD, native.constData(), driveType, key,
-            [&filePath] { return fileNameOf(filePath); }, error))
-        return {};
-    return hexKey(key);
-#else
-    XXH3_state_t *state = XXH3_createState();
-    if (!state) {
-        splog_d(kStreamHashTag + QStringLiteral("Failed to create XXH3 state"));
-        return {};
-    }
-    XXH3_64bits_reset(state);
-    QByteArray key;
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly) || file.size() < 1) {
-        splog_d(
-            kStreamHashTag + QStringLiteral("File not accessible: %1").arg(fileNameOf(filePath)));
-        XXH3_freeState(state);
-        return {};
-    }
-    const qint64 size = file.size();
-    uchar *map = driveType != kExternalDrive && size <= kMapLimit ? file.map(0, size) : nullptr;
-    if (map) {
-        for (qint64 offset = 0; offset < size; offset += kStreamPiece)
-            XXH3_64bits_update(state, map + offset, size_t(std::min(kStreamPiece, size - offset)));
-        file.unmap(map);
-    } else {
-        QByteArray buffer(kStreamPiece, Qt::Uninitialized);
-        while (!file.atEnd()) {
-            const qint64 got = file.read(buffer.data(), kStreamPiece);
-            if (got <= 0) {
-                splog_d(kStreamHashTag
-                    + QStringLiteral("Failed to read file or reached EOF: %1")
-                          .arg(fileNameOf(filePath)));
-                XXH3_freeState(state);
-                return {};
-            }
-            XXH3_64bits_update(state, buffer.constData(), size_t(got));
-        }
-    }
-    key = hexKey(XXH3_64bits_digest(state));
-    XXH3_freeState(state);
-    return key;
-#endif
+    return DuplicateKeyReader::wholeKeyOf(filePath, driveType);
 }
 
 void DuplicateFileFinder::run()
@@ -363,27 +91,22 @@ void DuplicateFileFinder::run()
     stopRequested.store(0);
     {
         QMutexLocker locker(&m_mutex);
-        dirTable.clear();
         uniqueImages.clear();
-        m_signatureTable.clear();
     }
+    m_folders.clear();
     duplicateFileCount.store(0);
     duplicateTotalSize.store(0);
     processDuplicates();
     if (!isStopRequested() && scanDupDirectory) {
-        processDirectories();
+        m_folders.match(m_roots, duplicateSelectHint, mapPriority,
+            [this](double percent) { emit progressUpdated(1, percent); });
         emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
     }
     m_table.clear();
     decltype(m_order)().swap(m_order);
     decltype(m_runs)().swap(m_runs);
-    decltype(m_keys)().swap(m_keys);
-    decltype(m_keyState)().swap(m_keyState);
-    {
-        QMutexLocker locker(&m_mutex);
-        dirTable.clear();
-        m_signatureTable.clear();
-    }
+    m_keyReader.release();
+    m_folders.clear();
     emit scanFinished();
 }
 
@@ -393,8 +116,8 @@ void DuplicateFileFinder::reportProgress(bool force)
     if (!force && now - m_lastReportMs.load() <= 100)
         return;
     m_lastReportMs.store(now);
-    const double total = double(m_wantedFiles) + double(m_runs.size());
-    const double done = double(m_keyedFiles.load()) + double(m_done.load());
+    const double total = double(m_keyReader.wantedFiles()) + double(m_runs.size());
+    const double done = double(m_keyReader.keyedFiles()) + double(m_done.load());
     emit progressUpdated(0, total > 0 ? done * 100.0 / total : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
 }
@@ -404,8 +127,6 @@ void DuplicateFileFinder::processDuplicates()
     m_timer.start();
     m_lastReportMs.store(0);
     m_done.store(0);
-    m_keyedFiles.store(0);
-    m_wantedFiles = 0;
     m_table.squeeze();
     m_order = m_table.bySize();
     prepareImageTest();
@@ -435,17 +156,13 @@ void DuplicateFileFinder::processDuplicates()
             > m_table.file(m_order[b.begin]).size * b.count;
     });
 
-    m_keysFromCache.store(0);
-    if (scanMethod != scanName && m_cacheOptions.enabled) {
-        m_cache = std::make_unique<ContentKeyCache>(
-            m_cacheOptions.path.isEmpty() ? ContentKeyCache::defaultPath() : m_cacheOptions.path);
-        if (!m_cache->isOpen())
-            m_cache.reset();
-    }
+    m_keyReader.setProblems(m_problems);
+    m_keyReader.setProgress([this] { reportProgress(false); });
+    m_keyReader.begin(m_cacheOptions, scanMethod != scanName, scanMethod == scanAllContent);
     if (scanMethod != scanName)
-        computeSampledKeys();
+        m_keyReader.computeSampledKeys(m_order, m_runs, m_reader);
 
-    m_fullReadStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    m_keyReader.beginWholeReads();
     // Stage B, in chunks so that a stop takes effect between them.
     const qsizetype candidates = qsizetype(m_runs.size());
     const qsizetype chunk
@@ -455,7 +172,7 @@ void DuplicateFileFinder::processDuplicates()
         QtConcurrent::blockingMap(m_runs.begin() + start, m_runs.begin() + end,
             [this](const SizeRun &run) { hashGroup(run); });
     }
-    storeKeys();
+    m_keyReader.storeKeys();
     emit progressUpdated(0, isStopRequested() ? 0.0 : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());
 }
@@ -520,538 +237,96 @@ bool DuplicateFileFinder::isImage(quint32 file) const
     return isImageFile(m_table.fileName(file));
 }
 
-void DuplicateFileFinder::computeSampledKeys()
+bool DuplicateFileFinder::groupByName(const SizeRun &run, std::vector<Found> &found)
 {
-    const size_t files = size_t(m_table.fileCount());
-    m_keys.assign(files, 0);
-    m_keyState.assign(files, 0);
-    for (const SizeRun &run : m_runs) {
-        // Empty files are never opened: they are never duplicates.
-        if (m_table.file(m_order[run.begin]).size < 1)
+    QHash<QByteArray, size_t> byText;
+    for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
+        if (isStopRequested())
+            return false;
+        const quint32 file = m_order[i];
+        // Names are compared without reading the files; a file must still be there
+        // to be a member.
+        if (!m_keyReader.stillExists(file))
             continue;
-        for (quint32 i = run.begin; i < run.begin + run.count; ++i)
-            m_keyState[m_order[i]] = 1;
-        m_wantedFiles += run.count;
-    }
-    takeOverlappedKeys();
-    const auto foldersToRead = [this] {
-        QList<quint32> folders;
-        for (quint32 f = 0; f < quint32(m_table.folderCount()); ++f) {
-            const ScanTable::Folder &folder = m_table.folder(f);
-            const auto first = m_keyState.begin() + folder.firstFile;
-            if (std::find(first, first + folder.fileCount, quint8(1)) != first + folder.fileCount)
-                folders.append(f);
-        }
-        return folders;
-    };
-    if (!m_cache) {
-        QtConcurrent::blockingMap(foldersToRead(), [this](quint32 folder) { keyFolder(folder); });
-        return;
-    }
-    // With the cache, every file whose stamp the walk kept is looked up at once; the rest
-    // go in runs of folders of about kCacheBatch wanted files: each run is stamped, the
-    // files without a walk stat looked up, its misses read and their keys stored in one
-    // write, so the cache's part of memory stays the same however large the tree.
-    constexpr quint32 kCacheBatch = 32768;
-    lookUpWalkStamps();
-    const QList<quint32> folders = foldersToRead();
-    QList<quint32> batch;
-    quint32 wanted = 0;
-    for (qsizetype at = 0; at < folders.size() && !isStopRequested(); ++at) {
-        const ScanTable::Folder &folder = m_table.folder(folders[at]);
-        batch.append(folders[at]);
-        wanted += quint32(std::count(m_keyState.begin() + folder.firstFile,
-            m_keyState.begin() + folder.firstFile + folder.fileCount, quint8(1)));
-        if (wanted >= kCacheBatch || at + 1 == folders.size()) {
-            keyFoldersWithCache(batch);
-            batch.clear();
-            wanted = 0;
+        const QByteArray key = nameKey(m_table.fileName(file));
+        const auto at = byText.constFind(key);
+        if (at == byText.constEnd()) {
+            byText.insert(key, found.size());
+            found.push_back(Found {key, {file}});
+        } else {
+            found[at.value()].members.push_back(file);
         }
     }
-    decltype(m_cachedFiles)().swap(m_cachedFiles);
-    decltype(m_cacheEntries)().swap(m_cacheEntries);
-    std::sort(m_cachedFullKeys.begin(), m_cachedFullKeys.end());
-}
-
-void DuplicateFileFinder::takeOverlappedKeys()
-{
-    m_overlappedKeys = 0;
-    if (!m_reader)
-        return;
-    OverlappedKeyReader::Outcome outcome = m_reader->finish();
-    for (const OverlappedKeyReader::Result &result : outcome.results) {
-        if (result.file >= m_keyState.size() || m_keyState[result.file] != 1)
-            continue;
-        m_keys[result.file] = result.key;
-        m_keyState[result.file] = result.keyed ? 2 : 3;
-        m_keyedFiles.fetch_add(1);
-        ++m_overlappedKeys;
-        if (result.cached)
-            m_keysFromCache.fetch_add(1);
-        if (!result.keyed)
-            noteUnread(result.file, result.error);
-    }
-    if (m_cache && scanMethod == scanAllContent)
-        m_cachedFullKeys = std::move(outcome.fullKeys);
-}
-
-void DuplicateFileFinder::lookUpWalkStamps()
-{
-    std::vector<quint32> files;
-    for (quint32 i = 0; i < quint32(m_keyState.size()); ++i)
-        if (m_keyState[i] == 1 && m_table.stat(i).inode != 0)
-            files.push_back(i);
-    const auto stampOf = [this, &files](size_t at) {
-        const quint32 file = files[at];
-        const ScanBatch::Stat &stat = m_table.stat(file);
-        return ContentKeyCache::Stamp {m_table.folder(m_table.file(file).folder).device, stat.inode,
-            m_table.file(file).size, stat.modifiedNs, stat.changedNs};
-    };
-    const qint32 today = qint32(QDateTime::currentSecsSinceEpoch() / 86400);
-    std::vector<quint32> seenBefore;
-    QMutex mutex;
-    const bool sound = m_cache->lookup(
-        files.size(), stampOf, [&](size_t at, const ContentKeyCache::Entry &entry) {
-            if (!entry.hasSampled)
-                return;
-            const quint32 file = files[at];
-            m_keys[file] = entry.sampledKey;
-            m_keyState[file] = 2;
-            m_keyedFiles.fetch_add(1);
-            m_keysFromCache.fetch_add(1);
-            if (!(entry.hasFull && scanMethod == scanAllContent) && entry.seenDay >= today)
-                return;
-            QMutexLocker locker(&mutex);
-            if (entry.hasFull && scanMethod == scanAllContent)
-                m_cachedFullKeys.emplace_back(file, entry.fullKey);
-            if (entry.seenDay < today)
-                seenBefore.push_back(quint32(at));
-        });
-    if (!sound) {
-        // A damaged cache gives nothing, not even what it gave before the damage showed.
-        for (quint32 file : files) {
-            if (m_keyState[file] == 2) {
-                m_keyState[file] = 1;
-                m_keys[file] = 0;
-                m_keyedFiles.fetch_sub(1);
-            }
-        }
-        m_keysFromCache.store(0);
-        m_cachedFullKeys.clear();
-        return;
-    }
-    m_cache->touch(seenBefore.size(), [&](size_t at) { return stampOf(seenBefore[at]); });
-}
-
-void DuplicateFileFinder::keyFoldersWithCache(const QList<quint32> &folders)
-{
-    // The stamps are taken before any file is read, and a key is stored only when its
-    // file was last modified well before that moment.
-    m_readStartNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
-    m_cachedFiles.clear();
-    for (quint32 index : folders) {
-        const ScanTable::Folder &folder = m_table.folder(index);
-        for (quint32 i = folder.firstFile; i < folder.firstFile + folder.fileCount; ++i)
-            if (m_keyState[i] == 1)
-                m_cachedFiles.push_back(i);
-    }
-    m_cacheEntries.assign(m_cachedFiles.size(), ContentKeyCache::Entry {});
-    QtConcurrent::blockingMap(folders, [this](quint32 folder) { stampFolder(folder); });
-    // The files with a walk stat were looked up with all the others.
-    std::vector<ContentKeyCache::Entry> unlooked;
-    std::vector<size_t> positions;
-    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
-        if (m_table.stat(m_cachedFiles[slot]).inode == 0 && m_cacheEntries[slot].stamp.size >= 0) {
-            unlooked.push_back(m_cacheEntries[slot]);
-            positions.push_back(slot);
-        }
-    }
-    if (!unlooked.empty()) {
-        m_cache->lookup(unlooked);
-        for (size_t i = 0; i < positions.size(); ++i)
-            m_cacheEntries[positions[i]] = unlooked[i];
-    }
-    takeCachedSampledKeys();
-    QtConcurrent::blockingMap(folders, [this](quint32 folder) { keyFolder(folder); });
-    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
-        ContentKeyCache::Entry &entry = m_cacheEntries[slot];
-        const quint32 file = m_cachedFiles[slot];
-        if (m_keyState[file] == 2 && !(entry.found && entry.hasSampled)) {
-            entry.sampledKey = m_keys[file];
-            entry.hasSampled = true;
-            entry.fresh = true;
-        }
-    }
-    m_cache->store(m_cacheEntries, m_readStartNs);
-}
-
-void DuplicateFileFinder::stampFolder(quint32 index)
-{
-    if (isStopRequested())
-        return;
-    const ScanTable::Folder &folder = m_table.folder(index);
-    auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), folder.firstFile);
-    const auto end
-        = std::lower_bound(slot, m_cachedFiles.end(), folder.firstFile + folder.fileCount);
-    // The walk's own stat of each file, where it kept one: nothing is asked again.
-    bool missing = false;
-    for (auto at = slot; at != end; ++at) {
-        const ScanBatch::Stat &stat = m_table.stat(*at);
-        if (stat.inode == 0) {
-            missing = true;
-            continue;
-        }
-        m_cacheEntries[size_t(at - m_cachedFiles.begin())].stamp = ContentKeyCache::Stamp {
-            folder.device, stat.inode, m_table.file(*at).size, stat.modifiedNs, stat.changedNs};
-    }
-    if (!missing)
-        return;
-#ifdef Q_OS_UNIX
-    const int dirfd = ::open(folder.native.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-    if (dirfd < 0)
-        return;
-    for (; slot != end; ++slot) {
-        const quint32 file = *slot;
-        if (m_table.stat(file).inode != 0)
-            continue;
-        struct stat info
-        {
-        };
-        // A file that changed size since the walk is left to the read, which reports it.
-        if (::fstatat(dirfd, m_table.nativeName(file), &info, AT_SYMLINK_NOFOLLOW) != 0
-            || !S_ISREG(info.st_mode) || info.st_size != m_table.file(file).size)
-            continue;
-        m_cacheEntries[size_t(slot - m_cachedFiles.begin())].stamp = stampOf(info);
-    }
-    ::close(dirfd);
-#else
-    Q_UNUSED(slot)
-#endif
-}
-
-void DuplicateFileFinder::takeCachedSampledKeys()
-{
-    for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
-        const ContentKeyCache::Entry &entry = m_cacheEntries[slot];
-        if (!entry.found || !entry.hasSampled)
-            continue;
-        const quint32 file = m_cachedFiles[slot];
-        m_keys[file] = entry.sampledKey;
-        m_keyState[file] = 2;
-        m_keyedFiles.fetch_add(1);
-        m_keysFromCache.fetch_add(1);
-        if (entry.hasFull && scanMethod == scanAllContent)
-            m_cachedFullKeys.emplace_back(file, entry.fullKey);
-    }
-}
-
-bool DuplicateFileFinder::cachedFullKey(quint32 file, quint64 &key)
-{
-    if (!m_cache)
-        return false;
-    const auto found = std::lower_bound(
-        m_cachedFullKeys.begin(), m_cachedFullKeys.end(), std::pair<quint32, quint64> {file, 0});
-    if (found == m_cachedFullKeys.end() || found->first != file)
-        return false;
-    key = found->second;
-    m_keysFromCache.fetch_add(1);
     return true;
 }
 
-void DuplicateFileFinder::noteFullKey(quint32 file, quint64 key, const ContentKeyCache::Stamp &read)
+bool DuplicateFileFinder::wholeKeys(const std::vector<KeyRuns::Keyed> &keyed,
+    const std::vector<KeyRuns::Range> &ranges, std::vector<KeyRuns::Keyed> &full)
 {
-    if (!m_cache)
-        return;
-#ifdef Q_OS_UNIX
-    // The row holds both keys: the sampled one is read again from the same file and must
-    // be the one this scan used, or the file changed between the two reads.
-    const ScanTable::Folder &folder = m_table.folder(m_table.file(file).folder);
-    const QByteArray native = m_table.nativePath(file);
-    quint64 sampled = 0;
-    int error = 0;
-    struct stat opened
-    {
-    };
-    if (!SampledKey::readAt(
-            AT_FDCWD, native.constData(), m_table.file(file).size, sampled,
-            [this, file] { return m_table.filePath(file); }, error, &opened)
-        || sampled != m_keys[file] || !(stampOf(opened) == read))
-        return;
-    ContentKeyCache::Entry entry {read, sampled, key, true, true};
-    entry.fresh = true;
-    QMutexLocker locker(&m_cacheLock);
-    m_fullEntries.push_back(entry);
-#else
-    Q_UNUSED(file)
-    Q_UNUSED(key)
-    Q_UNUSED(read)
-#endif
-}
-
-void DuplicateFileFinder::keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read)
-{
-    const auto slot = std::lower_bound(m_cachedFiles.begin(), m_cachedFiles.end(), file);
-    if (slot == m_cachedFiles.end() || *slot != file)
-        return;
-    QMutexLocker locker(&m_cacheLock);
-    ContentKeyCache::Stamp &stamp = m_cacheEntries[size_t(slot - m_cachedFiles.begin())].stamp;
-    // Replaced or changed between its stamp and its read: its key stands for another file.
-    if (!(stamp == read))
-        stamp.size = -1;
-}
-
-void DuplicateFileFinder::storeKeys()
-{
-    if (!m_cache)
-        return;
-    m_cache->store(m_fullEntries, m_fullReadStartNs);
-    m_cache.reset();
-    decltype(m_fullEntries)().swap(m_fullEntries);
-    decltype(m_cachedFullKeys)().swap(m_cachedFullKeys);
-}
-
-void DuplicateFileFinder::keyFolder(quint32 index)
-{
-    if (isStopRequested())
-        return;
-    const ScanTable::Folder &folder = m_table.folder(index);
-    const quint32 end = folder.firstFile + folder.fileCount;
-#ifdef Q_OS_UNIX
-    // The folder is opened once; each file is then looked up by its name alone. A folder
-    // that cannot be opened this way leaves its files to full paths.
-    const int dirfd = ::open(folder.native.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-#endif
-    for (quint32 i = folder.firstFile; i < end; ++i) {
-        if (m_keyState[i] != 1)
+    using Keyed = KeyRuns::Keyed;
+    // Whole files are read only where the sampled keys already agree: files whose
+    // samples differ cannot have equal contents, so the groups are the same as
+    // from hashing every file whole.
+    full.clear();
+    for (const KeyRuns::Range &range : ranges) {
+        if (range.end - range.begin < 2) {
+            full.push_back(
+                Keyed {keyed[range.begin].key, quint32(full.size()), keyed[range.begin].file});
             continue;
-        if (isStopRequested())
-            break;
-        quint64 key = 0;
-        bool keyed = false;
-        try {
-#ifdef Q_OS_UNIX
-            const auto pathOf = [this, i] { return m_table.filePath(i); };
-            int error = 0;
-            struct stat opened
-            {
-            };
-            struct stat *read = m_cache ? &opened : nullptr;
-            if (dirfd >= 0) {
-                keyed = SampledKey::readAt(
-                    dirfd, m_table.nativeName(i), m_table.file(i).size, key, pathOf, error, read);
-            } else {
-                const QByteArray native = m_table.nativePath(i);
-                keyed = SampledKey::readAt(
-                    AT_FDCWD, native.constData(), m_table.file(i).size, key, pathOf, error, read);
-            }
-            if (!keyed)
-                noteUnread(i, error);
-            else if (read)
-                keepOnlyIfStamped(i, stampOf(opened));
-#else
-            const QByteArray hex
-                = calculateFileHash(m_table.filePath(i), m_table.file(i).size, folder.driveType);
-            keyed = !hex.isEmpty();
-            key = hex.toULongLong(nullptr, 16);
-#endif
-        } catch (const std::exception &error) {
-            splog_d(kTag
-                + QStringLiteral("Exception in calculateFileHash: [%1].")
-                      .arg(QString::fromLocal8Bit(error.what())));
-        } catch (...) {
-            splog_d(kTag + QStringLiteral("Unknown exception in calculateFileHash."));
         }
-        m_keys[i] = key;
-        m_keyState[i] = keyed ? 2 : 3;
-        m_keyedFiles.fetch_add(1);
+        for (quint32 k = range.begin; k < range.end; ++k) {
+            if (isStopRequested())
+                return false;
+            const quint32 file = keyed[k].file;
+            quint64 key = 0;
+            if (!m_keyReader.wholeKey(file, key))
+                continue;
+            full.push_back(Keyed {key, quint32(full.size()), file});
+        }
     }
-#ifdef Q_OS_UNIX
-    if (dirfd >= 0)
-        ::close(dirfd);
-#endif
-    reportProgress(false);
+    return true;
 }
 
-void DuplicateFileFinder::noteUnread(quint32 file, int error)
+bool DuplicateFileFinder::groupByContent(
+    const SizeRun &run, qint64 size, std::vector<Found> &found, std::vector<quint32> &singles)
 {
-    // An empty file holds nothing to compare; that is no failure.
-    if (error == 0 || !m_problems)
-        return;
-    // A file removed since the walk is simply gone: it is no member, and nothing the
-    // user could not read.
-    m_problems->add(error == ENOENT ? ScanProblems::VanishedFile : ScanProblems::UnreadableFile,
-        m_table.filePath(file));
-}
-
-bool DuplicateFileFinder::stillExists(quint32 file)
-{
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::stat(m_table.nativePath(file).constData(), &info) == 0 && S_ISREG(info.st_mode))
-        return true;
-    noteUnread(file, errno == 0 ? ENOENT : errno);
-    return false;
-#else
-    if (QFileInfo(m_table.filePath(file)).isFile())
-        return true;
-    noteUnread(file, ENOENT);
-    return false;
-#endif
-}
-
-void DuplicateFileFinder::hashGroup(const SizeRun &run)
-{
-    if (isStopRequested() || run.count == 0)
-        return;
-    const qint64 size = m_table.file(m_order[run.begin]).size;
-    // Empty files are never duplicates of one another, in any mode: they hold nothing
-    // to recover.
-    if (size < 1) {
-        m_done.fetch_add(1);
-        return;
-    }
-    // Files by key, keys in first-seen order, members in their order. Content keys are
-    // the 64-bit digests, grouped by sorting (no allocation per file or key); the name
-    // mode's keys are the MD5 texts.
-    struct Keyed
-    {
-        quint64 key;
-        quint32 seq;
-        quint32 file;
-    };
-    struct Range
-    {
-        quint32 begin;
-        quint32 end;
-    };
+    using Keyed = KeyRuns::Keyed;
+    using Range = KeyRuns::Range;
     thread_local std::vector<Keyed> keyed;
     thread_local std::vector<Keyed> full;
     thread_local std::vector<Range> ranges;
     thread_local std::vector<Range> fullRanges;
-    // Sorts items by key (then arrival) and lists the runs of one key in first-seen order.
-    const auto group = [](std::vector<Keyed> &items, std::vector<Range> &out) {
-        std::sort(items.begin(), items.end(), [](const Keyed &a, const Keyed &b) {
-            return a.key != b.key ? a.key < b.key : a.seq < b.seq;
-        });
-        out.clear();
-        for (quint32 b = 0; b < quint32(items.size());) {
-            quint32 e = b + 1;
-            while (e < quint32(items.size()) && items[e].key == items[b].key)
-                ++e;
-            out.push_back(Range {b, e});
-            b = e;
-        }
-        std::sort(out.begin(), out.end(), [&items](const Range &a, const Range &b) {
-            return items[a.begin].seq < items[b.begin].seq;
-        });
-    };
-    // The groups to report: members in order, with the content key of each.
-    struct Found
-    {
-        QByteArray key;
-        std::vector<quint32> members;
-    };
-    std::vector<Found> found;
-    std::vector<quint32> singles;
-
-    if (scanMethod == scanName) {
-        QHash<QByteArray, size_t> byText;
-        for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
-            if (isStopRequested())
-                return;
-            const quint32 file = m_order[i];
-            // Names are compared without reading the files; a file must still be there
-            // to be a member.
-            if (!stillExists(file))
-                continue;
-            const QByteArray key = nameKey(m_table.fileName(file));
-            const auto at = byText.constFind(key);
-            if (at == byText.constEnd()) {
-                byText.insert(key, found.size());
-                found.push_back(Found {key, {file}});
-            } else {
-                found[at.value()].members.push_back(file);
-            }
-        }
-    } else {
-        keyed.clear();
-        for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
-            const quint32 file = m_order[i];
-            if (m_keyState[file] == 2)
-                keyed.push_back(Keyed {m_keys[file], quint32(keyed.size()), file});
-        }
-        group(keyed, ranges);
-        std::vector<Keyed> *result = &keyed;
-        std::vector<Range> *resultRanges = &ranges;
-        if (scanMethod == scanAllContent && size > kWholeFileLimit) {
-            // Whole files are read only where the sampled keys already agree: files whose
-            // samples differ cannot have equal contents, so the groups are the same as
-            // from hashing every file whole.
-            full.clear();
-            for (const Range &range : ranges) {
-                if (range.end - range.begin < 2) {
-                    full.push_back(Keyed {
-                        keyed[range.begin].key, quint32(full.size()), keyed[range.begin].file});
-                    continue;
-                }
-                for (quint32 k = range.begin; k < range.end; ++k) {
-                    if (isStopRequested())
-                        return;
-                    const quint32 file = keyed[k].file;
-                    const int driveType = m_table.folder(m_table.file(file).folder).driveType;
-                    quint64 key = 0;
-#ifdef Q_OS_UNIX
-                    if (!cachedFullKey(file, key)) {
-                        const QByteArray native = m_table.nativePath(file);
-                        int error = 0;
-                        struct stat opened
-                        {
-                        };
-                        if (!streamKeyAt(
-                                AT_FDCWD, native.constData(), driveType, key,
-                                [this, file] { return m_table.fileName(file); }, error, &opened)) {
-                            noteUnread(file, error);
-                            continue;
-                        }
-                        noteFullKey(file, key, stampOf(opened));
-                    }
-#else
-                    const QByteArray hex = streamHash(m_table.filePath(file), driveType);
-                    if (hex.isEmpty())
-                        continue;
-                    key = hex.toULongLong(nullptr, 16);
-#endif
-                    full.push_back(Keyed {key, quint32(full.size()), file});
-                }
-            }
-            group(full, fullRanges);
-            result = &full;
-            resultRanges = &fullRanges;
-        }
-        for (const Range &range : *resultRanges) {
-            if (range.end - range.begin == 1) {
-                singles.push_back((*result)[range.begin].file);
-                continue;
-            }
-            Found entry {hexKey((*result)[range.begin].key), {}};
-            for (quint32 k = range.begin; k < range.end; ++k)
-                entry.members.push_back((*result)[k].file);
-            found.push_back(std::move(entry));
-        }
+    keyed.clear();
+    for (quint32 i = run.begin; i < run.begin + run.count; ++i) {
+        const quint32 file = m_order[i];
+        if (m_keyReader.isKeyed(file))
+            keyed.push_back(Keyed {m_keyReader.key(file), quint32(keyed.size()), file});
     }
-
-    // Keys in first-seen order: a single file is only looked at as a picture.
-    for (const Found &entry : found)
-        if (entry.members.size() == 1)
-            singles.push_back(entry.members.front());
-    for (quint32 file : singles) {
-        if (m_collectsPictures && isImage(file)) {
-            QMutexLocker locker(&m_mutex);
-            uniqueImages.append(m_table.filePath(file));
-        }
+    KeyRuns::group(keyed, ranges);
+    std::vector<Keyed> *result = &keyed;
+    std::vector<Range> *resultRanges = &ranges;
+    if (scanMethod == scanAllContent && size > kWholeFileLimit) {
+        if (!wholeKeys(keyed, ranges, full))
+            return false;
+        KeyRuns::group(full, fullRanges);
+        result = &full;
+        resultRanges = &fullRanges;
     }
+    for (const Range &range : *resultRanges) {
+        if (range.end - range.begin == 1) {
+            singles.push_back((*result)[range.begin].file);
+            continue;
+        }
+        Found entry {hexKey((*result)[range.begin].key), {}};
+        for (quint32 k = range.begin; k < range.end; ++k)
+            entry.members.push_back((*result)[k].file);
+        found.push_back(std::move(entry));
+    }
+    return true;
+}
+
+bool DuplicateFileFinder::storeFound(qint64 size, const std::vector<Found> &found)
+{
     for (const Found &entry : found) {
         if (entry.members.size() < 2)
             continue;
@@ -1073,8 +348,44 @@ void DuplicateFileFinder::hashGroup(const SizeRun &run)
         }
         storeGroup(size, entry.key, paths, members);
         if (isStopRequested())
-            return;
+            return false;
     }
+    return true;
+}
+
+void DuplicateFileFinder::hashGroup(const SizeRun &run)
+{
+    if (isStopRequested() || run.count == 0)
+        return;
+    const qint64 size = m_table.file(m_order[run.begin]).size;
+    // Empty files are never duplicates of one another, in any mode: they hold nothing
+    // to recover.
+    if (size < 1) {
+        m_done.fetch_add(1);
+        return;
+    }
+    // Files by key, keys in first-seen order, members in their order. Content keys are
+    // the 64-bit digests, grouped by sorting (no allocation per file or key); the name
+    // mode's keys are the MD5 texts.
+    std::vector<Found> found;
+    std::vector<quint32> singles;
+    const bool grouped = scanMethod == scanName ? groupByName(run, found)
+                                                : groupByContent(run, size, found, singles);
+    if (!grouped)
+        return;
+
+    // Keys in first-seen order: a single file is only looked at as a picture.
+    for (const Found &entry : found)
+        if (entry.members.size() == 1)
+            singles.push_back(entry.members.front());
+    for (quint32 file : singles) {
+        if (m_collectsPictures && isImage(file)) {
+            QMutexLocker locker(&m_mutex);
+            uniqueImages.append(m_table.filePath(file));
+        }
+    }
+    if (!storeFound(size, found))
+        return;
 
     const int done = m_done.fetch_add(1) + 1;
     reportProgress(done == int(m_runs.size()));
@@ -1084,20 +395,8 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     const QStringList &paths, const std::vector<quint32> &members)
 {
     const QString groupKey = TFileData::groupKey(paths.first());
-    if (scanDupDirectory) {
-        for (const QString &path : paths) {
-            if (isStopRequested())
-                return;
-            QMutexLocker locker(&m_mutex);
-            DirMatchInfo &info = dirTable[folderOf(path)];
-            info.contentKeys.append(contentKey);
-            info.groupKeys.append(groupKey);
-            info.names.append(fileNameOf(path));
-            info.sizes.append(size);
-            ++info.fileCount;
-            info.totalSize += size;
-        }
-    }
+    if (scanDupDirectory && !m_folders.addGroupFiles(size, contentKey, groupKey, paths))
+        return;
     TFileData *store = TFileData::instance();
     QList<FileStamp> stamps;
     if (m_keepsStamps)
@@ -1142,319 +441,4 @@ void DuplicateFileFinder::storeGroup(qint64 size, const QByteArray &contentKey,
     // What could go: every copy but one.
     duplicateFileCount.fetch_add(int(paths.size()) - 1);
     duplicateTotalSize.fetch_add(qint64(paths.size() - 1) * size);
-}
-
-namespace {
-
-int depthOf(const QString &path)
-{
-    return int(path.count(QLatin1Char('/')));
-}
-
-bool isBelow(const QString &path, const QString &folder)
-{
-    return path.size() > folder.size() && path.startsWith(folder)
-        && (folder.endsWith(QLatin1Char('/')) || path.at(folder.size()) == QLatin1Char('/'));
-}
-
-// Whether a folder that holds no duplicate file holds anything but empty folders.
-bool holdsAnything(const QString &folder)
-{
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QFileInfo &entry : entries)
-        if (entry.isSymLink() || !entry.isDir() || holdsAnything(entry.filePath()))
-            return true;
-    return !QFileInfo(folder).isReadable();
-}
-
-} // namespace
-
-// Two independent mixes of the key make the order-free digest: sums of mixed keys are
-// equal for equal multisets, and a chance match of both 64-bit sums, the file count and
-// the byte count is negligible (removal checks the contents again in any case).
-DuplicateFileFinder::FolderDigest DuplicateFileFinder::FolderDigest::ofFile(
-    const QByteArray &key, qint64 size)
-{
-    FolderDigest digest;
-    digest.sum = XXH3_64bits_withSeed(key.constData(), size_t(key.size()), 0);
-    digest.mixedSum
-        = XXH3_64bits_withSeed(key.constData(), size_t(key.size()), 0x9E3779B97F4A7C15ULL);
-    digest.fileCount = 1;
-    digest.totalSize = size;
-    return digest;
-}
-
-void DuplicateFileFinder::FolderDigest::add(const FolderDigest &other)
-{
-    sum += other.sum;
-    mixedSum += other.mixedSum;
-    fileCount += other.fileCount;
-    totalSize += other.totalSize;
-}
-
-DuplicateFileFinder::FolderDigest DuplicateFileFinder::digestFolder(const QString &folder,
-    const QHash<QString, FolderDigest> &below, const QSet<QString> &candidates) const
-{
-    FolderDigest digest;
-    const DirMatchInfo info = dirTable.value(folder);
-    const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
-#ifdef Q_OS_UNIX
-    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-    if (!dir)
-        return digest;
-    const int fd = ::dirfd(dir);
-    bool complete = true;
-    while (const dirent *entry = ::readdir(dir)) {
-        const char *name = entry->d_name;
-        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-            continue;
-        struct stat status
-        {
-        };
-        if (::fstatat(fd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-            complete = false;
-            break;
-        }
-        const QString entryName = FilePathCodec::decode(name, qsizetype(std::strlen(name)));
-        if (S_ISREG(status.st_mode)) {
-            const qsizetype at = info.names.indexOf(entryName);
-            if (at < 0) {
-                complete = false;
-                break;
-            }
-            digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
-        } else if (S_ISDIR(status.st_mode)) {
-            const QString child = prefix + entryName;
-            if (candidates.contains(child)) {
-                const FolderDigest sub = below.value(child);
-                if (!sub.complete) {
-                    complete = false;
-                    break;
-                }
-                digest.add(sub);
-            } else if (holdsAnything(child)) {
-                complete = false;
-                break;
-            }
-        } else {
-            // Links, pipes and devices would be lost with the folder and have no copy.
-            complete = false;
-            break;
-        }
-    }
-    ::closedir(dir);
-    digest.complete = complete;
-#else
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    digest.complete = QFileInfo(folder).isReadable();
-    for (const QFileInfo &entry : entries) {
-        if (entry.isSymLink()) {
-            digest.complete = false;
-        } else if (entry.isFile()) {
-            const qsizetype at = info.names.indexOf(entry.fileName());
-            if (at < 0) {
-                digest.complete = false;
-            } else {
-                digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
-            }
-        } else if (entry.isDir()) {
-            const QString child = prefix + entry.fileName();
-            const FolderDigest sub = below.value(child);
-            if (candidates.contains(child) && sub.complete) {
-                digest.add(sub);
-            } else if (candidates.contains(child) || holdsAnything(child)) {
-                digest.complete = false;
-            }
-        } else {
-            digest.complete = false;
-        }
-        if (!digest.complete)
-            break;
-    }
-#endif
-    return digest;
-}
-
-void DuplicateFileFinder::processDirectories()
-{
-    // Candidates: every folder holding a duplicate file, and its folders up to the root
-    // it was found under (a folder is a duplicate of another only with everything in it,
-    // sub-folders included, so the whole chain is looked at).
-    QSet<QString> candidates;
-    {
-        QMutexLocker locker(&m_mutex);
-        for (auto it = dirTable.cbegin(); it != dirTable.cend(); ++it) {
-            QString folder = it.key();
-            QString root;
-            for (const QString &candidate : std::as_const(m_roots))
-                if ((folder == candidate || isBelow(folder, candidate))
-                    && candidate.size() > root.size())
-                    root = candidate;
-            while (!candidates.contains(folder)) {
-                candidates.insert(folder);
-                if (root.isEmpty() || folder == root || !isBelow(folder, root))
-                    break;
-                folder = folderOf(folder);
-            }
-        }
-    }
-    splog_d(kTag
-        + QStringLiteral("Start matching duplicate directories. Number "
-                         "of groups to match [%1].")
-              .arg(candidates.size()));
-    // Deepest folders first: a folder's digest takes its sub-folders' digests.
-    QMap<int, QStringList> byDepth;
-    for (const QString &folder : std::as_const(candidates))
-        byDepth[-depthOf(folder)].append(folder);
-    QHash<QString, FolderDigest> digests;
-    std::atomic<int> processed {0};
-    const qsizetype total = candidates.size();
-    for (auto level = byDepth.begin(); level != byDepth.end() && !isStopRequested(); ++level) {
-        const QList<FolderDigest> results
-            = QtConcurrent::blockingMapped(level.value(), [&](const QString &folder) {
-                  if (isStopRequested())
-                      return FolderDigest();
-                  const FolderDigest digest = digestFolder(folder, digests, candidates);
-                  const int done = processed.fetch_add(1) + 1;
-                  emit progressUpdated(1, done * 100.0 / total);
-                  return digest;
-              });
-        for (qsizetype i = 0; i < results.size(); ++i)
-            digests.insert(level.value().at(i), results.at(i));
-    }
-    if (isStopRequested()) {
-        emit progressUpdated(1, 0.0);
-        return;
-    }
-    for (auto it = digests.cbegin(); it != digests.cend(); ++it) {
-        const FolderDigest &digest = it.value();
-        if (!digest.complete || digest.fileCount == 0)
-            continue;
-        QByteArray signature;
-        QDataStream stream(&signature, QIODevice::WriteOnly);
-        stream << digest.fileCount << digest.totalSize << digest.sum << digest.mixedSum;
-        m_signatureTable[signature].append(it.key());
-    }
-    // A folder inside a matched folder is covered by it: only the outermost matches are
-    // reported, and a folder is never matched with a folder that holds it.
-    QSet<QString> matchedFolders;
-    for (const QStringList &folders : std::as_const(m_signatureTable))
-        if (folders.size() > 1)
-            for (const QString &folder : folders)
-                matchedFolders.insert(folder);
-    const auto insideMatched = [&matchedFolders](const QString &folder) {
-        for (QString parent = folder; parent != QLatin1String("/");) {
-            parent = folderOf(parent);
-            if (matchedFolders.contains(parent))
-                return true;
-        }
-        return false;
-    };
-    QList<QStringList> matched;
-    for (const QStringList &folders : std::as_const(m_signatureTable)) {
-        if (folders.size() < 2)
-            continue;
-        QStringList outermost;
-        for (const QString &folder : folders)
-            if (!insideMatched(folder))
-                outermost.append(folder);
-        if (outermost.size() < 2)
-            continue;
-        // The pool finishes folders in any order; a fixed order keeps the key stable and
-        // the first folder is the one kept.
-        outermost.sort();
-        matched.append(outermost);
-    }
-    std::sort(matched.begin(), matched.end());
-    TFileData *store = TFileData::instance();
-    for (const QStringList &folders : std::as_const(matched)) {
-        QList<DirGroupEntry> entries;
-        for (const QString &folder : folders) {
-            const FolderDigest &digest = digests[folder];
-            entries.append(DirGroupEntry {folder, digest.fileCount, digest.totalSize});
-            // The files of every folder but the first, which stays.
-            if (folder == folders.first())
-                continue;
-            duplicateFileCount.fetch_add(digest.fileCount);
-            duplicateTotalSize.fetch_add(digest.totalSize);
-        }
-        const QString key = TFileData::groupKey(folders.first());
-        store->insertDirGroup(key, entries);
-        // Selected by the same rule as the copies of files.
-        if (duplicateSelectHint != 8)
-            GroupItemAutoSelector::applyToGroup(key, folders, duplicateSelectHint, mapPriority);
-    }
-    pruneMatchedFolders(matched);
-}
-
-void DuplicateFileFinder::pruneMatchedFolders(const QList<QStringList> &matched)
-{
-    if (matched.isEmpty())
-        return;
-    // Each matched folder, and whether it is the kept one of its group.
-    QHash<QString, bool> kept;
-    QSet<QString> touchedGroups;
-    for (const QStringList &folders : matched) {
-        for (const QString &folder : folders) {
-            kept.insert(folder, folder == folders.first());
-            for (auto it = dirTable.cbegin(); it != dirTable.cend(); ++it)
-                if (it.key() == folder || isBelow(it.key(), folder))
-                    for (const QString &key : it.value().groupKeys)
-                        touchedGroups.insert(key);
-        }
-    }
-    // The matched folder holding a path, if any.
-    const auto holder = [&kept](const QString &path) -> const QString * {
-        for (QString folder = folderOf(path);; folder = folderOf(folder)) {
-            const auto found = kept.constFind(folder);
-            if (found != kept.constEnd())
-                return &found.key();
-            if (folder == QLatin1String("/"))
-                return nullptr;
-        }
-    };
-    TFileData *store = TFileData::instance();
-    for (const QString &key : std::as_const(touchedGroups)) {
-        const QStringList members = store->group(key);
-        QStringList outside;
-        QStringList inKept;
-        for (const QString &path : members) {
-            const QString *folder = holder(path);
-            if (!folder)
-                outside.append(path);
-            else if (kept.value(*folder))
-                inKept.append(path);
-        }
-        // Every copy inside matched folders: the folder groups report them all. Otherwise
-        // the copies outside stay, with the one in the kept folder beside them, so that no
-        // copy goes unreported and the group never lists only copies to be removed.
-        QStringList remaining;
-        if (!outside.isEmpty()) {
-            for (const QString &path : members)
-                if (outside.contains(path) || inKept.contains(path))
-                    remaining.append(path);
-        }
-        if (remaining == members)
-            continue;
-        // The running totals count the copies that could go: those of the copies dropped
-        // leave them (the folder groups count their files instead).
-        const qsizetype dropped
-            = (members.size() - 1) - (remaining.size() < 2 ? 0 : remaining.size() - 1);
-        const DirMatchInfo &info = dirTable[folderOf(members.first())];
-        const qsizetype at = info.names.indexOf(fileNameOf(members.first()));
-        duplicateFileCount.fetch_sub(int(dropped));
-        duplicateTotalSize.fetch_sub(qint64(dropped) * (at < 0 ? 0 : info.sizes.at(at)));
-        if (remaining.size() < 2) {
-            store->removeGroup(key);
-            continue;
-        }
-        store->replaceGroup(key, remaining);
-        if (duplicateSelectHint != 8) {
-            GroupItemAutoSelector::applyToGroup(key, remaining, duplicateSelectHint, mapPriority);
-        } else {
-            store->removeSelected(key);
-        }
-    }
 }

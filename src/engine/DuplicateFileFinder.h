@@ -2,7 +2,10 @@
 #pragma once
 
 #include "engine/ContentKeyCache.h"
+#include "engine/DuplicateFolderMatcher.h"
+#include "engine/DuplicateKeyReader.h"
 #include "engine/FileMeta.h"
+#include "engine/KeyRuns.h"
 #include "engine/OverlappedKeyReader.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
@@ -37,17 +40,8 @@ public:
     using FileMeta = ::FileMeta;
     using SizeTable = QHash<qint64, QList<FileMeta>>;
 
-    // One folder holding duplicate files, for the folder matching: per duplicate file
-    // directly in it, its content key, its group and its name.
-    struct DirMatchInfo
-    {
-        QList<QByteArray> contentKeys;
-        QStringList groupKeys;
-        int fileCount = 0;
-        qint64 totalSize = 0;
-        QStringList names;
-        QList<qint64> sizes;
-    };
+    // One folder holding duplicate files, for the folder matching.
+    using DirMatchInfo = DuplicateFolderMatcher::DirMatchInfo;
 
     enum ScanMethod : int { scanContent = 0, scanName = 1, scanAllContent = 2 };
 
@@ -68,12 +62,12 @@ public:
     void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
     ContentKeyCache::Options cacheOptions() const { return m_cacheOptions; }
     // Keys the last scan took from the cache instead of reading the file.
-    qint64 keysFromCache() const { return m_keysFromCache.load(); }
+    qint64 keysFromCache() const { return m_keyReader.keysFromCache(); }
     // The reader that took sampled keys while the walk went on; its keys are taken over at
     // the start of run(). Null: every key is read here.
     void setOverlappedReader(OverlappedKeyReader *reader) { m_reader = reader; }
     // Sampled keys of the last scan that were read (or taken from the cache) during the walk.
-    qint64 overlappedKeys() const { return m_overlappedKeys; }
+    qint64 overlappedKeys() const { return m_keyReader.overlappedKeys(); }
 
     void requestStop()
     {
@@ -118,64 +112,30 @@ protected:
 
 private:
     // One size group: a run of m_order.
-    struct SizeRun
-    {
-        quint32 begin = 0;
-        quint32 count = 0;
-    };
+    using SizeRun = DuplicateKeyReader::SizeRun;
 
     void processDuplicates();
-    // Sampled keys of every file of a size group, computed folder by folder so that each
-    // file is opened relative to its folder (one short look-up instead of a walk of the
-    // whole path); hashGroup then only compares them.
-    void computeSampledKeys();
-    void keyFolder(quint32 folder);
-    // The cache's part: the stamps of the wanted files of a folder, before any is read.
-    void keyFoldersWithCache(const QList<quint32> &folders);
-    void stampFolder(quint32 folder);
-    // Looks up every wanted file the walk kept a stat of, in one pass over the cache,
-    // before anything is read.
-    void lookUpWalkStamps();
-    void takeOverlappedKeys();
-    void takeCachedSampledKeys();
-    // The cached whole-content key of a file whose stamp matched; false when there is none.
-    bool cachedFullKey(quint32 file, quint64 &key);
-    // A whole-content key just read, with the status of the file it was read from.
-    void noteFullKey(quint32 file, quint64 key, const ContentKeyCache::Stamp &read);
-    void keepOnlyIfStamped(quint32 file, const ContentKeyCache::Stamp &read);
-    void storeKeys();
     void hashGroup(const SizeRun &run);
+    // A group found in a size group: members in order, with the content key of each.
+    struct Found
+    {
+        QByteArray key;
+        std::vector<quint32> members;
+    };
+    // The steps of hashGroup; each is false when a stop cut it short.
+    bool groupByName(const SizeRun &run, std::vector<Found> &found);
+    bool groupByContent(
+        const SizeRun &run, qint64 size, std::vector<Found> &found, std::vector<quint32> &singles);
+    // Whole-content keys of the files whose sampled keys agree with another's.
+    bool wholeKeys(const std::vector<KeyRuns::Keyed> &keyed,
+        const std::vector<KeyRuns::Range> &ranges, std::vector<KeyRuns::Keyed> &full);
+    bool storeFound(qint64 size, const std::vector<Found> &found);
     void reportProgress(bool force);
-    // Counts a file that could not be read (error: its errno; 0 for an empty file, which
-    // is no failure) as unreadable, or as vanished when it is gone.
-    void noteUnread(quint32 file, int error);
-    // For the name mode, which reads no file: whether the file is still a regular file.
-    bool stillExists(quint32 file);
     // The file-type catalogue's image test on a file of the table, answered from the
     // name's bytes where the suffix is plain ASCII (nearly always), without building a
     // string per file.
     void prepareImageTest();
     bool isImage(quint32 file) const;
-    // A folder's whole content, sub-folders and hidden files included, as an order-free
-    // digest of its files' content keys; complete only when every file below it is a
-    // member of a duplicate group and nothing but files and folders is there.
-    struct FolderDigest
-    {
-        bool complete = false;
-        int fileCount = 0;
-        qint64 totalSize = 0;
-        quint64 sum = 0;
-        quint64 mixedSum = 0;
-
-        static FolderDigest ofFile(const QByteArray &key, qint64 size);
-        void add(const FolderDigest &other);
-    };
-    void processDirectories();
-    FolderDigest digestFolder(const QString &folder, const QHash<QString, FolderDigest> &below,
-        const QSet<QString> &candidates) const;
-    // Takes the files of matched folders out of the file groups, except where a copy
-    // lives outside every matched folder: then the copy in the kept folder stays too.
-    void pruneMatchedFolders(const QList<QStringList> &matched);
     // members: the paths' files in the table, whose walk stat gives their stamps.
     void storeGroup(qint64 size, const QByteArray &contentKey, const QStringList &paths,
         const std::vector<quint32> &members);
@@ -184,7 +144,6 @@ private:
     QStringList m_roots;
     ScanProblems *m_problems = nullptr;
     QStringList uniqueImages;
-    QHash<QString, DirMatchInfo> dirTable;
     mutable QMutex m_mutex;
     std::atomic<qint64> stopRequested {0};
     QElapsedTimer m_timer;
@@ -200,9 +159,6 @@ private:
     // File indices of m_table ordered by size, and the size groups of two or more files.
     std::vector<quint32> m_order;
     std::vector<SizeRun> m_runs;
-    // Per file: the sampled key and its state (0 not wanted, 1 wanted, 2 keyed, 3 unreadable).
-    std::vector<quint64> m_keys;
-    std::vector<quint8> m_keyState;
     // Lower-case image suffixes for isImage(); empty m_asciiImageTest when the catalogue
     // lists a suffix that is not plain ASCII (then every test goes through the catalogue).
     std::vector<std::string> m_imageSuffixes;
@@ -212,31 +168,14 @@ private:
     bool m_asciiImageTest = false;
     bool m_collectsPictures = true;
     bool m_keepsStamps = true;
-    // Progress of the file phase, shared by the pool threads: files keyed and size groups
-    // done, out of m_wantedFiles and m_runs.size().
-    qint64 m_wantedFiles = 0;
-    std::atomic<qint64> m_keyedFiles {0};
+    // Progress of the file phase, shared by the pool threads: size groups done, out of
+    // m_runs.size() (the files keyed are the key reader's count).
     std::atomic<int> m_done {0};
     std::atomic<qint64> m_lastReportMs {0};
-    QHash<QByteArray, QStringList> m_signatureTable;
-    // The key cache of the running scan. The sampled keys go through it one run of
-    // folders at a time: an entry per wanted file of the run (m_cachedFiles, ascending file
-    // indices, gives each entry's file). The whole-content keys found in it wait in
-    // m_cachedFullKeys (only read by the pool threads), those read in m_fullEntries (under
-    // m_cacheLock).
     ContentKeyCache::Options m_cacheOptions;
-    std::unique_ptr<ContentKeyCache> m_cache;
-    std::vector<quint32> m_cachedFiles;
-    std::vector<ContentKeyCache::Entry> m_cacheEntries;
-    // (file, whole-content key) pairs, sorted by file once the sampled keys are known.
-    std::vector<std::pair<quint32, quint64>> m_cachedFullKeys;
-    std::vector<ContentKeyCache::Entry> m_fullEntries;
-    QMutex m_cacheLock;
-    qint64 m_readStartNs = 0;
-    qint64 m_fullReadStartNs = 0;
-    std::atomic<qint64> m_keysFromCache {0};
     OverlappedKeyReader *m_reader = nullptr;
-    qint64 m_overlappedKeys = 0;
     // Group key of every file group touched by a folder with duplicates.
     QSet<QString> m_folderGroupKeys;
+    DuplicateFolderMatcher m_folders {stopRequested, duplicateFileCount, duplicateTotalSize};
+    DuplicateKeyReader m_keyReader {m_table, stopRequested};
 };

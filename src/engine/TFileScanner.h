@@ -3,7 +3,9 @@
 
 #include "engine/FileMeta.h"
 #include "engine/ScanBatch.h"
+#include "engine/ScanFilters.h"
 #include "engine/ScanProblems.h"
+#include "engine/ScanRoots.h"
 
 #include <atomic>
 
@@ -15,6 +17,8 @@
 #include <QThread>
 
 class QWaitCondition;
+struct stat;
+struct ScanSeen;
 
 // First stage of a local scan: walks the root folders, applies the scan filters and
 // reports every accepted file. Runs on its own thread; the default walk fans out over a
@@ -49,11 +53,11 @@ public:
     void requestStop() { stopRequested.store(1); }
     bool isStopRequested() const { return stopRequested.load() != 0; }
 
-    qint64 minimumSize() const { return minSize; }
-    qint64 maximumSize() const { return maxSize; }
-    QStringList onlyFileTypes() const { return onlyTypes; }
-    QStringList ignoredFileTypes() const { return ignoreTypes; }
-    bool skipsHiddenAndSystem() const { return skipHiddenSystem; }
+    qint64 minimumSize() const { return m_filters.minimumSize(); }
+    qint64 maximumSize() const { return m_filters.maximumSize(); }
+    QStringList onlyFileTypes() const { return m_filters.onlyFileTypes(); }
+    QStringList ignoredFileTypes() const { return m_filters.ignoredFileTypes(); }
+    bool skipsHiddenAndSystem() const { return m_filters.skipsHiddenAndSystem(); }
     QJsonObject configuration() const { return config; }
 
     // Drive type of the drive holding path, cached per drive for the process (failed
@@ -82,28 +86,39 @@ protected:
 private:
     struct WalkState;
     struct Folder;
-    struct Root;
+    using Root = ScanRoots::Root;
     struct Outbox;
 
     void scanWithQtRecursive(WalkState &state, const Root &root);
     void scanIncrementalParallel(WalkState &state, const Root &root);
     void processDir(WalkState &state, const Folder &folder, bool filtered, Outbox &outbox);
+    // Lists one folder into batch: its files reported, its folders queued, its links kept
+    // for later; false when it was not listed at all (unreadable, gone, already walked).
+    // completed is set when every entry was read.
+    bool listFolder(WalkState &state, const Folder &folder, bool filtered, ScanBatch &batch,
+        QList<FileMeta> &metas, bool &completed);
+#ifdef Q_OS_UNIX
+    struct Listing;
+    bool openListing(Listing &listing);
+    // False when a stop cut the listing short.
+    bool listEntries(WalkState &state, Listing &listing);
+    // A regular file that passed the filters: reported unless unreadable or met before.
+    void acceptFile(Listing &listing, const char *name, qsizetype nameLength,
+        const struct stat &info, const QString &path);
+#endif
     void drainWithPool(WalkState &state);
     void drainInOrder(WalkState &state);
     // Turns the links met so far into their targets: folders are queued, files reported;
     // true when folders were queued.
     bool resolveLinks(WalkState &state, bool filtered);
+    struct Target;
+    // Where one link leads, when it is to be followed: false for a dangling link, one
+    // leading outside the roots, to an ignored or hidden place, or to neither a folder
+    // nor a file.
+    bool resolveTarget(const Folder &link, bool filtered, Target &target);
     Root resolveRoot(const QString &root) const;
-    // The innermost root whose real path holds native, or null.
-    const Root *rootHolding(const QByteArray &native) const;
-    // Whether native, a path inside root, or one of its folders below root is hidden.
-    bool isHiddenBelow(const Root &root, const QByteArray &native) const;
     void noteProblem(ScanProblems::Kind kind, const QString &path);
     void unreadableFile(const QString &path, int error);
-    bool isIgnoredPath(const QString &path) const;
-    // The path or one of its folders is on the ignore list.
-    bool isUnderIgnoredPath(const QString &path) const;
-    bool passesFileFilters(const QString &fileName, qint64 size) const;
     // Adds one accepted file to the folder's batch and counts it; path is only needed
     // (and only built) while the per-file signals are connected.
     void reportFile(ScanBatch &batch, QList<FileMeta> &metas, qint64 size, const char *name,
@@ -115,28 +130,19 @@ private:
 
     QStringList roots;
     qint64 scanMode = 1;
-    qint64 minSize = 0;
-    qint64 maxSize = 9223372036854775807LL;
-    QStringList ignorePaths;
-    QStringList onlyTypes;
-    QStringList ignoreTypes;
-    bool skipHiddenSystem = true;
-    int scanFileType = 0;
+    ScanFilters m_filters;
     std::atomic<int> stopRequested {0};
     std::atomic<int> scannedCount {0};
     QFutureInterface<void> m_future;
     QJsonObject config;
     ScanProblems *m_problems = nullptr;
 
-    // Lower-cased ignorePaths, for the case-insensitive test on every entry.
-    QStringList m_ignoredLower;
     // Whether fileFound and filesFound have receivers, decided once per run: their
     // per-file path strings are the most costly part of a walk.
     bool m_perFileSignals = true;
     // The roots by their real paths, for the duration of a run.
-    std::vector<Root> m_roots;
+    ScanRoots m_roots;
     // Identities (device, inode) of the folders walked and of the files with several
     // names reported during the current run; they persist across the roots of one scan.
-    struct Seen;
-    Seen *m_seen = nullptr;
+    ScanSeen *m_seen = nullptr;
 };
