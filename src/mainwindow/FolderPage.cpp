@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -224,4 +225,19 @@ void FolderPage::updateView(bool cloudMode)
 bool FolderPage::acceptsDrag(QDragEnterEvent *event)
 {
     return event->mimeData()->hasUrls() && ScanRootList::acceptsDrag(event->mimeData());
+}
+
+bool FolderPage::refuseLocalBesideCloud()
+{
+    if (m_cloudFolders.isEmpty())
+        return false;
+    QMessageBox::information(window(), MainWindow::tr("Note"),
+        MainWindow::tr("After adding cloud accounts and directories, local "
+                       "directories can no longer be added."));
+    return true;
+}
+
+QString FolderPage::chooseLocalFolder()
+{
+    return QFileDialog::getExistingDirectory(window(), MainWindow::tr("Select Folder"));
 }

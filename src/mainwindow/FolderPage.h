@@ -48,6 +48,12 @@ public:
     void refreshCountLabel(bool cloudMode, const QString &account);
     void updateView(bool cloudMode);
 
+    // Cloud folders take no local folders beside them; tells the user so. True when
+    // refused.
+    bool refuseLocalBesideCloud();
+    // The folder chooser; an empty path when the user cancels.
+    QString chooseLocalFolder();
+
     // Whether a drag may end here.
     static bool acceptsDrag(QDragEnterEvent *event);
 

@@ -4,93 +4,49 @@
 #include "app/AppIdentity.h"
 #include "app/BuildSettings.h"
 #include "app/DailyRunReport.h"
-#include "app/DataDirectory.h"
 #include "app/EnvironmentLog.h"
-#include "app/FeatureReporter.h"
-#include "app/FileTypeCatalogue.h"
-#include "app/LanguageSetup.h"
-#include "app/SettingsKeys.h"
 #include "app/TLogger.h"
-#include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
-#include "cloud/RcloneProcess.h"
-#include "engine/GroupItemAutoSelector.h"
-#include "engine/ScanConfigCheck.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/TOpenSaveThread.h"
 #include "mainwindow/CloudSignIn.h"
 #include "mainwindow/FolderPage.h"
-#include "mainwindow/MainWindowArt.h"
+#include "mainwindow/MainWindowMenus.h"
 #include "mainwindow/NoResultPage.h"
 #include "mainwindow/ProjectActions.h"
 #include "mainwindow/ScanPage.h"
+#include "mainwindow/ScanProblemsLabel.h"
 #include "mainwindow/ScanRootList.h"
-#include "mainwindow/TCloudFolderDialog.h"
-#include "preferences/DFGenernalPreferences.h"
+#include "mainwindow/StartNotices.h"
+#include "mainwindow/TitleBar.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
-#include "preferences/DFSelectionPreferences.h"
-#include "results/CListViewDelegate.h"
-#include "results/TImageModel.h"
 #include "scancontrol/TControlUI.h"
 #include "settingsdialog/DFPreferencesDialog.h"
-#include "widgets/CRotateLabel.h"
-#include "widgets/RoundProgressBar.h"
 #include "widgets/RoundTextButton.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopServices>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QEventLoop>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
-#include <QScreen>
-#include <QSettings>
 #include <QStackedWidget>
-#include <QStandardItemModel>
 #include <QTimer>
-#include <QUrl>
 #include <QVBoxLayout>
-
-using MainWindowArt::iconButton;
-using MainWindowArt::picture;
 
 namespace {
 
 // The log tag of this file.
 const QString kTag = QStringLiteral("[MainWindows]: ");
-
-// Menu order of the languages and the index each stores under "Language".
-struct LanguageEntry
-{
-    const char *label;
-    int index;
-};
-const LanguageEntry kLanguages[] = {
-    {"English", 1},
-    {"Deutsch", 5},
-    {"Español", 6},
-    {"Français", 2},
-    {"Italiano", 4},
-    {"Português", 3},
-    {"\u65e5\u672c\u8a9e", 7},
-};
 
 } // namespace
 
@@ -127,12 +83,8 @@ MainWindow::MainWindow(const QStringList &arguments, QWidget *parent) : QMainWin
 
     // Settings that could not be read are in force as defaults and are not written back.
     if (const QString problem = DFPreferences::instance()->fileProblem(); !problem.isEmpty())
-        QTimer::singleShot(0, this, [this, problem] {
-            QMessageBox::warning(this, tr("Settings Not Loaded"),
-                tr("The settings file cannot be used: %1\n\nThe program runs with the default "
-                   "settings and will not save any changes there.")
-                    .arg(problem));
-        });
+        QTimer::singleShot(
+            0, this, [this, problem] { StartNotices::explainSettingsNotLoaded(this, problem); });
 
     // The marker is this window's own; the journal also tells of a batch that the command
     // line or another window left without an end.
@@ -178,6 +130,16 @@ QString MainWindow::cloudAccount() const
     return m_cloud->account();
 }
 
+QMenu *MainWindow::systemMenu() const
+{
+    return m_menus->systemMenu();
+}
+
+QMenu *MainWindow::addMenu() const
+{
+    return m_menus->addMenu();
+}
+
 // ----------------------------------------------------------------------------- layout
 
 void MainWindow::buildUi()
@@ -187,7 +149,7 @@ void MainWindow::buildUi()
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    buildTitleFrame(central);
+    m_titleFrame = new TitleBar(central);
     layout->addWidget(m_titleFrame);
 
     m_pages = new QStackedWidget(central);
@@ -206,16 +168,7 @@ void MainWindow::buildUi()
 
     // What the last scan could not read; shown under the scanning and "nothing found"
     // pages once a scan has ended with something left out.
-    m_labProblems = new QLabel(central);
-    m_labProblems->setObjectName(QStringLiteral("lab_scanProblems"));
-    m_labProblems->setTextFormat(Qt::RichText);
-    m_labProblems->setTextInteractionFlags(
-        Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    // One sentence a line: every sentence fits the narrowest window in all languages, and
-    // a wrapped label would be squeezed to a thin column between the stretches.
-    m_labProblems->setWordWrap(false);
-    m_labProblems->setAlignment(Qt::AlignCenter);
-    m_labProblems->setVisible(false);
+    m_labProblems = new ScanProblemsLabel(central);
     connect(m_labProblems, &QLabel::linkActivated, this, [this] { showProblemDetails(); });
     auto *problemRow = new QHBoxLayout;
     problemRow->setContentsMargins(40, 0, 40, 6);
@@ -252,111 +205,21 @@ void MainWindow::buildUi()
 
     connect(m_btnAdd, &QPushButton::clicked, this, &MainWindow::on_btnAdd_clicked);
     connect(m_btnScan, &QPushButton::clicked, this, &MainWindow::on_btn_scan_clicked);
-    connect(m_btnSet, &QPushButton::clicked, this, &MainWindow::on_btn_set_clicked);
-    connect(m_btnMinimize, &QPushButton::clicked, this, &QWidget::showMinimized);
-    connect(m_btnClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_titleFrame->settingsButton(), &QPushButton::clicked, this,
+        &MainWindow::on_btn_set_clicked);
+    connect(m_titleFrame->minimizeButton(), &QPushButton::clicked, this, &QWidget::showMinimized);
+    connect(m_titleFrame->closeButton(), &QPushButton::clicked, this, &QWidget::close);
     connect(m_folderPage, &FolderPage::previousClicked, this, &MainWindow::on_btn_pre_clicked);
     connect(m_folderPage, &FolderPage::nextClicked, this, &MainWindow::on_btn_next_clicked);
 }
 
-void MainWindow::buildTitleFrame(QWidget *parent)
-{
-    m_titleFrame = new QFrame(parent);
-    m_titleFrame->setObjectName(QStringLiteral("frame_title"));
-    m_titleFrame->setFixedHeight(48);
-    auto *layout = new QHBoxLayout(m_titleFrame);
-    layout->setContentsMargins(16, 0, 10, 0);
-    auto *logo = new QLabel(m_titleFrame);
-    logo->setObjectName(QStringLiteral("lab_logo"));
-    logo->setPixmap(picture(QStringLiteral("logo.png")));
-    m_title = new QLabel(m_titleFrame);
-    m_title->setObjectName(QStringLiteral("lab_title"));
-    m_btnSet = iconButton(m_titleFrame, QStringLiteral("btn_set"), QStringLiteral("btn_set.png"));
-    m_btnMenu
-        = iconButton(m_titleFrame, QStringLiteral("btn_menu"), QStringLiteral("btn_menu.png"));
-    m_btnMinimize = iconButton(
-        m_titleFrame, QStringLiteral("btn_minimize"), QStringLiteral("btn_minimize.png"));
-    m_btnClose
-        = iconButton(m_titleFrame, QStringLiteral("btn_close"), QStringLiteral("btn_close.png"));
-    layout->addWidget(logo);
-    layout->addWidget(m_title);
-    layout->addStretch(1);
-    layout->addWidget(m_btnSet);
-    layout->addWidget(m_btnMenu);
-    layout->addWidget(m_btnMinimize);
-    layout->addWidget(m_btnClose);
-}
-
 void MainWindow::buildMenus()
 {
-    m_addMenu = new QMenu(this);
-    m_addMenu->setObjectName(QStringLiteral("menu_add"));
-    m_addMenu->setProperty("iconMenu", true);
-    QAction *local
-        = m_addMenu->addAction(QIcon(QStringLiteral(":/resource/local.png")), tr("Local Computer"));
-    local->setObjectName(QStringLiteral("action_local"));
-    connect(local, &QAction::triggered, this, &MainWindow::on_local_menu_add_clicked);
-    m_addMenu->addSeparator();
-    m_addMenu->setToolTipsVisible(true);
-    QList<QAction *> cloudActions;
-    for (const int type : {1, 7, 5, 2}) {
-        const CloudService *service = CloudService::byType(type);
-        QAction *action
-            = m_addMenu->addAction(QIcon(TCloudFolderDialog::smallIcon(type)), service->name);
-        action->setObjectName(QStringLiteral("action_cloud_%1").arg(type));
-        action->setData(type);
-        connect(action, &QAction::triggered, this, &MainWindow::on_cloud_menu_clicked);
-        cloudActions << action;
-    }
-    // Without rclone the cloud entries say so where the user looks for them.
-    connect(m_addMenu, &QMenu::aboutToShow, this, [cloudActions] {
-        const QString missing = RcloneProcess::whyUnavailable();
-        for (QAction *action : cloudActions) {
-            const QString name = CloudService::byType(action->data().toInt())->name;
-            action->setText(missing.isEmpty() ? name : tr("%1 (needs rclone)").arg(name));
-            action->setToolTip(missing);
-        }
+    m_menus = new MainWindowMenus(this);
+    QPushButton *button = m_titleFrame->menuButton();
+    connect(button, &QPushButton::clicked, this, [this, button] {
+        m_menus->systemMenu()->popup(button->mapToGlobal(QPoint(0, button->height())));
     });
-
-    m_systemMenu = new QMenu(this);
-    m_systemMenu->setObjectName(QStringLiteral("menu_system"));
-    auto add = [this](const QString &text, const QString &name) {
-        QAction *action = m_systemMenu->addAction(text);
-        action->setObjectName(name);
-        return action;
-    };
-    // Entries that open a web page stay out of the menu when this build names none.
-    const bool help = !QStringLiteral(VELTRINE_HELP_URL).isEmpty();
-    const bool home = !QStringLiteral(VELTRINE_HOMEPAGE_URL).isEmpty();
-    add(tr("User Guide"), QStringLiteral("action_userGuide"))->setVisible(help);
-    add(tr("Product FAQ"), QStringLiteral("action_faq"))->setVisible(home);
-    add(tr("Feedback and Support"), QStringLiteral("action_feedback"))->setVisible(home);
-    add(tr("Check for Updates"), QStringLiteral("action_updates"))->setVisible(home);
-    add(tr("About"), QStringLiteral("action_about"));
-    m_languageMenu = m_systemMenu->addMenu(tr("Language"));
-    m_languageMenu->setObjectName(QStringLiteral("menu_language"));
-    m_languageGroup = new QActionGroup(this);
-    const int current = QSettings().value(SettingsKeys::language, 1).toInt();
-    for (const LanguageEntry &entry : kLanguages) {
-        QAction *action = m_languageMenu->addAction(QString::fromUtf8(entry.label));
-        action->setCheckable(true);
-        action->setData(entry.index);
-        action->setChecked(entry.index == current);
-        m_languageGroup->addAction(action);
-    }
-    connect(m_languageGroup, &QActionGroup::triggered, this, &MainWindow::languageSwitch);
-    add(tr("Show Log in Explorer"), QStringLiteral("action_showLog"));
-    add(tr("Open Data Folder"), QStringLiteral("action_dataFolder"));
-    m_systemMenu->addSeparator();
-    m_actOpenProject = add(tr("Open Project"), QStringLiteral("action_openProject"));
-    m_actSaveProject = add(tr("Save Project"), QStringLiteral("action_saveProject"));
-    m_actShowResults = add(tr("Show Results"), QStringLiteral("action_showResults"));
-    // The actions that follow the window state, in the order the state table names them.
-    m_stateActions
-        = {m_actOpenProject, m_languageMenu->menuAction(), m_actSaveProject, m_actShowResults};
-    connect(m_systemMenu, &QMenu::triggered, this, &MainWindow::onSystemMenuEvent);
-    connect(m_btnMenu, &QPushButton::clicked, this,
-        [this] { m_systemMenu->popup(m_btnMenu->mapToGlobal(QPoint(0, m_btnMenu->height()))); });
 }
 
 void MainWindow::connectController()
@@ -386,7 +249,7 @@ void MainWindow::setStatus(int state)
     auto enableActions = [this](std::initializer_list<bool> enabled) {
         int i = 0;
         for (bool on : enabled)
-            m_stateActions.at(i++)->setEnabled(on);
+            m_menus->stateAction(i++)->setEnabled(on);
     };
     switch (state) {
     case StateReady:
@@ -429,9 +292,9 @@ void MainWindow::setStatus(int state)
         m_btnAdd->setEnabled(false);
         m_pages->setCurrentIndex(1);
         m_scanPage->setRingValue(0);
-        m_stateActions.at(1)->setEnabled(false);
-        m_stateActions.at(2)->setEnabled(false);
-        m_stateActions.at(3)->setEnabled(false);
+        m_menus->stateAction(1)->setEnabled(false);
+        m_menus->stateAction(2)->setEnabled(false);
+        m_menus->stateAction(3)->setEnabled(false);
         break;
     default:
         break;
@@ -484,13 +347,9 @@ void MainWindow::deleteSelectPath(const QModelIndex &index)
 
 void MainWindow::on_local_menu_add_clicked()
 {
-    if (!m_folderPage->cloudFolders().isEmpty()) {
-        QMessageBox::information(this, tr("Note"),
-            tr("After adding cloud accounts and directories, local "
-               "directories can no longer be added."));
+    if (m_folderPage->refuseLocalBesideCloud())
         return;
-    }
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Select Folder"));
+    const QString folder = m_folderPage->chooseLocalFolder();
     if (folder.isEmpty())
         return;
     m_cloud->setCloudMode(false);
@@ -549,12 +408,8 @@ void MainWindow::dropEvent(QDropEvent *event)
 {
     if (m_state != StateReady)
         return;
-    if (!m_folderPage->cloudFolders().isEmpty()) {
-        QMessageBox::information(this, tr("Note"),
-            tr("After adding cloud accounts and directories, local "
-               "directories can no longer be added."));
+    if (m_folderPage->refuseLocalBesideCloud())
         return;
-    }
     m_cloud->setCloudMode(false);
     const QStringList paths = ScanRootList::droppedPaths(event->mimeData());
     event->acceptProposedAction();
@@ -569,7 +424,7 @@ void MainWindow::on_btnAdd_clicked()
     switch (m_state) {
     case StateReady:
         // The add menu is the way folders come in.
-        m_addMenu->popup(m_btnAdd->mapToGlobal(QPoint(0, m_btnAdd->height())));
+        m_menus->addMenu()->popup(m_btnAdd->mapToGlobal(QPoint(0, m_btnAdd->height())));
         break;
     case StateScanning:
         // A stopped scan ends with what it found so far.
@@ -692,56 +547,19 @@ void MainWindow::onPicturesCounted(int progressType, int done, int total)
 
 QString MainWindow::unreadableText(qint64 folders, qint64 files)
 {
-    // Counts past two thousand million are not expected; tr's %n takes an int.
-    const int f = int(std::min<qint64>(folders, INT_MAX));
-    const int n = int(std::min<qint64>(files, INT_MAX));
-    if (f > 0 && n > 0)
-        return tr("%1 and %2 could not be read.")
-            .arg(tr("%n folder(s)", nullptr, f), tr("%n file(s)", nullptr, n));
-    if (f > 0)
-        return tr("%n folder(s) could not be read.", nullptr, f);
-    if (n > 0)
-        return tr("%n file(s) could not be read.", nullptr, n);
-    return QString();
+    return ScanProblemsLabel::unreadableText(folders, files);
 }
 
 void MainWindow::clearScanProblems()
 {
-    m_problemSections.clear();
-    m_labProblems->clear();
-    m_labProblems->setVisible(false);
+    m_labProblems->clearProblems();
     m_noResultPage->showAllClear();
 }
 
 void MainWindow::showScanProblems(const ScanProblems &problems)
 {
     clearScanProblems();
-    const auto section = [&problems](const QString &title, ScanProblems::Kind kind) {
-        return ProblemListDialog::Section {title, problems.count(kind), problems.paths(kind)};
-    };
-    m_problemSections = {
-        section(tr("Folders that could not be read"), ScanProblems::UnreadableFolder),
-        section(tr("Files that could not be read"), ScanProblems::UnreadableFile),
-        section(tr("Links not followed because they lead outside the chosen folders"),
-            ScanProblems::LinkOutsideRoots),
-        section(tr("System folders not entered"), ScanProblems::PseudoFileSystem),
-    };
-    QStringList sentences;
-    const QString unreadable = unreadableText(problems.count(ScanProblems::UnreadableFolder),
-        problems.count(ScanProblems::UnreadableFile));
-    if (!unreadable.isEmpty())
-        sentences << unreadable;
-    if (const qint64 links = problems.count(ScanProblems::LinkOutsideRoots))
-        sentences << tr("%n link(s) leading outside the chosen folders were not followed.", nullptr,
-            int(std::min<qint64>(links, INT_MAX)));
-    if (!sentences.isEmpty()) {
-        for (QString &sentence : sentences)
-            sentence = sentence.toHtmlEscaped();
-        m_labProblems->setText(
-            QStringLiteral("%1 &nbsp;<a href=\"details\" style=\"color:#2f6fae;\">%2</a>")
-                .arg(sentences.join(QStringLiteral("<br>")), tr("Details").toHtmlEscaped()));
-        m_labProblems->setVisible(true);
-    }
+    m_labProblems->showProblems(problems);
     if (problems.allRootsUnreadable()) {
         m_noResultPage->showRootsUnreadable(problems.unreadableRoots() == 1);
         splog_d(kTag + QStringLiteral("No root of the scan could be read."));
@@ -750,21 +568,14 @@ void MainWindow::showScanProblems(const ScanProblems &problems)
 
 void MainWindow::showProblemDetails(QWidget *over)
 {
-    auto *dialog = new ProblemListDialog(m_problemSections, over ? over : this);
+    auto *dialog = new ProblemListDialog(m_labProblems->sections(), over ? over : this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
 
 void MainWindow::explainBadProjectArgument(const QString &path)
 {
-    const QFileInfo info(path);
-    splog_d(kTag + QStringLiteral("Project argument is not a file: %1").arg(path));
-    const QString shown = QDir::toNativeSeparators(info.absoluteFilePath());
-    QMessageBox::warning(this, tr("Open File"),
-        info.isDir() ? tr("\"%1\" is a folder, not a project file. To scan it, add it "
-                          "with the + button.")
-                           .arg(shown)
-                     : tr("The project file \"%1\" does not exist.").arg(shown));
+    StartNotices::explainBadProjectArgument(this, path);
 }
 
 bool MainWindow::hasResults() const
@@ -883,43 +694,19 @@ void MainWindow::onSaveProjectComplated(int flag)
 void MainWindow::onSystemMenuEvent(QAction *action)
 {
     const QString name = action->objectName();
-    const QString home = QStringLiteral(VELTRINE_HOMEPAGE_URL);
-    auto openAddress = [](const QString &address) {
-        if (!address.isEmpty())
-            QDesktopServices::openUrl(QUrl(address));
-    };
-    if (name == QLatin1String("action_userGuide"))
-        openAddress(QStringLiteral(VELTRINE_HELP_URL));
-    else if (name == QLatin1String("action_faq"))
-        openAddress(home.isEmpty() ? QString() : home + QStringLiteral("/faq"));
-    else if (name == QLatin1String("action_feedback"))
-        openAddress(home.isEmpty() ? QString() : home + QStringLiteral("/support"));
-    else if (name == QLatin1String("action_updates"))
-        openAddress(home.isEmpty() ? QString() : home + QStringLiteral("/download"));
-    else if (name == QLatin1String("action_about"))
-        QMessageBox::about(this, tr("About"),
-            tr("%1<br>Version %2 (%3)")
-                .arg(AppIdentity::applicationName, AppIdentity::version, AppIdentity::buildDate));
-    else if (name == QLatin1String("action_showLog"))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::logDirectory()));
-    else if (name == QLatin1String("action_dataFolder"))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(DataDirectory::base()));
-    else if (name == QLatin1String("action_openProject"))
+    if (name == QLatin1String("action_openProject"))
         m_projects->openProjectFromMenu();
     else if (name == QLatin1String("action_saveProject"))
         m_projects->saveProjectFromMenu();
     else if (name == QLatin1String("action_showResults"))
         openResultPage();
+    else
+        m_menus->runEntry(action);
 }
 
 void MainWindow::languageSwitch(QAction *action)
 {
-    const int index = action->data().toInt();
-    QSettings().setValue(SettingsKeys::language, index);
-    splog_d(kTag + QStringLiteral("Language switched to %1 for the next start.").arg(index));
-    QMessageBox::information(this, tr("Language"),
-        tr("The new language takes effect the next time the program "
-           "starts."));
+    m_menus->switchLanguage(action);
 }
 
 void MainWindow::retranslate()
@@ -934,7 +721,7 @@ void MainWindow::setTitle()
 {
     const QString title = m_projects->title();
     setWindowTitle(title);
-    m_title->setText(title);
+    m_titleFrame->setTitle(title);
     refreshCountLabel();
 }
 
@@ -959,40 +746,7 @@ void MainWindow::on_btn_set_clicked()
 
 void MainWindow::showAbnormalExitNotice()
 {
-    reportFeature(AppIdentity::featureDeletedExcept, QString());
-    RemovalJournal journal;
-    const RemovalJournal::Batch batch = journal.interruptedBatch();
-    QString text;
-    if (batch.id.isEmpty() || batch.signal == 0) {
-        text = tr("The program exited unexpectedly during the last batch deletion,<br>possibly "
-                  "due to interference from antivirus software.<br><br>Please disable your "
-                  "antivirus temporarily or add this application<br>to its whitelist to avoid "
-                  "deletion failures or crashes.");
-    } else {
-        text = tr("The last batch removal was stopped before it finished (signal %1).")
-                   .arg(batch.signal);
-    }
-    // The journal tells how far the interrupted batch got, item by item.
-    if (!batch.id.isEmpty()) {
-        const qsizetype removed = batch.count(RemovalJournal::removed);
-        const qsizetype unfinished = std::count_if(batch.items.cbegin(), batch.items.cend(),
-            [](const RemovalJournal::Item &item) { return item.intended && !item.hasOutcome; });
-        text += QStringLiteral("<br><br>")
-            + tr("Items handled before it stopped: %1 of %2 (%3 removed, %4 cut off in the "
-                 "middle).<br>The removal journal lists each one and where it went:<br>%5")
-                  .arg(batch.items.size())
-                  .arg(batch.planned)
-                  .arg(removed)
-                  .arg(unfinished)
-                  .arg(QDir::toNativeSeparators(journal.path()).toHtmlEscaped());
-        if (batch.restorable())
-            text += QStringLiteral("<br><br>")
-                + tr("The command line's \"restore %1\" puts its items back.").arg(batch.id);
-        journal.markNoticed(batch.id);
-    }
-    QMessageBox::information(this, tr("Abnormal Exit Detected During Last Deletion"), text);
-    DFPreferences::instance()->ignoreListPreferences()->setDeleteException(0);
-    DFPreferences::instance()->save();
+    StartNotices::showAbnormalExit(this);
 }
 
 // ----------------------------------------------------------------------------- window

@@ -12,17 +12,18 @@
 class CloudSignIn;
 class DailyRunReport;
 class FolderPage;
+class MainWindowMenus;
 class NoResultPage;
 class ProjectActions;
 class QAction;
-class QActionGroup;
-class QFrame;
 class QLabel;
 class QMenu;
 class QPushButton;
 class QStackedWidget;
 class ScanPage;
 class ScanProblems;
+class ScanProblemsLabel;
+class TitleBar;
 
 // The program's single window: collects the folders, starts and stops the scan through
 // the scan controller, shows its progress and leads to the results. Window states:
@@ -56,8 +57,8 @@ public:
     QStringList lastScanRoots() const { return m_lastScanRoots; }
     void setShowResultsWhenDone(bool show) { m_showResultsWhenDone = show; }
     ResultForm *resultPage() const { return m_resultPage; }
-    QMenu *systemMenu() const { return m_systemMenu; }
-    QMenu *addMenu() const { return m_addMenu; }
+    QMenu *systemMenu() const;
+    QMenu *addMenu() const;
 
     // Adds one folder to the list; false when it is already listed or not a folder.
     bool addFolder(const QString &path);
@@ -134,7 +135,6 @@ private:
     friend class ProjectActions;
 
     void buildUi();
-    void buildTitleFrame(QWidget *parent);
     void buildMenus();
     void connectController();
     // The scanning page from zero, for a scan that has just started.
@@ -162,31 +162,18 @@ private:
     // stopped before its end.
     bool m_scanRunning = false;
     bool m_scanStopped = false;
-    QList<ProblemListDialog::Section> m_problemSections;
 
     FolderPage *m_folderPage = nullptr;
     ScanPage *m_scanPage = nullptr;
     NoResultPage *m_noResultPage = nullptr;
     CloudSignIn *m_cloud = nullptr;
     ProjectActions *m_projects = nullptr;
-    QFrame *m_titleFrame = nullptr;
-    QLabel *m_title = nullptr;
+    TitleBar *m_titleFrame = nullptr;
     QStackedWidget *m_pages = nullptr;
-    QLabel *m_labProblems = nullptr;
+    ScanProblemsLabel *m_labProblems = nullptr;
     QPushButton *m_btnAdd = nullptr;
     QPushButton *m_btnScan = nullptr;
-    QPushButton *m_btnSet = nullptr;
-    QPushButton *m_btnMenu = nullptr;
-    QPushButton *m_btnMinimize = nullptr;
-    QPushButton *m_btnClose = nullptr;
-    QMenu *m_addMenu = nullptr;
-    QMenu *m_systemMenu = nullptr;
-    QMenu *m_languageMenu = nullptr;
-    QActionGroup *m_languageGroup = nullptr;
-    QList<QAction *> m_stateActions;
-    QAction *m_actShowResults = nullptr;
-    QAction *m_actOpenProject = nullptr;
-    QAction *m_actSaveProject = nullptr;
+    MainWindowMenus *m_menus = nullptr;
     DailyRunReport *m_runReport = nullptr;
     QPointer<ResultForm> m_resultPage;
     QPoint m_dragOffset;
