@@ -1,36 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cloud/CloudFolderInfo.h"
 #include "results/ResultForm.h"
 #include "widgets/ProblemListDialog.h"
 
 #include <QMainWindow>
 #include <QModelIndexList>
 #include <QPointer>
-#include <QSet>
 #include <QStringList>
 
-class CRotateLabel;
+class CloudSignIn;
 class DailyRunReport;
+class FolderPage;
+class MainWindowMenus;
+class NoResultPage;
+class ProjectActions;
 class QAction;
-class QActionGroup;
-class QFrame;
 class QLabel;
-class QListView;
 class QMenu;
-class QMessageBox;
 class QPushButton;
 class QStackedWidget;
-class QStandardItemModel;
-class RoundProgressBar;
+class ScanPage;
 class ScanProblems;
-class TOpenSaveThread;
+class ScanProblemsLabel;
+class TitleBar;
 
 // The program's single window: collects the folders, starts and stops the scan through
 // the scan controller, shows its progress and leads to the results. Window states:
 // 1 ready, 2 scanning, 3 paused (kept in the table; nothing enters it), 4 finished,
-// 5 opening a project.
+// 5 opening a project. The pages, the cloud side and the project files are parts of their
+// own; the window keeps the state, the bottom buttons, the menus and the result page.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -52,14 +51,14 @@ public:
 
     int state() const { return m_state; }
     int resultKind() const { return m_resultKind; }
-    QStringList folders() const { return m_folders; }
-    QString projectPath() const { return m_projectPath; }
+    QStringList folders() const;
+    QString projectPath() const;
     // The folders the last start handed to the controller (nested ones removed).
     QStringList lastScanRoots() const { return m_lastScanRoots; }
     void setShowResultsWhenDone(bool show) { m_showResultsWhenDone = show; }
     ResultForm *resultPage() const { return m_resultPage; }
-    QMenu *systemMenu() const { return m_systemMenu; }
-    QMenu *addMenu() const { return m_addMenu; }
+    QMenu *systemMenu() const;
+    QMenu *addMenu() const;
 
     // Adds one folder to the list; false when it is already listed or not a folder.
     bool addFolder(const QString &path);
@@ -81,9 +80,9 @@ public:
     // counts are 0.
     static QString unreadableText(qint64 folders, qint64 files);
     void setStatus(int state);
-    bool isCloudMode() const { return m_cloudMode; }
-    QStringList cloudFolders() const { return m_cloudFolders; }
-    QString cloudAccount() const { return m_cloudAccount; }
+    bool isCloudMode() const;
+    QStringList cloudFolders() const;
+    QString cloudAccount() const;
 
 public slots:
     void on_btnAdd_clicked();
@@ -131,42 +130,20 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    // The parts work on the window's state and its scan flow.
+    friend class CloudSignIn;
+    friend class ProjectActions;
+
     void buildUi();
-    void buildTitleFrame(QWidget *parent);
-    QWidget *buildFolderPage();
-    QWidget *buildScanPage();
-    QWidget *buildNoResultPage();
     void buildMenus();
     void connectController();
-    void connectCloud();
-    void startCloudScan();
     // The scanning page from zero, for a scan that has just started.
     void showScanStarted(bool local);
-    // One row of the folder list for a chosen cloud folder.
-    void addCloudRow(const CloudFolderInfo &folder);
     void refreshCountLabel();
     void updateFolderPageView();
     void startLocalScan();
     void openResultPage();
-    // Asks to save unsaved results: true to go on, false to stay (Cancel or failed save).
-    bool confirmDiscardResults();
-    // Runs a save and waits for its end while the window keeps painting.
-    bool saveProjectBlocking(const QString &path);
-    void saveProjectFromMenu();
-    // File dialog for a project, starting in the folder used last; the chosen folder is
-    // kept in the preferences ("SaveFolder") for the next time.
-    QString chooseProjectFile(bool save);
-    void rememberProjectFolder(const QString &path);
-    void openProjectFromMenu();
     bool hasResults() const;
-    // Results that would be lost: never saved, or changed since they were saved or opened.
-    bool resultsUnsaved() const;
-    // The page's Save: to the project file the results have, else to a file the user
-    // names.
-    void saveResults();
-    // Asks whether to save results that would be lost; false when the user cancels or the
-    // save fails. stopScanBeforeSaving: a running scan is stopped before a Yes saves.
-    bool askToSaveResults(bool stopScanBeforeSaving = false);
     void showAbnormalExitNotice();
     void clearScanProblems();
     // The one optional argument names something that is not a project file.
@@ -175,92 +152,28 @@ private:
     int m_state = StateReady;
     int m_resultKind = ResultsFound;
     bool m_showResultsWhenDone = true;
-    bool m_cloudMode = false;
-    QStringList m_folders;
-    QStringList m_cloudFolders;
-    QString m_cloudAccount;
-    int m_cloudType = 0;
-    // Set from a pick in the add menu until its sign-in answers; the box tells the user
-    // to finish it in the browser and can give it up.
-    bool m_signingIn = false;
-    // Services whose folders could not be listed: the next pick signs in anew.
-    QSet<int> m_newSignIn;
-    QPointer<QMessageBox> m_signInBox;
-    void showSignInBox(const QString &service);
-    void closeSignInBox();
-    // The groups of the running cloud scan, and why it failed if it did.
-    QHash<QString, QList<QString>> m_cloudGroups;
-    QString m_cloudFailure;
-    int m_cloudInteger = 20;
     QStringList m_lastScanRoots;
-    QString m_projectPath;
     qint64 m_filesScanned = 0;
     QString m_elapsed = QStringLiteral("00:00:00");
     // Set while the finished pages belong to a local scan started here: only then do the
     // controller's scan problems describe what is shown (not after a project or cloud scan).
     bool m_localScan = false;
-    // The last cloud scan was stopped or cut short.
-    bool m_cloudStopped = false;
     // A scan runs (not a project being opened); the results shown are those of a scan
     // stopped before its end.
     bool m_scanRunning = false;
     bool m_scanStopped = false;
-    // The store's revision when the results were last saved or opened.
-    quint64 m_savedRevision = 0;
-    // A project being opened, and what the window showed before.
-    QString m_openingPath;
-    struct BeforeOpen
-    {
-        int page = 0;
-        int state = StateReady;
-        bool showResultsWhenDone = true;
-        double ring = 0;
-        QString progress;
-    };
-    BeforeOpen m_beforeOpen;
-    void restoreBeforeOpen();
-    QList<ProblemListDialog::Section> m_problemSections;
 
-    QFrame *m_titleFrame = nullptr;
-    QLabel *m_title = nullptr;
+    FolderPage *m_folderPage = nullptr;
+    ScanPage *m_scanPage = nullptr;
+    NoResultPage *m_noResultPage = nullptr;
+    CloudSignIn *m_cloud = nullptr;
+    ProjectActions *m_projects = nullptr;
+    TitleBar *m_titleFrame = nullptr;
     QStackedWidget *m_pages = nullptr;
-    QLabel *m_background = nullptr;
-    QLabel *m_dragHint = nullptr;
-    QListView *m_pathView = nullptr;
-    QStandardItemModel *m_pathModel = nullptr;
-    QLabel *m_labNumber = nullptr;
-    CRotateLabel *m_animation = nullptr;
-    RoundProgressBar *m_ring = nullptr;
-    QLabel *m_labFileNumber = nullptr;
-    QLabel *m_labFindNumber = nullptr;
-    QLabel *m_labFindSize = nullptr;
-    QLabel *m_labProgress = nullptr;
-    QLabel *m_labFindTime = nullptr;
-    // What the scan is doing, or that it was stopped.
-    QLabel *m_labStage = nullptr;
-    // The file-type filter in force, when there is one.
-    QLabel *m_labFilter = nullptr;
-    QLabel *m_labProblems = nullptr;
-    QLabel *m_noResultRing = nullptr;
-    QLabel *m_noResultText = nullptr;
-    QLabel *m_labUnreadable = nullptr;
+    ScanProblemsLabel *m_labProblems = nullptr;
     QPushButton *m_btnAdd = nullptr;
     QPushButton *m_btnScan = nullptr;
-    QPushButton *m_btnSet = nullptr;
-    QPushButton *m_btnMenu = nullptr;
-    QPushButton *m_btnMinimize = nullptr;
-    QPushButton *m_btnClose = nullptr;
-    QPushButton *m_btnPre = nullptr;
-    QPushButton *m_btnNext = nullptr;
-    QMenu *m_addMenu = nullptr;
-    QMenu *m_systemMenu = nullptr;
-    QMenu *m_languageMenu = nullptr;
-    QActionGroup *m_languageGroup = nullptr;
-    QList<QAction *> m_stateActions;
-    QAction *m_actShowResults = nullptr;
-    QAction *m_actOpenProject = nullptr;
-    QAction *m_actSaveProject = nullptr;
-    TOpenSaveThread *m_projectThread = nullptr;
+    MainWindowMenus *m_menus = nullptr;
     DailyRunReport *m_runReport = nullptr;
     QPointer<ResultForm> m_resultPage;
     QPoint m_dragOffset;
