@@ -14,7 +14,7 @@
 #include "engine/ContentHash.h"
 #include "engine/PictureStage.h"
 #include "engine/TFileData.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <algorithm>
 
@@ -55,7 +55,7 @@ void CloudScan::set_common_config(const QJsonObject &config)
     m_commonConfig = config;
     m_minSize = qint64(config.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
     m_maxSize = qint64(config.value(SnapshotKeys::maxFileSize)
-                           .toDouble(double(PreferenceRanges::MaxFileSize.byDefault)))
+                           .toDouble(double(SettingsTable::MaxFileSize.byDefault)))
         << 20;
     m_skipHidden = config.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
     const auto list = [&config](QLatin1String key) {

@@ -2,7 +2,7 @@
 #include "engine/ScanFilters.h"
 
 #include "app/SnapshotKeys.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <QJsonArray>
 
@@ -10,7 +10,7 @@ void ScanFilters::apply(const QJsonObject &common)
 {
     minSize = static_cast<qint64>(common.value(SnapshotKeys::minFileSize).toDouble(0.0)) << 10;
     maxSize = static_cast<qint64>(common.value(SnapshotKeys::maxFileSize)
-                                      .toDouble(double(PreferenceRanges::MaxFileSize.byDefault)))
+                                      .toDouble(double(SettingsTable::MaxFileSize.byDefault)))
         << 20;
     skipHiddenSystem = common.value(SnapshotKeys::ignoreSystemHidden).toBool(true);
     scanFileType = common.value(SnapshotKeys::scanFileType).toInt(0);

@@ -9,7 +9,7 @@
 #include "pictures/SimilarityLinks.h"
 #include "pictures/TReadImage.h"
 #include "platform/Platform.h"
-#include "preferences/PreferenceRanges.h"
+#include "preferences/SettingsTable.h"
 
 #include <algorithm>
 #include <cstring>
@@ -112,8 +112,8 @@ void ImageCompareThread::applyConfig(const QJsonObject &config)
     m_isImageType = config.value(SnapshotKeys::isImageType).toBool();
     m_isImageSize = config.value(SnapshotKeys::isImageSize).toBool();
     m_imageMinSize = config.value(SnapshotKeys::imageMinSize).toInt();
-    if (m_imageMinSize > PreferenceRanges::imageMinSize.maximum)
-        m_imageMinSize = int(PreferenceRanges::imageMinSize.byDefault);
+    if (m_imageMinSize > SettingsTable::imageMinSize.maximum)
+        m_imageMinSize = int(SettingsTable::imageMinSize.byDefault);
     // A limit below 1 would leave no ratio interval at all; 1 compares equal ratios only.
     if (m_imageMinSize < 1)
         m_imageMinSize = 1;
