@@ -7,6 +7,8 @@
 #include "results/TImageModel.h"
 #include "ui_ResultForm.h"
 
+#include <algorithm>
+
 #include <QChart>
 #include <QChartView>
 #include <QGraphicsLayout>
@@ -122,7 +124,12 @@ void ResultChart::show(const FileCategoryStatsMap &result, int count, qlonglong 
         if (group.count > 0)
             reclaimable += group.totalSize - group.totalSize / group.count;
     ui->lab_total_size_2->setText(TImageModel::sizeText(reclaimable));
-    for (auto it = result.cbegin(); it != result.cend(); ++it) {
+    // In category order: the table's hash order changes from run to run, and the slices
+    // would trade places with it.
+    QList<int> categories = result.keys();
+    std::sort(categories.begin(), categories.end());
+    for (const int category : std::as_const(categories)) {
+        const auto it = result.constFind(category);
         const QString name = TPieChart::categoryName(it.key());
         const QString lower = chartLabelKey(it.key());
         splog_d(kTag + QStringLiteral("bulidPieChart %1 %2").arg(name, lower));
