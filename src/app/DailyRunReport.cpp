@@ -3,6 +3,7 @@
 
 #include "app/AppIdentity.h"
 #include "app/BuildSettings.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 
 #include <QJsonArray>
@@ -19,7 +20,7 @@
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 const QString kClientIdKey = QStringLiteral("ClientID");
 const QString kLastDateKey = QStringLiteral("LastRunSuccessDate");
 } // namespace

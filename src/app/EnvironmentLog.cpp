@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/EnvironmentLog.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 
 #include <QFile>
@@ -12,7 +13,7 @@
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 } // namespace
 

@@ -2,13 +2,13 @@
 #include "cloud/CloudScan.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "cloud/CloudHashKinds.h"
 #include "cloud/CloudMembers.h"
 #include "cloud/CloudPath.h"
 #include "cloud/CloudSession.h"
-#include "cloud/KvCloudLog.h"
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneClient.h"
 #include "engine/ContentHash.h"
@@ -28,7 +28,7 @@
 
 namespace {
 
-using KvCloudLog::kTag;
+const QString &kTag = LogTags::cloud;
 
 constexpr qint64 kCountStep = 1000;
 // What a download must leave free on the disk of the download folder.

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cloud/CloudSession.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/CloudMembers.h"
 #include "cloud/CloudService.h"
-#include "cloud/KvCloudLog.h"
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneClient.h"
 
 #include <QTimer>
 
-using KvCloudLog::kTag;
+const QString &kTag = LogTags::cloud;
 
 CloudSession::CloudSession(KvCloudObject &cloud, CloudMembers &members)
     : QObject(&cloud)

@@ -2,6 +2,7 @@
 #include "engine/ContentKeyCache.h"
 
 #include "app/DataDirectory.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/FileStamp.h"
 
@@ -20,7 +21,7 @@
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[ContentKeyCache]: ");
+const QString &kTag = LogTags::keyCache;
 
 constexpr int kSampledFlag = 1;
 constexpr int kFullFlag = 2;

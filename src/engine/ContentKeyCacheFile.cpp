@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/ContentKeyCacheFile.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/ContentKeyCache.h"
 
@@ -23,7 +24,7 @@
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[ContentKeyCache]: ");
+const QString &kTag = LogTags::keyCache;
 
 constexpr int kBusyBudgetMs = ContentKeyCache::kBusyBudgetMs;
 constexpr int kBusyQuietMs = ContentKeyCache::kBusyQuietMs;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/LogTags.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -9,7 +11,7 @@
 namespace FinderCommon {
 
 // The log tag of the duplicate finder's parts.
-inline const QString kTag = QStringLiteral("[TDuplicateFinleFinder]: ");
+inline const QString &kTag = LogTags::duplicateFinder;
 
 inline QByteArray hexKey(quint64 digest)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/SampledKey.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "platform/Platform.h"
 
@@ -19,7 +20,7 @@
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[TDuplicateFinleFinder]: ");
+const QString &kTag = LogTags::duplicateFinder;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fileops/CloudRemover.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/CloudPath.h"
 #include "cloud/KvCloudObject.h"
@@ -14,7 +15,7 @@
 
 namespace {
 // The cloud source's own tag: these lines belong to its removals.
-const QString kTag = QStringLiteral("[KvCloudObject]: ");
+const QString &kTag = LogTags::cloud;
 const QString kJournalSource = QStringLiteral("cloud");
 } // namespace
 

@@ -3,6 +3,7 @@
 
 #include "app/AppIdentity.h"
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "fileops/ProjectFileFormat.h"
@@ -17,7 +18,7 @@ using namespace ProjectFileFormat;
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[TOpenSaveThread]: ");
+const QString &kTag = LogTags::projectFiles;
 
 bool readInteger(const QXmlStreamAttributes &attributes, const QString &name, qint64 &value)
 {

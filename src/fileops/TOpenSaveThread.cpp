@@ -3,6 +3,7 @@
 
 #include "app/AppIdentity.h"
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "engine/TFileData.h"
@@ -32,7 +33,7 @@ namespace {
 using ReadGroup = ProjectFileReader::Group;
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[TOpenSaveThread]: ");
+const QString &kTag = LogTags::projectFiles;
 
 // Whether text holds a character XML 1.0 cannot carry unchanged: controls (tab, line
 // feed and carriage return too, which a reader may turn into spaces or drop), unpaired

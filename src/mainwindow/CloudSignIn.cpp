@@ -3,6 +3,7 @@
 
 #include "app/DataDirectory.h"
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
@@ -29,7 +30,7 @@ namespace {
 // The log tag of the cloud's own lines.
 const QString kCloudTag = QStringLiteral("[KvCloudObject]:");
 
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "mainwindow/FolderPage.h"
 
 #include "app/LanguageSetup.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/MainWindowArt.h"
@@ -26,7 +27,7 @@ using MainWindowArt::picture;
 
 namespace {
 
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 } // namespace
 

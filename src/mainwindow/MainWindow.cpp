@@ -5,6 +5,7 @@
 #include "app/BuildSettings.h"
 #include "app/DailyRunReport.h"
 #include "app/EnvironmentLog.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
 #include "engine/ScanProblems.h"
@@ -46,7 +47,7 @@
 namespace {
 
 // The log tag of this file.
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "app/AppIdentity.h"
 #include "app/BuildSettings.h"
 #include "app/DataDirectory.h"
+#include "app/LogTags.h"
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "cloud/CloudService.h"
@@ -21,7 +22,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 // Menu order of the languages and the index each stores under "Language".
 struct LanguageEntry

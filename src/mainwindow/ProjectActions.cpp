@@ -2,6 +2,7 @@
 #include "mainwindow/ProjectActions.h"
 
 #include "app/AppIdentity.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
@@ -19,7 +20,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 } // namespace
 

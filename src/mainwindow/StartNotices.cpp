@@ -3,6 +3,7 @@
 
 #include "app/AppIdentity.h"
 #include "app/FeatureReporter.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "fileops/RemovalJournal.h"
 #include "mainwindow/MainWindow.h"
@@ -15,7 +16,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[MainWindows]: ");
+const QString &kTag = LogTags::mainWindow;
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "pictures/ImageCompareThread.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
@@ -26,8 +27,8 @@
 namespace {
 
 // The log tags of this file.
-const QString kTag = QStringLiteral("[TImageCompareThread]: ");
-const QString kOpenCvTag = QStringLiteral("[ImageCompareThread] ");
+const QString &kTag = LogTags::imageCompare;
+const QString &kOpenCvTag = LogTags::openCv;
 
 // The preference value that means "no automatic selection".
 constexpr int kNoSelectedHint = 8;

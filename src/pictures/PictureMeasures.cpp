@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/PictureMeasures.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 
 #include <algorithm>
@@ -14,8 +15,8 @@
 namespace {
 
 // The log tags of this file.
-const QString kTag = QStringLiteral("[TImageCompareThread]: ");
-const QString kOpenCvTag = QStringLiteral("[ImageCompareThread] ");
+const QString &kTag = LogTags::imageCompare;
+const QString &kOpenCvTag = LogTags::openCv;
 const QString kImageDataTag = QStringLiteral("[ImageData] ");
 
 // Fixed seed of OpenCV's generator before each LSH index, so that re-runs agree.

@@ -2,6 +2,7 @@
 #include "results/ResultChart.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/TFileData.h"
 #include "results/TImageModel.h"
@@ -18,7 +19,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[TResultForm]: ");
+const QString &kTag = LogTags::resultForm;
 
 // Middle part of the names of a category's count and size labels beside the chart
 // ("lab_images_num"): fixed, whatever the language.

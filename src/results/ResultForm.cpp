@@ -5,6 +5,7 @@
 #include "app/FeatureReporter.h"
 #include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
+#include "app/LogTags.h"
 #include "app/SettingsKeys.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
@@ -35,7 +36,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[TResultForm]: ");
+const QString &kTag = LogTags::resultForm;
 } // namespace
 
 ResultForm::ResultForm(QWidget *parent, bool isCloud, KvCloudObject *cloud)

@@ -3,6 +3,7 @@
 
 #include "app/AppIdentity.h"
 #include "app/FileTypeCatalogue.h"
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
 #include "engine/FileStamp.h"
@@ -30,7 +31,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[TResultForm]: ");
+const QString &kTag = LogTags::resultForm;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/ShowInFolder.h"
 
+#include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "platform/Platform.h"
 #include "results/ResultForm.h"
@@ -14,7 +15,7 @@
 
 namespace {
 
-const QString kTag = QStringLiteral("[TResultForm]: ");
+const QString &kTag = LogTags::resultForm;
 
 } // namespace
 
