@@ -147,7 +147,6 @@ private:
     mutable QMutex m_mutex;
     std::atomic<qint64> stopRequested {0};
     QElapsedTimer m_timer;
-    QReadWriteLock m_lock;
     std::atomic<int> duplicateFileCount {0};
     std::atomic<qint64> duplicateTotalSize {0};
     QJsonObject config;
@@ -174,8 +173,6 @@ private:
     std::atomic<qint64> m_lastReportMs {0};
     ContentKeyCache::Options m_cacheOptions;
     OverlappedKeyReader *m_reader = nullptr;
-    // Group key of every file group touched by a folder with duplicates.
-    QSet<QString> m_folderGroupKeys;
     DuplicateFolderMatcher m_folders {stopRequested, duplicateFileCount, duplicateTotalSize};
     DuplicateKeyReader m_keyReader {m_table, stopRequested};
 };

@@ -23,7 +23,6 @@
 #include <xxhash.h>
 
 #ifdef Q_OS_UNIX
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -127,38 +126,6 @@ bool streamKeyAt(int dirfd, const char *name, int driveType, quint64 &key, const
     return ok;
 }
 
-// Counts the plain files of a folder the way a directory listing of files only does:
-// regular files and links to them, hidden (dot) entries not counted.
-int countPlainFiles(const QString &folder)
-{
-    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-    if (!dir)
-        return -1;
-    const int fd = ::dirfd(dir);
-    int count = 0;
-    while (const dirent *entry = ::readdir(dir)) {
-        if (entry->d_name[0] == '.')
-            continue;
-        if (entry->d_type == DT_REG) {
-            ++count;
-            continue;
-        }
-        if (entry->d_type != DT_LNK && entry->d_type != DT_UNKNOWN)
-            continue;
-        struct stat info
-        {
-        };
-        if (::fstatat(fd, entry->d_name, &info, 0) == 0 && S_ISREG(info.st_mode))
-            ++count;
-    }
-    ::closedir(dir);
-    return count;
-}
-#else
-int countPlainFiles(const QString &folder)
-{
-    return QDir(folder).entryList(QDir::Files).size();
-}
 #endif
 
 } // namespace
