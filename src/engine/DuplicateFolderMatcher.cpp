@@ -7,25 +7,16 @@
 #include "engine/FinderCommon.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/TFileData.h"
+#include "platform/FolderReader.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include <QDataStream>
-#include <QDir>
-#include <QFileInfo>
 #include <QMutexLocker>
 #include <QtConcurrent>
 
 #define XXH_STATIC_LINKING_ONLY
 #include <xxhash.h>
-
-#ifdef Q_OS_UNIX
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 using FinderCommon::fileNameOf;
 using FinderCommon::folderOf;
@@ -47,12 +38,20 @@ bool isBelow(const QString &path, const QString &folder)
 // Whether a folder that holds no duplicate file holds anything but empty folders.
 bool holdsAnything(const QString &folder)
 {
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QFileInfo &entry : entries)
-        if (entry.isSymLink() || !entry.isDir() || holdsAnything(entry.filePath()))
+    // A folder that cannot be listed may hold anything.
+    platform::FolderReader reader(FilePathCodec::encode(folder).toStdString());
+    if (reader.error())
+        return true;
+    platform::EntryInfo info;
+    while (reader.next()) {
+        if (reader.stat(info) != 0 || info.kind != platform::EntryInfo::Folder)
             return true;
-    return !QFileInfo(folder).isReadable();
+        const QString child = folder + QLatin1Char('/')
+            + FilePathCodec::decode(reader.name(), qsizetype(reader.nameLength()));
+        if (holdsAnything(child))
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -116,32 +115,26 @@ DuplicateFolderMatcher::FolderDigest DuplicateFolderMatcher::digestFolder(const 
     FolderDigest digest;
     const DirMatchInfo info = dirTable.value(folder);
     const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
-#ifdef Q_OS_UNIX
-    DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-    if (!dir)
+    platform::FolderReader reader(FilePathCodec::encode(folder).toStdString());
+    if (reader.error())
         return digest;
-    const int fd = ::dirfd(dir);
     bool complete = true;
-    while (const dirent *entry = ::readdir(dir)) {
-        const char *name = entry->d_name;
-        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-            continue;
-        struct stat status
-        {
-        };
-        if (::fstatat(fd, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    platform::EntryInfo status;
+    while (reader.next()) {
+        if (reader.stat(status) != 0) {
             complete = false;
             break;
         }
-        const QString entryName = FilePathCodec::decode(name, qsizetype(std::strlen(name)));
-        if (S_ISREG(status.st_mode)) {
+        const QString entryName
+            = FilePathCodec::decode(reader.name(), qsizetype(reader.nameLength()));
+        if (status.kind == platform::EntryInfo::File) {
             const qsizetype at = info.names.indexOf(entryName);
             if (at < 0) {
                 complete = false;
                 break;
             }
             digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
-        } else if (S_ISDIR(status.st_mode)) {
+        } else if (status.kind == platform::EntryInfo::Folder) {
             const QString child = prefix + entryName;
             if (candidates.contains(child)) {
                 const FolderDigest sub = below.value(child);
@@ -160,37 +153,7 @@ DuplicateFolderMatcher::FolderDigest DuplicateFolderMatcher::digestFolder(const 
             break;
         }
     }
-    ::closedir(dir);
     digest.complete = complete;
-#else
-    const QFileInfoList entries = QDir(folder).entryInfoList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    digest.complete = QFileInfo(folder).isReadable();
-    for (const QFileInfo &entry : entries) {
-        if (entry.isSymLink()) {
-            digest.complete = false;
-        } else if (entry.isFile()) {
-            const qsizetype at = info.names.indexOf(entry.fileName());
-            if (at < 0) {
-                digest.complete = false;
-            } else {
-                digest.add(FolderDigest::ofFile(info.contentKeys.at(at), info.sizes.at(at)));
-            }
-        } else if (entry.isDir()) {
-            const QString child = prefix + entry.fileName();
-            const FolderDigest sub = below.value(child);
-            if (candidates.contains(child) && sub.complete) {
-                digest.add(sub);
-            } else if (candidates.contains(child) || holdsAnything(child)) {
-                digest.complete = false;
-            }
-        } else {
-            digest.complete = false;
-        }
-        if (!digest.complete)
-            break;
-    }
-#endif
     return digest;
 }
 

@@ -2,49 +2,40 @@
 #include "engine/FileStamp.h"
 
 #include "engine/FilePathCodec.h"
+#include "platform/FolderReader.h"
 #include "platform/Platform.h"
 
 #include <chrono>
 
-#include <QDateTime>
-#include <QFileInfo>
-
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
+#include <QtGlobal>
 
 FileStamp FileStamp::of(const QString &path)
 {
+    platform::EntryInfo info;
+    if (platform::entryInfoOf(FilePathCodec::encode(path).toStdString(), false, info) != 0
+        || info.kind != platform::EntryInfo::File)
+        return {};
+    return fromEntry(info);
+}
+
+FileStamp FileStamp::fromEntry(const platform::EntryInfo &info)
+{
     FileStamp stamp;
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::lstat(FilePathCodec::encode(path).constData(), &info) != 0 || !S_ISREG(info.st_mode))
-        return stamp;
-    return fromStat(info);
-#else
-    const QFileInfo info(path);
-    if (!info.isFile() || info.isSymLink())
-        return stamp;
-    stamp.size = info.size();
-    stamp.modifiedNs = info.lastModified().toMSecsSinceEpoch() * 1000000LL;
-#endif
+    stamp.size = info.size;
+    stamp.modifiedNs = info.modifiedNs;
+    stamp.changedNs = info.changedNs;
+    stamp.device = quint64(info.device);
+    stamp.inode = quint64(info.inode);
     return stamp;
 }
 
-#ifdef Q_OS_UNIX
-FileStamp FileStamp::fromStat(const struct stat &info)
+FileStamp FileStamp::ofOpenFile(int fd)
 {
-    FileStamp stamp;
-    stamp.size = info.st_size;
-    stamp.modifiedNs = platform::nanosecondsOf(info.st_mtim);
-    stamp.changedNs = platform::nanosecondsOf(info.st_ctim);
-    stamp.device = quint64(info.st_dev);
-    stamp.inode = quint64(info.st_ino);
-    return stamp;
+    platform::EntryInfo info;
+    if (platform::entryInfoOfOpenFile(fd, info) != 0)
+        return {};
+    return fromEntry(info);
 }
-#endif
 
 qint64 FileStamp::settleNs()
 {

@@ -5,7 +5,9 @@
 
 #include <QString>
 
-struct stat;
+namespace platform {
+struct EntryInfo;
+}
 
 // What a file looked like when the scan read it: its size, modification time and
 // identity (device and inode). The removal compares the file with it just before it acts,
@@ -61,10 +63,10 @@ struct FileStamp
     // The stamp of a regular file at path (the link itself is not followed); an invalid
     // stamp when there is no regular file there.
     static FileStamp of(const QString &path);
-#ifdef Q_OS_UNIX
-    // The stamp an lstat/fstat answer gives, whatever the kind of entry.
-    static FileStamp fromStat(const struct stat &info);
-#endif
+    // The stamp of an entry as the system told of it, whatever its kind.
+    static FileStamp fromEntry(const platform::EntryInfo &info);
+    // The stamp of the file open as fd; an invalid stamp when the system cannot tell.
+    static FileStamp ofOpenFile(int fd);
     // The same, carrying the whole-content key the scan just computed, unless the file
     // has not settled().
     static FileStamp withContentKey(const QString &path, quint64 key);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "engine/ReadPermission.h"
+#include "platform/FolderReader.h"
 
 #include <unordered_set>
 #include <vector>
@@ -50,7 +50,6 @@ struct ScanSeen
     IdentitySet linkedFiles;
     // Device numbers of pseudo file systems, never entered.
     std::vector<unsigned long long> pseudoDevices;
-#ifdef Q_OS_UNIX
-    ReadPermission permission;
-#endif
+    // This process's credentials, for telling a file it may read from the walk's stat.
+    platform::ReadAccess permission;
 };

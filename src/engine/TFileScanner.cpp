@@ -5,6 +5,7 @@
 #include "engine/DriveTypeCache.h"
 #include "engine/FilePathCodec.h"
 #include "engine/ScanSeen.h"
+#include "platform/FolderReader.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
@@ -24,14 +25,6 @@
 #include <QThreadPool>
 #include <QWaitCondition>
 
-#ifdef Q_OS_UNIX
-#include <cerrno>
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
-
 namespace {
 
 // The log tags of this file.
@@ -47,6 +40,12 @@ constexpr qint64 kOutboxMs = 20;
 QString joinPath(const QString &folder, const QString &name)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
+// The system's words for an error code of the platform layer.
+QString systemText(int error)
+{
+    return QString::fromLocal8Bit(platform::current().errorText(error).c_str());
 }
 
 QByteArray joinNative(const QByteArray &folder, const char *name)
@@ -167,12 +166,12 @@ TFileScanner::Root TFileScanner::resolveRoot(const QString &root) const
     Root resolved;
     resolved.path = QDir::cleanPath(QFileInfo(root).absoluteFilePath());
     resolved.native = FilePathCodec::encode(resolved.path);
-#ifdef Q_OS_UNIX
     // The walk runs on the real path, so every reported path is free of links and a
     // link's target can be told to lie inside a root by its path alone.
-    if (char *real = ::realpath(resolved.native.constData(), nullptr)) {
-        const QByteArray native(real);
-        std::free(real);
+    int error = 0;
+    const std::string real = platform::realPathOf(resolved.native.toStdString(), error);
+    if (!real.empty()) {
+        const QByteArray native = QByteArray::fromStdString(real);
         if (native != resolved.native) {
             splog_d(kTag
                 + QStringLiteral("Root [%1] is scanned as [%2].")
@@ -181,12 +180,6 @@ TFileScanner::Root TFileScanner::resolveRoot(const QString &root) const
             resolved.path = FilePathCodec::decode(native);
         }
     }
-#else
-    const QString canonical = QFileInfo(resolved.path).canonicalFilePath();
-    if (!canonical.isEmpty())
-        resolved.path = canonical;
-    resolved.native = FilePathCodec::encode(resolved.path);
-#endif
     return resolved;
 }
 
@@ -199,9 +192,7 @@ void TFileScanner::noteProblem(ScanProblems::Kind kind, const QString &path)
 void TFileScanner::unreadableFile(const QString &path, int error)
 {
     splog_repeated("[TFileScanner]: Cannot read file",
-        kTag
-            + QStringLiteral("Cannot read file, skipped: [%1]. %2")
-                  .arg(path, QString::fromLocal8Bit(std::strerror(error))));
+        kTag + QStringLiteral("Cannot read file, skipped: [%1]. %2").arg(path, systemText(error)));
     noteProblem(ScanProblems::UnreadableFile, path);
 }
 
@@ -247,7 +238,6 @@ void TFileScanner::send(Outbox &outbox)
     outbox.files = 0;
 }
 
-#ifdef Q_OS_UNIX
 // One folder being listed: what its entries share.
 struct TFileScanner::Listing
 {
@@ -255,8 +245,7 @@ struct TFileScanner::Listing
     ScanBatch &batch;
     QList<FileMeta> &metas;
     bool filtered = false;
-    DIR *dir = nullptr;
-    int fd = -1;
+    platform::FolderReader reader;
     QString prefix;
     std::vector<Identity> singles;
 };
@@ -264,49 +253,40 @@ struct TFileScanner::Listing
 bool TFileScanner::openListing(Listing &listing)
 {
     const Folder &folder = listing.folder;
-    DIR *dir = ::opendir(folder.native.constData());
-    if (!dir) {
-        const int error = errno;
+    if (const int error = listing.reader.error()) {
         // A sub-folder removed while the walk ran held nothing to lose; anything else
         // is a folder the user will want to hear about.
-        if (error == ENOENT && !folder.root)
+        if (platform::isNotFoundError(error) && !folder.root)
             return false;
         splog_repeated("[TFileScanner]: Cannot read folder",
             kTag
                 + QStringLiteral("Cannot read folder, skipped: [%1]. %2")
-                      .arg(folder.path, QString::fromLocal8Bit(std::strerror(error))));
+                      .arg(folder.path, systemText(error)));
         if (folder.root && m_problems)
             m_problems->addUnreadableRoot(folder.path);
         else
             noteProblem(ScanProblems::UnreadableFolder, folder.path);
         return false;
     }
-    const int fd = ::dirfd(dir);
-    struct stat info
-    {
-    };
-    if (::fstat(fd, &info) == 0) {
-        listing.batch.device = quint64(info.st_dev);
-        const Identity id {static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
+    platform::EntryInfo info;
+    if (listing.reader.folderInfo(info) == 0) {
+        listing.batch.device = quint64(info.device);
         const auto &pseudo = m_seen->pseudoDevices;
-        if (std::find(pseudo.begin(), pseudo.end(), info.st_dev) != pseudo.end()) {
-            ::closedir(dir);
+        if (std::find(pseudo.begin(), pseudo.end(), info.device) != pseudo.end()) {
             splog_d(
                 kTag + QStringLiteral("Pseudo file system, not entered: [%1].").arg(folder.path));
             noteProblem(ScanProblems::PseudoFileSystem, folder.path);
             return false;
         }
         QMutexLocker locker(&m_seen->mutex);
-        if (!m_seen->folders.insert(id).second) {
+        if (info.hasIdentity()
+            && !m_seen->folders.insert(Identity {info.device, info.inode}).second) {
             locker.unlock();
-            ::closedir(dir);
             splog_d(
                 kTag + QStringLiteral("Folder already scanned, skipped: [%1].").arg(folder.path));
             return false;
         }
     }
-    listing.dir = dir;
-    listing.fd = fd;
     listing.prefix
         = folder.path.endsWith(QLatin1Char('/')) ? folder.path : folder.path + QLatin1Char('/');
     return true;
@@ -314,23 +294,21 @@ bool TFileScanner::openListing(Listing &listing)
 
 bool TFileScanner::listEntries(WalkState &state, Listing &listing)
 {
+    using platform::EntryInfo;
     const Folder &folder = listing.folder;
     const bool filtered = listing.filtered;
     const platform::Platform &os = platform::current();
+    platform::FolderReader &reader = listing.reader;
     // A file's full path string is only built when something needs it: the ignore
     // list, the per-file signals or a message.
     const bool pathPerEntry = (filtered && m_filters.hasIgnoredPaths()) || m_perFileSignals;
     const bool typeFilters = filtered && m_filters.hasTypeFilters();
-    struct stat info
-    {
-    };
-    while (const dirent *entry = ::readdir(listing.dir)) {
+    EntryInfo info;
+    while (reader.next()) {
         if (isStopRequested())
             return false;
-        const char *name = entry->d_name;
-        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-            continue;
-        const qsizetype nameLength = qsizetype(std::strlen(name));
+        const char *name = reader.name();
+        const qsizetype nameLength = qsizetype(reader.nameLength());
         const auto pathOf
             = [&] { return listing.prefix + FilePathCodec::decode(name, nameLength); };
         const QString path = pathPerEntry ? pathOf() : QString();
@@ -339,40 +317,31 @@ bool TFileScanner::listEntries(WalkState &state, Listing &listing)
         if (filtered && m_filters.skipsHiddenAndSystem()
             && os.isHiddenOrSystem(joinNative(folder.native, name).toStdString()))
             continue;
-        unsigned char type = entry->d_type;
+        EntryInfo::Kind kind = reader.listedKind();
         bool haveStat = false;
-        if (type == DT_UNKNOWN || type == DT_REG) {
-            if (::fstatat(listing.fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0) {
-                const int error = errno;
-                if (error != ENOENT)
+        if (kind == EntryInfo::Unknown || kind == EntryInfo::File) {
+            if (const int error = reader.stat(info)) {
+                if (!platform::isNotFoundError(error))
                     unreadableFile(pathOf(), error);
                 continue;
             }
             haveStat = true;
-            if (S_ISDIR(info.st_mode))
-                type = DT_DIR;
-            else if (S_ISLNK(info.st_mode))
-                type = DT_LNK;
-            else if (S_ISREG(info.st_mode))
-                type = DT_REG;
-            else
-                type = DT_UNKNOWN;
+            kind = info.kind;
         }
-        if (type == DT_DIR) {
+        if (kind == EntryInfo::Folder) {
             QMutexLocker locker(&state.mutex);
             state.queue.push_back(
                 Folder {pathOf(), joinNative(folder.native, name), folder.driveType});
             state.wake.wakeOne();
-        } else if (type == DT_LNK) {
+        } else if (kind == EntryInfo::Link) {
             QMutexLocker locker(&state.mutex);
             state.links.push_back(
                 Folder {pathOf(), joinNative(folder.native, name), folder.driveType});
-        } else if (type == DT_REG && haveStat) {
-            if (filtered && m_filters.isOutsideSizeRange(info.st_size))
+        } else if (kind == EntryInfo::File && haveStat) {
+            if (filtered && m_filters.isOutsideSizeRange(info.size))
                 continue;
             if (typeFilters
-                && !m_filters.passesFileFilters(
-                    FilePathCodec::decode(name, nameLength), info.st_size))
+                && !m_filters.passesFileFilters(FilePathCodec::decode(name, nameLength), info.size))
                 continue;
             acceptFile(listing, name, nameLength, info, path);
         }
@@ -382,17 +351,18 @@ bool TFileScanner::listEntries(WalkState &state, Listing &listing)
 }
 
 void TFileScanner::acceptFile(Listing &listing, const char *name, qsizetype nameLength,
-    const struct stat &info, const QString &path)
+    const platform::EntryInfo &info, const QString &path)
 {
     ScanBatch &batch = listing.batch;
     // A file nobody may read can never be compared: it is counted, not
     // reported.
-    if (!m_seen->permission.byMode(info) && ::faccessat(listing.fd, name, R_OK, AT_EACCESS) != 0) {
-        unreadableFile(listing.prefix + FilePathCodec::decode(name, nameLength), EACCES);
+    if (!listing.reader.mayRead(m_seen->permission)) {
+        unreadableFile(listing.prefix + FilePathCodec::decode(name, nameLength),
+            platform::accessDeniedError());
         return;
     }
-    const Identity id {static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
-    if (info.st_nlink > 1) {
+    const Identity id {info.device, info.inode};
+    if (info.links > 1) {
         QMutexLocker locker(&m_seen->mutex);
         if (!m_seen->multiLinkFiles.insert(id).second)
             return;
@@ -401,26 +371,26 @@ void TFileScanner::acceptFile(Listing &listing, const char *name, qsizetype name
         if (m_seen->linkedFiles.count(id))
             return;
         listing.singles.push_back(id);
-    } else {
+    } else if (info.hasIdentity()) {
         listing.singles.push_back(id);
     }
     ScanBatch::Stat stat;
     if (id.device == batch.device && batch.device != 0) {
         stat.inode = id.inode;
-        stat.modifiedNs = platform::nanosecondsOf(info.st_mtim);
-        stat.changedNs = platform::nanosecondsOf(info.st_ctim);
+        stat.modifiedNs = info.modifiedNs;
+        stat.changedNs = info.changedNs;
     }
-    reportFile(batch, listing.metas, info.st_size, name, path, listing.filtered, stat);
+    reportFile(batch, listing.metas, info.size, name, path, listing.filtered, stat);
 }
 
 bool TFileScanner::listFolder(WalkState &state, const Folder &folder, bool filtered,
     ScanBatch &batch, QList<FileMeta> &metas, bool &completed)
 {
-    Listing listing {folder, batch, metas, filtered};
+    Listing listing {
+        folder, batch, metas, filtered, platform::FolderReader(folder.native.toStdString())};
     if (!openListing(listing))
         return false;
     const bool cut = !listEntries(state, listing);
-    ::closedir(listing.dir);
     if (!listing.singles.empty()) {
         QMutexLocker locker(&m_seen->mutex);
         m_seen->singleFiles.insert(
@@ -429,54 +399,6 @@ bool TFileScanner::listFolder(WalkState &state, const Folder &folder, bool filte
     completed = !cut;
     return true;
 }
-#else
-bool TFileScanner::listFolder(WalkState &state, const Folder &folder, bool filtered,
-    ScanBatch &batch, QList<FileMeta> &metas, bool &completed)
-{
-    if (!QFileInfo(folder.path).isReadable()) {
-        splog_repeated("[TFileScanner]: Cannot read folder",
-            kTag + QStringLiteral("Cannot read folder, skipped: [%1].").arg(folder.path));
-        if (folder.root && m_problems)
-            m_problems->addUnreadableRoot(folder.path);
-        else
-            noteProblem(ScanProblems::UnreadableFolder, folder.path);
-        return false;
-    }
-    const QFileInfoList entries
-        = QDir(folder.path)
-              .entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                  QDir::Unsorted);
-    const platform::Platform &os = platform::current();
-    bool cut = false;
-    for (const QFileInfo &entry : entries) {
-        if (isStopRequested()) {
-            cut = true;
-            break;
-        }
-        const QString path = entry.absoluteFilePath();
-        if (filtered && m_filters.isIgnoredPath(path))
-            continue;
-        if (filtered && m_filters.skipsHiddenAndSystem() && os.isHiddenOrSystem(path.toStdString()))
-            continue;
-        if (entry.isSymLink() || entry.isJunction()) {
-            QMutexLocker locker(&state.mutex);
-            state.links.push_back(Folder {path, FilePathCodec::encode(path), folder.driveType});
-        } else if (entry.isDir()) {
-            QMutexLocker locker(&state.mutex);
-            state.queue.push_back(Folder {path, FilePathCodec::encode(path), folder.driveType});
-            state.wake.wakeOne();
-        } else if (entry.isFile()) {
-            const qint64 size = entry.size();
-            if (filtered && !m_filters.passesFileFilters(entry.fileName(), size))
-                continue;
-            reportFile(batch, metas, size, FilePathCodec::encode(entry.fileName()).constData(),
-                path, filtered);
-        }
-    }
-    completed = !cut;
-    return true;
-}
-#endif
 
 void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filtered, Outbox &outbox)
 {
@@ -584,24 +506,17 @@ struct TFileScanner::Target
 
 bool TFileScanner::resolveTarget(const Folder &link, bool filtered, Target &target)
 {
-#ifdef Q_OS_UNIX
-    char *real = ::realpath(link.native.constData(), nullptr);
-    if (!real) {
+    int error = 0;
+    const std::string real = platform::realPathOf(link.native.toStdString(), error);
+    if (real.empty()) {
         splog_repeated("[TFileScanner]: Dangling link",
             kTag
                 + QStringLiteral("Dangling link, skipped: [%1]. %2")
-                      .arg(link.path, QString::fromLocal8Bit(std::strerror(errno))));
+                      .arg(link.path, systemText(error)));
         return false;
     }
-    target.real.native = QByteArray(real);
-    std::free(real);
+    target.real.native = QByteArray::fromStdString(real);
     target.real.path = FilePathCodec::decode(target.real.native);
-#else
-    target.real.path = QFileInfo(link.path).canonicalFilePath();
-    if (target.real.path.isEmpty())
-        return false;
-    target.real.native = FilePathCodec::encode(target.real.path);
-#endif
     const Root *root = m_roots.holding(target.real.native);
     if (!root) {
         splog_repeated("[TFileScanner]: Link leads outside the scanned folders",
@@ -628,25 +543,15 @@ bool TFileScanner::resolveTarget(const Folder &link, bool filtered, Target &targ
                       .arg(link.path, target.real.path));
         return false;
     }
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::stat(target.real.native.constData(), &info) != 0)
+    platform::EntryInfo info;
+    if (platform::entryInfoOf(target.real.native.toStdString(), true, info) != 0)
         return false;
-    target.id = Identity {static_cast<quint64>(info.st_dev), static_cast<quint64>(info.st_ino)};
-    target.isFolder = S_ISDIR(info.st_mode);
-    if (!target.isFolder && !S_ISREG(info.st_mode))
+    target.id = Identity {info.device, info.inode};
+    target.isFolder = info.kind == platform::EntryInfo::Folder;
+    if (!target.isFolder && info.kind != platform::EntryInfo::File)
         return false;
-    target.size = info.st_size;
-    target.multiLink = info.st_nlink > 1;
-#else
-    const QFileInfo info(target.real.path);
-    target.isFolder = info.isDir();
-    if (!target.isFolder && !info.isFile())
-        return false;
-    target.size = info.size();
-#endif
+    target.size = info.size;
+    target.multiLink = info.links > 1;
     return true;
 }
 
@@ -696,12 +601,10 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         if (isStopRequested())
             break;
         if (target.isFolder) {
-#ifdef Q_OS_UNIX
             QMutexLocker seenLocker(&m_seen->mutex);
             if (m_seen->folders.count(target.id))
                 continue;
             seenLocker.unlock();
-#endif
             QMutexLocker locker(&state.mutex);
             state.queue.push_back(target.real);
             state.queue.back().linked = true;
@@ -711,7 +614,6 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
         const QString name = target.real.path.mid(slash + 1);
         if (filtered && !m_filters.passesFileFilters(name, target.size))
             continue;
-#ifdef Q_OS_UNIX
         {
             QMutexLocker seenLocker(&m_seen->mutex);
             const bool fresh = target.multiLink ? m_seen->multiLinkFiles.insert(target.id).second
@@ -723,7 +625,6 @@ bool TFileScanner::resolveLinks(WalkState &state, bool filtered)
                 m_seen->linkedFiles.insert(target.id);
             }
         }
-#endif
         const QString folder = slash <= 0 ? QStringLiteral("/") : target.real.path.left(slash);
         if (batch.folder != folder) {
             emitBatch(batch, metas, outbox);

@@ -17,7 +17,9 @@
 #include <QThread>
 
 class QWaitCondition;
-struct stat;
+namespace platform {
+struct EntryInfo;
+}
 struct ScanSeen;
 
 // First stage of a local scan: walks the root folders, applies the scan filters and
@@ -97,15 +99,13 @@ private:
     // completed is set when every entry was read.
     bool listFolder(WalkState &state, const Folder &folder, bool filtered, ScanBatch &batch,
         QList<FileMeta> &metas, bool &completed);
-#ifdef Q_OS_UNIX
     struct Listing;
     bool openListing(Listing &listing);
     // False when a stop cut the listing short.
     bool listEntries(WalkState &state, Listing &listing);
     // A regular file that passed the filters: reported unless unreadable or met before.
     void acceptFile(Listing &listing, const char *name, qsizetype nameLength,
-        const struct stat &info, const QString &path);
-#endif
+        const platform::EntryInfo &info, const QString &path);
     void drainWithPool(WalkState &state);
     void drainInOrder(WalkState &state);
     // Turns the links met so far into their targets: folders are queued, files reported;

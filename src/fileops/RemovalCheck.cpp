@@ -5,21 +5,11 @@
 #include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
 #include "fileops/ContentCompare.h"
+#include "platform/FolderReader.h"
 
 #include <algorithm>
 #include <functional>
-
-#include <QDirIterator>
-#include <QFileInfo>
-
-#ifdef Q_OS_UNIX
-#include <cerrno>
-#include <climits>
-#include <cstdlib>
-#include <dirent.h>
-#include <sys/stat.h>
 #include <unistd.h>
-#endif
 
 const QString RemovalCheck::changedSinceScan = QStringLiteral("changed since the scan");
 const QString RemovalCheck::noKeptCopyLeft = QStringLiteral("no kept copy left");
@@ -46,29 +36,18 @@ using Identity = QPair<quint64, quint64>;
 Entry entryOf(const QString &path)
 {
     Entry entry;
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::lstat(FilePathCodec::encode(path).constData(), &info) != 0) {
-        entry.kind = errno == ENOENT ? Kind::Missing : Kind::Other;
+    platform::EntryInfo info;
+    if (const int error
+        = platform::entryInfoOf(FilePathCodec::encode(path).toStdString(), false, info)) {
+        entry.kind = platform::isNotFoundError(error) ? Kind::Missing : Kind::Other;
         return entry;
     }
-    entry.kind = S_ISDIR(info.st_mode) ? Kind::Folder
-        : S_ISREG(info.st_mode)        ? Kind::File
-                                       : Kind::Other;
-    entry.stamp = FileStamp::fromStat(info);
+    entry.kind = info.kind == platform::EntryInfo::Folder ? Kind::Folder
+        : info.kind == platform::EntryInfo::File          ? Kind::File
+                                                          : Kind::Other;
+    entry.stamp = FileStamp::fromEntry(info);
     if (entry.kind != Kind::File)
         entry.stamp.size = -1;
-#else
-    const QFileInfo info(path);
-    entry.kind = info.isSymLink() ? Kind::Other
-        : info.isDir()            ? Kind::Folder
-        : info.isFile()           ? Kind::File
-                                  : Kind::Missing;
-    if (entry.kind == Kind::File)
-        entry.stamp = FileStamp::of(path);
-#endif
     return entry;
 }
 
@@ -80,16 +59,9 @@ Identity identityOf(const FileStamp &stamp)
 // The path with every link in it resolved; empty when it cannot be.
 QString realPathOf(const QString &path)
 {
-#ifdef Q_OS_UNIX
-    char *real = ::realpath(FilePathCodec::encode(path).constData(), nullptr);
-    if (!real)
-        return {};
-    const QString out = FilePathCodec::decode(QByteArray(real));
-    std::free(real);
-    return out;
-#else
-    return QFileInfo(path).canonicalFilePath();
-#endif
+    int error = 0;
+    return FilePathCodec::decode(QByteArray::fromStdString(
+        platform::realPathOf(FilePathCodec::encode(path).toStdString(), error)));
 }
 
 bool isInside(const QString &path, const QString &folder)
@@ -152,24 +124,14 @@ private:
             return;
         }
         folders.insert(identityOf(self.stamp));
-#ifdef Q_OS_UNIX
-        DIR *dir = ::opendir(FilePathCodec::encode(folder).constData());
-        if (!dir) {
+        platform::FolderReader reader(FilePathCodec::encode(folder).toStdString());
+        if (reader.error()) {
             complete = false;
             return;
         }
         QStringList names;
-        while (const dirent *item = ::readdir(dir)) {
-            const char *name = item->d_name;
-            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-                continue;
-            names.append(FilePathCodec::decode(QByteArray(name)));
-        }
-        ::closedir(dir);
-#else
-        const QStringList names = QDir(folder).entryList(
-            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-#endif
+        while (reader.next())
+            names.append(FilePathCodec::decode(reader.name(), qsizetype(reader.nameLength())));
         for (const QString &name : std::as_const(names)) {
             const QString path = folder + QLatin1Char('/') + name;
             const QString inside = relative.isEmpty() ? name : relative + QLatin1Char('/') + name;
@@ -190,20 +152,9 @@ private:
 // through another handle during the comparison moves them (the change time always).
 bool unchangedSince(int fd, const FileStamp &before)
 {
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::fstat(fd, &info) != 0)
-        return false;
-    const FileStamp after = FileStamp::fromStat(info);
-    return after.size == before.size && after.modifiedNs == before.modifiedNs
+    const FileStamp after = FileStamp::ofOpenFile(fd);
+    return after.isValid() && after.size == before.size && after.modifiedNs == before.modifiedNs
         && after.changedNs == before.changedNs;
-#else
-    Q_UNUSED(fd)
-    Q_UNUSED(before)
-    return true;
-#endif
 }
 
 // A folder's digest: its files' relative paths and content hashes, in path order.
@@ -311,16 +262,7 @@ RemovalCheck::Confirmed RemovalCheck::confirmFile(
         return out;
     }
     // Still the file the look saw: nothing was renamed over it in between.
-    FileStamp now;
-#ifdef Q_OS_UNIX
-    struct stat info
-    {
-    };
-    if (::fstat(fd, &info) == 0)
-        now = FileStamp::fromStat(info);
-#else
-    now = FileStamp::of(current);
-#endif
+    const FileStamp now = FileStamp::ofOpenFile(fd);
     out.size = now.size;
     out.modifiedNs = now.modifiedNs;
     if (!now.isValid() || !now.sameFile(look.stamp) || !now.sameContentStamp(look.stamp)) {

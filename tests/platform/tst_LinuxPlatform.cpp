@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fileops/TFileDeleter.h"
+#include "platform/FolderReader.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTrash.h"
 
@@ -75,6 +76,52 @@ private slots:
 
     // An info file's Path= that would cut the path short, or that has no byte where an
     // escape stands, is refused rather than read as some other path.
+    // The walk trusts the reader's kinds: a link listed as a file would be followed
+    // into another tree, a pipe read as a file would block the scan.
+    void folderReaderKinds()
+    {
+        using platform::EntryInfo;
+        QTemporaryDir dir;
+        const QByteArray root = QFile::encodeName(dir.path());
+        QVERIFY(writeFile(root + "/file"));
+        QVERIFY(writeFile(root + "/name\xff"));
+        QVERIFY(::mkdir(root + "/folder", 0755) == 0);
+        QVERIFY(::symlink("file", root + "/link") == 0);
+        QVERIFY(::mkfifo(root + "/pipe", 0644) == 0);
+        QVERIFY(::link(root + "/file", root + "/second") == 0);
+
+        platform::FolderReader reader(root.toStdString());
+        QCOMPARE(reader.error(), 0);
+        QMap<QByteArray, int> kinds;
+        EntryInfo info;
+        while (reader.next()) {
+            const QByteArray name(reader.name(), qsizetype(reader.nameLength()));
+            QCOMPARE(reader.stat(info), 0);
+            const EntryInfo::Kind listed = reader.listedKind();
+            QVERIFY2(listed == EntryInfo::Unknown || listed == info.kind, name);
+            kinds[name] = info.kind;
+            if (name == "file") {
+                QCOMPARE(info.size, 1);
+                QCOMPARE(info.links, 2ULL);
+                QVERIFY(reader.mayRead(platform::ReadAccess()));
+            }
+        }
+        const QMap<QByteArray, int> expected {{"file", EntryInfo::File},
+            {"name\xff", EntryInfo::File}, {"folder", EntryInfo::Folder}, {"link", EntryInfo::Link},
+            {"pipe", EntryInfo::Other}, {"second", EntryInfo::File}};
+        QCOMPARE(kinds, expected);
+
+        QVERIFY(platform::entryInfoOf((root + "/link").toStdString(), true, info) == 0);
+        QCOMPARE(info.kind, EntryInfo::File);
+        int error = 0;
+        QCOMPARE(platform::realPathOf((root + "/link").toStdString(), error),
+            QFileInfo(dir.filePath("file")).canonicalFilePath().toStdString());
+
+        platform::FolderReader missing((root + "/gone").toStdString());
+        QVERIFY(platform::isNotFoundError(missing.error()));
+        QVERIFY(!missing.next());
+    }
+
     void percentDecode_data()
     {
         QTest::addColumn<QByteArray>("text");
