@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/HiddenFiles.h"
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 
 #include <QFileInfo>
@@ -9,9 +9,9 @@
 QString HiddenFiles::hide(const QString &key, const QString &path, bool undoable)
 {
     QString entry = path;
-    for (const QString &member : TFileData::instance()->group(key))
-        if (stripSimilarTag(member) == path)
-            entry = member;
+    for (const GroupMember &member : TFileData::instance()->groupMembers(key))
+        if (member.path == path)
+            entry = member.entry();
     TFileData *store = TFileData::instance();
     HiddenFile hidden {key, QFileInfo(path).fileName(), store->group(key), store->selectedOf(key),
         store->dirGroup(key), int(store->groupMatch(key)), 0};
