@@ -22,7 +22,10 @@ GroupMember GroupMember::fromEntry(const QString &entry)
     // Nearly every entry carries no tag; the pattern runs only on the few that might.
     if (!entry.contains(kSimilarTag))
         return {entry};
-    static const QRegularExpression pattern(QStringLiteral("^(.*)%1_(\\d+)$").arg(kSimilarTag));
+    // Only a percent entry() could have written: an entry read back is written back as it
+    // was, so that the store finds it by the same name.
+    static const QRegularExpression pattern(
+        QStringLiteral("^(.*)%1_(0|[1-9][0-9]{0,8})$").arg(kSimilarTag));
     const QRegularExpressionMatch match = pattern.match(entry);
     if (!match.hasMatch())
         return {entry};

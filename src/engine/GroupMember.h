@@ -24,7 +24,8 @@ struct GroupMember
     // The member as the store and the project file keep it.
     QString entry() const;
 
-    // An entry that carries no well-formed tag is a plain member of that path.
+    // An entry that carries no well-formed tag is a plain member of that path; whatever it
+    // reads, entry() gives back the same string.
     static GroupMember fromEntry(const QString &entry);
     static QList<GroupMember> fromEntries(const QStringList &entries);
     static QStringList entries(const QList<GroupMember> &members);

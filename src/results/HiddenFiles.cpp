@@ -8,10 +8,11 @@
 
 QString HiddenFiles::hide(const QString &key, const QString &path, bool undoable)
 {
+    // The store's own entry, as it holds it, is the one it lets go.
     QString entry = path;
-    for (const GroupMember &member : TFileData::instance()->groupMembers(key))
-        if (member.path == path)
-            entry = member.entry();
+    for (const QString &member : TFileData::instance()->group(key))
+        if (GroupMember::fromEntry(member).path == path)
+            entry = member;
     TFileData *store = TFileData::instance();
     HiddenFile hidden {key, QFileInfo(path).fileName(), store->group(key), store->selectedOf(key),
         store->dirGroup(key), int(store->groupMatch(key)), 0};

@@ -21,6 +21,9 @@ private slots:
             {"compared with", "/p/a.jpg_simlar_0", "/p/a.jpg", 0},
             {"no digits", "abc_simlar_", "abc_simlar_", GroupMember::kNotSimilar},
             {"trailing letter", "abc_simlar_1x", "abc_simlar_1x", GroupMember::kNotSimilar},
+            {"leading zero", "abc_simlar_07", "abc_simlar_07", GroupMember::kNotSimilar},
+            {"beyond an int", "abc_simlar_9999999999", "abc_simlar_9999999999",
+                GroupMember::kNotSimilar},
             {"plain", "/a/b.jpg", "/a/b.jpg", GroupMember::kNotSimilar},
             {"tag twice keeps first", "a_simlar_1_simlar_2", "a_simlar_1", 2},
             {"case-sensitive", "abc_SIMLAR_3", "abc_SIMLAR_3", GroupMember::kNotSimilar}};
