@@ -3,7 +3,6 @@
 
 #include <QFileInfo>
 #include <QHash>
-#include <QRegularExpression>
 
 namespace FileTypeCatalogue {
 
@@ -135,34 +134,6 @@ int getPathCategory(const QString &path)
 {
     const QFileInfo info(path);
     return info.isDir() ? int(CategoryFolders) : getFileType(info.suffix());
-}
-
-QString stripSimilarTag(const QString &key)
-{
-    // Nearly every entry carries no tag; the pattern runs only on the few that might.
-    if (!key.contains(kSimilarTag))
-        return key;
-    static const QRegularExpression pattern(QStringLiteral("^(.*)%1_\\d+$").arg(kSimilarTag));
-    const QRegularExpressionMatch match = pattern.match(key);
-    return match.hasMatch() ? match.captured(1) : key;
-}
-
-void stripSimilarTag(QStringList &keys)
-{
-    for (QString &key : keys)
-        key = stripSimilarTag(key);
-}
-
-bool isSimilarEntry(const QString &entry)
-{
-    return entry.contains(kSimilarTag);
-}
-
-int similarityOfEntry(const QString &entry)
-{
-    const QString path = stripSimilarTag(entry);
-    return path.size() == entry.size() ? 0
-                                       : entry.mid(path.size() + kSimilarTag.size() + 1).toInt();
 }
 
 bool isRawFormat(const QString &suffix)

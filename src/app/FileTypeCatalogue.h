@@ -15,10 +15,6 @@ enum FileCategory : int {
     CategoryOthers = 7,
 };
 
-// Tag that marks the member entries of a group of similar pictures: the entry is
-// the path, the tag, "_" and the similarity percent.
-inline const QString kSimilarTag = QStringLiteral("_simlar");
-
 namespace FileTypeCatalogue {
 
 // Category code -> extension list, in the catalogue's order (repeats included).
@@ -43,15 +39,6 @@ int categoryOfMimeType(const QString &mimeType);
 bool isImageFile(const QString &path);
 // Category of a path on disk: 6 for a directory, else getFileType of its extension.
 int getPathCategory(const QString &path);
-
-// "abc_simlar_12" -> "abc"; anything else unchanged.
-QString stripSimilarTag(const QString &key);
-// The same, in place, for every entry of a list.
-void stripSimilarTag(QStringList &keys);
-// True when entry is a tagged member of a similar-picture group.
-bool isSimilarEntry(const QString &entry);
-// The percent a tagged entry carries ("abc_simlar_12" -> 12); 0 for any other.
-int similarityOfEntry(const QString &entry);
 
 bool isRawFormat(const QString &suffix);
 bool isHeifFormat(const QString &suffix);

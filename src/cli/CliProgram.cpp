@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliProgram.h"
 
-#include "app/FileTypeCatalogue.h"
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "cli/CliOptions.h"
@@ -11,6 +10,7 @@
 #include "cloud/KvCloudObject.h"
 #include "engine/FilePathCodec.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/GroupMember.h"
 #include "engine/PictureStage.h"
 #include "engine/TFileData.h"
 #include "fileops/CloudRemover.h"
@@ -47,18 +47,12 @@ struct OutputGroup
 {
     QString key;
     QString kind;
-    // Members as stored: similar pictures carry their similarity after the path.
+    // Members as stored (GroupMember entries), in the order the report sorts them by.
     QStringList files;
     QStringList selected;
     // Whole contents compared (false for groups of the sampled and the name mode).
     bool verified = true;
 };
-
-// A member's real path.
-QString pathOf(const QString &entry)
-{
-    return isSimilarEntry(entry) ? stripSimilarTag(entry) : entry;
-}
 
 QList<OutputGroup> collectGroups()
 {
@@ -67,8 +61,7 @@ QList<OutputGroup> collectGroups()
     const TFileData::Groups files = store->groups();
     const TFileData::Groups selected = store->selected();
     for (auto it = files.begin(); it != files.end(); ++it) {
-        const bool similar = std::any_of(it.value().begin(), it.value().end(),
-            [](const QString &entry) { return isSimilarEntry(entry); });
+        const bool similar = GroupMember::anySimilar(GroupMember::fromEntries(it.value()));
         groups.append(
             OutputGroup {it.key(), similar ? QStringLiteral("similar") : QStringLiteral("files"),
                 it.value(), selected.value(it.key()),
@@ -161,16 +154,17 @@ void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &gr
         if (similar) {
             QStringList paths;
             QStringList percents;
-            for (const QString &entry : group.files) {
-                paths.append(pathOf(entry));
-                percents.append(QString::number(similarityOfEntry(entry)));
+            for (const GroupMember &member : GroupMember::fromEntries(group.files)) {
+                paths.append(member.path);
+                // A copy merged into a group of similar pictures is as its first: 0.
+                percents.append(QString::number(member.isSimilar() ? member.similarity : 0));
             }
             writeJsonList(out, paths);
             std::fprintf(
                 out, ", \"similarity\": [%s]", qPrintable(percents.join(QStringLiteral(", "))));
             QStringList chosen;
-            for (const QString &entry : group.selected)
-                chosen.append(pathOf(entry));
+            for (const GroupMember &member : GroupMember::fromEntries(group.selected))
+                chosen.append(member.path);
             std::fputs(", \"selected\": ", out);
             writeJsonList(out, chosen);
         } else {
@@ -189,13 +183,12 @@ void printText(const QList<OutputGroup> &groups)
         // Looked up per member: a list would cost a large group time in its size squared.
         const QSet<QString> selected(group.selected.cbegin(), group.selected.cend());
         for (const QString &path : group.files) {
-            // Similar entries carry their percent as a tag; the text shows the real path
-            // and the percent beside it.
-            const QString file = pathOf(path);
-            const QByteArray bytes = lineText(file);
+            // The text shows a similar picture's real path and its percent beside it.
+            const GroupMember member = GroupMember::fromEntry(path);
+            const QByteArray bytes = lineText(member.path);
             std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
-            if (file.size() != path.size())
-                std::fprintf(stdout, "\t[similar %d%%]", similarityOfEntry(path));
+            if (member.isSimilar())
+                std::fprintf(stdout, "\t[similar %d%%]", member.similarity);
             else if (!group.verified)
                 std::fputs("\t[not verified]", stdout);
             if (selected.contains(path))

@@ -12,6 +12,7 @@
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneClient.h"
 #include "engine/ContentHash.h"
+#include "engine/GroupMember.h"
 #include "engine/PictureStage.h"
 #include "engine/TFileData.h"
 #include "preferences/SettingsTable.h"
@@ -359,12 +360,13 @@ void CloudScan::takePictureGroups()
     for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
         QStringList members;
         for (const QString &entry : it.value()) {
-            const QString local = stripSimilarTag(entry);
-            const auto copy = m_pictureCopies.constFind(local);
+            GroupMember member = GroupMember::fromEntry(entry);
+            const auto copy = m_pictureCopies.constFind(member.path);
             if (copy == m_pictureCopies.cend())
                 break;
             const CloudFile &picture = m_pictures.at(*copy);
-            members.append(picture.path + entry.mid(local.size()));
+            member.path = picture.path;
+            members.append(member.entry());
             found.insert(picture.path, picture);
         }
         if (members.size() != it.value().size())

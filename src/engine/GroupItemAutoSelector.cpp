@@ -2,6 +2,7 @@
 #include "engine/GroupItemAutoSelector.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 
 #include <algorithm>
@@ -60,10 +61,10 @@ QStringList selectByKey(const QStringList &paths, bool keepLargest, KeyOf keyOf)
     return allBut(paths, keep);
 }
 
-// The file behind an entry: similar-picture entries carry a tag after the path.
+// The file behind an entry, which may be a similar picture's.
 QString filePathOf(const QString &entry)
 {
-    return stripSimilarTag(entry);
+    return GroupMember::fromEntry(entry).path;
 }
 
 qint64 dateKey(const QString &entry, const CloudPropertyReader &cloud)

@@ -17,8 +17,8 @@ using CloudPropertyReader = std::function<QVariant(const QString &entry, const Q
 
 // Computes which members of a group of identical (or similar) files are marked for
 // removal. Every function returns the entries to select, in group order; the entry left
-// out is the copy that is kept. Entries may be plain paths or similar-picture entries
-// ("path_simlar_87"): the file behind an entry is read through its path, and the entries
+// out is the copy that is kept. Entries are as the result store keeps them
+// (GroupMember::entry()): the file behind an entry is read through its path, and the entries
 // are returned exactly as given. The class holds no state (the keyword table and the
 // copy-number pattern are built once per process), so every function may run on any
 // thread at the same time.

@@ -2,6 +2,7 @@
 #include "engine/TFileData.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 
 #include <algorithm>
 
@@ -180,6 +181,11 @@ QStringList TFileData::group(const QString &key) const
     return m_groups.value(key);
 }
 
+QList<GroupMember> TFileData::groupMembers(const QString &key) const
+{
+    return GroupMember::fromEntries(group(key));
+}
+
 QStringList TFileData::selectedOf(const QString &key) const
 {
     QReadLocker locker(&m_lock);
@@ -281,19 +287,20 @@ TFileData::Removable TFileData::removable() const
         folders = m_dirGroups;
         stamps = m_stamps;
     }
-    const auto sizeOf = [&stamps](const QString &entry) {
-        const QString path = stripSimilarTag(entry);
+    const auto sizeOf = [&stamps](const GroupMember &member) {
+        const QString &path = member.path;
         const auto stamp = stamps.constFind(path);
         const qint64 size
             = stamp != stamps.cend() && stamp->isValid() ? stamp->size : FileStamp::of(path).size;
         return std::max<qint64>(0, size);
     };
     Removable totals;
-    for (const QStringList &members : std::as_const(groups)) {
-        if (members.size() < 2)
+    for (const QStringList &entries : std::as_const(groups)) {
+        if (entries.size() < 2)
             continue;
+        const QList<GroupMember> members = GroupMember::fromEntries(entries);
         totals.count += members.size() - 1;
-        if (std::any_of(members.cbegin(), members.cend(), isSimilarEntry)) {
+        if (GroupMember::anySimilar(members)) {
             // Similar pictures differ in size: each that could go counts its own.
             for (qsizetype i = 1; i < members.size(); ++i)
                 totals.bytes += sizeOf(members.at(i));

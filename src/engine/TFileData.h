@@ -3,6 +3,7 @@
 
 #include "engine/DirGroupEntry.h"
 #include "engine/FileStamp.h"
+#include "engine/GroupMember.h"
 
 #include <atomic>
 
@@ -55,6 +56,8 @@ public:
     DirGroups dirGroups() const;
     Groups selected() const;
     QStringList group(const QString &key) const;
+    // The same group, each member as its path and similarity.
+    QList<GroupMember> groupMembers(const QString &key) const;
     QStringList selectedOf(const QString &key) const;
     QList<DirGroupEntry> dirGroup(const QString &key) const;
     int groupCount() const;

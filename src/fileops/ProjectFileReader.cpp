@@ -2,10 +2,10 @@
 #include "fileops/ProjectFileReader.h"
 
 #include "app/AppIdentity.h"
-#include "app/FileTypeCatalogue.h"
 #include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
+#include "engine/GroupMember.h"
 #include "fileops/ProjectFileFormat.h"
 
 #include <QDebug>
@@ -255,7 +255,7 @@ bool ProjectFileReader::readItem(Group &group, QSet<QString> &seen)
             at(QStringLiteral("more than %1 entries").arg(m_maxEntries)));
         return false;
     }
-    const QString path = stripSimilarTag(entry);
+    const QString path = GroupMember::fromEntry(entry).path;
     if (path.isEmpty() || entry.size() > kMaxPathLength || !QDir::isAbsolutePath(path)) {
         refuse(TOpenSaveThread::ProjectInvalidContent,
             at(QStringLiteral("group %1 holds an invalid path").arg(group.key)));

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fileops/RemovalCheck.h"
 
-#include "app/FileTypeCatalogue.h"
 #include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
+#include "engine/GroupMember.h"
 #include "fileops/ContentCompare.h"
 #include "platform/FolderReader.h"
 
@@ -173,20 +173,21 @@ QByteArray digestOfFiles(QList<QPair<QString, QByteArray>> &files)
 } // namespace
 
 RemovalCheck::Look RemovalCheck::look(
-    GroupKind kind, const QStringList &stays, const QString &entry, bool everyCopy) const
+    GroupKind kind, const QStringList &stays, const QString &path, bool everyCopy) const
 {
     if (kind == Folders)
-        return lookFolder(stays, entry, everyCopy);
-    return lookFile(stays, entry, everyCopy);
+        return lookFolder(stays, path, everyCopy);
+    return lookFile(stays, path, everyCopy);
 }
 
 QStringList RemovalCheck::keptMembers(
-    GroupKind kind, const QStringList &members, const QSet<QString> &leaving)
+    GroupKind kind, const QList<GroupMember> &members, const QSet<QString> &leaving)
 {
     QStringList stays;
-    for (const QString &member : members) {
+    for (const GroupMember &groupMember : members) {
+        const QString &member = groupMember.path;
         if (kind != Folders) {
-            if (!leaving.contains(stripSimilarTag(member)))
+            if (!leaving.contains(member))
                 stays.append(member);
             continue;
         }
@@ -209,11 +210,10 @@ RemovalCheck::Confirmed RemovalCheck::confirm(
 }
 
 RemovalCheck::Look RemovalCheck::lookFile(
-    const QStringList &stays, const QString &entry, bool everyCopy) const
+    const QStringList &stays, const QString &path, bool everyCopy) const
 {
     Look look;
     look.everyCopy = everyCopy;
-    const QString path = stripSimilarTag(entry);
     const Entry item = entryOf(path);
     // Already gone: nothing to remove, and nothing lost by saying so.
     if (item.kind == Kind::Missing) {
@@ -234,8 +234,7 @@ RemovalCheck::Look RemovalCheck::lookFile(
         return look;
     QStringList otherSize;
     QSet<QString> listed;
-    for (const QString &member : stays) {
-        const QString keptPath = stripSimilarTag(member);
+    for (const QString &keptPath : stays) {
         if (keptPath == path || listed.contains(keptPath))
             continue;
         listed.insert(keptPath);

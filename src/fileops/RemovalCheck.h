@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/FileStamp.h"
+#include "engine/GroupMember.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -63,16 +64,16 @@ public:
 
     explicit RemovalCheck(const QHash<QString, FileStamp> &stamps) : m_stamps(stamps) { }
 
-    // stays: the members of the item's group (paths, tagged paths for similar pictures,
-    // folders) that this batch leaves in place, as keptMembers() gives them; everyCopy: the
-    // caller allows this group to lose every copy, so nothing needs to stay.
-    Look look(GroupKind kind, const QStringList &stays, const QString &entry,
+    // stays: the paths of the members of the item's group (files or folders) that this
+    // batch leaves in place, as keptMembers() gives them; everyCopy: the caller allows this
+    // group to lose every copy, so nothing needs to stay.
+    Look look(GroupKind kind, const QStringList &stays, const QString &path,
         bool everyCopy = false) const;
-    // The members of a group that stay: not removed by the batch (leaving: every path,
-    // untagged, and folder it removes in any group), and for folders nothing in them
+    // The paths of the members of a group that stay: not removed by the batch (leaving:
+    // every path and folder it removes in any group), and for folders nothing in them
     // removed either.
     static QStringList keptMembers(
-        GroupKind kind, const QStringList &members, const QSet<QString> &leaving);
+        GroupKind kind, const QList<GroupMember> &members, const QSet<QString> &leaving);
     // current: where the item is now.
     Confirmed confirm(
         GroupKind kind, const Look &look, const QString &current, bool allowDifferentContent) const;
@@ -82,7 +83,7 @@ public:
     static QByteArray folderDigest(const QString &folder, qint64 *size = nullptr);
 
 private:
-    Look lookFile(const QStringList &stays, const QString &entry, bool everyCopy) const;
+    Look lookFile(const QStringList &stays, const QString &path, bool everyCopy) const;
     Look lookFolder(const QStringList &stays, const QString &entry, bool everyCopy) const;
     Confirmed confirmFile(
         GroupKind kind, const Look &look, const QString &current, bool allowDifferentContent) const;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fileops/TImageDeleteWorker.h"
 
-#include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
+#include "engine/GroupMember.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/TFileDeleter.h"
@@ -82,14 +82,13 @@ struct TImageDeleteWorker::Plan
     QString key;
     bool folders = false;
     RemovalCheck::GroupKind kind = RemovalCheck::IdenticalFiles;
-    QStringList members;
+    QList<GroupMember> members;
     QStringList selection;
-    // The entries that go, and those that stay.
-    QStringList leaving;
+    // The members that go, and the paths of those that stay.
+    QList<GroupMember> leaving;
     QStringList stays;
-    // A selected path's member entries: itself, or in a group of similar pictures its
-    // tagged entries.
-    QHash<QString, QStringList> entriesOf;
+    // A selected path's members: one, or in a group of similar pictures each entry of it.
+    QHash<QString, QList<GroupMember>> entriesOf;
     bool everyCopy = false;
 };
 
@@ -133,11 +132,11 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
         plan.folders = m_request.dirGroups.contains(key);
         if (plan.folders) {
             for (const DirGroupEntry &entry : m_request.dirGroups.value(key))
-                plan.members.append(entry.folderPath);
+                plan.members.append(GroupMember {entry.folderPath});
             plan.kind = RemovalCheck::Folders;
         } else if (m_request.groups.contains(key)) {
-            plan.members = m_request.groups.value(key);
-            if (std::any_of(plan.members.begin(), plan.members.end(), isSimilarEntry))
+            plan.members = GroupMember::fromEntries(m_request.groups.value(key));
+            if (GroupMember::anySimilar(plan.members))
                 plan.kind = RemovalCheck::SimilarPictures;
             else if (m_request.nameGroups.contains(key))
                 plan.kind = RemovalCheck::NamedFiles;
@@ -146,14 +145,14 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
         } else {
             continue;
         }
-        for (const QString &member : std::as_const(plan.members))
-            plan.entriesOf[plan.kind == RemovalCheck::SimilarPictures ? stripSimilarTag(member)
-                                                                      : member]
+        for (const GroupMember &member : std::as_const(plan.members))
+            plan.entriesOf[plan.kind == RemovalCheck::SimilarPictures ? member.path
+                                                                      : member.entry()]
                 .append(member);
         plan.selection = m_request.selected.value(key);
-        QSet<QString> leaving;
+        QSet<GroupMember> leaving;
         for (const QString &path : std::as_const(plan.selection))
-            for (const QString &member : plan.entriesOf.value(path))
+            for (const GroupMember &member : plan.entriesOf.value(path))
                 if (!leaving.contains(member)) {
                     leaving.insert(member);
                     plan.leaving.append(member);
@@ -162,17 +161,18 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
             && leaving.size() == QSet(plan.members.cbegin(), plan.members.cend()).size();
         // A selection of every copy keeps the first one, unless the caller said otherwise.
         if (plan.everyCopy && !m_request.allowAllCopies) {
-            const QString first = plan.members.first();
+            const GroupMember first = plan.members.first();
             plan.leaving.removeAll(first);
             plan.everyCopy = false;
-            if (!record(DeleteResult {stripSimilarTag(first), false, DeleteResult::Skipped,
+            if (!record(DeleteResult {first.path, false, DeleteResult::Skipped,
                             QStringLiteral("Skipped."), keptLastCopy},
                     RemovalJournal::skipped))
                 return {};
-            splog_d(kTag + QStringLiteral("Every copy selected, the first is kept: %1").arg(first));
+            splog_d(kTag
+                + QStringLiteral("Every copy selected, the first is kept: %1").arg(first.entry()));
         }
-        for (const QString &entry : std::as_const(plan.leaving))
-            batchLeaving.insert(plan.folders ? entry : stripSimilarTag(entry));
+        for (const GroupMember &member : std::as_const(plan.leaving))
+            batchLeaving.insert(member.path);
         plans.append(plan);
     }
     for (Plan &plan : plans)
@@ -181,11 +181,11 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
 }
 
 bool TImageDeleteWorker::handle(
-    const Plan &plan, const QString &entry, RemovalCheck &check, qint64 seq, bool &removed)
+    const Plan &plan, const GroupMember &member, RemovalCheck &check, qint64 seq, bool &removed)
 {
     removed = false;
-    const QString path = plan.folders ? entry : stripSimilarTag(entry);
-    const RemovalCheck::Look look = check.look(plan.kind, plan.stays, entry, plan.everyCopy);
+    const QString path = member.path;
+    const RemovalCheck::Look look = check.look(plan.kind, plan.stays, path, plan.everyCopy);
     DeleteResult result {path};
     if (look.gone) {
         result.alreadyGone = true;
@@ -276,16 +276,16 @@ void TImageDeleteWorker::doDelete()
     for (const Plan &plan : std::as_const(plans)) {
         if (stopping() || !journalOk)
             break;
-        QSet<QString> gone;
-        for (const QString &entry : plan.leaving) {
+        QSet<GroupMember> gone;
+        for (const GroupMember &member : plan.leaving) {
             if (stopping())
                 break;
             bool removed = false;
-            journalOk = handle(plan, entry, check, seq++, removed);
+            journalOk = handle(plan, member, check, seq++, removed);
             // An item already gone leaves the results as one removed now does.
             if (removed || m_results.constLast().alreadyGone) {
-                gone.insert(entry);
-                (plan.folders ? removedDirs : removedFiles)[plan.key].append(entry);
+                gone.insert(member);
+                (plan.folders ? removedDirs : removedFiles)[plan.key].append(member.entry());
             }
             ++count;
             emit progressChanged(count);
@@ -297,9 +297,9 @@ void TImageDeleteWorker::doDelete()
         // What was not removed stays selected; a group reduced below two members goes.
         QStringList stays;
         for (const QString &path : plan.selection) {
-            const QStringList entries = plan.entriesOf.value(path);
+            const QList<GroupMember> entries = plan.entriesOf.value(path);
             if (std::any_of(entries.begin(), entries.end(),
-                    [&gone](const QString &entry) { return !gone.contains(entry); }))
+                    [&gone](const GroupMember &member) { return !gone.contains(member); }))
                 stays.append(path);
         }
         if (plan.members.size() - gone.size() < 2 || stays.isEmpty())

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/DeleteResult.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalRequest.h"
 
@@ -66,7 +67,7 @@ private:
     struct Plan;
     QList<Plan> plan(QSet<QString> &batchLeaving);
     // One item from its look to its outcome; false when the journal failed.
-    bool handle(const Plan &plan, const QString &entry, class RemovalCheck &check, qint64 seq,
+    bool handle(const Plan &plan, const GroupMember &member, class RemovalCheck &check, qint64 seq,
         bool &removed);
     bool record(const DeleteResult &result, const QString &outcome, qint64 seq = -1);
     bool stopping() const;

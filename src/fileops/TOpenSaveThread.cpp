@@ -2,10 +2,10 @@
 #include "fileops/TOpenSaveThread.h"
 
 #include "app/AppIdentity.h"
-#include "app/FileTypeCatalogue.h"
 #include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "fileops/ProjectFileFormat.h"
 #include "fileops/ProjectFileReader.h"
@@ -179,7 +179,8 @@ ProjectFileReader::Failure takeGroup(const ReadGroup &group, bool checkDisk, Ope
     QList<DiskEntry> infos;
     int folders = 0;
     for (const QString &entry : group.entries) {
-        const QString path = stripSimilarTag(entry);
+        const GroupMember member = GroupMember::fromEntry(entry);
+        const QString &path = member.path;
         const auto stamp = group.stamps.constFind(path);
         const DiskEntry info = checkDisk || stamp == group.stamps.constEnd()
             ? diskEntry(path)
@@ -188,11 +189,11 @@ ProjectFileReader::Failure takeGroup(const ReadGroup &group, bool checkDisk, Ope
             ++opened.missing;
             splog_d(kTag
                 + QStringLiteral("%1 no longer exists, left out of group %2.")
-                      .arg(stripSimilarTag(entry), group.key));
+                      .arg(path, group.key));
             continue;
         }
         if (info.isDir) {
-            if (isSimilarEntry(entry))
+            if (member.isSimilar())
                 return {TOpenSaveThread::ProjectInvalidContent,
                     QStringLiteral("group %1 tags a folder as a similar picture").arg(group.key)};
             ++folders;
@@ -455,8 +456,9 @@ int TOpenSaveThread::saveDocument(
         case TFileData::MatchContent:
             break;
         }
-        for (const QString &path : std::as_const(members)) {
-            writeItem(xml, path, chosen.contains(path), stamps.value(stripSimilarTag(path)));
+        for (const QString &entry : std::as_const(members)) {
+            writeItem(xml, entry, chosen.contains(entry),
+                stamps.value(GroupMember::fromEntry(entry).path));
         }
         xml.writeEndElement();
         emit saveProjectProcess(++done, total);

@@ -2,13 +2,13 @@
 #include "mainwindow/CloudSignIn.h"
 
 #include "app/DataDirectory.h"
-#include "app/FileTypeCatalogue.h"
 #include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneProcess.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/GroupMember.h"
 #include "engine/ScanConfigCheck.h"
 #include "engine/TFileData.h"
 #include "mainwindow/FolderPage.h"
@@ -236,7 +236,7 @@ void CloudSignIn::finishScan(bool isAbort)
     QList<GroupItemAutoSelector::KeyedGroup> pictures;
     for (auto it = m_cloudGroups.cbegin(); it != m_cloudGroups.cend(); ++it) {
         store->insertGroup(it.key(), it.value());
-        const bool similar = std::any_of(it.value().cbegin(), it.value().cend(), isSimilarEntry);
+        const bool similar = GroupMember::anySimilar(GroupMember::fromEntries(it.value()));
         (similar ? pictures : copies).append({it.key(), it.value()});
     }
     m_cloudGroups.clear();
@@ -249,7 +249,7 @@ void CloudSignIn::finishScan(bool isAbort)
               GroupItemAutoSelector::autoSelectAllEx(
                   groups, rule,
                   [cloud](const QString &entry, const QString &name) {
-                      return QVariant(cloud->getCFP(stripSimilarTag(entry), name));
+                      return QVariant(cloud->getCFP(GroupMember::fromEntry(entry).path, name));
                   },
                   preferences->selectionPreferences()->mapPriority());
           };

@@ -6,6 +6,7 @@
 #include "app/SnapshotKeys.h"
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/GroupMember.h"
 #include "pictures/PictureMeasures.h"
 #include "pictures/SimilarityLinks.h"
 #include "pictures/TReadImage.h"
@@ -278,7 +279,7 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
         if (it.value().isEmpty())
             continue;
         ImageData data;
-        data.path = stripSimilarTag(it.value().first());
+        data.path = GroupMember::fromEntry(it.value().first()).path;
         data.fromEarlierResult = true;
         data.key = it.key();
         images.append(data);
@@ -569,7 +570,7 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
     QList<GroupItemAutoSelector::KeyedGroup> newGroups;
     TFileData *store = TFileData::instance();
     auto entryOf = [](const ImageData &image) {
-        return image.path + kSimilarTag + QLatin1Char('_') + QString::number(image.similarity);
+        return GroupMember {image.path, image.similarity}.entry();
     };
     QtConcurrent::blockingMap(&m_pool, groups, [&](const QList<ImageData> &group) {
         runInBackground();

@@ -2,6 +2,7 @@
 #include "pictures/ImageLoadTask.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "pictures/TReadImage.h"
 
 #include <algorithm>
@@ -52,8 +53,8 @@ QImage ImageLoadTask::loadThumbnail(const QString &path, int size)
 
 void ImageLoadTask::run()
 {
-    // Members of similar-picture groups carry their tag; the file is the path before it.
-    const QString file = stripSimilarTag(m_path);
+    // The result model may pass a similar picture's entry; its file is the member's path.
+    const QString file = GroupMember::fromEntry(m_path).path;
     if (isCancelled()) {
         emit finished(m_row, true, m_path, QImage());
         return;

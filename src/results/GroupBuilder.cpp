@@ -4,6 +4,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "cloud/KvCloudObject.h"
 #include "engine/FileStamp.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 
 #include <algorithm>
@@ -34,8 +35,9 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
             item.files.append(entry.folderPath);
     else
         item.files = source.groups.value(key);
-    item.count = int(item.files.size());
-    item.firstFile = item.files.isEmpty() ? QString() : item.files.first();
+    const QList<GroupMember> members = GroupMember::fromEntries(item.files);
+    item.count = int(members.size());
+    item.firstFile = members.isEmpty() ? QString() : members.first().path;
     item.selectedCount = int(source.selected.value(key).size());
     if (source.isCloud) {
         const auto property = [&](const char *name) {
@@ -47,8 +49,7 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
         item.type = categoryOfMimeType(property("mimeType").toString());
         return item;
     }
-    // Members of a similar-picture group carry their similarity after the path.
-    const QFileInfo info(stripSimilarTag(item.firstFile));
+    const QFileInfo info(item.firstFile);
     item.name = info.fileName();
     if (!info.exists()) {
         item.type = CategoryOthers;
@@ -57,11 +58,11 @@ GroupItem buildGroup(const GroupSource &source, const QString &key)
         item.type = CategoryFolders;
         for (const DirGroupEntry &entry : source.dirGroups.value(key))
             item.totalSize += entry.totalSize;
-    } else if (std::any_of(item.files.cbegin(), item.files.cend(), isSimilarEntry)) {
+    } else if (GroupMember::anySimilar(members)) {
         // Similar pictures differ in size: each is counted as it is.
         item.type = getFileType(info.suffix());
-        for (const QString &entry : std::as_const(item.files))
-            item.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);
+        for (const GroupMember &member : members)
+            item.totalSize += std::max<qint64>(0, FileStamp::of(member.path).size);
     } else {
         item.type = getFileType(info.suffix());
         item.totalSize = info.size() * item.count;
@@ -76,7 +77,7 @@ QVariant GroupBuilder::cloudProperty(
 {
     if (!cloud)
         return {};
-    const QString value = cloud->getCFP(stripSimilarTag(entry), name);
+    const QString value = cloud->getCFP(GroupMember::fromEntry(entry).path, name);
     return value.isEmpty() ? QVariant() : QVariant(value);
 }
 
@@ -128,12 +129,13 @@ GroupItem GroupBuilder::buildFromStore(const QString &key)
 
 void GroupBuilder::refreshAfterRemoval(GroupItem &group)
 {
-    group.count = int(group.files.size());
-    group.firstFile = group.files.first();
+    const QList<GroupMember> members = GroupMember::fromEntries(group.files);
+    group.count = int(members.size());
+    group.firstFile = members.first().path;
     // The store has already let the member go, with its selection.
     group.selectedCount = TFileData::instance()->selectedCount(group.key);
-    const bool similar = std::any_of(group.files.cbegin(), group.files.cend(), isSimilarEntry);
-    const QFileInfo first(stripSimilarTag(group.firstFile));
+    const bool similar = GroupMember::anySimilar(members);
+    const QFileInfo first(group.firstFile);
     const QList<DirGroupEntry> folders = TFileData::instance()->dirGroup(group.key);
     if (!folders.isEmpty()) {
         group.totalSize = 0;
@@ -141,8 +143,8 @@ void GroupBuilder::refreshAfterRemoval(GroupItem &group)
             group.totalSize += entry.totalSize;
     } else if (similar) {
         group.totalSize = 0;
-        for (const QString &entry : std::as_const(group.files))
-            group.totalSize += std::max<qint64>(0, FileStamp::of(stripSimilarTag(entry)).size);
+        for (const GroupMember &member : members)
+            group.totalSize += std::max<qint64>(0, FileStamp::of(member.path).size);
     } else if (first.isFile()) {
         group.totalSize = first.size() * group.count;
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/GroupIgnorer.h"
 
-#include "app/FileTypeCatalogue.h"
 #include "cloud/KvCloudObject.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
@@ -11,10 +11,9 @@
 
 void GroupIgnorer::ignore(const QString &key, bool isCloud, KvCloudObject *cloud)
 {
-    QStringList members = TFileData::instance()->group(key);
+    QStringList members = GroupMember::paths(TFileData::instance()->groupMembers(key));
     for (const DirGroupEntry &entry : TFileData::instance()->dirGroup(key))
         members.append(entry.folderPath);
-    stripSimilarTag(members);
     DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
     QStringList ignored = prefs->IgnorePathFile();
     for (const QString &member : std::as_const(members)) {

@@ -9,7 +9,10 @@
 struct GroupItem
 {
     QString key;
+    // The members as the store keeps them (GroupMember entries), so that what the store
+    // lets go is found here by the same name.
     QStringList files;
+    // The first member's path: the file (or folder) that stands for the group.
     QString firstFile;
     QString name;
     // Copies of a file count the first one's size each; similar pictures and folders

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/HiddenFiles.h"
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 
 #include <QFileInfo>
 
 QString HiddenFiles::hide(const QString &key, const QString &path, bool undoable)
 {
+    // The store's own entry, as it holds it, is the one it lets go.
     QString entry = path;
     for (const QString &member : TFileData::instance()->group(key))
-        if (stripSimilarTag(member) == path)
+        if (GroupMember::fromEntry(member).path == path)
             entry = member;
     TFileData *store = TFileData::instance();
     HiddenFile hidden {key, QFileInfo(path).fileName(), store->group(key), store->selectedOf(key),

@@ -168,7 +168,7 @@ void PicturePreviewPane::showRow(TImageModel *model, int row)
             });
     }
     m_index = model->index(row, 0);
-    const QString file = stripSimilarTag(m_index.data(TImageModel::FilePathRole).toString());
+    const QString file = m_index.data(TImageModel::FilePathRole).toString();
     const QFileInfo info(file);
     const QString native = QDir::toNativeSeparators(info.absoluteFilePath());
     static_cast<ElidingLabel *>(m_name)->setFullText(info.fileName());

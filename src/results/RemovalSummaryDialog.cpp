@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/RemovalSummaryDialog.h"
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "results/ResultForm.h"
 #include "results/TImageModel.h"
@@ -38,7 +38,7 @@ RemovalSummaryDialog::RemovalSummaryDialog(
     QList<QTreeWidgetItem *> kept;
     QList<QTreeWidgetItem *> removed;
     for (const DeleteResult &result : results) {
-        const QString path = QDir::toNativeSeparators(stripSimilarTag(result.path));
+        const QString path = QDir::toNativeSeparators(GroupMember::fromEntry(result.path).path);
         const bool gone = result.success && result.errorCode == DeleteResult::NoError;
         QString outcome;
         QString details;

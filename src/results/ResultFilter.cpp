@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/ResultFilter.h"
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 
 #include <algorithm>
 
@@ -15,7 +15,8 @@ bool reachesFloor(const GroupItem &group, int floor)
         return true;
     int reaching = 0;
     for (const QString &entry : group.files)
-        if (ResultFilter::shownSimilarity(entry) >= floor && ++reaching >= 2)
+        if (ResultFilter::shownSimilarity(GroupMember::fromEntry(entry)) >= floor
+            && ++reaching >= 2)
             return true;
     return false;
 }
@@ -50,13 +51,12 @@ template QList<GroupItem> ResultFilter::parallelFilter<GroupItem>(
 template QList<ImageItem> ResultFilter::parallelFilter<ImageItem>(
     const QList<ImageItem> &, const std::function<bool(const ImageItem &)> &);
 
-int ResultFilter::shownSimilarity(const QString &entry)
+int ResultFilter::shownSimilarity(const GroupMember &member)
 {
-    if (!isSimilarEntry(entry))
+    if (!member.isSimilar())
         return 100;
     // 0 marks the picture the others were compared with.
-    const int percent = similarityOfEntry(entry);
-    return percent == 0 ? 100 : percent;
+    return member.similarity == 0 ? 100 : member.similarity;
 }
 
 QList<GroupItem> ResultFilter::groupsOfType(const QList<GroupItem> &all, int type) const

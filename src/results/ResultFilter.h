@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/GroupMember.h"
 #include "results/GroupItem.h"
 #include "results/ImageItem.h"
 
@@ -32,7 +33,7 @@ public:
     static std::function<bool(const ImageItem &)> showFilter(int mode, int minSimilarity);
 
     // A member entry's similarity as the page shows and filters it.
-    static int shownSimilarity(const QString &entry);
+    static int shownSimilarity(const GroupMember &member);
 
     // Parallel filter in chunks of 1000 that keeps the source order.
     template<typename T>

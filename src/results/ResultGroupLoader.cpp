@@ -3,6 +3,7 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "engine/FileStamp.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "results/PathElider.h"
 #include "results/ResultForm.h"
@@ -178,7 +179,7 @@ void ResultGroupLoader::loadMembers(const GroupItem &group)
     m_members.clear();
     m_members.reserve(group.files.size());
     for (const QString &entry : group.files)
-        m_members.append(IndexFileGroup {group.key, entry});
+        m_members.append(IndexFileGroup {group.key, GroupMember::fromEntry(entry)});
     const QHash<QString, DirGroupEntry> folders = [&group] {
         QHash<QString, DirGroupEntry> byPath;
         for (const DirGroupEntry &entry : TFileData::instance()->dirGroup(group.key))
@@ -189,14 +190,13 @@ void ResultGroupLoader::loadMembers(const GroupItem &group)
     KvCloudObject *cloud = m_cloud;
     m_memberWatcher.setFuture(
         QtConcurrent::map(m_members, [folders, isCloud, cloud](IndexFileGroup &member) {
-            member.path = stripSimilarTag(member.entry);
             // Identical copies are as similar as files can be: the slider's floor never
             // hides them, nor the picture the others were compared with.
-            member.similarity = TImageModel::shownSimilarity(member.entry);
+            member.similarity = TImageModel::shownSimilarity(member.file);
             if (isCloud) {
                 auto property = [cloud, &member](const char *name) {
                     return TImageModel::cloudProperty(
-                        cloud, member.path, QString::fromLatin1(name));
+                        cloud, member.file.path, QString::fromLatin1(name));
                 };
                 member.name = property("name").toString();
                 member.size = property("size").toLongLong();
@@ -207,16 +207,16 @@ void ResultGroupLoader::loadMembers(const GroupItem &group)
                     member.similarity = similar;
                 return;
             }
-            const QFileInfo info(member.path);
+            const QFileInfo info(member.file.path);
             member.name = info.fileName();
-            const auto folder = folders.constFind(member.path);
+            const auto folder = folders.constFind(member.file.path);
             if (folder != folders.cend()) {
                 member.size = folder->totalSize;
                 return;
             }
             // Read through the path codec: a name that is not valid UTF-8 still shows
             // its real size and date.
-            const FileStamp stamp = FileStamp::of(member.path);
+            const FileStamp stamp = FileStamp::of(member.file.path);
             member.size = stamp.isValid() ? stamp.size : 0;
             if (stamp.isValid())
                 member.createdTime = QDateTime::fromMSecsSinceEpoch(stamp.modifiedNs / 1'000'000)
@@ -235,24 +235,25 @@ void ResultGroupLoader::showMembers(const QList<IndexFileGroup> &members)
     items.reserve(members.size());
     QStringList folders;
     for (const IndexFileGroup &member : members)
-        folders.append(QDir::toNativeSeparators(QFileInfo(member.path).path()));
+        folders.append(QDir::toNativeSeparators(QFileInfo(member.file.path).path()));
     const int distinctFrom = PathElider::distinctFrom(folders);
     for (const IndexFileGroup &member : members) {
         ImageItem item;
         item.key = member.key;
         item.groupIndex = groupIndex;
-        item.path = member.path;
+        item.path = member.file.path;
         item.size = member.size;
         item.dateText = member.createdTime;
-        item.checked = selected.contains(member.path) || selected.contains(member.entry);
+        item.checked
+            = selected.contains(member.file.path) || selected.contains(member.file.entry());
         item.type = m_isCloud ? getFileType(QFileInfo(member.name).suffix())
-                              : getPathCategory(member.path);
+                              : getPathCategory(member.file.path);
         item.similarity = member.similarity;
         item.unverified = unverified;
         item.distinctFrom = distinctFrom;
         item.displayName = member.name;
-        if (isSimilarEntry(member.entry))
-            item.extra = similarityOfEntry(member.entry) == 0
+        if (member.file.isSimilar())
+            item.extra = member.file.similarity == 0
                 ? ResultForm::tr("the picture compared with")
                 : ResultForm::tr("%1% similar").arg(member.similarity);
         else if (unverified)

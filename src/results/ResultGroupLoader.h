@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/GroupMember.h"
 #include "results/GroupItem.h"
 #include "results/TImageModel.h"
 
@@ -19,12 +20,12 @@ class KvCloudObject;
 struct IndexFileGroup
 {
     QString key;
-    QString entry;
-    QString path;
+    GroupMember file;
     QString name;
     qint64 size = 0;
     QString createdTime;
     QString mimeType;
+    // As shown and filtered on: 100 for a copy and for the picture compared with.
     int similarity = 0;
     QString cloudPath;
 };

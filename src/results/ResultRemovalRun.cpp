@@ -2,11 +2,11 @@
 #include "results/ResultRemovalRun.h"
 
 #include "app/AppIdentity.h"
-#include "app/FileTypeCatalogue.h"
 #include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
 #include "engine/FileStamp.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
@@ -164,8 +164,8 @@ bool ResultRemovalRun::confirmRemoval(const QHash<QString, QStringList> &selecti
     qint64 count = 0;
     qint64 bytes = 0;
     for (const QStringList &entries : selection) {
-        for (const QString &entry : entries) {
-            const QString path = stripSimilarTag(entry);
+        for (const GroupMember &member : GroupMember::fromEntries(entries)) {
+            const QString &path = member.path;
             ++count;
             const FileStamp stamp = store->stamp(path);
             if (m_isCloud)
@@ -193,14 +193,14 @@ bool ResultRemovalRun::removesEveryCopy(
     const QHash<QString, QStringList> &groups, const QHash<QString, QStringList> &selected)
 {
     for (auto it = selected.cbegin(); it != selected.cend(); ++it) {
-        const QStringList members = groups.value(it.key());
+        const QList<GroupMember> members = GroupMember::fromEntries(groups.value(it.key()));
         if (members.isEmpty())
             continue;
         QSet<QString> chosen;
-        for (const QString &entry : it.value())
-            chosen.insert(stripSimilarTag(entry));
+        for (const GroupMember &member : GroupMember::fromEntries(it.value()))
+            chosen.insert(member.path);
         const bool keepsOne = std::any_of(members.cbegin(), members.cend(),
-            [&chosen](const QString &member) { return !chosen.contains(stripSimilarTag(member)); });
+            [&chosen](const GroupMember &member) { return !chosen.contains(member.path); });
         if (!keepsOne)
             return true;
     }
@@ -360,9 +360,9 @@ void ResultRemovalRun::offerDifferentContent(const QList<DeleteResult> &results)
     QHash<QString, QStringList> selection;
     const TFileData::Groups selected = TFileData::instance()->selected();
     for (auto it = selected.cbegin(); it != selected.cend(); ++it)
-        for (const QString &path : it.value())
-            if (differing.contains(stripSimilarTag(path)))
-                selection[it.key()].append(path);
+        for (const QString &entry : it.value())
+            if (differing.contains(GroupMember::fromEntry(entry).path))
+                selection[it.key()].append(entry);
     if (selection.isEmpty())
         return;
     if (confirmDifferentContent(differing.size()))
@@ -461,7 +461,7 @@ QString ResultRemovalRun::failureText(const DeleteResult &result, int method)
             return ResultForm::tr("Every copy of its group was selected; this one stays.");
         return result.reason;
     }
-    if (!QFileInfo::exists(stripSimilarTag(result.path)) && !result.success)
+    if (!QFileInfo::exists(GroupMember::fromEntry(result.path).path) && !result.success)
         return ResultForm::tr("The file was not found.");
     switch (result.errorCode) {
     case DeleteResult::NotAFile:
@@ -498,7 +498,7 @@ qint64 ResultRemovalRun::removedBytes(const QList<DeleteResult> &results)
     for (const DeleteResult &result : results) {
         if (!result.success || result.errorCode != DeleteResult::NoError || result.alreadyGone)
             continue;
-        const QString path = stripSimilarTag(result.path);
+        const QString path = GroupMember::fromEntry(result.path).path;
         const auto folder = folders.constFind(path);
         if (folder != folders.cend())
             bytes += *folder;
@@ -544,12 +544,12 @@ void ResultRemovalRun::startCloudRemoval(
     m_cloudKeys.clear();
     m_cloudSizes.clear();
     for (auto it = selection.cbegin(); it != selection.cend(); ++it) {
-        QStringList members = store->group(it.key());
-        const bool similar = std::any_of(members.cbegin(), members.cend(), isSimilarEntry);
-        stripSimilarTag(members);
+        const QList<GroupMember> groupMembers = store->groupMembers(it.key());
+        const bool similar = GroupMember::anySimilar(groupMembers);
+        const QStringList members = GroupMember::paths(groupMembers);
         QSet<QString> chosen;
-        for (const QString &entry : it.value())
-            chosen.insert(stripSimilarTag(entry));
+        for (const GroupMember &member : GroupMember::fromEntries(it.value()))
+            chosen.insert(member.path);
         DelParams request;
         request.groupKey = it.key();
         request.similar = similar;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/SelectionTotals.h"
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "results/TImageModel.h"
 
 #include <sys/stat.h>
@@ -16,7 +16,7 @@ qint64 SelectionTotals::bytesOf(const QString &entry)
 {
     // One stat per item, without the file-information cache: the totals run over every
     // selected item after each change of the selection.
-    const QString path = stripSimilarTag(entry);
+    const QString path = GroupMember::fromEntry(entry).path;
     QT_STATBUF status;
     if (QT_STAT(QFile::encodeName(path).constData(), &status) != 0)
         return 0;
@@ -45,7 +45,7 @@ QFuture<SelectionTotals> SelectionTotals::start(const QHash<QString, QStringList
             if (isCloud)
                 part.bytes
                     += TImageModel::cloudProperty(cloud, path, QStringLiteral("size")).toLongLong();
-            else if (const auto stamp = stamps.constFind(stripSimilarTag(path));
+            else if (const auto stamp = stamps.constFind(GroupMember::fromEntry(path).path);
                      stamp != stamps.cend() && stamp->isValid())
                 part.bytes += stamp->size;
             else

@@ -47,7 +47,7 @@ QString nameOf(const QModelIndex &index)
     const QString shown = index.data(TImageModel::DisplayNameRole).toString();
     if (!shown.isEmpty())
         return shown;
-    return QFileInfo(stripSimilarTag(index.data(TImageModel::FilePathRole).toString())).fileName();
+    return QFileInfo(index.data(TImageModel::FilePathRole).toString()).fileName();
 }
 
 } // namespace
@@ -314,7 +314,7 @@ bool TImageItemDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
 {
     if (event->type() != QEvent::ToolTip || !index.isValid())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    const QString path = stripSimilarTag(index.data(TImageModel::FilePathRole).toString());
+    const QString path = index.data(TImageModel::FilePathRole).toString();
     QToolTip::showText(event->globalPos(), QDir::toNativeSeparators(path), view, option.rect);
     return true;
 }

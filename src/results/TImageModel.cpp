@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/TImageModel.h"
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "results/GroupBuilder.h"
 
@@ -13,7 +13,21 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QImageReader>
-#include <QRegularExpression>
+
+namespace {
+
+// A removed path takes every entry of its file with it; a removed similar-picture entry
+// only itself.
+void dropRemoved(QStringList &files, const QString &removed)
+{
+    const GroupMember gone = GroupMember::fromEntry(removed);
+    files.removeIf([&gone](const QString &entry) {
+        const GroupMember member = GroupMember::fromEntry(entry);
+        return gone.isSimilar() ? member == gone : member.path == gone.path;
+    });
+}
+
+} // namespace
 
 QVariant TImageModel::cloudProperty(KvCloudObject *cloud, const QString &entry, const QString &name)
 {
@@ -465,9 +479,9 @@ void TImageModel::setDisplayedGroups(const QList<GroupItem> &groups)
     endResetModel();
 }
 
-int TImageModel::shownSimilarity(const QString &entry)
+int TImageModel::shownSimilarity(const GroupMember &member)
 {
-    return ResultFilter::shownSimilarity(entry);
+    return ResultFilter::shownSimilarity(member);
 }
 
 void TImageModel::filterByName(const QString &text)
@@ -567,11 +581,7 @@ void TImageModel::removeDeletedFile(const QString &key, const QString &path)
     if (row < 0)
         return;
     GroupItem &group = m_groups[row];
-    const QRegularExpression derived(
-        QStringLiteral("^%1%2_\\d+$").arg(QRegularExpression::escape(path), kSimilarTag));
-    group.files.removeAll(path);
-    group.files.removeIf(
-        [&derived](const QString &entry) { return derived.match(entry).hasMatch(); });
+    dropRemoved(group.files, path);
 
     if (group.files.size() > 1) {
         GroupBuilder::refreshAfterRemoval(group);
@@ -602,16 +612,8 @@ void TImageModel::removeDeletedFiles(const QHash<QString, QStringList> &removedB
         const auto removed = removedByKey.constFind(group.key);
         if (removed == removedByKey.constEnd())
             return true;
-        for (const QString &path : *removed) {
-            group.files.removeAll(path);
-            if (!isSimilarEntry(path)) {
-                const QRegularExpression derived(
-                    QStringLiteral("^%1%2_\\d+$")
-                        .arg(QRegularExpression::escape(path), kSimilarTag));
-                group.files.removeIf(
-                    [&derived](const QString &entry) { return derived.match(entry).hasMatch(); });
-            }
-        }
+        for (const QString &path : *removed)
+            dropRemoved(group.files, path);
         if (group.files.size() < 2)
             return false;
         GroupBuilder::refreshAfterRemoval(group);

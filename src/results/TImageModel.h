@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/GroupMember.h"
 #include "results/GroupItem.h"
 #include "results/ImageItem.h"
 #include "results/ResultFilter.h"
@@ -125,7 +126,7 @@ public:
     // compared with count as 100). 0: no floor.
     void setMinimumSimilarity(int percent) { m_filter.setMinimumSimilarity(percent); }
     // A member entry's similarity as the page shows and filters it.
-    static int shownSimilarity(const QString &entry);
+    static int shownSimilarity(const GroupMember &member);
 
     void refreshGroupSelection(const QModelIndexList &indexes);
     void refreshItemSelection();

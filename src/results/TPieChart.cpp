@@ -2,6 +2,7 @@
 #include "results/TPieChart.h"
 
 #include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "results/TImageModel.h"
 
 #include <QDirIterator>
@@ -48,11 +49,11 @@ StatResult localGroupStats(const QStringList &members)
 {
     QStringList plain;
     QStringList similar;
-    for (const QString &entry : members) {
-        if (isSimilarEntry(entry))
-            similar.append(stripSimilarTag(entry));
+    for (const GroupMember &member : GroupMember::fromEntries(members)) {
+        if (member.isSimilar())
+            similar.append(member.path);
         else
-            plain.append(entry);
+            plain.append(member.path);
     }
     StatResult result;
     // Plain members are copies of one another: one look at the first stands for all.

@@ -73,30 +73,6 @@ private slots:
         QCOMPARE(getPathCategory(root.filePath("album.jpg")), int(CategoryFolders));
         QCOMPARE(getPathCategory(root.filePath("missing.jpg")), int(CategoryImages));
     }
-
-    void stripSimilarTag_data()
-    {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("stripped");
-        const char *const rows[][3]
-            = {{"tagged", "abc_simlar_12", "abc"}, {"path", "/p/q r.jpg_simlar_100", "/p/q r.jpg"},
-                {"no digits", "abc_simlar_", "abc_simlar_"},
-                {"trailing letter", "abc_simlar_1x", "abc_simlar_1x"},
-                {"plain", "/a/b.jpg", "/a/b.jpg"},
-                {"tag twice keeps first", "a_simlar_1_simlar_2", "a_simlar_1"},
-                {"case-sensitive", "abc_SIMLAR_3", "abc_SIMLAR_3"}};
-        for (const auto &row : rows)
-            QTest::newRow(row[0]) << QString(row[1]) << QString(row[2]);
-    }
-    void stripSimilarTag()
-    {
-        QFETCH(QString, entry);
-        QFETCH(QString, stripped);
-        QCOMPARE(::stripSimilarTag(entry), stripped);
-        QStringList list {entry, QStringLiteral("plain")};
-        ::stripSimilarTag(list);
-        QCOMPARE(list, QStringList({stripped, QStringLiteral("plain")}));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestFileTypeCatalogue)

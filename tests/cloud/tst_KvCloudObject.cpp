@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ImageFixtures.h"
 #include "TestEnvironment.h"
-#include "app/FileTypeCatalogue.h"
 #include "cloud/CloudService.h"
 #include "cloud/KvCloudObject.h"
 #include "cloud/RcloneClient.h"
 #include "cloud/RcloneProcess.h"
+#include "engine/GroupMember.h"
 #include "engine/ScanTree.h"
 #include "fileops/CloudRemover.h"
 #include "pictures/ImageCompareStage.h"
@@ -186,7 +186,7 @@ private slots:
         QCOMPARE(
             scan(cloud, top, {}, &aborted, &groups), (QList<QStringList> {{"a.jpg", "sub/b.jpg"}}));
         QVERIFY(!aborted);
-        QVERIFY(isSimilarEntry(groups.begin().value().first()));
+        QVERIFY(GroupMember::fromEntry(groups.begin().value().first()).isSimilar());
         QCOMPARE(cloud.getCFP(top + "/sub/b.jpg", "size").toLongLong(),
             QFileInfo(root.filePath("sub/b.jpg")).size());
         QVERIFY(QDir(cloud.get_download_dir() + "pictures").isEmpty());

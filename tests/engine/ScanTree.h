@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "engine/ScanTable.h"
 #include "engine/TFileScanner.h"
 
@@ -62,10 +62,8 @@ template<typename Groups>
 QList<QStringList> relativeGroups(const Groups &groups, const QString &root)
 {
     QList<QStringList> out;
-    for (QStringList members : groups) {
-        stripSimilarTag(members);
-        out.append(relative(members, root));
-    }
+    for (const QStringList &members : groups)
+        out.append(relative(GroupMember::paths(GroupMember::fromEntries(members)), root));
     std::sort(out.begin(), out.end());
     return out;
 }

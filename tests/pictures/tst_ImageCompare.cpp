@@ -5,8 +5,8 @@
 #include "ImageFixtures.h"
 #include "LogText.h"
 #include "TestEnvironment.h"
-#include "app/FileTypeCatalogue.h"
 #include "app/TLogger.h"
+#include "engine/GroupMember.h"
 #include "engine/TFileData.h"
 #include "pictures/ImageCompareThread.h"
 
@@ -355,9 +355,8 @@ private slots:
         QVERIFY(!run(thread, paths).isEmpty());
         const TFileData::Groups groups = TFileData::instance()->groups();
         QCOMPARE(groups.size(), 1);
-        QStringList members;
-        for (const QString &entry : groups.constBegin().value())
-            members << stripSimilarTag(entry);
+        QStringList members
+            = GroupMember::paths(GroupMember::fromEntries(groups.constBegin().value()));
         members.sort();
         QCOMPARE(members, QStringList({a, b}));
         // Not merely left ungrouped: the loading stage hands on only real pictures.
@@ -429,19 +428,18 @@ private slots:
         // One of the two alike pictures could go; the first of the group stays.
         QCOMPARE(finished.at(0).toInt(), 1);
         const QString second = TFileData::instance()->groups().begin()->at(1);
-        QCOMPARE(finished.at(1).toLongLong(), QFileInfo(stripSimilarTag(second)).size());
+        QCOMPARE(
+            finished.at(1).toLongLong(), QFileInfo(GroupMember::fromEntry(second).path).size());
         const TFileData::Groups groups = TFileData::instance()->groups();
         QCOMPARE(groups.size(), 1);
         const QString key = groups.constBegin().key();
         const QStringList entries = groups.constBegin().value();
         QCOMPARE(entries.size(), 2);
         QCOMPARE(key, TFileData::groupKey(entries.first()));
-        for (const QString &entry : entries) {
-            QVERIFY(isSimilarEntry(entry));
-            const QString path = stripSimilarTag(entry);
-            QVERIFY(path == a || path == b);
-            const int percent = entry.section(QLatin1Char('_'), -1).toInt();
-            QVERIFY(percent < 100);
+        for (const GroupMember &member : TFileData::instance()->groupMembers(key)) {
+            QVERIFY(member.isSimilar());
+            QVERIFY(member.path == a || member.path == b);
+            QVERIFY(member.similarity < 100);
         }
     }
 
@@ -460,7 +458,7 @@ private slots:
         const QStringList members = TFileData::instance()->group(key);
         QCOMPARE(members.size(), 3);
         QCOMPARE(members.mid(0, 2), QStringList({dup1, dup2}));
-        QCOMPARE(stripSimilarTag(members.at(2)), similar);
+        QCOMPARE(GroupMember::fromEntry(members.at(2)).path, similar);
         QCOMPARE(TFileData::instance()->groupCount(), 1);
     }
 

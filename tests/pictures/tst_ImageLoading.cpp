@@ -6,6 +6,7 @@
 #include "LogText.h"
 #include "TestEnvironment.h"
 #include "app/TLogger.h"
+#include "engine/GroupMember.h"
 #include "pictures/ImageLoadTask.h"
 #include "pictures/TReadImage.h"
 
@@ -296,7 +297,7 @@ private slots:
         QFETCH(bool, cancelFirst);
         const QString path = writePicture("jpg", fixtures::makeScene(1200, 600, 6), "thumb");
         // The task is a tagged member of a similar group, as the result model passes it.
-        const QString entry = path + "_simlar_87";
+        const QString entry = GroupMember {path, 87}.entry();
         auto *task = new ImageLoadTask(7, 1, entry, false);
         QSignalSpy spy(task, &ImageLoadTask::finished);
         if (cancelFirst)

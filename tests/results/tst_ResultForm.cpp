@@ -7,6 +7,7 @@
 #include "app/LanguageSetup.h"
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
+#include "engine/GroupMember.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "fileops/CloudRemover.h"
@@ -446,8 +447,8 @@ private slots:
         const QString a = file("p/a.jpg", jpeg(1));
         const QString b = file("p/b.jpg", jpeg(2));
         const QString c = file("p/c.jpg", jpeg(3));
-        TFileData::instance()->insertGroup(TFileData::groupKey(a) + kSimilarTag,
-            {a + kSimilarTag + "_0", b + kSimilarTag + "_70", c + kSimilarTag + "_62"});
+        const QStringList entries = GroupMember::entries({{a, 0}, {b, 70}, {c, 62}});
+        TFileData::instance()->insertGroup(TFileData::groupKey(entries.first()), entries);
         DFGenernalPreferences *similar = DFPreferences::instance()->generalPreferences();
         const DFGenernalPreferences saved(*similar);
         similar->setSimilarityValue(55);
@@ -538,9 +539,8 @@ private slots:
         const QString a = file("p/sunset.jpg", picture);
         const QByteArray edited = jpeg(6);
         const QString b = file("q/sunset-edit.jpg", edited);
-        const QString key = TFileData::groupKey(a) + kSimilarTag;
-        TFileData::instance()->insertGroup(
-            key, {a + kSimilarTag + "_100", b + kSimilarTag + "_92"});
+        const QStringList entries = GroupMember::entries({{a, 100}, {b, 92}});
+        TFileData::instance()->insertGroup(TFileData::groupKey(entries.first()), entries);
         ResultForm *page = openPage();
         const GroupItem group = page->groupModel()->displayedGroups().first();
         QCOMPARE(group.name, "sunset.jpg");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TestEnvironment.h"
 #include "app/FileTypeCatalogue.h"
+#include "engine/GroupMember.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "results/PathElider.h"
@@ -295,7 +296,7 @@ private slots:
             paths << writeFile(QStringLiteral("rm%1/f.dat").arg(i), QByteArray(100, 'q'));
         const QString removed = paths.first();
         if (similarEntries)
-            paths = {paths[0], paths[0] + kSimilarTag + QStringLiteral("_97"), paths[1]};
+            paths = {paths[0], GroupMember {paths[0], 97}.entry(), paths[1]};
         const QString key = TFileData::groupKey(paths.first());
         TFileData::instance()->insertGroup(key, paths);
         // A second group keeps the model from being empty by accident.

@@ -4,9 +4,9 @@
 // at two window sizes, and the main state in every language. Run it through
 // tools/screenshots.sh (under Xvfb) to look at the real rendering.
 #include "ScreenshotSupport.h"
-#include "app/FileTypeCatalogue.h"
 #include "app/LanguageSetup.h"
 #include "engine/GroupItemAutoSelector.h"
+#include "engine/GroupMember.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "preferences/DFIgnoreListPreferences.h"
@@ -93,12 +93,13 @@ void fillResults(const QString &root)
         group(root, copies, photo(i));
     }
     // Near matches of one photo, as the picture comparison tags them.
-    QStringList similar;
+    QList<GroupMember> similar;
     for (int i = 0; i < 3; ++i)
-        similar << ScanTree::write(root, QStringLiteral("Pictures/Edits/sunset-%1.jpg").arg(i),
-                       photo(40, 1200 - i * 200, 800 - i * 130))
-                + kSimilarTag + QStringLiteral("_%1").arg(100 - i * 7);
-    TFileData::instance()->insertGroup(TFileData::groupKey(similar.first()) + kSimilarTag, similar);
+        similar.append({ScanTree::write(root, QStringLiteral("Pictures/Edits/sunset-%1.jpg").arg(i),
+                            photo(40, 1200 - i * 200, 800 - i * 130)),
+            100 - i * 7});
+    const QStringList entries = GroupMember::entries(similar);
+    TFileData::instance()->insertGroup(TFileData::groupKey(entries.first()), entries);
     QRandomGenerator random(7);
     auto bytes = [&random](int size) {
         QByteArray data(size, Qt::Uninitialized);
@@ -198,7 +199,8 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
     // The similar pictures, in the grid and side by side.
     auto *groups = page.findChild<QListView *>(QStringLiteral("listView_groups"));
     for (int row = 0; row < page.groupModel()->rowCount(); ++row)
-        if (page.groupModel()->displayedGroups().at(row).key.endsWith(kSimilarTag))
+        if (GroupMember::anySimilar(
+                GroupMember::fromEntries(page.groupModel()->displayedGroups().at(row).files)))
             groups->setCurrentIndex(page.groupModel()->index(row, 0));
     QTest::qWait(700);
     save(&page, out, prefix + QStringLiteral("7-similar"));
