@@ -126,14 +126,16 @@ QString CliOptions::usage()
         "                              turns this on as well:\n"
         "  --threshold PERCENT         pass mark of the fast comparison, %5 to %6\n"
         "                              (default %9)\n"
-        "  --algorithm smart|histogram|phash\n"
-        "                              fast comparison: colour histogram, 64-bit\n"
-        "                              perceptual hash, or smart (default): the hash\n"
-        "                              above 10000 pictures, else the histogram\n"
+        "  --algorithm robust|smart|histogram|phash\n"
+        "                              measure: robust (default) also finds cropped,\n"
+        "                              rotated, mirrored and grey copies; colour\n"
+        "                              histogram; 64-bit perceptual hash; or smart:\n"
+        "                              the hash above 10000 pictures, else the histogram\n"
         "  --features PERCENT          pass mark of the feature-point re-check, %7 to %8\n"
         "                              (default %10)\n"
         "  --no-features               leave out the feature-point re-check\n"
-        "  --any-type                  also compare pictures of different file types\n"
+        "  --any-type                  compare pictures of different file types (default)\n"
+        "  --same-type                 compare only pictures of the same file type\n"
         "  --any-ratio                 also compare pictures whose aspect ratios differ\n"
         "                              more than four times\n"
         "  --cloud REMOTE:PATH         scan this folder of an rclone remote instead of local\n"
@@ -450,7 +452,7 @@ CliOptions::Taken CliOptions::takeSimilarOption(Option &option)
         if (!option.takeValue())
             return Failed;
         if (!algorithms().contains(option.value)) {
-            m_error = QStringLiteral("unknown algorithm \"%1\" (smart, histogram or phash)")
+            m_error = QStringLiteral("unknown algorithm \"%1\" (robust, smart, histogram or phash)")
                           .arg(option.value);
             return Failed;
         }
@@ -459,6 +461,8 @@ CliOptions::Taken CliOptions::takeSimilarOption(Option &option)
         m_addFeatures = false;
     } else if (name == QLatin1String("--any-type") && option.isFlag()) {
         m_sameType = false;
+    } else if (name == QLatin1String("--same-type") && option.isFlag()) {
+        m_sameType = true;
     } else if (name == QLatin1String("--any-ratio") && option.isFlag()) {
         m_sameRatio = false;
     } else {

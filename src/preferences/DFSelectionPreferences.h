@@ -36,7 +36,7 @@ public:
         NoSelected = 8
     };
     Q_ENUM(DFSelectionHint)
-    enum DFAlgorithmsHint { rbSmart = 0, rbHistogram = 1, rbPhash = 2 };
+    enum DFAlgorithmsHint { rbSmart = 0, rbHistogram = 1, rbPhash = 2, rbRobust = 3 };
     Q_ENUM(DFAlgorithmsHint)
 
     explicit DFSelectionPreferences(QObject *parent = nullptr);

@@ -80,7 +80,7 @@ QList<Word> choices(const Setting &setting)
             {"low-quality", Duplicates::selectLowQuality}, {"none", Duplicates::NoSelected}};
     if (&setting == &algorithmHint)
         return {{"smart", Duplicates::rbSmart}, {"histogram", Duplicates::rbHistogram},
-            {"phash", Duplicates::rbPhash}};
+            {"phash", Duplicates::rbPhash}, {"robust", Duplicates::rbRobust}};
     if (&setting == &scanPriority)
         return {{"speed", Similar::scanSpeed}, {"result", Similar::scanResult},
             {"custom", Similar::scanCustom}};

@@ -77,6 +77,7 @@ DFGeneralWidget::DFGeneralWidget(QWidget *parent)
     algorithm(ui->rbSmart, DFSelectionPreferences::rbSmart);
     algorithm(ui->rbHistogram, DFSelectionPreferences::rbHistogram);
     algorithm(ui->rbPhash, DFSelectionPreferences::rbPhash);
+    algorithm(ui->rbRobust, DFSelectionPreferences::rbRobust);
 
     // "Follow the duplicates removal rule" stands for every value without a button of
     // its own; choosing it stores the rule's default.
@@ -127,6 +128,9 @@ void DFGeneralWidget::refresh()
         break;
     case DFSelectionPreferences::rbPhash:
         ui->rbPhash->setChecked(true);
+        break;
+    case DFSelectionPreferences::rbRobust:
+        ui->rbRobust->setChecked(true);
         break;
     default:
         ui->rbSmart->setChecked(true);
