@@ -1,6 +1,6 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Concurrent Charts Network Xml Svg
                                           SvgWidgets Test LinguistTools)
-find_package(OpenCV 4 REQUIRED COMPONENTS core imgproc imgcodecs features2d flann img_hash)
+find_package(OpenCV 4 REQUIRED COMPONENTS core imgproc imgcodecs features2d flann img_hash calib3d)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(LIBRAW REQUIRED IMPORTED_TARGET libraw_r)
 pkg_check_modules(LIBHEIF REQUIRED IMPORTED_TARGET libheif)

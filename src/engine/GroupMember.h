@@ -19,6 +19,9 @@ struct GroupMember
     QString path;
     // Percent; 0 marks the picture the others were compared with.
     int similarity = kNotSimilar;
+    // Why a similar picture was grouped, where the measure tells ("robust, distance 4,
+    // mirrored"); empty otherwise. Not part of the entry: the store keeps it beside it.
+    QString reason;
 
     bool isSimilar() const { return similarity != kNotSimilar; }
     // The member as the store and the project file keep it.

@@ -183,7 +183,28 @@ QStringList TFileData::group(const QString &key) const
 
 QList<GroupMember> TFileData::groupMembers(const QString &key) const
 {
-    return GroupMember::fromEntries(group(key));
+    QReadLocker locker(&m_lock);
+    const QStringList entries = m_groups.value(key);
+    QList<GroupMember> members;
+    members.reserve(entries.size());
+    for (const QString &entry : entries) {
+        members.append(GroupMember::fromEntry(entry));
+        if (members.constLast().isSimilar())
+            members.last().reason = m_matchReasons.value(entry);
+    }
+    return members;
+}
+
+void TFileData::setMatchReason(const QString &entry, const QString &reason)
+{
+    QWriteLocker locker(&m_lock);
+    m_matchReasons.insert(entry, reason);
+}
+
+QString TFileData::matchReason(const QString &entry) const
+{
+    QReadLocker locker(&m_lock);
+    return m_matchReasons.value(entry);
 }
 
 QStringList TFileData::selectedOf(const QString &key) const
@@ -274,6 +295,7 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     m_selectedLookup = lookupOf(selected);
     m_stamps.clear();
     m_groupMatches.clear();
+    m_matchReasons.clear();
 }
 
 TFileData::Removable TFileData::removable() const
@@ -326,6 +348,7 @@ void TFileData::clear()
     m_selectedLookup.clear();
     m_stamps.clear();
     m_groupMatches.clear();
+    m_matchReasons.clear();
 }
 
 void TFileData::insertStamp(const QString &path, const FileStamp &stamp)

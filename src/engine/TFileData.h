@@ -78,6 +78,9 @@ public:
     FileStamp stamp(const QString &path) const;
     Stamps stamps() const;
     void setStamps(const Stamps &stamps);
+    // Why each similar picture was grouped, by its entry (see GroupMember::reason).
+    void setMatchReason(const QString &entry, const QString &reason);
+    QString matchReason(const QString &entry) const;
     void setGroupMatch(const QString &key, GroupMatch match);
     GroupMatch groupMatch(const QString &key) const;
     void clear();
@@ -110,4 +113,5 @@ private:
     std::atomic<quint64> m_revision {0};
     // Groups whose match is not MatchContent.
     QHash<QString, GroupMatch> m_groupMatches;
+    QHash<QString, QString> m_matchReasons;
 };

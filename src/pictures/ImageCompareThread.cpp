@@ -7,7 +7,10 @@
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/GroupMember.h"
+#include "pictures/GreyPictureReader.h"
 #include "pictures/PictureMeasures.h"
+#include "pictures/RobustMatcher.h"
+#include "pictures/RobustSignature.h"
 #include "pictures/SimilarityLinks.h"
 #include "pictures/TReadImage.h"
 #include "platform/Platform.h"
@@ -139,7 +142,9 @@ QString ImageCompareThread::elapsedSeconds() const
 
 void ImageCompareThread::chooseMeasure(int imageCount)
 {
-    if (m_algorithmHint == 2)
+    if (m_algorithmHint == 3)
+        m_measure = MeasureRobust;
+    else if (m_algorithmHint == 2)
         m_measure = MeasurePHash;
     else if (m_algorithmHint == 1)
         m_measure = MeasureHistogram;
@@ -220,7 +225,9 @@ void ImageCompareThread::measurePicture(
         int w = 0;
         int h = 0;
         TReadImage::Failure failure = TReadImage::Failure::None;
-        const cv::Mat picture = TReadImage::readImage(data.path, &w, &h, &failure);
+        const cv::Mat picture = measure == MeasureRobust
+            ? GreyPictureReader::read(data.path, RobustSignature::kHashSide, &w, &h, &failure)
+            : TReadImage::readImage(data.path, &w, &h, &failure);
         if (picture.empty()) {
             unreadable.fetch_add(1);
             logSkipped(data.path, TReadImage::failureText(failure));
@@ -228,7 +235,11 @@ void ImageCompareThread::measurePicture(
         }
         data.width = w;
         data.height = h;
-        if (measure == MeasurePHash) {
+        if (measure == MeasureRobust) {
+            data.hash = RobustSignature::toMat(RobustSignature::of(picture));
+            if (data.hash.total() == 0)
+                data.hash.release();
+        } else if (measure == MeasurePHash) {
             data.hash = makePHash(picture);
             if (data.hash.total() == 8 && data.hash.type() == CV_8UC1)
                 std::memcpy(&data.hashBits, data.hash.ptr(), sizeof(data.hashBits));
@@ -456,6 +467,50 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
                   .arg(groups.size()));
 }
 
+void ImageCompareThread::robustCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups)
+{
+    const int n = int(images.size());
+    RobustMatcher::Options options;
+    options.sameType = m_isImageType;
+    options.sameRatio = m_isImageSize;
+    options.ratioLimit = double(m_imageMinSize);
+    options.passPercent = int(std::lround(double(m_similarityValue) * 100.0));
+    RobustMatcher matcher(options, m_cancel);
+    reportProgress(3, 0, n, true);
+    const std::vector<RobustMatcher::Pair> pairs = matcher.match(
+        images, &m_pool, [this](int done, int total) { reportProgress(3, done, total); });
+    // The pairs come sorted by their first picture: recorded in that order, each picture
+    // keeps the similarity and reason of its last pair, as the all-pairs loop does.
+    SimilarityLinks links(n);
+    for (const RobustMatcher::Pair &pair : pairs) {
+        links.recordSimilarity(pair.a, pair.b, pair.percent());
+        images[pair.b].reason = pair.reason();
+    }
+    for (size_t k = 0; k < pairs.size();) {
+        const int a = pairs[k].a;
+        std::vector<int> others;
+        for (; k < pairs.size() && pairs[k].a == a; ++k)
+            others.push_back(pairs[k].b);
+        links.link(a, others, [&](int j) {
+            if (!images.at(j).fromEarlierResult)
+                addFound(images.at(j).bytes);
+        });
+    }
+    if (!isCancelled())
+        links.collect(images, groups);
+    if (!isCancelled())
+        reportProgress(3, n, n, true);
+    splog_d(kTag
+        + QStringLiteral("Robust matching process completed. Time taken: [%1] seconds. "
+                         "Quantity: [%2]. Candidate pairs: [%3], checked by key points: [%4], "
+                         "matched: [%5].")
+              .arg(elapsedSeconds())
+              .arg(groups.size())
+              .arg(matcher.candidateCount())
+              .arg(matcher.checkedCount())
+              .arg(pairs.size()));
+}
+
 void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
 {
     splog_d(kTag
@@ -588,6 +643,8 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
             m_fileCount.fetch_add(1);
             m_fileBytes.fetch_add(bytes);
             entries.append(entryOf(image));
+            if (!image.reason.isEmpty())
+                store->setMatchReason(entries.constLast(), image.reason);
         }
         if (entries.isEmpty())
             return;
@@ -624,6 +681,8 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
             if (!members.contains(entry)) {
                 members.append(entry);
                 changed = true;
+                if (!image.reason.isEmpty())
+                    store->setMatchReason(entry, image.reason);
             }
         }
         if (changed)
@@ -657,10 +716,16 @@ void ImageCompareThread::run()
         }
     };
     guarded([&] { loadImages(images); });
-    guarded([&] { hashCompare(images, groups); });
-    images.clear();
-    if (m_isAddFeatures)
-        guarded([&] { orbFeatureMatch(groups); });
+    if (m_measure == MeasureRobust) {
+        // The robust measure checks its own pairs by their geometry.
+        guarded([&] { robustCompare(images, groups); });
+        images.clear();
+    } else {
+        guarded([&] { hashCompare(images, groups); });
+        images.clear();
+        if (m_isAddFeatures)
+            guarded([&] { orbFeatureMatch(groups); });
+    }
     guarded([&] { storeGroups(groups); });
     emit finished(m_fileCount.load(), m_fileBytes.load());
 }

@@ -27,7 +27,8 @@ class ImageCompareThread : public QThread
 {
     Q_OBJECT
 public:
-    enum Measure { MeasureHistogram = 1, MeasurePHash = 2 };
+    // The values are also the picture cache's measure numbers (3 is the feature points).
+    enum Measure { MeasureHistogram = 1, MeasurePHash = 2, MeasureRobust = 4 };
 
     explicit ImageCompareThread(QObject *parent = nullptr);
     ~ImageCompareThread() override;
@@ -54,6 +55,8 @@ public:
     // pictures it could read and measure; each one left out is logged with its reason.
     void loadImages(QList<ImageData> &images);
     void hashCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups);
+    // The robust measure's pair stage, in place of hashCompare and the feature re-check.
+    void robustCompare(QList<ImageData> &images, QList<QList<ImageData>> &groups);
     void orbFeatureMatch(QList<QList<ImageData>> &groups);
     // Writes the groups into TFileData (and their automatic selection); returns the
     // number of new files that could go (a group of new pictures keeps one) and their

@@ -31,6 +31,8 @@ struct ImageData
     cv::Mat descriptors;
     // Percent similarity to the group, written by the pair comparison.
     qint32 similarity = 0;
+    // Why it joined the group, where the measure tells (the robust measure does).
+    QString reason;
 };
 
 Q_DECLARE_METATYPE(ImageData)

@@ -125,22 +125,23 @@ QString cvMessage(const cv::Exception &e)
     return QString::fromStdString(e.what());
 }
 
-// Size from the file header without decoding; invalid when the header is unknown.
-QSize headerSize(const QString &path)
+} // namespace
+
+QSize TReadImage::headerSize(const QString &path)
 {
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     return reader.size();
 }
 
-cv::Mat imreadFlags(const QString &path, int flags, TReadImage::Failure *failure)
+cv::Mat TReadImage::imreadFlags(const QString &path, int flags, Failure *failure)
 {
     if (TReadImage::needsMemoryRoute(path))
         return TReadImage::imreadThroughMemory(path, flags, failure);
     return cv::imread(QFile::encodeName(path).toStdString(), flags);
 }
 
-bool isJpegFile(const QString &path)
+bool TReadImage::isJpegFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -150,11 +151,13 @@ bool isJpegFile(const QString &path)
         && uchar(head[2]) == 0xFF;
 }
 
+namespace {
+
 cv::Mat fullRead(const QString &path, TReadImage::Failure *failure)
 {
     cv::Mat mat;
     try {
-        mat = imreadFlags(path, cv::IMREAD_COLOR, failure);
+        mat = TReadImage::imreadFlags(path, cv::IMREAD_COLOR, failure);
         if (!mat.empty())
             splog_d(kTag
                 + QStringLiteral("Full read success. File: %1, Size: %2x%3")
@@ -186,7 +189,7 @@ cv::Mat reducedRead(const QString &path, TReadImage::Failure *failure)
     // Only an allocation that failed is reported as memory; a file the decoder cannot
     // make sense of gives an empty result or a library exception.
     try {
-        mat = imreadFlags(path, cv::IMREAD_REDUCED_COLOR_8, failure);
+        mat = TReadImage::imreadFlags(path, cv::IMREAD_REDUCED_COLOR_8, failure);
     } catch (const std::bad_alloc &) {
         mat.release();
         note(failure, TReadImage::Failure::OutOfMemory);
@@ -434,7 +437,7 @@ cv::Mat TReadImage::readOrdinary(const QString &path, Failure *failure)
                   .arg(path)
                   .arg(header.width())
                   .arg(header.height()));
-    if (mat.empty() && (!huge || isJpegFile(path)))
+    if (mat.empty() && (!huge || TReadImage::isJpegFile(path)))
         mat = reducedRead(path, failure);
     if (mat.empty())
         mat = qtReaderRead(path, failure);

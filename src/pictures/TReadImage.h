@@ -68,6 +68,12 @@ public:
     // library cannot open by name).
     static cv::Mat imreadThroughMemory(const QString &path, int flags, Failure *failure = nullptr);
 
+    // The picture's size as its header gives it; invalid when the header cannot be read.
+    static QSize headerSize(const QString &path);
+    // cv::imread with flags, through memory for paths the codec library cannot open.
+    static cv::Mat imreadFlags(const QString &path, int flags, Failure *failure = nullptr);
+    // True when the file starts with a JPEG's start-of-image marker.
+    static bool isJpegFile(const QString &path);
     // True when the file's first 12 bytes hold the "ftyp" box of the ISO media format.
     static bool hasFtypBox(const QString &path);
     // Paths that do not survive the codec library's narrow-character file opening.

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pictures/ImageData.h"
+#include "pictures/KeypointCheck.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+#include <QList>
+#include <QString>
+
+class QThreadPool;
+
+// The robust measure's pair stage. Candidates come from a hash index, not from all pairs:
+// the whole-picture hash of each picture is looked up among every hash variant (whole,
+// mirror image, crops) of the others. A pair whose whole pictures' hashes nearly agree is
+// taken as it is; every other candidate (farther apart, or met through the mirror image or
+// a crop) must pass the key-point check. The outcome does not depend on the order of the
+// pictures or on which task finished first.
+class RobustMatcher
+{
+public:
+    struct Options
+    {
+        // Whole against whole at most this far apart: taken without the check.
+        int strongDistance = 6;
+        // Any variant pair at most this far apart: a candidate for the check.
+        int looseDistance = 12;
+        bool sameType = false;
+        bool sameRatio = true;
+        double ratioLimit = 4.0;
+        // Pairs that would show below this percent are left out.
+        int passPercent = 0;
+    };
+    struct Pair
+    {
+        int a = 0;
+        int b = 0;
+        int distance = 64;
+        // The variant of one picture that met the other's whole picture, and whether that
+        // variant belongs to a (else b).
+        int variant = 0;
+        bool variantOfA = false;
+        bool checked = false;
+        int inliers = 0;
+
+        // Share of the hash bits that agree, as the percent shown.
+        int percent() const;
+        // Why the pair matched, for the report and the preview: "robust, distance 4",
+        // "..., mirrored", "..., cropped", "..., key points 57".
+        QString reason() const;
+    };
+
+    RobustMatcher(const Options &options, const std::atomic_int &cancel);
+    ~RobustMatcher();
+
+    // The pairs that match among images (whose hash is a robust signature), a < b, sorted.
+    // progress(done, total) is called as candidates are checked.
+    std::vector<Pair> match(const QList<ImageData> &images, QThreadPool *pool,
+        const std::function<void(int, int)> &progress);
+
+    // Counts of the last run, for the log.
+    int candidateCount() const { return m_candidates; }
+    int checkedCount() const { return m_checked; }
+
+private:
+    std::vector<Pair> candidates(const QList<ImageData> &images, QThreadPool *pool);
+    bool comparable(const ImageData &a, const ImageData &b) const;
+    const KeypointCheck::Features &featuresOf(const QList<ImageData> &images, int k, bool mirrored);
+
+    Options m_options;
+    const std::atomic_int &m_cancel;
+    // Key points of each picture and of its mirror image, found once, when first asked.
+    struct Slot
+    {
+        std::once_flag once;
+        KeypointCheck::Features features;
+    };
+    std::unique_ptr<Slot[]> m_slots;
+    int m_candidates = 0;
+    int m_checked = 0;
+};

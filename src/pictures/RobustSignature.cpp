@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictures/RobustSignature.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <opencv2/img_hash.hpp>
+#include <opencv2/imgproc.hpp>
+
+namespace {
+
+// Kept share of each side for the crop variants. A copy trimmed by 5 to 12 % a side, or
+// straightened after a small turn, lands near one of them.
+constexpr double kCropShares[] = {0.90, 0.83, 0.76, 0.70};
+// Each crop also at the eight neighbouring offsets, (1 - share) / 6 of the side away: a
+// copy trimmed unevenly has its centre moved by up to a quarter of what was trimmed.
+constexpr double kOffsetDivisor = 6.0;
+constexpr int kOffsets = 9;
+constexpr int kCropSizes = int(sizeof(kCropShares) / sizeof(kCropShares[0]));
+// The smallest picture cropped; smaller ones (icons) have no detail to crop into.
+constexpr int kMinSide = 16;
+
+} // namespace
+
+int RobustSignature::variantCount()
+{
+    return FirstCrop + kCropSizes * kOffsets;
+}
+
+double RobustSignature::keptShare(int variant)
+{
+    return variant < FirstCrop ? 1.0 : kCropShares[(variant - FirstCrop) / kOffsets];
+}
+
+quint64 RobustSignature::hashOf(const cv::Mat &grey)
+{
+    cv::Mat small;
+    cv::resize(grey, small, cv::Size(32, 32), 0, 0, cv::INTER_AREA);
+    cv::Mat hash;
+    cv::img_hash::pHash(small, hash);
+    quint64 bits = 0;
+    if (hash.total() == sizeof(bits) && hash.isContinuous())
+        std::memcpy(&bits, hash.ptr(), sizeof(bits));
+    return bits;
+}
+
+std::vector<quint64> RobustSignature::of(const cv::Mat &grey)
+{
+    if (grey.empty() || grey.cols < kMinSide || grey.rows < kMinSide)
+        return {};
+    std::vector<quint64> hashes;
+    hashes.reserve(size_t(variantCount()));
+    hashes.push_back(hashOf(grey));
+    cv::Mat mirror;
+    cv::flip(grey, mirror, 1);
+    hashes.push_back(hashOf(mirror));
+    const int w = grey.cols;
+    const int h = grey.rows;
+    for (const double share : kCropShares) {
+        const double step = (1.0 - share) / kOffsetDivisor;
+        const int cw = std::max(8, int(std::lround(w * share)));
+        const int ch = std::max(8, int(std::lround(h * share)));
+        for (int dy = -1; dy <= 1; ++dy) {
+            for (int dx = -1; dx <= 1; ++dx) {
+                const int x
+                    = std::clamp(int(std::lround((w - cw) / 2.0 + dx * step * w)), 0, w - cw);
+                const int y
+                    = std::clamp(int(std::lround((h - ch) / 2.0 + dy * step * h)), 0, h - ch);
+                hashes.push_back(hashOf(grey(cv::Rect(x, y, cw, ch))));
+            }
+        }
+    }
+    return hashes;
+}
+
+cv::Mat RobustSignature::toMat(const std::vector<quint64> &hashes)
+{
+    cv::Mat mat(1, int(hashes.size() * sizeof(quint64)), CV_8UC1);
+    if (!hashes.empty())
+        std::memcpy(mat.ptr(), hashes.data(), hashes.size() * sizeof(quint64));
+    return mat;
+}
+
+std::vector<quint64> RobustSignature::fromMat(const cv::Mat &mat)
+{
+    if (mat.empty() || mat.type() != CV_8UC1 || !mat.isContinuous()
+        || mat.total() != size_t(variantCount()) * sizeof(quint64))
+        return {};
+    std::vector<quint64> hashes(static_cast<size_t>(variantCount()));
+    std::memcpy(hashes.data(), mat.ptr(), mat.total());
+    return hashes;
+}
