@@ -154,14 +154,21 @@ void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &gr
         if (similar) {
             QStringList paths;
             QStringList percents;
-            for (const GroupMember &member : GroupMember::fromEntries(group.files)) {
+            QStringList reasons;
+            for (const QString &entry : group.files) {
+                const GroupMember member = GroupMember::fromEntry(entry);
                 paths.append(member.path);
                 // A copy merged into a group of similar pictures is as its first: 0.
                 percents.append(QString::number(member.isSimilar() ? member.similarity : 0));
+                reasons.append(TFileData::instance()->matchReason(entry));
             }
             writeJsonList(out, paths);
             std::fprintf(
                 out, ", \"similarity\": [%s]", qPrintable(percents.join(QStringLiteral(", "))));
+            // Why each picture joined: the measure, its distance and how the copy differs
+            // ("mirrored", "cropped"); empty for the first and where the measure does not say.
+            std::fputs(", \"matched\": ", out);
+            writeJsonList(out, reasons);
             QStringList chosen;
             for (const GroupMember &member : GroupMember::fromEntries(group.selected))
                 chosen.append(member.path);
@@ -189,6 +196,8 @@ void printText(const QList<OutputGroup> &groups)
             std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
             if (member.isSimilar())
                 std::fprintf(stdout, "\t[similar %d%%]", member.similarity);
+            if (const QString reason = TFileData::instance()->matchReason(path); !reason.isEmpty())
+                std::fprintf(stdout, "\t[%s]", qPrintable(reason));
             else if (!group.verified)
                 std::fputs("\t[not verified]", stdout);
             if (selected.contains(path))

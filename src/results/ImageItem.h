@@ -18,6 +18,8 @@ struct ImageItem
     bool checked = false;
     int type = 7;
     int similarity = 0;
+    // Why a similar picture joined its group, where the measure tells.
+    QString reason;
     // A member of a group whose files were compared only in part (or by name): its
     // similarity to the others is not known.
     bool unverified = false;

@@ -105,6 +105,10 @@ PicturePreviewPane::PicturePreviewPane(const QString &caption, QWidget *parent) 
     m_resolution = addDetail(grid, 0, 2, tr("Resolution"), "lab_previewResolution");
     m_date = addDetail(grid, 1, 0, tr("Modified"), "lab_previewDate");
     m_similarity = addDetail(grid, 1, 2, tr("Similarity"), "lab_previewSimilarity");
+    m_reason = addDetail(grid, 2, 0, tr("Matched by"), "lab_previewReason");
+    // The reason is the longest detail: it takes the whole row and wraps.
+    grid->addWidget(m_reason, 2, 1, 1, 3);
+    m_reason->setWordWrap(true);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     layout->addLayout(grid);
@@ -186,6 +190,10 @@ void PicturePreviewPane::showRow(TImageModel *model, int row)
                  "differ. A scan that compares whole files verifies them.")
             : QString());
     setDetailVisible(m_similarity, similarity > 0);
+    const QString reason = m_index.data(TImageModel::MatchReasonRole).toString();
+    m_reason->setText(reason);
+    m_reason->setToolTip(reason);
+    setDetailVisible(m_reason, !reason.isEmpty());
     syncCheck();
 
     const bool picture

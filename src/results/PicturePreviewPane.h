@@ -66,6 +66,7 @@ private:
     QLabel *m_resolution = nullptr;
     QLabel *m_date = nullptr;
     QLabel *m_similarity = nullptr;
+    QLabel *m_reason = nullptr;
     QCheckBox *m_remove = nullptr;
     QHash<QLabel *, QLabel *> m_captions;
     // The decoding runs off the global pool, where the paint engine's own work would

@@ -178,8 +178,11 @@ void ResultGroupLoader::loadMembers(const GroupItem &group)
     m_memberKey = group.key;
     m_members.clear();
     m_members.reserve(group.files.size());
-    for (const QString &entry : group.files)
+    for (const QString &entry : group.files) {
         m_members.append(IndexFileGroup {group.key, GroupMember::fromEntry(entry)});
+        if (m_members.constLast().file.isSimilar())
+            m_members.last().file.reason = TFileData::instance()->matchReason(entry);
+    }
     const QHash<QString, DirGroupEntry> folders = [&group] {
         QHash<QString, DirGroupEntry> byPath;
         for (const DirGroupEntry &entry : TFileData::instance()->dirGroup(group.key))
@@ -249,6 +252,7 @@ void ResultGroupLoader::showMembers(const QList<IndexFileGroup> &members)
         item.type = m_isCloud ? getFileType(QFileInfo(member.name).suffix())
                               : getPathCategory(member.file.path);
         item.similarity = member.similarity;
+        item.reason = member.file.reason;
         item.unverified = unverified;
         item.distinctFrom = distinctFrom;
         item.displayName = member.name;

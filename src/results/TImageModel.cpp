@@ -227,6 +227,8 @@ QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, 
         return item.groupIndex;
     case SimilarityRole:
         return item.similarity;
+    case MatchReasonRole:
+        return item.reason;
     case DisplayNameRole:
         return item.displayName;
     case UnverifiedRole:

@@ -57,6 +57,8 @@ public:
         // The item's folder as shown, and where it differs from the other members'.
         FolderRole = 276,
         DistinctFromRole = 277,
+        // Why a similar picture joined its group ("robust, distance 4, mirrored").
+        MatchReasonRole = 278,
     };
 
     // The columns of the file list (IconView mode).

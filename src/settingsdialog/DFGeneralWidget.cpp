@@ -72,6 +72,8 @@ DFGeneralWidget::DFGeneralWidget(QWidget *parent)
               connect(button, &QRadioButton::toggled, this, [this, value](bool on) {
                   if (on && !m_filling)
                       m_preferences.setAlgorithmHint(value);
+                  if (on)
+                      updateEnabled();
               });
           };
     algorithm(ui->rbSmart, DFSelectionPreferences::rbSmart);
@@ -176,8 +178,14 @@ void DFGeneralWidget::updateEnabled()
     }
     if (!on)
         return;
-    ui->hsFeatures->setEnabled(ui->chkFeatures->isChecked());
-    ui->lblFeaturesValue->setEnabled(ui->chkFeatures->isChecked());
+    // The robust comparison checks its pairs by their key points itself.
+    const bool robust = ui->rbRobust->isChecked();
+    ui->chkFeatures->setEnabled(!robust);
+    ui->chkFeatures->setToolTip(robust
+            ? tr("The robust comparison checks every uncertain pair by its key points itself.")
+            : QString());
+    ui->hsFeatures->setEnabled(!robust && ui->chkFeatures->isChecked());
+    ui->lblFeaturesValue->setEnabled(!robust && ui->chkFeatures->isChecked());
     ui->sbImageWH->setEnabled(ui->chkImageWH->isChecked());
     const bool rules = ui->chkSelectedSimilar->isChecked();
     for (QRadioButton *button : {ui->rbFollowDuplicateRules, ui->rbHighResolution,

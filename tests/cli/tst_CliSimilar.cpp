@@ -53,18 +53,25 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         using L = QStringList;
         QTest::newRow("no similar search") << L {} << L {};
+        QTest::newRow("robust by default, across formats")
+            << L {"--similar"} << L {"similar:a.jpg,a.png,a_small.jpg"};
+        QTest::newRow("robust, same type") << L {"--similar", "--same-type"}
+                                           << L {"similar:a.jpg,a_small.jpg"};
         QTest::newRow("histogram with re-check")
-            << L {"--similar"} << L {"similar:a.jpg,a_small.jpg"};
-        QTest::newRow("histogram pass mark 99") << L {"--similar", "--threshold", "99"} << L {};
+            << L {"--algorithm", "histogram", "--same-type"} << L {"similar:a.jpg,a_small.jpg"};
+        QTest::newRow("histogram pass mark 99")
+            << L {"--algorithm", "histogram", "--threshold", "99"} << L {};
         QTest::newRow("threshold alone turns the search on")
-            << L {"--threshold", "50"} << L {"similar:a.jpg,a_small.jpg"};
-        QTest::newRow("phash") << L {"--algorithm", "phash"} << L {"similar:a.jpg,a_small.jpg"};
+            << L {"--threshold", "50"} << L {"similar:a.jpg,a.png,a_small.jpg"};
+        QTest::newRow("phash") << L {"--algorithm", "phash", "--same-type"}
+                               << L {"similar:a.jpg,a_small.jpg"};
         QTest::newRow("phash pass mark 99")
             << L {"--algorithm", "phash", "--threshold", "99"} << L {};
         QTest::newRow("phash any type: the PNG joins its JPEG")
             << L {"--algorithm", "phash", "--any-type"} << L {"similar:a.jpg,a.png,a_small.jpg"};
-        QTest::newRow("phash any ratio: the stretched copy joins") << L {"--algorithm", "phash",
-            "--any-ratio", "--no-features"} << L {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
+        QTest::newRow("phash any ratio: the stretched copy joins")
+            << L {"--algorithm", "phash", "--any-ratio", "--no-features", "--same-type"}
+            << L {"similar:a.jpg,a_small.jpg,a_wide.jpg"};
         QTest::newRow("both filters off") << L {"--algorithm", "phash", "--any-ratio", "--any-type",
             "--no-features"} << L {"similar:a.jpg,a.png,a_small.jpg,a_wide.jpg"};
     }
@@ -92,7 +99,8 @@ private slots:
 
     void textReport()
     {
-        const CliRun run = runCli({"scan", "--algorithm", "phash", "--select", "none", m_root});
+        const CliRun run
+            = runCli({"scan", "--algorithm", "phash", "--same-type", "--select", "none", m_root});
         QCOMPARE(run.exitCode, 0);
         QStringList lines = QString::fromUtf8(run.out).split('\n', Qt::SkipEmptyParts);
         lines.sort();

@@ -126,6 +126,100 @@ private slots:
         QCOMPARE(groups[0][0].similarity, algorithm == 1 ? 99 : 81);
     }
 
+    // Copies as a photo library holds them; the robust measure must find each one. The
+    // text's histogram (with its re-check and same-type rule) misses the mirrored, grey and
+    // re-encoded ones; on these drawn scenes it still finds the crops.
+    void robustFindsEditedCopies_data()
+    {
+        QTest::addColumn<QString>("copy");
+        QTest::addColumn<bool>("histogramFinds");
+        QTest::newRow("mirrored") << "mirrored" << false;
+        QTest::newRow("cropped 12 % a side") << "cropped" << true;
+        QTest::newRow("turned 2 degrees, straightened") << "rotated" << true;
+        QTest::newRow("grey") << "grey" << false;
+        QTest::newRow("PNG") << "png" << false;
+        QTest::newRow("HEIC with a thumbnail") << "heic" << false;
+    }
+    void robustFindsEditedCopies()
+    {
+        QFETCH(QString, copy);
+        QFETCH(bool, histogramFinds);
+        const cv::Mat scene = fixtures::makeScene(1200, 900, 31);
+        const QString original
+            = write(copy + "_original.jpg", scene, {cv::IMWRITE_JPEG_QUALITY, 92});
+        cv::Mat edited;
+        QString name = copy + "_copy.jpg";
+        if (copy == "mirrored") {
+            cv::flip(scene, edited, 1);
+        } else if (copy == "cropped") {
+            // Trimmed unevenly: 8 % off the left, 16 % off the right, 12 % top and bottom.
+            edited = scene(cv::Rect(96, 108, 1200 - 96 - 192, 900 - 216)).clone();
+        } else if (copy == "rotated") {
+            const cv::Mat turn = cv::getRotationMatrix2D(cv::Point2f(600, 450), 2.0, 1.0);
+            cv::Mat turned;
+            cv::warpAffine(scene, turned, turn, scene.size(), cv::INTER_LINEAR);
+            edited = turned(cv::Rect(40, 40, 1120, 820)).clone();
+        } else if (copy == "grey") {
+            cv::cvtColor(scene, edited, cv::COLOR_BGR2GRAY);
+        } else if (copy == "png") {
+            edited = scene;
+            name = copy + "_copy.png";
+        }
+        QString path;
+        if (copy == "heic") {
+            path = m_dir.filePath(copy + "_copy.heic");
+            QVERIFY(fixtures::writeHeic(path, scene, 320));
+        } else {
+            path = write(name, edited, {cv::IMWRITE_JPEG_QUALITY, 85});
+        }
+        QVERIFY(!original.isEmpty() && !path.isEmpty());
+
+        ImageCompareThread robust;
+        robust.applyConfig(config(3, false, false));
+        QList<ImageData> images = load(robust, {original, path});
+        QCOMPARE(images.size(), 2);
+        QList<QList<ImageData>> groups;
+        robust.robustCompare(images, groups);
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups[0].size(), 2);
+        const ImageData &joined = groups[0][0].path == path ? groups[0][0] : groups[0][1];
+        QVERIFY2(joined.reason.startsWith("robust, distance "), qPrintable(joined.reason));
+        if (copy == "mirrored")
+            QVERIFY2(joined.reason.contains("mirrored"), qPrintable(joined.reason));
+
+        ImageCompareThread histogram;
+        histogram.applyConfig(config(1, true, true));
+        images = load(histogram, {original, path});
+        groups.clear();
+        histogram.hashCompare(images, groups);
+        histogram.orbFeatureMatch(groups);
+        QCOMPARE(!groups.isEmpty(), histogramFinds);
+    }
+
+    // Two shots of one subject share colours, layout and part of their content; they are
+    // different pictures, and neither may be offered for removal as a copy of the other.
+    void robustKeepsLookAlikesApart()
+    {
+        const cv::Mat first = fixtures::makeScene(1200, 900, 41);
+        // The second shot, taken from further left: the same things in another
+        // perspective, and two of them gone.
+        const std::vector<cv::Point2f> from {{0, 0}, {1200, 0}, {1200, 900}, {0, 900}};
+        const std::vector<cv::Point2f> to {{0, 120}, {1200, 0}, {1200, 900}, {0, 780}};
+        cv::Mat second;
+        cv::warpPerspective(first, second, cv::getPerspectiveTransform(from, to), first.size(),
+            cv::INTER_LINEAR, cv::BORDER_REPLICATE);
+        cv::rectangle(second, cv::Rect(100, 200, 300, 250), cv::Scalar(40, 90, 160), cv::FILLED);
+        cv::circle(second, cv::Point(900, 600), 140, cv::Scalar(200, 180, 60), cv::FILLED);
+        const QString a = write("shot_1.jpg", first);
+        const QString b = write("shot_2.jpg", second);
+        ImageCompareThread robust;
+        robust.applyConfig(config(3, false, false));
+        QList<ImageData> images = load(robust, {a, b});
+        QList<QList<ImageData>> groups;
+        robust.robustCompare(images, groups);
+        QVERIFY(groups.isEmpty());
+    }
+
     void measureChoice_data()
     {
         QTest::addColumn<int>("hint");
@@ -136,6 +230,7 @@ private slots:
         QTest::newRow("histogram forced")
             << 1 << 10001 << int(ImageCompareThread::MeasureHistogram);
         QTest::newRow("phash forced") << 2 << 3 << int(ImageCompareThread::MeasurePHash);
+        QTest::newRow("robust") << 3 << 3 << int(ImageCompareThread::MeasureRobust);
     }
     void measureChoice()
     {

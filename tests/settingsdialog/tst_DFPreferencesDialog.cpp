@@ -105,10 +105,12 @@ private slots:
         keyRow("folder groups", "chkScanDupDir", "Duplicate_files/scanDupDirectory", "true");
         keyRow("similar off", "chkEnableSimilar", "Similar_images/hasSimilar", "false");
         keyRow("phash", "rbPhash", "Similar_images/algorithmHint", "2");
+        keyRow("robust again", "rbPhash;rbRobust", "Similar_images/algorithmHint", "3");
         keyRow("similarity", "hsSimilarity=80", "Similar_images/SimilarityValue", "80");
         keyRow("features", "hsFeatures=30", "Similar_images/FeaturesValue", "30");
-        keyRow("features off", "chkFeatures", "Similar_images/isAddFeatures", "false");
-        keyRow("any type", "chkImageType", "Similar_images/isImageType", "false");
+        // The re-check belongs to the text's measures; the robust one checks its own pairs.
+        keyRow("features off", "rbPhash;chkFeatures", "Similar_images/isAddFeatures", "false");
+        keyRow("same type", "chkImageType", "Similar_images/isImageType", "true");
         keyRow("any ratio", "chkImageWH", "Similar_images/isImageSize", "false");
         keyRow("ratio limit", "sbImageWH=7", "Similar_images/imageMinSize", "7");
         keyRow("select similar", "chkSelectedSimilar", "Similar_images/selectedSimilar", "true");
