@@ -9,6 +9,7 @@
 #include "engine/GroupMember.h"
 #include "pictures/GreyPictureReader.h"
 #include "pictures/PictureMeasures.h"
+#include "pictures/RobustCheckCache.h"
 #include "pictures/RobustMatcher.h"
 #include "pictures/RobustSignature.h"
 #include "pictures/SimilarityLinks.h"
@@ -477,8 +478,22 @@ void ImageCompareThread::robustCompare(QList<ImageData> &images, QList<QList<Ima
     options.passPercent = int(std::lround(double(m_similarityValue) * 100.0));
     RobustMatcher matcher(options, m_cancel);
     reportProgress(3, 0, n, true);
+    // What the check needs of each picture, and the verdicts of pairs of unchanged
+    // pictures, come from the cache; what this run prepared and checked is kept after.
+    std::unique_ptr<ContentKeyCache> cache = openCache();
+    const qint64 readNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
+    std::unique_ptr<RobustCheckCache> kept;
+    if (cache) {
+        kept = std::make_unique<RobustCheckCache>(*cache, images, &m_pool);
+        matcher.setCachedPictures(kept->takePictures());
+        matcher.setRecall([&kept](RobustMatcher::Pair &pair) { return kept->recall(pair); });
+    }
     const std::vector<RobustMatcher::Pair> pairs = matcher.match(
         images, &m_pool, [this](int done, int total) { reportProgress(3, done, total); });
+    if (kept && !isCancelled()) {
+        kept->store(matcher, readNs);
+        m_fromCache.fetch_add(kept->recalled());
+    }
     // The pairs come sorted by their first picture: recorded in that order, each picture
     // keeps the similarity and reason of its last pair, as the all-pairs loop does.
     SimilarityLinks links(n);
@@ -503,11 +518,12 @@ void ImageCompareThread::robustCompare(QList<ImageData> &images, QList<QList<Ima
     splog_d(kTag
         + QStringLiteral("Robust matching process completed. Time taken: [%1] seconds. "
                          "Quantity: [%2]. Candidate pairs: [%3], checked by key points: [%4], "
-                         "matched: [%5].")
+                         "verdicts kept from earlier scans: [%5], matched: [%6].")
               .arg(elapsedSeconds())
               .arg(groups.size())
               .arg(matcher.candidateCount())
               .arg(matcher.checkedCount())
+              .arg(kept ? kept->recalled() : 0)
               .arg(pairs.size()));
 }
 

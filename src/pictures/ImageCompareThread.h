@@ -43,8 +43,8 @@ public:
     // Whether (and where) the pictures' measures of earlier scans are reused; off unless
     // set.
     void setCacheOptions(const ContentKeyCache::Options &options) { m_cacheOptions = options; }
-    // Measures (fast ones and feature points) the last run took from the cache instead of
-    // decoding the picture.
+    // Measures (fast ones, feature points, the robust measure's verdicts of pairs) the last
+    // run took from the cache instead of decoding the pictures.
     int measuresFromCache() const { return m_fromCache.load(); }
     // Raises the cancel flag: pair tasks stop at their next pair, ORB tasks at their next
     // group; the run then stores what it found.

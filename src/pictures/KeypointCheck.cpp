@@ -3,60 +3,55 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <opencv2/calib3d.hpp>
 #include <opencv2/features2d.hpp>
 #include <opencv2/imgproc.hpp>
 
+#include <QtGlobal>
+
 namespace {
 
-constexpr int kFeatures = 1000;
+constexpr int kFeatures = 500;
 // Lowe's ratio: the best match must be clearly better than the second best.
 constexpr float kRatio = 0.8f;
 constexpr double kRansacPixels = 4.0;
-constexpr int kMinInliers = 20;
-constexpr double kMinCover = 0.30;
-// A copy is at most this much larger or smaller, once both are at the check size.
+constexpr int kMinInliers = 12;
+// A copy is at most this much larger or smaller, at the measure's size.
 constexpr double kMaxScale = 3.0;
+// The pixels are compared at this long side, after a light blur: enough to tell a copy
+// from a second shot, and blind to recompression and resampling.
+constexpr int kCompareSide = 128;
+constexpr double kMinOverlap = 0.80;
+constexpr double kMinAgreement = 0.95;
+// Aligned by the hashes only, the pictures must agree more closely.
+constexpr double kMinAgreementByHash = 0.97;
 
-double coverOf(const std::vector<cv::Point2f> &points, const cv::Size &size)
+double scaleFor(const cv::Mat &picture)
 {
-    if (points.size() < 3 || size.area() == 0)
-        return 0.0;
-    const cv::Rect2f box = cv::boundingRect(points);
-    return double(box.width) * box.height / (double(size.width) * size.height);
+    const int side = std::max(picture.cols, picture.rows);
+    return side > kCompareSide ? double(kCompareSide) / side : 1.0;
 }
 
-} // namespace
-
-KeypointCheck::Features KeypointCheck::featuresOf(const cv::Mat &grey)
+cv::Mat shrink(const cv::Mat &picture, double scale)
 {
-    Features features;
-    if (grey.empty())
-        return features;
-    const double scale = double(kCheckSide) / std::max(grey.cols, grey.rows);
-    cv::Mat picture;
-    cv::resize(grey, picture,
-        cv::Size(std::max(1, int(std::lround(grey.cols * scale))),
-            std::max(1, int(std::lround(grey.rows * scale)))),
-        0, 0, scale < 1.0 ? cv::INTER_AREA : cv::INTER_LINEAR);
-    // Small patches and a low corner threshold: the pictures are small, and a copy cut down
-    // to a quarter of its size must still give enough points.
-    const cv::Ptr<cv::ORB> orb
-        = cv::ORB::create(kFeatures, 1.2f, 8, 15, 0, 2, cv::ORB::HARRIS_SCORE, 15, 10);
-    std::vector<cv::KeyPoint> keyPoints;
-    orb->detectAndCompute(picture, cv::noArray(), keyPoints, features.descriptors);
-    features.points.reserve(keyPoints.size());
-    for (const cv::KeyPoint &point : keyPoints)
-        features.points.push_back(point.pt);
-    features.size = picture.size();
-    return features;
+    if (scale >= 1.0)
+        return picture;
+    cv::Mat out;
+    cv::resize(picture, out,
+        cv::Size(std::max(1, int(std::lround(picture.cols * scale))),
+            std::max(1, int(std::lround(picture.rows * scale)))),
+        0, 0, cv::INTER_AREA);
+    return out;
 }
 
-KeypointCheck::Verdict KeypointCheck::compare(const Features &a, const Features &b)
+// The transform found by the key points, or an empty matrix.
+cv::Mat keypointTransform(
+    const KeypointCheck::Features &a, const KeypointCheck::Features &b, int &inliers)
 {
-    Verdict verdict;
-    if (a.descriptors.rows < 8 || b.descriptors.rows < 8)
-        return verdict;
+    inliers = 0;
+    if (a.descriptors.rows < 2 || b.descriptors.rows < 2)
+        return {};
     cv::BFMatcher matcher(cv::NORM_HAMMING);
     std::vector<std::vector<cv::DMatch>> knn;
     matcher.knnMatch(a.descriptors, b.descriptors, knn, 2);
@@ -69,25 +64,159 @@ KeypointCheck::Verdict KeypointCheck::compare(const Features &a, const Features 
         }
     }
     if (int(from.size()) < kMinInliers)
-        return verdict;
-    std::vector<uchar> inlierMask;
+        return {};
+    std::vector<uchar> mask;
     const cv::Mat transform
-        = cv::estimateAffinePartial2D(from, to, inlierMask, cv::RANSAC, kRansacPixels, 2000, 0.99);
+        = cv::estimateAffinePartial2D(from, to, mask, cv::RANSAC, kRansacPixels, 2000, 0.99);
     if (transform.empty())
-        return verdict;
+        return {};
+    inliers = int(std::count(mask.begin(), mask.end(), uchar(1)));
     const double scale = std::hypot(transform.at<double>(0, 0), transform.at<double>(1, 0));
-    std::vector<cv::Point2f> inA;
-    std::vector<cv::Point2f> inB;
-    for (size_t k = 0; k < inlierMask.size(); ++k) {
-        if (inlierMask[k]) {
-            inA.push_back(from[k]);
-            inB.push_back(to[k]);
-        }
+    if (inliers < kMinInliers || scale < 1.0 / kMaxScale || scale > kMaxScale)
+        return {};
+    return transform;
+}
+
+} // namespace
+
+KeypointCheck::Features KeypointCheck::featuresOf(const cv::Mat &grey)
+{
+    Features features;
+    if (grey.empty())
+        return features;
+    // Small patches and a low corner threshold: the pictures are small, and a copy cut down
+    // to a quarter of its size must still give enough points.
+    const cv::Ptr<cv::ORB> orb
+        = cv::ORB::create(kFeatures, 1.2f, 8, 15, 0, 2, cv::ORB::HARRIS_SCORE, 15, 10);
+    std::vector<cv::KeyPoint> keyPoints;
+    orb->detectAndCompute(grey, cv::noArray(), keyPoints, features.descriptors);
+    features.points.reserve(keyPoints.size());
+    for (const cv::KeyPoint &point : keyPoints)
+        features.points.push_back(point.pt);
+    return features;
+}
+
+KeypointCheck::Picture KeypointCheck::prepare(const cv::Mat &grey)
+{
+    Picture picture;
+    if (grey.empty())
+        return picture;
+    picture.features = featuresOf(grey);
+    picture.small = shrink(grey, scaleFor(grey));
+    picture.size = grey.size();
+    return picture;
+}
+
+cv::Mat KeypointCheck::pack(const Picture &picture)
+{
+    // Header: the size, the small picture's size, the number of points and the
+    // descriptor width; then the pixels, the points and the descriptors.
+    const cv::Mat &descriptors = picture.features.descriptors;
+    const qint32 header[6] = {picture.size.width, picture.size.height, picture.small.cols,
+        picture.small.rows, qint32(picture.features.points.size()), descriptors.cols};
+    const size_t pixels = picture.small.total();
+    const size_t points = picture.features.points.size() * sizeof(cv::Point2f);
+    const size_t bytes = descriptors.total();
+    if (picture.small.type() != CV_8UC1 || !picture.small.isContinuous()
+        || (!descriptors.empty()
+            && (descriptors.type() != CV_8UC1 || !descriptors.isContinuous()
+                || descriptors.rows != header[4])))
+        return {};
+    cv::Mat packed(1, int(sizeof(header) + pixels + points + bytes), CV_8UC1);
+    uchar *out = packed.ptr();
+    std::memcpy(out, header, sizeof(header));
+    std::memcpy(out += sizeof(header), picture.small.ptr(), pixels);
+    std::memcpy(out += pixels, picture.features.points.data(), points);
+    if (bytes)
+        std::memcpy(out + points, descriptors.ptr(), bytes);
+    return packed;
+}
+
+KeypointCheck::Picture KeypointCheck::unpack(const cv::Mat &packed)
+{
+    Picture picture;
+    qint32 header[6] = {};
+    if (packed.type() != CV_8UC1 || !packed.isContinuous() || packed.total() < sizeof(header))
+        return picture;
+    const uchar *in = packed.ptr();
+    std::memcpy(header, in, sizeof(header));
+    const qint64 pixels = qint64(header[2]) * header[3];
+    const qint64 points = qint64(header[4]) * qint64(sizeof(cv::Point2f));
+    const qint64 bytes = qint64(header[4]) * header[5];
+    if (header[0] <= 0 || header[1] <= 0 || pixels <= 0 || header[4] < 0 || header[5] < 0
+        || qint64(packed.total()) != qint64(sizeof(header)) + pixels + points + bytes)
+        return picture;
+    picture.size = cv::Size(header[0], header[1]);
+    picture.small = cv::Mat(header[3], header[2], CV_8UC1);
+    std::memcpy(picture.small.ptr(), in += sizeof(header), size_t(pixels));
+    picture.features.points.resize(size_t(header[4]));
+    std::memcpy(picture.features.points.data(), in += pixels, size_t(points));
+    if (bytes > 0) {
+        picture.features.descriptors = cv::Mat(header[4], header[5], CV_8UC1);
+        std::memcpy(picture.features.descriptors.ptr(), in + points, size_t(bytes));
     }
-    verdict.inliers = int(inA.size());
-    if (scale < 1.0 / kMaxScale || scale > kMaxScale)
+    return picture;
+}
+
+double KeypointCheck::pixelAgreement(
+    const Picture &a, const Picture &b, const cv::Mat &transform, double &overlap)
+{
+    overlap = 0.0;
+    const double scaleA = double(a.small.cols) / a.size.width;
+    const double scaleB = double(b.small.cols) / b.size.width;
+    const cv::Mat &smallA = a.small;
+    const cv::Mat &smallB = b.small;
+    // The transform between the small pictures: undo a's scale, apply it, take b's.
+    cv::Mat moved = transform.clone();
+    moved.colRange(0, 2) *= scaleB / scaleA;
+    moved.col(2) *= scaleB;
+    cv::Mat warped;
+    cv::warpAffine(smallA, warped, moved, smallB.size(), cv::INTER_LINEAR, cv::BORDER_CONSTANT);
+    cv::Mat mask;
+    cv::warpAffine(cv::Mat(smallA.size(), CV_8UC1, cv::Scalar(255)), mask, moved, smallB.size(),
+        cv::INTER_NEAREST, cv::BORDER_CONSTANT);
+    cv::erode(mask, mask, cv::Mat::ones(3, 3, CV_8UC1));
+    const double determinant = std::abs(moved.at<double>(0, 0) * moved.at<double>(1, 1)
+        - moved.at<double>(0, 1) * moved.at<double>(1, 0));
+    const double smaller = std::min(double(smallA.total()) * determinant, double(smallB.total()));
+    if (smaller <= 0.0)
+        return 0.0;
+    overlap = cv::countNonZero(mask) / smaller;
+    cv::Mat blurredA;
+    cv::Mat blurredB;
+    cv::GaussianBlur(warped, blurredA, cv::Size(5, 5), 0);
+    cv::GaussianBlur(smallB, blurredB, cv::Size(5, 5), 0);
+    blurredA.convertTo(blurredA, CV_64F);
+    blurredB.convertTo(blurredB, CV_64F);
+    const cv::Scalar meanA = cv::mean(blurredA, mask);
+    const cv::Scalar meanB = cv::mean(blurredB, mask);
+    cv::Mat centredA = blurredA - meanA[0];
+    cv::Mat centredB = blurredB - meanB[0];
+    const cv::Mat outside = mask == 0;
+    centredA.setTo(0.0, outside);
+    centredB.setTo(0.0, outside);
+    const double cross = centredA.dot(centredB);
+    const double energy = std::sqrt(centredA.dot(centredA) * centredB.dot(centredB));
+    return energy > 0.0 ? cross / energy : 0.0;
+}
+
+KeypointCheck::Verdict KeypointCheck::compare(
+    const Picture &a, const Picture &b, const cv::Mat &hashTransform)
+{
+    Verdict verdict;
+    if (a.empty() || b.empty())
         return verdict;
-    verdict.cover = std::min(coverOf(inA, a.size), coverOf(inB, b.size));
-    verdict.same = verdict.inliers >= kMinInliers && verdict.cover >= kMinCover;
+    double overlap = 0.0;
+    const cv::Mat transform = keypointTransform(a.features, b.features, verdict.inliers);
+    if (!transform.empty()) {
+        verdict.agreement = pixelAgreement(a, b, transform, overlap);
+        verdict.same = overlap >= kMinOverlap && verdict.agreement >= kMinAgreement;
+        return verdict;
+    }
+    if (hashTransform.empty())
+        return verdict;
+    verdict.alignedByHash = true;
+    verdict.agreement = pixelAgreement(a, b, hashTransform, overlap);
+    verdict.same = overlap >= kMinOverlap && verdict.agreement >= kMinAgreementByHash;
     return verdict;
 }

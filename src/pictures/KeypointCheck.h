@@ -4,35 +4,55 @@
 #include <opencv2/core.hpp>
 #include <vector>
 
-// The robust measure's geometric check of a pair whose hashes came close: ORB key points
-// of both pictures, matched with the ratio test, must agree on one similarity transform
-// (turn, scale, shift; RANSAC) for many points spread over a good part of both frames. A
-// copy cropped, turned or scaled keeps its points where the transform puts them; two shots
-// of one scene, or a collage holding a tile of the picture, agree only in part of the frame
-// or not at all.
+// The robust measure's check of a pair whose hashes came close. ORB key points of both
+// pictures, matched with the ratio test, give one similarity transform (turn, scale, shift;
+// RANSAC); the pictures must then agree pixel by pixel under it, over most of the smaller
+// one. Key points alone do not tell a copy from a second shot of one scene or a collage
+// holding a tile of the picture: those reach hundreds of agreeing points, but their pixels
+// differ. A picture with too little texture for key points is aligned by what its hashes
+// found instead (the crop that met the other picture), and must agree more closely.
 class KeypointCheck
 {
 public:
-    // Long side of the grey picture the points are found on (small copies are enlarged).
-    static constexpr int kCheckSide = 512;
-
     struct Features
     {
         std::vector<cv::Point2f> points;
         cv::Mat descriptors;
+    };
+    // What the check needs of one picture, prepared once: its key points (at the measure's
+    // size), the small grey picture its pixels are compared at, and its size at the measure.
+    struct Picture
+    {
+        Features features;
+        cv::Mat small;
         cv::Size size;
-        bool empty() const { return descriptors.empty(); }
+        bool empty() const { return small.empty(); }
     };
     struct Verdict
     {
         bool same = false;
-        // Matches that agree with the transform found.
+        // Matches that agree with the transform (0 when aligned by the hashes).
         int inliers = 0;
-        // Share of the smaller frame covered by the agreeing points (their bounding box).
-        double cover = 0.0;
+        // Normalised correlation of the aligned pixels, 0..1.
+        double agreement = 0.0;
+        bool alignedByHash = false;
     };
 
-    // Features of a grey picture, brought to the check size first.
+    // Features of a grey picture at the measure's size.
     static Features featuresOf(const cv::Mat &grey);
-    static Verdict compare(const Features &a, const Features &b);
+    static Picture prepare(const cv::Mat &grey);
+    // A prepared picture as one row of bytes (the form the picture cache stores), and back;
+    // an empty picture when the bytes do not hold one.
+    static cv::Mat pack(const Picture &picture);
+    static Picture unpack(const cv::Mat &packed);
+
+    // hashTransform maps a onto b as the hashes suggest (2 x 3, CV_64F, at the measure's
+    // size), used when the key points give no transform.
+    static Verdict compare(const Picture &a, const Picture &b, const cv::Mat &hashTransform);
+
+    // How well a agrees with b once a is moved by transform (a onto b, at the measure's
+    // size): the normalised correlation over the overlap; overlap receives the share of the
+    // smaller picture covered.
+    static double pixelAgreement(
+        const Picture &a, const Picture &b, const cv::Mat &transform, double &overlap);
 };

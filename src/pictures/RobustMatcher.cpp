@@ -10,6 +10,7 @@
 #include <bitset>
 #include <numeric>
 #include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include <QtConcurrent>
 
@@ -50,8 +51,10 @@ QString RobustMatcher::Pair::reason() const
         text += QStringLiteral(", mirrored");
     else if (variant >= RobustSignature::FirstCrop)
         text += QStringLiteral(", cropped");
-    if (checked)
-        text += QStringLiteral(", key points %1").arg(inliers);
+    if (alignedByHash)
+        text += QStringLiteral(", aligned by its hashes, pixels agree %1 %").arg(agreement);
+    else if (checked)
+        text += QStringLiteral(", key points %1, pixels agree %2 %").arg(inliers).arg(agreement);
     return text;
 }
 
@@ -124,19 +127,129 @@ std::vector<RobustMatcher::Pair> RobustMatcher::candidates(
     return pairs;
 }
 
-const KeypointCheck::Features &RobustMatcher::featuresOf(
-    const QList<ImageData> &images, int k, bool mirrored)
+RobustMatcher::Slot &RobustMatcher::slotOf(const QList<ImageData> &images, int k, bool mirrored)
 {
     Slot &slot = m_slots[size_t(2 * k + (mirrored ? 1 : 0))];
     std::call_once(slot.once, [&] {
-        cv::Mat grey = GreyPictureReader::read(images.at(k).path, KeypointCheck::kCheckSide);
+        if (!mirrored && size_t(k) < m_cached.size() && !m_cached[size_t(k)].empty()) {
+            slot.picture = KeypointCheck::unpack(m_cached[size_t(k)]);
+            if (!slot.picture.empty())
+                return;
+        }
+        cv::Mat grey = GreyPictureReader::read(images.at(k).path, RobustSignature::kHashSide);
         if (grey.empty())
             return;
         if (mirrored)
             cv::flip(grey, grey, 1);
-        slot.features = KeypointCheck::featuresOf(grey);
+        slot.picture = KeypointCheck::prepare(grey);
+        // Each slot is written by its one call, so the entry needs no lock.
+        if (!mirrored)
+            m_prepared[size_t(k)] = KeypointCheck::pack(slot.picture);
     });
-    return slot.features;
+    return slot;
+}
+
+cv::Mat RobustMatcher::hashTransform(
+    const Pair &pair, const KeypointCheck::Picture &a, const KeypointCheck::Picture &b)
+{
+    // The whole frame of one picture met a variant (a crop, or all) of the other: the frame
+    // goes onto that part, as the hashes saw it.
+    const cv::Size owner = pair.variantOfA ? a.size : b.size;
+    const cv::Size other = pair.variantOfA ? b.size : a.size;
+    const cv::Size hashed = RobustSignature::hashedSize(owner);
+    const cv::Rect crop = RobustSignature::cropOf(pair.variant, hashed);
+    const double up = double(owner.width) / hashed.width;
+    cv::Mat onto = (cv::Mat_<double>(2, 3) << crop.width * up / other.width, 0.0, crop.x * up, 0.0,
+        crop.height * up / other.height, crop.y * up);
+    if (!pair.variantOfA)
+        return onto;
+    cv::Mat back;
+    cv::invertAffineTransform(onto, back);
+    return back;
+}
+
+void RobustMatcher::check(const QList<ImageData> &images, std::vector<Pair> &pairs,
+    std::vector<char> &accepted, QThreadPool *pool, const std::function<void(int, int)> &progress)
+{
+    // Components so far: a pair whose pictures are joined already cannot change them and is
+    // not checked. The pairs go in a fixed order (closest first) and in batches of a fixed
+    // size, so which pairs are checked does not depend on the threads.
+    std::vector<int> parent(size_t(images.size()));
+    std::iota(parent.begin(), parent.end(), 0);
+    const auto root = [&parent](int k) {
+        while (parent[size_t(k)] != k)
+            k = parent[size_t(k)] = parent[size_t(parent[size_t(k)])];
+        return k;
+    };
+    const auto join = [&](int x, int y) {
+        const int rx = root(x);
+        const int ry = root(y);
+        if (rx != ry)
+            parent[size_t(std::max(rx, ry))] = std::min(rx, ry);
+    };
+    std::vector<int> order;
+    for (size_t k = 0; k < pairs.size(); ++k) {
+        if (accepted[k])
+            join(pairs[k].a, pairs[k].b);
+        else
+            order.push_back(int(k));
+    }
+    std::stable_sort(order.begin(), order.end(),
+        [&pairs](int x, int y) { return pairs[size_t(x)].distance < pairs[size_t(y)].distance; });
+    const int total = int(order.size());
+    constexpr int kBatch = 32;
+    size_t next = 0;
+    int done = 0;
+    while (next < order.size() && !m_cancel.load()) {
+        QList<int> batch;
+        QList<int> recalled;
+        // A pair whose verdict is kept counts in the batch as a checked one: the batches,
+        // and so the pairs looked at, are those of a run without the cache.
+        for (int taken = 0; next < order.size() && taken < kBatch; ++next) {
+            Pair &pair = pairs[size_t(order[next])];
+            ++done;
+            if (root(pair.a) == root(pair.b))
+                continue;
+            ++taken;
+            if (const std::optional<bool> known = m_recall ? m_recall(pair) : std::nullopt) {
+                accepted[size_t(order[next])] = *known;
+                recalled.append(order[next]);
+            } else {
+                batch.append(order[next]);
+            }
+        }
+        QtConcurrent::blockingMap(pool, batch, [&](int k) {
+            if (m_cancel.load())
+                return;
+            Pair &pair = pairs[size_t(k)];
+            // The mirror image is taken of the picture whose mirror met the other.
+            const bool mirrored = pair.variant == RobustSignature::Mirror;
+            const KeypointCheck::Picture &a
+                = slotOf(images, pair.a, mirrored && pair.variantOfA).picture;
+            const KeypointCheck::Picture &b
+                = slotOf(images, pair.b, mirrored && !pair.variantOfA).picture;
+            if (a.empty() || b.empty())
+                return;
+            const KeypointCheck::Verdict verdict
+                = KeypointCheck::compare(a, b, hashTransform(pair, a, b));
+            pair.checked = true;
+            pair.inliers = verdict.inliers;
+            pair.agreement = int(std::lround(verdict.agreement * 100.0));
+            pair.alignedByHash = verdict.alignedByHash;
+            pair.passed = verdict.same;
+            accepted[size_t(k)] = verdict.same;
+        });
+        m_checked += int(batch.size());
+        for (const int k : std::as_const(batch)) {
+            if (pairs[size_t(k)].checked)
+                m_checkedPairs.push_back(pairs[size_t(k)]);
+        }
+        for (const int k : batch + recalled)
+            if (accepted[size_t(k)])
+                join(pairs[size_t(k)].a, pairs[size_t(k)].b);
+        if (progress)
+            progress(done, total);
+    }
 }
 
 std::vector<RobustMatcher::Pair> RobustMatcher::match(const QList<ImageData> &images,
@@ -144,35 +257,17 @@ std::vector<RobustMatcher::Pair> RobustMatcher::match(const QList<ImageData> &im
 {
     std::vector<Pair> pairs = candidates(images, pool);
     m_candidates = int(pairs.size());
-    // Every pair but the near-identical whole pictures goes through the check.
+    m_checked = 0;
+    m_checkedPairs.clear();
+    // Near-identical whole pictures (or mirror images) are taken as they are; every other
+    // candidate goes through the check.
     std::vector<char> accepted(pairs.size(), 0);
-    QList<int> toCheck;
-    for (size_t k = 0; k < pairs.size(); ++k) {
-        const Pair &pair = pairs[k];
-        if (pair.variant == RobustSignature::Whole && pair.distance <= m_options.strongDistance)
-            accepted[k] = 1;
-        else
-            toCheck.append(int(k));
-    }
-    m_checked = int(toCheck.size());
+    for (size_t k = 0; k < pairs.size(); ++k)
+        accepted[k] = pairs[k].variant < RobustSignature::FirstCrop
+            && pairs[k].distance <= m_options.strongDistance;
     m_slots = std::make_unique<Slot[]>(size_t(2 * std::max<qsizetype>(images.size(), 0)));
-    std::atomic_int done {0};
-    const int total = int(toCheck.size());
-    QtConcurrent::blockingMap(pool, toCheck, [&](int k) {
-        if (m_cancel.load())
-            return;
-        Pair &pair = pairs[size_t(k)];
-        // The mirror image is taken of the picture whose mirror met the other.
-        const bool mirrored = pair.variant == RobustSignature::Mirror;
-        const KeypointCheck::Features &a = featuresOf(images, pair.a, mirrored && pair.variantOfA);
-        const KeypointCheck::Features &b = featuresOf(images, pair.b, mirrored && !pair.variantOfA);
-        const KeypointCheck::Verdict verdict = KeypointCheck::compare(a, b);
-        pair.checked = true;
-        pair.inliers = verdict.inliers;
-        accepted[size_t(k)] = verdict.same;
-        if (progress)
-            progress(done.fetch_add(1) + 1, total);
-    });
+    m_prepared.assign(size_t(std::max<qsizetype>(images.size(), 0)), cv::Mat());
+    check(images, pairs, accepted, pool, progress);
     m_slots.reset();
     std::vector<Pair> out;
     for (size_t k = 0; k < pairs.size(); ++k)

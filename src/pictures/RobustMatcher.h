@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 #include <QList>
@@ -47,6 +48,11 @@ public:
         bool variantOfA = false;
         bool checked = false;
         int inliers = 0;
+        // Percent of the pixel agreement the check found.
+        int agreement = 0;
+        bool alignedByHash = false;
+        // The check's outcome.
+        bool passed = false;
 
         // Share of the hash bits that agree, as the percent shown.
         int percent() const;
@@ -63,6 +69,21 @@ public:
     std::vector<Pair> match(const QList<ImageData> &images, QThreadPool *pool,
         const std::function<void(int, int)> &progress);
 
+    // What the check needs of the pictures, as a cache kept it (KeypointCheck::pack), by
+    // picture; an empty matrix where there is none. Those found are not read again.
+    void setCachedPictures(std::vector<cv::Mat> packed) { m_cached = std::move(packed); }
+    // The pictures the last run read and prepared itself, packed, by picture (empty where
+    // it did not): for the cache.
+    const std::vector<cv::Mat> &preparedPictures() const { return m_prepared; }
+    // The outcome of a pair's check as kept from an earlier run (filling its check fields),
+    // if there is one; such a pair is not checked again.
+    void setRecall(std::function<std::optional<bool>(Pair &)> recall)
+    {
+        m_recall = std::move(recall);
+    }
+    // The pairs the last run checked itself, with their outcome.
+    const std::vector<Pair> &checkedPairs() const { return m_checkedPairs; }
+
     // Counts of the last run, for the log.
     int candidateCount() const { return m_candidates; }
     int checkedCount() const { return m_checked; }
@@ -70,17 +91,29 @@ public:
 private:
     std::vector<Pair> candidates(const QList<ImageData> &images, QThreadPool *pool);
     bool comparable(const ImageData &a, const ImageData &b) const;
-    const KeypointCheck::Features &featuresOf(const QList<ImageData> &images, int k, bool mirrored);
+    struct Slot;
+    Slot &slotOf(const QList<ImageData> &images, int k, bool mirrored);
+    // Where the hashes put picture a onto picture b (2 x 3), for pictures without key points.
+    static cv::Mat hashTransform(
+        const Pair &pair, const KeypointCheck::Picture &a, const KeypointCheck::Picture &b);
+    void check(const QList<ImageData> &images, std::vector<Pair> &pairs,
+        std::vector<char> &accepted, QThreadPool *pool,
+        const std::function<void(int, int)> &progress);
 
     Options m_options;
     const std::atomic_int &m_cancel;
-    // Key points of each picture and of its mirror image, found once, when first asked.
+    // The grey picture of each picture (and of its mirror image) and its key points,
+    // read once, when first asked.
     struct Slot
     {
         std::once_flag once;
-        KeypointCheck::Features features;
+        KeypointCheck::Picture picture;
     };
     std::unique_ptr<Slot[]> m_slots;
+    std::vector<cv::Mat> m_cached;
+    std::vector<cv::Mat> m_prepared;
+    std::function<std::optional<bool>(Pair &)> m_recall;
+    std::vector<Pair> m_checkedPairs;
     int m_candidates = 0;
     int m_checked = 0;
 };

@@ -44,32 +44,57 @@ quint64 RobustSignature::hashOf(const cv::Mat &grey)
     return bits;
 }
 
-std::vector<quint64> RobustSignature::of(const cv::Mat &grey)
+cv::Rect RobustSignature::cropOf(int variant, const cv::Size &size)
 {
-    if (grey.empty() || grey.cols < kMinSide || grey.rows < kMinSide)
+    const int w = size.width;
+    const int h = size.height;
+    if (variant < FirstCrop)
+        return cv::Rect(0, 0, w, h);
+    const int index = variant - FirstCrop;
+    const double share = kCropShares[index / kOffsets];
+    const int dx = index % kOffsets % 3 - 1;
+    const int dy = index % kOffsets / 3 - 1;
+    const double step = (1.0 - share) / kOffsetDivisor;
+    const int cw = std::min(w, std::max(8, int(std::lround(w * share))));
+    const int ch = std::min(h, std::max(8, int(std::lround(h * share))));
+    const int x = std::clamp(int(std::lround((w - cw) / 2.0 + dx * step * w)), 0, w - cw);
+    const int y = std::clamp(int(std::lround((h - ch) / 2.0 + dy * step * h)), 0, h - ch);
+    return cv::Rect(x, y, cw, ch);
+}
+
+cv::Size RobustSignature::hashedSize(const cv::Size &size)
+{
+    const int side = std::max(size.width, size.height);
+    if (side <= kHashedSide)
+        return size;
+    const double scale = double(kHashedSide) / side;
+    return cv::Size(std::max(1, int(std::lround(size.width * scale))),
+        std::max(1, int(std::lround(size.height * scale))));
+}
+
+cv::Mat RobustSignature::hashPicture(const cv::Mat &grey)
+{
+    const cv::Size size = hashedSize(grey.size());
+    if (size == grey.size())
+        return grey;
+    cv::Mat small;
+    cv::resize(grey, small, size, 0, 0, cv::INTER_AREA);
+    return small;
+}
+
+std::vector<quint64> RobustSignature::of(const cv::Mat &picture)
+{
+    if (picture.empty() || picture.cols < kMinSide || picture.rows < kMinSide)
         return {};
+    const cv::Mat grey = hashPicture(picture);
     std::vector<quint64> hashes;
     hashes.reserve(size_t(variantCount()));
     hashes.push_back(hashOf(grey));
     cv::Mat mirror;
     cv::flip(grey, mirror, 1);
     hashes.push_back(hashOf(mirror));
-    const int w = grey.cols;
-    const int h = grey.rows;
-    for (const double share : kCropShares) {
-        const double step = (1.0 - share) / kOffsetDivisor;
-        const int cw = std::max(8, int(std::lround(w * share)));
-        const int ch = std::max(8, int(std::lround(h * share)));
-        for (int dy = -1; dy <= 1; ++dy) {
-            for (int dx = -1; dx <= 1; ++dx) {
-                const int x
-                    = std::clamp(int(std::lround((w - cw) / 2.0 + dx * step * w)), 0, w - cw);
-                const int y
-                    = std::clamp(int(std::lround((h - ch) / 2.0 + dy * step * h)), 0, h - ch);
-                hashes.push_back(hashOf(grey(cv::Rect(x, y, cw, ch))));
-            }
-        }
-    }
+    for (int variant = FirstCrop; variant < variantCount(); ++variant)
+        hashes.push_back(hashOf(grey(cropOf(variant, grey.size()))));
     return hashes;
 }
 

@@ -133,12 +133,17 @@ private slots:
         for (int k = 0; k < 34000; ++k)
             ScanTree::write(m_dir.filePath("large"), QString("d%1/f%2").arg(k / 200).arg(k),
                 QByteArray::number(100000000 + k / 2));
-        for (const char *tree : {"pictures 1 0", "pictures 2 0", "pictures 2 1"}) {
+        for (const char *tree :
+            {"pictures 1 0", "pictures 2 0", "pictures 2 1", "pictures 3 0", "pictures 3 1"}) {
             const QString root = m_dir.filePath(QLatin1String(tree));
             QDir().mkpath(root);
             const cv::Mat scene = fixtures::makeScene(320, 240, 11);
             QVERIFY(cv::imwrite(QFile::encodeName(root + "/a.png").toStdString(), scene));
-            QVERIFY(cv::imwrite(QFile::encodeName(root + "/b.jpg").toStdString(), scene));
+            // For the robust measure b is cut from a, so that the pair goes through its check.
+            const cv::Mat b = QByteArray(tree).startsWith("pictures 3")
+                ? cv::Mat(scene(cv::Rect(16, 12, 288, 216)))
+                : scene;
+            QVERIFY(cv::imwrite(QFile::encodeName(root + "/b.jpg").toStdString(), b));
             QVERIFY(cv::imwrite(QFile::encodeName(root + "/c.png").toStdString(),
                 fixtures::makeScene(320, 240, 12)));
         }
@@ -333,6 +338,12 @@ private slots:
         QTest::addRow("perceptual hash, picture rewritten")
             << 2 << true << QList<QStringList> {{"a.png", "b.jpg", "c.png"}} << 4;
         QTest::addRow("histogram, unchanged") << 1 << false << QList<QStringList> {} << 3;
+        // The robust measure keeps its signatures and the verdict of the checked pair: an
+        // unchanged rescan reads no picture; a rewritten c is measured and checked again,
+        // while the verdict of a and b still holds.
+        QTest::addRow("robust, unchanged") << 3 << false << pair << 4;
+        QTest::addRow("robust, picture rewritten")
+            << 3 << true << QList<QStringList> {{"a.png", "b.jpg", "c.png"}} << 3;
     }
     void picturesFromCache()
     {

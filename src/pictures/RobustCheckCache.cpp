@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictures/RobustCheckCache.h"
+
+#include "engine/FileStamp.h"
+
+#include <cstring>
+
+#include <QtConcurrent>
+
+namespace {
+
+// The cache's measure numbers: the signature is 4, what the check needs of a picture 5,
+// the verdicts of its pairs 6.
+constexpr int kPictureMeasure = 5;
+constexpr int kVerdictMeasure = 6;
+
+// One kept verdict: the partner's stamp, the meeting and the outcome.
+struct Stored
+{
+    quint64 device;
+    quint64 inode;
+    qint64 size;
+    qint64 modifiedNs;
+    qint64 changedNs;
+    qint32 variant;
+    qint32 distance;
+    qint32 inliers;
+    qint32 agreement;
+    qint32 flags;
+    qint32 unused;
+};
+enum Flags { VariantOfA = 1, Same = 2, AlignedByHash = 4 };
+
+ContentKeyCache::Stamp stampOf(const QString &path)
+{
+    const FileStamp file = FileStamp::of(path);
+    return ContentKeyCache::Stamp {
+        file.device, file.inode, file.size, file.modifiedNs, file.changedNs};
+}
+
+} // namespace
+
+RobustCheckCache::RobustCheckCache(
+    ContentKeyCache &cache, const QList<ImageData> &images, QThreadPool *pool)
+    : m_cache(cache)
+    , m_images(images)
+    , m_pictures(size_t(images.size()))
+    , m_verdicts(size_t(images.size()))
+{
+    QtConcurrent::blockingMap(pool, m_pictures, [&](ContentKeyCache::Picture &record) {
+        record.stamp = stampOf(images.at(qsizetype(&record - m_pictures.data())).path);
+        record.measure = kPictureMeasure;
+    });
+    m_verdictRecords = m_pictures;
+    for (ContentKeyCache::Picture &record : m_verdictRecords)
+        record.measure = kVerdictMeasure;
+    m_cache.lookupPictures(m_pictures);
+    m_cache.lookupPictures(m_verdictRecords);
+    for (size_t k = 0; k < m_verdictRecords.size(); ++k) {
+        ContentKeyCache::Picture &record = m_verdictRecords[k];
+        if (!record.found || record.data.size() % qsizetype(sizeof(Stored)) != 0)
+            continue;
+        const qsizetype count = record.data.size() / qsizetype(sizeof(Stored));
+        for (qsizetype i = 0; i < count; ++i) {
+            Stored stored;
+            std::memcpy(
+                &stored, record.data.constData() + i * qsizetype(sizeof(Stored)), sizeof(Stored));
+            Verdict verdict;
+            verdict.other = ContentKeyCache::Stamp {
+                stored.device, stored.inode, stored.size, stored.modifiedNs, stored.changedNs};
+            verdict.pair.variant = stored.variant;
+            verdict.pair.distance = stored.distance;
+            verdict.pair.inliers = stored.inliers;
+            verdict.pair.agreement = stored.agreement;
+            verdict.pair.variantOfA = stored.flags & VariantOfA;
+            verdict.pair.passed = stored.flags & Same;
+            verdict.pair.alignedByHash = stored.flags & AlignedByHash;
+            verdict.pair.checked = true;
+            m_verdicts[k].push_back(verdict);
+        }
+        record.data.clear();
+    }
+}
+
+std::vector<cv::Mat> RobustCheckCache::takePictures()
+{
+    std::vector<cv::Mat> packed(m_pictures.size());
+    for (size_t k = 0; k < m_pictures.size(); ++k) {
+        ContentKeyCache::Picture &record = m_pictures[k];
+        if (!record.found)
+            continue;
+        packed[k] = cv::Mat(record.rows, record.cols, record.type, record.data.data()).clone();
+        record.data.clear();
+    }
+    return packed;
+}
+
+std::optional<bool> RobustCheckCache::recall(RobustMatcher::Pair &pair) const
+{
+    // Kept under the pair's first picture; the order of the pictures may have changed since,
+    // so the second picture's verdicts are looked at too, seen from the other side.
+    for (const bool fromA : {true, false}) {
+        const int owner = fromA ? pair.a : pair.b;
+        const int other = fromA ? pair.b : pair.a;
+        if (!m_verdictRecords[size_t(owner)].found)
+            continue;
+        for (const Verdict &verdict : m_verdicts[size_t(owner)]) {
+            const bool variantOfA = fromA ? verdict.pair.variantOfA : !verdict.pair.variantOfA;
+            if (!(verdict.other == m_pictures[size_t(other)].stamp)
+                || verdict.pair.variant != pair.variant || variantOfA != pair.variantOfA
+                || verdict.pair.distance != pair.distance)
+                continue;
+            pair.checked = true;
+            pair.inliers = verdict.pair.inliers;
+            pair.agreement = verdict.pair.agreement;
+            pair.alignedByHash = verdict.pair.alignedByHash;
+            pair.passed = verdict.pair.passed;
+            m_recalled.fetch_add(1);
+            return verdict.pair.passed;
+        }
+    }
+    return std::nullopt;
+}
+
+bool RobustCheckCache::unchanged(int k) const
+{
+    const ContentKeyCache::Stamp &before = m_pictures[size_t(k)].stamp;
+    return before.size >= 0 && stampOf(m_images.at(k).path) == before;
+}
+
+void RobustCheckCache::store(const RobustMatcher &matcher, qint64 readNs)
+{
+    const std::vector<cv::Mat> &prepared = matcher.preparedPictures();
+    std::vector<char> same(m_pictures.size(), -1);
+    const auto isUnchanged = [&](int k) {
+        if (same[size_t(k)] < 0)
+            same[size_t(k)] = unchanged(k) ? 1 : 0;
+        return same[size_t(k)] == 1;
+    };
+    for (size_t k = 0; k < m_pictures.size() && k < prepared.size(); ++k) {
+        const cv::Mat &packed = prepared[k];
+        ContentKeyCache::Picture &record = m_pictures[k];
+        // Still the file stamped before the read: what was prepared from it may be kept.
+        if (packed.empty() || !isUnchanged(int(k)))
+            continue;
+        record.rows = packed.rows;
+        record.cols = packed.cols;
+        record.type = packed.type();
+        record.data = QByteArray(reinterpret_cast<const char *>(packed.data),
+            qsizetype(packed.total() * packed.elemSize()));
+        record.fresh = true;
+    }
+    m_cache.storePictures(m_pictures, readNs);
+
+    // The verdicts of this run's checks join those kept with the pair's first picture.
+    bool any = false;
+    for (const RobustMatcher::Pair &pair : matcher.checkedPairs()) {
+        if (!isUnchanged(pair.a) || !isUnchanged(pair.b))
+            continue;
+        ContentKeyCache::Picture &record = m_verdictRecords[size_t(pair.a)];
+        const ContentKeyCache::Stamp &other = m_pictures[size_t(pair.b)].stamp;
+        const Stored stored {other.device, other.inode, other.size, other.modifiedNs,
+            other.changedNs, pair.variant, pair.distance, pair.inliers, pair.agreement,
+            (pair.variantOfA ? VariantOfA : 0) | (pair.passed ? Same : 0)
+                | (pair.alignedByHash ? AlignedByHash : 0),
+            0};
+        if (!record.fresh) {
+            // Starts from the verdicts kept before, which still hold for their partners.
+            record.data.clear();
+            for (const Verdict &kept : m_verdicts[size_t(pair.a)]) {
+                const Stored old {kept.other.device, kept.other.inode, kept.other.size,
+                    kept.other.modifiedNs, kept.other.changedNs, kept.pair.variant,
+                    kept.pair.distance, kept.pair.inliers, kept.pair.agreement,
+                    (kept.pair.variantOfA ? VariantOfA : 0) | (kept.pair.passed ? Same : 0)
+                        | (kept.pair.alignedByHash ? AlignedByHash : 0),
+                    0};
+                record.data.append(reinterpret_cast<const char *>(&old), sizeof(old));
+            }
+        }
+        record.data.append(reinterpret_cast<const char *>(&stored), sizeof(stored));
+        record.rows = 1;
+        record.cols = int(record.data.size());
+        record.type = CV_8UC1;
+        record.fresh = true;
+        any = true;
+    }
+    if (any)
+        m_cache.storePictures(m_verdictRecords, readNs);
+}
