@@ -8,6 +8,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "engine/TFileData.h"
 #include "pictures/ImageCompareThread.h"
+#include "pictures/RobustMatcher.h"
 
 #include <atomic>
 #include <cstdio>
@@ -78,6 +79,40 @@ static int syntheticPairs(int n, double threshold, bool sameType, bool ratio)
     return 0;
 }
 
+// The robust measure's candidate pairs from the hash index against those of one pass over
+// all hashes: the same pairs, in a fraction of the time.
+static int indexCheck(const QList<ImageData> &images, bool sameType, bool ratio)
+{
+    std::atomic_int cancel {0};
+    QThreadPool pool;
+    const auto run = [&](bool allPairs, double &seconds) {
+        RobustMatcher::Options options;
+        options.sameType = sameType;
+        options.sameRatio = ratio;
+        options.allPairs = allPairs;
+        RobustMatcher matcher(options, cancel);
+        QElapsedTimer timer;
+        timer.start();
+        std::vector<RobustMatcher::Pair> pairs = matcher.candidates(images, &pool);
+        seconds = timer.elapsed() / 1000.0;
+        return pairs;
+    };
+    double indexed = 0;
+    double linear = 0;
+    const std::vector<RobustMatcher::Pair> a = run(false, indexed);
+    const std::vector<RobustMatcher::Pair> b = run(true, linear);
+    const bool same = std::equal(a.begin(), a.end(), b.begin(), b.end(),
+        [](const RobustMatcher::Pair &x, const RobustMatcher::Pair &y) {
+            return x.a == y.a && x.b == y.b && x.distance == y.distance && x.variant == y.variant
+                && x.variantOfA == y.variantOfA;
+        });
+    std::printf("index check, %lld pictures: index %.3f s, all pairs %.3f s, %zu and %zu "
+                "candidate pairs, %s\n",
+        qlonglong(images.size()), indexed, linear, a.size(), b.size(),
+        same ? "identical" : "DIFFERENT");
+    return same ? 0 : 1;
+}
+
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
@@ -86,7 +121,10 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument("folder", "Folder of pictures (searched recursively).");
     parser.addOptions({
         {"threshold", "Pass mark of the fast measure, percent.", "percent", "55"},
-        {"algorithm", "smart, histogram or phash.", "name", "smart"},
+        {"algorithm", "smart, histogram, phash or robust.", "name", "smart"},
+        {"index-check",
+            "With the robust measure: find the candidate pairs with the hash index and with "
+            "one pass over all hashes per picture, compare them and time both."},
         {"features", "Pass mark of the ORB re-check, percent.", "percent", "50"},
         {"no-features", "Leave out the ORB re-check."},
         {"any-type", "Compare pictures of different file types."},
@@ -141,7 +179,10 @@ int main(int argc, char *argv[])
     }
 
     const QString algorithm = parser.value("algorithm");
-    const int hint = algorithm == "histogram" ? 1 : algorithm == "phash" ? 2 : 0;
+    const int hint = algorithm == "histogram" ? 1
+        : algorithm == "phash"                ? 2
+        : algorithm == "robust"               ? 3
+                                              : 0;
     const QJsonObject config {{"SimilarityValue", parser.value("threshold").toDouble()},
         {"FeaturesValue", parser.value("features").toDouble()}, {"selectedSimilar", false},
         {"selectionHint", 2}, {"algorithmHint", hint},
@@ -156,12 +197,17 @@ int main(int argc, char *argv[])
     timer.start();
     compare.loadImages(images);
     const double loadSeconds = timer.restart() / 1000.0;
-    compare.hashCompare(images, groups);
+    if (parser.isSet("index-check"))
+        return indexCheck(images, !parser.isSet("any-type"), !parser.isSet("any-ratio"));
+    if (compare.measure() == ImageCompareThread::MeasureRobust)
+        compare.robustCompare(images, groups);
+    else
+        compare.hashCompare(images, groups);
     const double compareSeconds = timer.restart() / 1000.0;
     const qint64 n = images.size();
     images.clear();
     double orbSeconds = 0;
-    if (!parser.isSet("no-features")) {
+    if (!parser.isSet("no-features") && compare.measure() != ImageCompareThread::MeasureRobust) {
         compare.orbFeatureMatch(groups);
         orbSeconds = timer.restart() / 1000.0;
     }
@@ -169,8 +215,10 @@ int main(int argc, char *argv[])
     const double pairs = double(n) * double(n - 1) / 2.0;
     std::printf("measure %s, %lld pictures: load %.3f s (%.1f pictures/s), compare %.3f s "
                 "(%.0f pairs/s), re-check %.3f s, %lld groups, %d files, peak %.0f MB\n",
-        compare.measure() == ImageCompareThread::MeasurePHash ? "phash" : "histogram", qlonglong(n),
-        loadSeconds, n / loadSeconds, compareSeconds,
+        compare.measure() == ImageCompareThread::MeasureRobust      ? "robust"
+            : compare.measure() == ImageCompareThread::MeasurePHash ? "phash"
+                                                                    : "histogram",
+        qlonglong(n), loadSeconds, n / loadSeconds, compareSeconds,
         compareSeconds > 0 ? pairs / compareSeconds : 0.0, orbSeconds, qlonglong(groups.size()),
         totals.first, peakMegabytes());
     if (parser.isSet("json")) {

@@ -53,10 +53,12 @@ double lookupCost(std::size_t n, int radius, int m)
 
 } // namespace
 
-HashIndex::HashIndex(std::vector<std::uint64_t> hashes, int radius)
+HashIndex::HashIndex(std::vector<std::uint64_t> hashes, int radius, bool prune)
     : m_hashes(std::move(hashes)), m_radius(std::max(0, radius))
 {
     const std::size_t n = m_hashes.size();
+    if (!prune)
+        return;
     int best = 0;
     double bestCost = double(n);
     for (int m = (64 + kMaxBlockBits - 1) / kMaxBlockBits; m <= kMaxBlocks; ++m) {

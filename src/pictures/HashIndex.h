@@ -15,7 +15,8 @@
 class HashIndex
 {
 public:
-    HashIndex(std::vector<std::uint64_t> hashes, int radius);
+    // Without prune every lookup is one pass over all hashes (the benchmark's reference).
+    HashIndex(std::vector<std::uint64_t> hashes, int radius, bool prune = true);
 
     int radius() const { return m_radius; }
     int blockCount() const { return int(m_blocks.size()); }

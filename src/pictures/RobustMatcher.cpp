@@ -90,7 +90,7 @@ std::vector<RobustMatcher::Pair> RobustMatcher::candidates(
             owners.push_back(k);
         }
     }
-    const HashIndex index(hashes, m_options.looseDistance);
+    const HashIndex index(hashes, m_options.looseDistance, !m_options.allPairs);
 
     std::vector<std::vector<Pair>> found(size_t(std::max(n, 0)));
     QList<int> order(n);

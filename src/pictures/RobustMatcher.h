@@ -36,6 +36,9 @@ public:
         double ratioLimit = 4.0;
         // Pairs that would show below this percent are left out.
         int passPercent = 0;
+        // Candidates from one pass over all hashes per picture instead of the index: the
+        // same pairs, slower; the benchmark's reference.
+        bool allPairs = false;
     };
     struct Pair
     {
@@ -84,12 +87,14 @@ public:
     // The pairs the last run checked itself, with their outcome.
     const std::vector<Pair> &checkedPairs() const { return m_checkedPairs; }
 
+    // The candidate pairs alone (before any check), a < b, sorted.
+    std::vector<Pair> candidates(const QList<ImageData> &images, QThreadPool *pool);
+
     // Counts of the last run, for the log.
     int candidateCount() const { return m_candidates; }
     int checkedCount() const { return m_checked; }
 
 private:
-    std::vector<Pair> candidates(const QList<ImageData> &images, QThreadPool *pool);
     bool comparable(const ImageData &a, const ImageData &b) const;
     struct Slot;
     Slot &slotOf(const QList<ImageData> &images, int k, bool mirrored);
