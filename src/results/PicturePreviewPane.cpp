@@ -106,9 +106,9 @@ PicturePreviewPane::PicturePreviewPane(const QString &caption, QWidget *parent) 
     m_date = addDetail(grid, 1, 0, tr("Modified"), "lab_previewDate");
     m_similarity = addDetail(grid, 1, 2, tr("Similarity"), "lab_previewSimilarity");
     m_reason = addDetail(grid, 2, 0, tr("Matched by"), "lab_previewReason");
-    // The reason is the longest detail: it takes the whole row and wraps.
+    // The reason is the longest detail (at most some sixty characters): it takes the
+    // whole row.
     grid->addWidget(m_reason, 2, 1, 1, 3);
-    m_reason->setWordWrap(true);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     layout->addLayout(grid);

@@ -100,6 +100,10 @@ void fillResults(const QString &root)
             100 - i * 7});
     const QStringList entries = GroupMember::entries(similar);
     TFileData::instance()->insertGroup(TFileData::groupKey(entries.first()), entries);
+    // Why each copy joined, as the robust measure words it.
+    TFileData::instance()->setMatchReason(entries.at(1), QStringLiteral("robust, distance 4"));
+    TFileData::instance()->setMatchReason(
+        entries.at(2), QStringLiteral("robust, distance 9, key points 41, pixels agree 98 %"));
     QRandomGenerator random(7);
     auto bytes = [&random](int size) {
         QByteArray data(size, Qt::Uninitialized);
@@ -205,7 +209,8 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
     QTest::qWait(700);
     save(&page, out, prefix + QStringLiteral("7-similar"));
     auto *grid = page.findChild<TImageListView *>(QStringLiteral("listView_images"));
-    grid->openPreview(page.itemModel()->index(0, 0));
+    // The smallest copy: its preview says why it matched.
+    grid->openPreview(page.itemModel()->index(2, 0));
     QTest::qWait(900);
     if (grid->preview())
         save(grid->preview(), out, prefix + QStringLiteral("8-preview"));
