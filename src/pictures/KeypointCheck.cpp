@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/KeypointCheck.h"
 
+#include "pictures/GreyPictureReader.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -26,24 +28,6 @@ constexpr double kMinOverlap = 0.80;
 constexpr double kMinAgreement = 0.95;
 // Aligned by the hashes only, the pictures must agree more closely.
 constexpr double kMinAgreementByHash = 0.97;
-
-double scaleFor(const cv::Mat &picture)
-{
-    const int side = std::max(picture.cols, picture.rows);
-    return side > kCompareSide ? double(kCompareSide) / side : 1.0;
-}
-
-cv::Mat shrink(const cv::Mat &picture, double scale)
-{
-    if (scale >= 1.0)
-        return picture;
-    cv::Mat out;
-    cv::resize(picture, out,
-        cv::Size(std::max(1, int(std::lround(picture.cols * scale))),
-            std::max(1, int(std::lround(picture.rows * scale)))),
-        0, 0, cv::INTER_AREA);
-    return out;
-}
 
 // The transform found by the key points, or an empty matrix.
 cv::Mat keypointTransform(
@@ -102,7 +86,7 @@ KeypointCheck::Picture KeypointCheck::prepare(const cv::Mat &grey)
     if (grey.empty())
         return picture;
     picture.features = featuresOf(grey);
-    picture.small = shrink(grey, scaleFor(grey));
+    picture.small = GreyPictureReader::fit(grey, kCompareSide);
     picture.size = grey.size();
     return picture;
 }
