@@ -159,6 +159,15 @@ private slots:
         loadRow("bool neither true nor false keeps default",
             "[Similar_images]\nhasSimilar=perhaps\n", "similar", "hasSimilar", true);
         loadRow("enum value", "[Similar_images]\nalgorithmHint=2\n", "similar", "algorithmHint", 2);
+        // A file written before the robust measure keeps the measure and the type rule it
+        // had; the new defaults are for new files only.
+        loadRow("older file keeps smart", "[Similar_images]\nalgorithmHint=0\nisImageType=true\n",
+            "similar", "algorithmHint", 0);
+        loadRow("older file keeps the type rule",
+            "[Similar_images]\nalgorithmHint=0\nisImageType=true\n", "similar", "isImageType",
+            true);
+        loadRow("robust read back", "[Similar_images]\nalgorithmHint=3\n", "similar",
+            "algorithmHint", 3);
         loadRow("size not a number keeps default", "[Common]\nMaxFileSize=big\n", "common",
             "MaxFileSize", 100000);
         // Shifted to bytes, this maximum overflows and no file would pass.
