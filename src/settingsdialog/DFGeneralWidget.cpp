@@ -4,6 +4,7 @@
 #include "preferences/SettingsTable.h"
 #include "ui_Genernal.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -186,6 +187,19 @@ void DFGeneralWidget::updateEnabled()
             : QString());
     ui->hsFeatures->setEnabled(!robust && ui->chkFeatures->isChecked());
     ui->lblFeaturesValue->setEnabled(!robust && ui->chkFeatures->isChecked());
+    ui->lblFeaturesTip->setEnabled(!robust);
+    // Under the robust measure the pass mark is the lowest similarity a match may show.
+    if (robust) {
+        ui->lblSimilarity->setText(tr("Lowest similarity"));
+        ui->lblSimilarityTip->setText(tr("The robust comparison shows a match only when the "
+                                         "pictures are at least this similar."));
+    } else {
+        // The form's own texts, in the form's translation context.
+        ui->lblSimilarity->setText(QCoreApplication::translate("Genernal", "Histogram similarity"));
+        ui->lblSimilarityTip->setText(QCoreApplication::translate("Genernal",
+            "The basic algorithm detects similar images quickly but vaguely, the larger the "
+            "value, the higher the similarty."));
+    }
     ui->sbImageWH->setEnabled(ui->chkImageWH->isChecked());
     const bool rules = ui->chkSelectedSimilar->isChecked();
     for (QRadioButton *button : {ui->rbFollowDuplicateRules, ui->rbHighResolution,
