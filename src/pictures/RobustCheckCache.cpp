@@ -128,9 +128,9 @@ bool RobustCheckCache::unchanged(int k) const
     return before.size >= 0 && stampOf(m_images.at(k).path) == before;
 }
 
-void RobustCheckCache::store(const RobustMatcher &matcher, qint64 readNs)
+void RobustCheckCache::store(RobustMatcher &matcher, qint64 readNs)
 {
-    const std::vector<cv::Mat> &prepared = matcher.preparedPictures();
+    std::vector<cv::Mat> prepared = matcher.takePreparedPictures();
     std::vector<char> same(m_pictures.size(), -1);
     const auto isUnchanged = [&](int k) {
         if (same[size_t(k)] < 0)
@@ -138,7 +138,9 @@ void RobustCheckCache::store(const RobustMatcher &matcher, qint64 readNs)
         return same[size_t(k)] == 1;
     };
     for (size_t k = 0; k < m_pictures.size() && k < prepared.size(); ++k) {
-        const cv::Mat &packed = prepared[k];
+        // Copied into the record, each packed picture is let go at once.
+        const cv::Mat packed = prepared[k];
+        prepared[k].release();
         ContentKeyCache::Picture &record = m_pictures[k];
         // Still the file stamped before the read: what was prepared from it may be kept.
         if (packed.empty() || !isUnchanged(int(k)))

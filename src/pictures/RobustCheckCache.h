@@ -30,7 +30,7 @@ public:
     std::optional<bool> recall(RobustMatcher::Pair &pair) const;
     // Keeps what the matcher prepared and checked, for the pictures whose stamps have not
     // changed since they were taken.
-    void store(const RobustMatcher &matcher, qint64 readNs);
+    void store(RobustMatcher &matcher, qint64 readNs);
 
     int recalled() const { return m_recalled.load(); }
 

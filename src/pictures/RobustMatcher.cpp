@@ -133,6 +133,8 @@ RobustMatcher::Slot &RobustMatcher::slotOf(const QList<ImageData> &images, int k
     std::call_once(slot.once, [&] {
         if (!mirrored && size_t(k) < m_cached.size() && !m_cached[size_t(k)].empty()) {
             slot.picture = KeypointCheck::unpack(m_cached[size_t(k)]);
+            // Unpacked, the cache's copy is not needed any more.
+            m_cached[size_t(k)].release();
             if (!slot.picture.empty())
                 return;
         }
@@ -142,9 +144,7 @@ RobustMatcher::Slot &RobustMatcher::slotOf(const QList<ImageData> &images, int k
         if (mirrored)
             cv::flip(grey, grey, 1);
         slot.picture = KeypointCheck::prepare(grey);
-        // Each slot is written by its one call, so the entry needs no lock.
-        if (!mirrored)
-            m_prepared[size_t(k)] = KeypointCheck::pack(slot.picture);
+        slot.prepared = !mirrored;
     });
     return slot;
 }
@@ -268,7 +268,16 @@ std::vector<RobustMatcher::Pair> RobustMatcher::match(const QList<ImageData> &im
     m_slots = std::make_unique<Slot[]>(size_t(2 * std::max<qsizetype>(images.size(), 0)));
     m_prepared.assign(size_t(std::max<qsizetype>(images.size(), 0)), cv::Mat());
     check(images, pairs, accepted, pool, progress);
+    // For the cache, what this run prepared goes out packed, each slot freed as it is
+    // packed: a run over tens of thousands of pictures never holds both forms of all.
+    for (size_t k = 0; m_keepPrepared && k < m_prepared.size(); ++k) {
+        Slot &slot = m_slots[2 * k];
+        if (slot.prepared)
+            m_prepared[k] = KeypointCheck::pack(slot.picture);
+        slot.picture = KeypointCheck::Picture();
+    }
     m_slots.reset();
+    m_cached.clear();
     std::vector<Pair> out;
     for (size_t k = 0; k < pairs.size(); ++k)
         if (accepted[k] && pairs[k].percent() >= m_options.passPercent)

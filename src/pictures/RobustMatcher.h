@@ -74,10 +74,15 @@ public:
 
     // What the check needs of the pictures, as a cache kept it (KeypointCheck::pack), by
     // picture; an empty matrix where there is none. Those found are not read again.
-    void setCachedPictures(std::vector<cv::Mat> packed) { m_cached = std::move(packed); }
+    // Setting them also keeps what the run prepares itself, for takePreparedPictures().
+    void setCachedPictures(std::vector<cv::Mat> packed)
+    {
+        m_cached = std::move(packed);
+        m_keepPrepared = true;
+    }
     // The pictures the last run read and prepared itself, packed, by picture (empty where
     // it did not): for the cache.
-    const std::vector<cv::Mat> &preparedPictures() const { return m_prepared; }
+    std::vector<cv::Mat> takePreparedPictures() { return std::move(m_prepared); }
     // The outcome of a pair's check as kept from an earlier run (filling its check fields),
     // if there is one; such a pair is not checked again.
     void setRecall(std::function<std::optional<bool>(Pair &)> recall)
@@ -113,10 +118,13 @@ private:
     {
         std::once_flag once;
         KeypointCheck::Picture picture;
+        // Read and prepared by this run (not taken from the cache, not mirrored).
+        bool prepared = false;
     };
     std::unique_ptr<Slot[]> m_slots;
     std::vector<cv::Mat> m_cached;
     std::vector<cv::Mat> m_prepared;
+    bool m_keepPrepared = false;
     std::function<std::optional<bool>(Pair &)> m_recall;
     std::vector<Pair> m_checkedPairs;
     int m_candidates = 0;
