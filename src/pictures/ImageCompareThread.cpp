@@ -478,14 +478,13 @@ void ImageCompareThread::robustCompare(QList<ImageData> &images, QList<QList<Ima
     options.passPercent = int(std::lround(double(m_similarityValue) * 100.0));
     RobustMatcher matcher(options, m_cancel);
     reportProgress(3, 0, n, true);
-    // What the check needs of each picture, and the verdicts of pairs of unchanged
-    // pictures, come from the cache; what this run prepared and checked is kept after.
+    // The verdicts of pairs of unchanged pictures come from the cache; those of the pairs
+    // this run checks are kept after.
     std::unique_ptr<ContentKeyCache> cache = openCache();
     const qint64 readNs = QDateTime::currentMSecsSinceEpoch() * 1'000'000LL;
     std::unique_ptr<RobustCheckCache> kept;
     if (cache) {
         kept = std::make_unique<RobustCheckCache>(*cache, images, &m_pool);
-        matcher.setCachedPictures(kept->takePictures());
         matcher.setRecall([&kept](RobustMatcher::Pair &pair) { return kept->recall(pair); });
     }
     const std::vector<RobustMatcher::Pair> pairs = matcher.match(

@@ -5,12 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <opencv2/calib3d.hpp>
 #include <opencv2/features2d.hpp>
 #include <opencv2/imgproc.hpp>
-
-#include <QtGlobal>
 
 namespace {
 
@@ -88,57 +85,6 @@ KeypointCheck::Picture KeypointCheck::prepare(const cv::Mat &grey)
     picture.features = featuresOf(grey);
     picture.small = GreyPictureReader::fit(grey, kCompareSide);
     picture.size = grey.size();
-    return picture;
-}
-
-cv::Mat KeypointCheck::pack(const Picture &picture)
-{
-    // Header: the size, the small picture's size, the number of points and the
-    // descriptor width; then the pixels, the points and the descriptors.
-    const cv::Mat &descriptors = picture.features.descriptors;
-    const qint32 header[6] = {picture.size.width, picture.size.height, picture.small.cols,
-        picture.small.rows, qint32(picture.features.points.size()), descriptors.cols};
-    const size_t pixels = picture.small.total();
-    const size_t points = picture.features.points.size() * sizeof(cv::Point2f);
-    const size_t bytes = descriptors.total();
-    if (picture.small.type() != CV_8UC1 || !picture.small.isContinuous()
-        || (!descriptors.empty()
-            && (descriptors.type() != CV_8UC1 || !descriptors.isContinuous()
-                || descriptors.rows != header[4])))
-        return {};
-    cv::Mat packed(1, int(sizeof(header) + pixels + points + bytes), CV_8UC1);
-    uchar *out = packed.ptr();
-    std::memcpy(out, header, sizeof(header));
-    std::memcpy(out += sizeof(header), picture.small.ptr(), pixels);
-    std::memcpy(out += pixels, picture.features.points.data(), points);
-    if (bytes)
-        std::memcpy(out + points, descriptors.ptr(), bytes);
-    return packed;
-}
-
-KeypointCheck::Picture KeypointCheck::unpack(const cv::Mat &packed)
-{
-    Picture picture;
-    qint32 header[6] = {};
-    if (packed.type() != CV_8UC1 || !packed.isContinuous() || packed.total() < sizeof(header))
-        return picture;
-    const uchar *in = packed.ptr();
-    std::memcpy(header, in, sizeof(header));
-    const qint64 pixels = qint64(header[2]) * header[3];
-    const qint64 points = qint64(header[4]) * qint64(sizeof(cv::Point2f));
-    const qint64 bytes = qint64(header[4]) * header[5];
-    if (header[0] <= 0 || header[1] <= 0 || pixels <= 0 || header[4] < 0 || header[5] < 0
-        || qint64(packed.total()) != qint64(sizeof(header)) + pixels + points + bytes)
-        return picture;
-    picture.size = cv::Size(header[0], header[1]);
-    picture.small = cv::Mat(header[3], header[2], CV_8UC1);
-    std::memcpy(picture.small.ptr(), in += sizeof(header), size_t(pixels));
-    picture.features.points.resize(size_t(header[4]));
-    std::memcpy(picture.features.points.data(), in += pixels, size_t(points));
-    if (bytes > 0) {
-        picture.features.descriptors = cv::Mat(header[4], header[5], CV_8UC1);
-        std::memcpy(picture.features.descriptors.ptr(), in + points, size_t(bytes));
-    }
     return picture;
 }
 

@@ -41,10 +41,6 @@ public:
     // Features of a grey picture at the measure's size.
     static Features featuresOf(const cv::Mat &grey);
     static Picture prepare(const cv::Mat &grey);
-    // A prepared picture as one row of bytes (the form the picture cache stores), and back;
-    // an empty picture when the bytes do not hold one.
-    static cv::Mat pack(const Picture &picture);
-    static Picture unpack(const cv::Mat &packed);
 
     // hashTransform maps a onto b as the hashes suggest (2 x 3, CV_64F, at the measure's
     // size), used when the key points give no transform.

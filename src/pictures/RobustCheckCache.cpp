@@ -9,9 +9,8 @@
 
 namespace {
 
-// The cache's measure numbers: the signature is 4, what the check needs of a picture 5,
-// the verdicts of its pairs 6.
-constexpr int kPictureMeasure = 5;
+// The cache's measure number of the verdicts of a picture's pairs (its signature is 4; 5
+// was never used outside development and stays free).
 constexpr int kVerdictMeasure = 6;
 
 // One kept verdict: the partner's stamp, the meeting and the outcome.
@@ -44,17 +43,16 @@ RobustCheckCache::RobustCheckCache(
     ContentKeyCache &cache, const QList<ImageData> &images, QThreadPool *pool)
     : m_cache(cache)
     , m_images(images)
-    , m_pictures(size_t(images.size()))
+    , m_verdictRecords(size_t(images.size()))
     , m_verdicts(size_t(images.size()))
 {
-    QtConcurrent::blockingMap(pool, m_pictures, [&](ContentKeyCache::Picture &record) {
-        record.stamp = stampOf(images.at(qsizetype(&record - m_pictures.data())).path);
-        record.measure = kPictureMeasure;
-    });
-    m_verdictRecords = m_pictures;
-    for (ContentKeyCache::Picture &record : m_verdictRecords)
+    QtConcurrent::blockingMap(pool, m_verdictRecords, [&](ContentKeyCache::Picture &record) {
+        record.stamp = stampOf(images.at(qsizetype(&record - m_verdictRecords.data())).path);
         record.measure = kVerdictMeasure;
-    m_cache.lookupPictures(m_pictures);
+    });
+    m_stamps.reserve(m_verdictRecords.size());
+    for (const ContentKeyCache::Picture &record : m_verdictRecords)
+        m_stamps.push_back(record.stamp);
     m_cache.lookupPictures(m_verdictRecords);
     for (size_t k = 0; k < m_verdictRecords.size(); ++k) {
         ContentKeyCache::Picture &record = m_verdictRecords[k];
@@ -82,19 +80,6 @@ RobustCheckCache::RobustCheckCache(
     }
 }
 
-std::vector<cv::Mat> RobustCheckCache::takePictures()
-{
-    std::vector<cv::Mat> packed(m_pictures.size());
-    for (size_t k = 0; k < m_pictures.size(); ++k) {
-        ContentKeyCache::Picture &record = m_pictures[k];
-        if (!record.found)
-            continue;
-        packed[k] = cv::Mat(record.rows, record.cols, record.type, record.data.data()).clone();
-        record.data.clear();
-    }
-    return packed;
-}
-
 std::optional<bool> RobustCheckCache::recall(RobustMatcher::Pair &pair) const
 {
     // Kept under the pair's first picture; the order of the pictures may have changed since,
@@ -106,9 +91,8 @@ std::optional<bool> RobustCheckCache::recall(RobustMatcher::Pair &pair) const
             continue;
         for (const Verdict &verdict : m_verdicts[size_t(owner)]) {
             const bool variantOfA = fromA ? verdict.pair.variantOfA : !verdict.pair.variantOfA;
-            if (!(verdict.other == m_pictures[size_t(other)].stamp)
-                || verdict.pair.variant != pair.variant || variantOfA != pair.variantOfA
-                || verdict.pair.distance != pair.distance)
+            if (!(verdict.other == m_stamps[size_t(other)]) || verdict.pair.variant != pair.variant
+                || variantOfA != pair.variantOfA || verdict.pair.distance != pair.distance)
                 continue;
             pair.checked = true;
             pair.inliers = verdict.pair.inliers;
@@ -124,43 +108,25 @@ std::optional<bool> RobustCheckCache::recall(RobustMatcher::Pair &pair) const
 
 bool RobustCheckCache::unchanged(int k) const
 {
-    const ContentKeyCache::Stamp &before = m_pictures[size_t(k)].stamp;
+    const ContentKeyCache::Stamp &before = m_stamps[size_t(k)];
     return before.size >= 0 && stampOf(m_images.at(k).path) == before;
 }
 
-void RobustCheckCache::store(RobustMatcher &matcher, qint64 readNs)
+void RobustCheckCache::store(const RobustMatcher &matcher, qint64 readNs)
 {
-    std::vector<cv::Mat> prepared = matcher.takePreparedPictures();
-    std::vector<char> same(m_pictures.size(), -1);
+    std::vector<char> same(m_stamps.size(), -1);
     const auto isUnchanged = [&](int k) {
         if (same[size_t(k)] < 0)
             same[size_t(k)] = unchanged(k) ? 1 : 0;
         return same[size_t(k)] == 1;
     };
-    for (size_t k = 0; k < m_pictures.size() && k < prepared.size(); ++k) {
-        // Copied into the record, each packed picture is let go at once.
-        const cv::Mat packed = prepared[k];
-        prepared[k].release();
-        ContentKeyCache::Picture &record = m_pictures[k];
-        // Still the file stamped before the read: what was prepared from it may be kept.
-        if (packed.empty() || !isUnchanged(int(k)))
-            continue;
-        record.rows = packed.rows;
-        record.cols = packed.cols;
-        record.type = packed.type();
-        record.data = QByteArray(reinterpret_cast<const char *>(packed.data),
-            qsizetype(packed.total() * packed.elemSize()));
-        record.fresh = true;
-    }
-    m_cache.storePictures(m_pictures, readNs);
-
     // The verdicts of this run's checks join those kept with the pair's first picture.
     bool any = false;
     for (const RobustMatcher::Pair &pair : matcher.checkedPairs()) {
         if (!isUnchanged(pair.a) || !isUnchanged(pair.b))
             continue;
         ContentKeyCache::Picture &record = m_verdictRecords[size_t(pair.a)];
-        const ContentKeyCache::Stamp &other = m_pictures[size_t(pair.b)].stamp;
+        const ContentKeyCache::Stamp &other = m_stamps[size_t(pair.b)];
         const Stored stored {other.device, other.inode, other.size, other.modifiedNs,
             other.changedNs, pair.variant, pair.distance, pair.inliers, pair.agreement,
             (pair.variantOfA ? VariantOfA : 0) | (pair.passed ? Same : 0)

@@ -12,25 +12,24 @@
 
 class QThreadPool;
 
-// The robust measure's check, remembered between scans in the picture cache: what the
-// check needs of each picture (its key points and small grey picture), and the verdict of
-// each pair it checked, kept with the picture of the pair's first member and the stamp of
-// the second. A rescan of unchanged pictures then reads no picture and checks no pair again;
-// a picture whose stamp changed loses both (its own records no longer match, and the
-// stamp kept with its partners does not either).
+// The robust measure's check, remembered between scans in the picture cache: the verdict
+// of each pair it checked, kept with the pair's first picture and the stamp of the second.
+// A rescan of unchanged pictures then checks no pair again (and reads no picture for it); a
+// picture whose stamp changed loses its verdicts (its own record no longer matches, and the
+// stamp kept with its partners does not either). What the check needs of a picture is not
+// kept: at some 32 KB a picture it would make the cache grow with the collection, and a
+// new pair's pictures decode at a fraction of their size anyway.
 class RobustCheckCache
 {
 public:
-    // Stamps every picture and looks up both kinds of record.
+    // Stamps every picture and looks up the verdicts kept with them.
     RobustCheckCache(ContentKeyCache &cache, const QList<ImageData> &images, QThreadPool *pool);
 
-    // What the check needs of each picture, packed, by picture (empty where none is kept).
-    std::vector<cv::Mat> takePictures();
     // The kept verdict of a pair (filling its check fields), if both pictures are unchanged.
     std::optional<bool> recall(RobustMatcher::Pair &pair) const;
-    // Keeps what the matcher prepared and checked, for the pictures whose stamps have not
-    // changed since they were taken.
-    void store(RobustMatcher &matcher, qint64 readNs);
+    // Keeps the verdicts of the pairs the matcher checked, for the pictures whose stamps
+    // have not changed since they were taken.
+    void store(const RobustMatcher &matcher, qint64 readNs);
 
     int recalled() const { return m_recalled.load(); }
 
@@ -44,7 +43,8 @@ private:
 
     ContentKeyCache &m_cache;
     const QList<ImageData> &m_images;
-    std::vector<ContentKeyCache::Picture> m_pictures;
+    // The stamp of each picture, as the run began.
+    std::vector<ContentKeyCache::Stamp> m_stamps;
     std::vector<ContentKeyCache::Picture> m_verdictRecords;
     std::vector<std::vector<Verdict>> m_verdicts;
     mutable std::atomic_int m_recalled {0};

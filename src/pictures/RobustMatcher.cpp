@@ -131,20 +131,12 @@ RobustMatcher::Slot &RobustMatcher::slotOf(const QList<ImageData> &images, int k
 {
     Slot &slot = m_slots[size_t(2 * k + (mirrored ? 1 : 0))];
     std::call_once(slot.once, [&] {
-        if (!mirrored && size_t(k) < m_cached.size() && !m_cached[size_t(k)].empty()) {
-            slot.picture = KeypointCheck::unpack(m_cached[size_t(k)]);
-            // Unpacked, the cache's copy is not needed any more.
-            m_cached[size_t(k)].release();
-            if (!slot.picture.empty())
-                return;
-        }
         cv::Mat grey = GreyPictureReader::read(images.at(k).path, RobustSignature::kHashSide);
         if (grey.empty())
             return;
         if (mirrored)
             cv::flip(grey, grey, 1);
         slot.picture = KeypointCheck::prepare(grey);
-        slot.prepared = !mirrored;
     });
     return slot;
 }
@@ -200,6 +192,25 @@ void RobustMatcher::check(const QList<ImageData> &images, std::vector<Pair> &pai
     constexpr int kBatch = 32;
     size_t next = 0;
     int done = 0;
+    // The pairs still to decide per slot: a slot whose last pair is decided lets its
+    // picture go, so a run holds the pictures of the open pairs, not of every picture.
+    const auto slotsOf = [](const Pair &pair) {
+        const bool mirrored = pair.variant == RobustSignature::Mirror;
+        return std::pair<size_t, size_t>(size_t(2 * pair.a + (mirrored && pair.variantOfA)),
+            size_t(2 * pair.b + (mirrored && !pair.variantOfA)));
+    };
+    std::vector<int> open(size_t(2 * images.size()), 0);
+    for (const int k : order) {
+        const auto [a, b] = slotsOf(pairs[size_t(k)]);
+        ++open[a];
+        ++open[b];
+    }
+    const auto decided = [&](int k) {
+        const auto [a, b] = slotsOf(pairs[size_t(k)]);
+        for (const size_t slot : {a, b})
+            if (--open[slot] == 0)
+                m_slots[slot].picture = KeypointCheck::Picture();
+    };
     while (next < order.size() && !m_cancel.load()) {
         QList<int> batch;
         QList<int> recalled;
@@ -208,8 +219,10 @@ void RobustMatcher::check(const QList<ImageData> &images, std::vector<Pair> &pai
         for (int taken = 0; next < order.size() && taken < kBatch; ++next) {
             Pair &pair = pairs[size_t(order[next])];
             ++done;
-            if (root(pair.a) == root(pair.b))
+            if (root(pair.a) == root(pair.b)) {
+                decided(order[next]);
                 continue;
+            }
             ++taken;
             if (const std::optional<bool> known = m_recall ? m_recall(pair) : std::nullopt) {
                 accepted[size_t(order[next])] = *known;
@@ -244,9 +257,11 @@ void RobustMatcher::check(const QList<ImageData> &images, std::vector<Pair> &pai
             if (pairs[size_t(k)].checked)
                 m_checkedPairs.push_back(pairs[size_t(k)]);
         }
-        for (const int k : batch + recalled)
+        for (const int k : batch + recalled) {
             if (accepted[size_t(k)])
                 join(pairs[size_t(k)].a, pairs[size_t(k)].b);
+            decided(k);
+        }
         if (progress)
             progress(done, total);
     }
@@ -266,18 +281,8 @@ std::vector<RobustMatcher::Pair> RobustMatcher::match(const QList<ImageData> &im
         accepted[k] = pairs[k].variant < RobustSignature::FirstCrop
             && pairs[k].distance <= m_options.strongDistance;
     m_slots = std::make_unique<Slot[]>(size_t(2 * std::max<qsizetype>(images.size(), 0)));
-    m_prepared.assign(size_t(std::max<qsizetype>(images.size(), 0)), cv::Mat());
     check(images, pairs, accepted, pool, progress);
-    // For the cache, what this run prepared goes out packed, each slot freed as it is
-    // packed: a run over tens of thousands of pictures never holds both forms of all.
-    for (size_t k = 0; m_keepPrepared && k < m_prepared.size(); ++k) {
-        Slot &slot = m_slots[2 * k];
-        if (slot.prepared)
-            m_prepared[k] = KeypointCheck::pack(slot.picture);
-        slot.picture = KeypointCheck::Picture();
-    }
     m_slots.reset();
-    m_cached.clear();
     std::vector<Pair> out;
     for (size_t k = 0; k < pairs.size(); ++k)
         if (accepted[k] && pairs[k].percent() >= m_options.passPercent)

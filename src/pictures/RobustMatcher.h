@@ -72,17 +72,6 @@ public:
     std::vector<Pair> match(const QList<ImageData> &images, QThreadPool *pool,
         const std::function<void(int, int)> &progress);
 
-    // What the check needs of the pictures, as a cache kept it (KeypointCheck::pack), by
-    // picture; an empty matrix where there is none. Those found are not read again.
-    // Setting them also keeps what the run prepares itself, for takePreparedPictures().
-    void setCachedPictures(std::vector<cv::Mat> packed)
-    {
-        m_cached = std::move(packed);
-        m_keepPrepared = true;
-    }
-    // The pictures the last run read and prepared itself, packed, by picture (empty where
-    // it did not): for the cache.
-    std::vector<cv::Mat> takePreparedPictures() { return std::move(m_prepared); }
     // The outcome of a pair's check as kept from an earlier run (filling its check fields),
     // if there is one; such a pair is not checked again.
     void setRecall(std::function<std::optional<bool>(Pair &)> recall)
@@ -112,19 +101,14 @@ private:
 
     Options m_options;
     const std::atomic_int &m_cancel;
-    // The grey picture of each picture (and of its mirror image) and its key points,
-    // read once, when first asked.
+    // What the check needs of each picture (and of its mirror image), read once, when
+    // first asked, and let go once the picture's last pair is decided.
     struct Slot
     {
         std::once_flag once;
         KeypointCheck::Picture picture;
-        // Read and prepared by this run (not taken from the cache, not mirrored).
-        bool prepared = false;
     };
     std::unique_ptr<Slot[]> m_slots;
-    std::vector<cv::Mat> m_cached;
-    std::vector<cv::Mat> m_prepared;
-    bool m_keepPrepared = false;
     std::function<std::optional<bool>(Pair &)> m_recall;
     std::vector<Pair> m_checkedPairs;
     int m_candidates = 0;
