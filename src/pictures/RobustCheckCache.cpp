@@ -30,6 +30,15 @@ struct Stored
 };
 enum Flags { VariantOfA = 1, Same = 2, AlignedByHash = 4 };
 
+Stored storedOf(const ContentKeyCache::Stamp &other, const RobustMatcher::Pair &pair)
+{
+    return Stored {other.device, other.inode, other.size, other.modifiedNs, other.changedNs,
+        pair.variant, pair.distance, pair.inliers, pair.agreement,
+        (pair.variantOfA ? VariantOfA : 0) | (pair.passed ? Same : 0)
+            | (pair.alignedByHash ? AlignedByHash : 0),
+        0};
+}
+
 ContentKeyCache::Stamp stampOf(const QString &path)
 {
     const FileStamp file = FileStamp::of(path);
@@ -127,21 +136,12 @@ void RobustCheckCache::store(const RobustMatcher &matcher, qint64 readNs)
             continue;
         ContentKeyCache::Picture &record = m_verdictRecords[size_t(pair.a)];
         const ContentKeyCache::Stamp &other = m_stamps[size_t(pair.b)];
-        const Stored stored {other.device, other.inode, other.size, other.modifiedNs,
-            other.changedNs, pair.variant, pair.distance, pair.inliers, pair.agreement,
-            (pair.variantOfA ? VariantOfA : 0) | (pair.passed ? Same : 0)
-                | (pair.alignedByHash ? AlignedByHash : 0),
-            0};
+        const Stored stored = storedOf(other, pair);
         if (!record.fresh) {
             // Starts from the verdicts kept before, which still hold for their partners.
             record.data.clear();
             for (const Verdict &kept : m_verdicts[size_t(pair.a)]) {
-                const Stored old {kept.other.device, kept.other.inode, kept.other.size,
-                    kept.other.modifiedNs, kept.other.changedNs, kept.pair.variant,
-                    kept.pair.distance, kept.pair.inliers, kept.pair.agreement,
-                    (kept.pair.variantOfA ? VariantOfA : 0) | (kept.pair.passed ? Same : 0)
-                        | (kept.pair.alignedByHash ? AlignedByHash : 0),
-                    0};
+                const Stored old = storedOf(kept.other, kept.pair);
                 record.data.append(reinterpret_cast<const char *>(&old), sizeof(old));
             }
         }
