@@ -7,6 +7,7 @@
 #include "app/TLogger.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/GroupMember.h"
+#include "pictures/BackgroundWork.h"
 #include "pictures/GreyPictureReader.h"
 #include "pictures/PictureMeasures.h"
 #include "pictures/RobustCheckCache.h"
@@ -14,7 +15,6 @@
 #include "pictures/RobustSignature.h"
 #include "pictures/SimilarityLinks.h"
 #include "pictures/TReadImage.h"
-#include "platform/Platform.h"
 #include "preferences/SettingsTable.h"
 
 #include <algorithm>
@@ -23,7 +23,6 @@
 #include <numeric>
 #include <vector>
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
@@ -54,21 +53,6 @@ void logSkipped(const QString &path, const char *reason)
     const QByteArray kind = QByteArrayLiteral("[TImageCompareThread]: Picture skipped, ") + reason;
     splog_repeated(
         kind.constData(), QStringLiteral("%1. File: %2").arg(QString::fromUtf8(kind), path));
-}
-
-// Every worker of the stage runs below the window: on two processors, decoding and
-// comparing at the window's priority left it (and the display server) waiting for whole
-// seconds. A caller on the program's main thread (a test driving one stage) keeps its own.
-void runInBackground()
-{
-    thread_local bool lowered = false;
-    if (lowered)
-        return;
-    lowered = true;
-    if (QCoreApplication::instance()
-        && QThread::currentThread() == QCoreApplication::instance()->thread())
-        return;
-    platform::current().lowerThreadPriority();
 }
 
 } // namespace
@@ -317,7 +301,7 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
     std::vector<ContentKeyCache::Picture> records(cache ? size_t(images.size()) : 0);
     if (cache) {
         QtConcurrent::blockingMap(&m_pool, records, [&](ContentKeyCache::Picture &record) {
-            runInBackground();
+            BackgroundWork::lower();
             const ImageData &data = images.at(qsizetype(&record - records.data()));
             record.stamp = pictureStamp(data.path);
             record.measure = measure;
@@ -329,7 +313,7 @@ void ImageCompareThread::loadImages(QList<ImageData> &images)
     std::atomic_int handled {0};
     reportProgress(2, 0, total, true);
     QtConcurrent::blockingMap(&m_pool, images, [&, this, measure](ImageData &data) {
-        runInBackground();
+        BackgroundWork::lower();
         const auto counted
             = qScopeGuard([&] { reportProgress(2, handled.fetch_add(1) + 1, total); });
         const QString suffix = QFileInfo(data.path).suffix();
@@ -402,7 +386,7 @@ void ImageCompareThread::hashCompare(QList<ImageData> &images, QList<QList<Image
     const bool foundWhenLinked = !m_isAddFeatures;
     reportProgress(3, 0, n, true);
     QtConcurrent::blockingMap(&m_pool, indexes, [&](int i) {
-        runInBackground();
+        BackgroundWork::lower();
         const auto counted
             = qScopeGuard([&] { reportProgress(3, finishedIndexes.fetch_add(1) + 1, n); });
         const ImageData &a = images.at(i);
@@ -585,7 +569,7 @@ void ImageCompareThread::orbFeatureMatch(QList<QList<ImageData>> &groups)
         return descriptors;
     };
     QtConcurrent::blockingMap(&m_pool, groups, [&](QList<ImageData> &group) {
-        runInBackground();
+        BackgroundWork::lower();
         if (isCancelled() || group.isEmpty())
             return;
         try {
@@ -643,7 +627,7 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
         return GroupMember {image.path, image.similarity}.entry();
     };
     QtConcurrent::blockingMap(&m_pool, groups, [&](const QList<ImageData> &group) {
-        runInBackground();
+        BackgroundWork::lower();
         QList<ImageData> earlier;
         QStringList entries;
         qint64 firstBytes = -1;
@@ -710,7 +694,7 @@ QPair<int, qint64> ImageCompareThread::storeGroups(const QList<QList<ImageData>>
 
 void ImageCompareThread::run()
 {
-    runInBackground();
+    BackgroundWork::lower();
     m_timer.restart();
     m_lastReportMs.store(0);
     m_fileCount.store(0);

@@ -2,6 +2,7 @@
 #include "pictures/RobustCheckCache.h"
 
 #include "engine/FileStamp.h"
+#include "pictures/BackgroundWork.h"
 
 #include <cstring>
 
@@ -56,6 +57,7 @@ RobustCheckCache::RobustCheckCache(
     , m_verdicts(size_t(images.size()))
 {
     QtConcurrent::blockingMap(pool, m_verdictRecords, [&](ContentKeyCache::Picture &record) {
+        BackgroundWork::lower();
         record.stamp = stampOf(images.at(qsizetype(&record - m_verdictRecords.data())).path);
         record.measure = kVerdictMeasure;
     });

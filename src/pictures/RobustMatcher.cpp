@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/RobustMatcher.h"
 
+#include "pictures/BackgroundWork.h"
 #include "pictures/GreyPictureReader.h"
 #include "pictures/HashIndex.h"
 #include "pictures/PictureMeasures.h"
@@ -96,6 +97,7 @@ std::vector<RobustMatcher::Pair> RobustMatcher::candidates(
     QList<int> order(n);
     std::iota(order.begin(), order.end(), 0);
     QtConcurrent::blockingMap(pool, order, [&](int i) {
+        BackgroundWork::lower();
         const std::vector<quint64> &mine = signatures[size_t(i)];
         if (m_cancel.load() || mine.empty())
             return;
@@ -232,6 +234,7 @@ void RobustMatcher::check(const QList<ImageData> &images, std::vector<Pair> &pai
             }
         }
         QtConcurrent::blockingMap(pool, batch, [&](int k) {
+            BackgroundWork::lower();
             if (m_cancel.load())
                 return;
             Pair &pair = pairs[size_t(k)];
