@@ -15,6 +15,21 @@
     </message>
 </context>
 <context>
+    <name>DFGeneralWidget</name>
+    <message>
+        <source>The robust comparison checks every uncertain pair by its key points itself.</source>
+        <translation>Der robuste Vergleich prüft jedes unsichere Paar selbst anhand seiner Merkmalspunkte.</translation>
+    </message>
+    <message>
+        <source>Lowest similarity</source>
+        <translation>Mindestähnlichkeit</translation>
+    </message>
+    <message>
+        <source>The robust comparison shows a match only when the pictures are at least this similar.</source>
+        <translation>Der robuste Vergleich zeigt einen Treffer nur, wenn die Bilder mindestens so ähnlich sind.</translation>
+    </message>
+</context>
+<context>
     <name>DFIgnoreListWidget</name>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
@@ -238,6 +253,14 @@
         <location filename="../../src/preferences/Genernal.ui" line="239"/>
         <source>Select low-quality similar images for removal</source>
         <translation>Bilder niedrigerer Qualität auswählen</translation>
+    </message>
+    <message>
+        <source>Robust Comparison (Edited Copies)</source>
+        <translation>Robuster Vergleich (bearbeitete Kopien)</translation>
+    </message>
+    <message>
+        <source>Also finds cropped, rotated, mirrored, grey and re-saved copies in any picture format.</source>
+        <translation>Findet auch zugeschnittene, gedrehte, gespiegelte, graue und neu gespeicherte Kopien in jedem Bildformat.</translation>
     </message>
 </context>
 <context>
@@ -876,6 +899,10 @@
         <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
         <source>This picture cannot be shown.</source>
         <translation>Dieses Bild kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Matched by</source>
+        <translation>Gefunden durch</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,21 @@
     </message>
 </context>
 <context>
+    <name>DFGeneralWidget</name>
+    <message>
+        <source>The robust comparison checks every uncertain pair by its key points itself.</source>
+        <translation>La comparación robusta comprueba por sí misma cada par dudoso mediante sus puntos característicos.</translation>
+    </message>
+    <message>
+        <source>Lowest similarity</source>
+        <translation>Similitud mínima</translation>
+    </message>
+    <message>
+        <source>The robust comparison shows a match only when the pictures are at least this similar.</source>
+        <translation>La comparación robusta solo muestra una coincidencia cuando las imágenes son al menos así de similares.</translation>
+    </message>
+</context>
+<context>
     <name>DFIgnoreListWidget</name>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
@@ -238,6 +253,14 @@
         <location filename="../../src/preferences/Genernal.ui" line="239"/>
         <source>Select low-quality similar images for removal</source>
         <translation>Seleccionar las imágenes de baja calidad</translation>
+    </message>
+    <message>
+        <source>Robust Comparison (Edited Copies)</source>
+        <translation>Comparación robusta (copias editadas)</translation>
+    </message>
+    <message>
+        <source>Also finds cropped, rotated, mirrored, grey and re-saved copies in any picture format.</source>
+        <translation>También encuentra copias recortadas, giradas, reflejadas, en escala de grises y guardadas de nuevo, en cualquier formato de imagen.</translation>
     </message>
 </context>
 <context>
@@ -876,6 +899,10 @@
         <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
         <source>This picture cannot be shown.</source>
         <translation>No se puede mostrar esta imagen.</translation>
+    </message>
+    <message>
+        <source>Matched by</source>
+        <translation>Coincidencia</translation>
     </message>
 </context>
 <context>

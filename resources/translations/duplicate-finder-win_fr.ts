@@ -15,6 +15,21 @@
     </message>
 </context>
 <context>
+    <name>DFGeneralWidget</name>
+    <message>
+        <source>The robust comparison checks every uncertain pair by its key points itself.</source>
+        <translation>La comparaison robuste vérifie elle-même chaque paire incertaine par ses points caractéristiques.</translation>
+    </message>
+    <message>
+        <source>Lowest similarity</source>
+        <translation>Similarité minimale</translation>
+    </message>
+    <message>
+        <source>The robust comparison shows a match only when the pictures are at least this similar.</source>
+        <translation>La comparaison robuste n&apos;affiche une correspondance que si les images sont au moins aussi similaires.</translation>
+    </message>
+</context>
+<context>
     <name>DFIgnoreListWidget</name>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
@@ -238,6 +253,14 @@
         <location filename="../../src/preferences/Genernal.ui" line="239"/>
         <source>Select low-quality similar images for removal</source>
         <translation>Sélectionner les images de basse qualité</translation>
+    </message>
+    <message>
+        <source>Robust Comparison (Edited Copies)</source>
+        <translation>Comparaison robuste (copies modifiées)</translation>
+    </message>
+    <message>
+        <source>Also finds cropped, rotated, mirrored, grey and re-saved copies in any picture format.</source>
+        <translation>Trouve aussi les copies recadrées, pivotées, en miroir, en niveaux de gris et réenregistrées, dans tout format d&apos;image.</translation>
     </message>
 </context>
 <context>
@@ -876,6 +899,10 @@
         <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
         <source>This picture cannot be shown.</source>
         <translation>Impossible d&apos;afficher cette image.</translation>
+    </message>
+    <message>
+        <source>Matched by</source>
+        <translation>Correspondance</translation>
     </message>
 </context>
 <context>

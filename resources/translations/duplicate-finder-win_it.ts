@@ -15,6 +15,21 @@
     </message>
 </context>
 <context>
+    <name>DFGeneralWidget</name>
+    <message>
+        <source>The robust comparison checks every uncertain pair by its key points itself.</source>
+        <translation>Il confronto robusto verifica da sé ogni coppia incerta tramite i suoi punti caratteristici.</translation>
+    </message>
+    <message>
+        <source>Lowest similarity</source>
+        <translation>Somiglianza minima</translation>
+    </message>
+    <message>
+        <source>The robust comparison shows a match only when the pictures are at least this similar.</source>
+        <translation>Il confronto robusto mostra una corrispondenza solo se le immagini sono simili almeno quanto questo valore.</translation>
+    </message>
+</context>
+<context>
     <name>DFIgnoreListWidget</name>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
@@ -238,6 +253,14 @@
         <location filename="../../src/preferences/Genernal.ui" line="239"/>
         <source>Select low-quality similar images for removal</source>
         <translation>Seleziona le immagini di bassa qualità</translation>
+    </message>
+    <message>
+        <source>Robust Comparison (Edited Copies)</source>
+        <translation>Confronto robusto (copie modificate)</translation>
+    </message>
+    <message>
+        <source>Also finds cropped, rotated, mirrored, grey and re-saved copies in any picture format.</source>
+        <translation>Trova anche copie ritagliate, ruotate, specchiate, in scala di grigi e salvate di nuovo, in qualsiasi formato di immagine.</translation>
     </message>
 </context>
 <context>
@@ -876,6 +899,10 @@
         <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
         <source>This picture cannot be shown.</source>
         <translation>Impossibile visualizzare questa immagine.</translation>
+    </message>
+    <message>
+        <source>Matched by</source>
+        <translation>Corrispondenza</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,21 @@
     </message>
 </context>
 <context>
+    <name>DFGeneralWidget</name>
+    <message>
+        <source>The robust comparison checks every uncertain pair by its key points itself.</source>
+        <translation>ロバスト比較は、不確かなペアを特徴点で自ら確認します。</translation>
+    </message>
+    <message>
+        <source>Lowest similarity</source>
+        <translation>最小類似度</translation>
+    </message>
+    <message>
+        <source>The robust comparison shows a match only when the pictures are at least this similar.</source>
+        <translation>ロバスト比較は、画像がこの値以上に類似している場合にのみ一致を表示します。</translation>
+    </message>
+</context>
+<context>
     <name>DFIgnoreListWidget</name>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
@@ -238,6 +253,14 @@
         <location filename="../../src/preferences/Genernal.ui" line="239"/>
         <source>Select low-quality similar images for removal</source>
         <translation>低画質の画像を選択</translation>
+    </message>
+    <message>
+        <source>Robust Comparison (Edited Copies)</source>
+        <translation>ロバスト比較（編集されたコピー）</translation>
+    </message>
+    <message>
+        <source>Also finds cropped, rotated, mirrored, grey and re-saved copies in any picture format.</source>
+        <translation>切り抜き、回転、左右反転、グレースケール化、再保存されたコピーも、どの画像形式でも見つけます。</translation>
     </message>
 </context>
 <context>
@@ -869,6 +892,10 @@
         <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
         <source>This picture cannot be shown.</source>
         <translation>この画像は表示できません。</translation>
+    </message>
+    <message>
+        <source>Matched by</source>
+        <translation>一致の理由</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,21 @@
     </message>
 </context>
 <context>
+    <name>DFGeneralWidget</name>
+    <message>
+        <source>The robust comparison checks every uncertain pair by its key points itself.</source>
+        <translation>A comparação robusta verifica ela própria cada par incerto pelos seus pontos característicos.</translation>
+    </message>
+    <message>
+        <source>Lowest similarity</source>
+        <translation>Semelhança mínima</translation>
+    </message>
+    <message>
+        <source>The robust comparison shows a match only when the pictures are at least this similar.</source>
+        <translation>A comparação robusta só mostra uma correspondência quando as imagens são pelo menos tão semelhantes.</translation>
+    </message>
+</context>
+<context>
     <name>DFIgnoreListWidget</name>
     <message>
         <location filename="../../src/preferences/DFIgnoreListWidget.cpp" line="191"/>
@@ -238,6 +253,14 @@
         <location filename="../../src/preferences/Genernal.ui" line="239"/>
         <source>Select low-quality similar images for removal</source>
         <translation>Selecionar as imagens de baixa qualidade</translation>
+    </message>
+    <message>
+        <source>Robust Comparison (Edited Copies)</source>
+        <translation>Comparação robusta (cópias editadas)</translation>
+    </message>
+    <message>
+        <source>Also finds cropped, rotated, mirrored, grey and re-saved copies in any picture format.</source>
+        <translation>Encontra também cópias recortadas, rodadas, espelhadas, em tons de cinzento e guardadas de novo, em qualquer formato de imagem.</translation>
     </message>
 </context>
 <context>
@@ -876,6 +899,10 @@
         <location filename="../../src/results/PicturePreviewPane.cpp" line="215"/>
         <source>This picture cannot be shown.</source>
         <translation>Não é possível mostrar esta imagem.</translation>
+    </message>
+    <message>
+        <source>Matched by</source>
+        <translation>Correspondência</translation>
     </message>
 </context>
 <context>
