@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/RobustSignature.h"
 
+#include "pictures/GreyPictureReader.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -74,12 +76,8 @@ cv::Size RobustSignature::hashedSize(const cv::Size &size)
 
 cv::Mat RobustSignature::hashPicture(const cv::Mat &grey)
 {
-    const cv::Size size = hashedSize(grey.size());
-    if (size == grey.size())
-        return grey;
-    cv::Mat small;
-    cv::resize(grey, small, size, 0, 0, cv::INTER_AREA);
-    return small;
+    // The same rounding as hashedSize(): the check maps crops by that size.
+    return GreyPictureReader::fit(grey, kHashedSide);
 }
 
 std::vector<quint64> RobustSignature::of(const cv::Mat &picture)
