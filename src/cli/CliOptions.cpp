@@ -79,23 +79,26 @@ QString CliOptions::usage()
         "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
         "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
         "trash|permanent|move\n"
-        "                                     [--to DIR] [--dry-run] [--allow-all-copies]\n"
+        "                                     [--to DIR [--keep-structure]] [--dry-run]\n"
+        "                                     [--allow-all-copies]\n"
         "                                     [--allow-different-content] [--json]\n"
         "       veltrine-duplicate-finder-cli restore [--list | BATCH] [--json]\n"
         "\n"
         "scan finds duplicate files in the given folders and report prints the groups and\n"
         "the selection of a saved project; neither deletes or moves anything. remove acts\n"
         "on a saved project's selection: to the trash, for good, or into the folder --to\n"
-        "(never over an existing name). Just before each item goes it is checked: it must\n"
-        "be as the scan saw it, a member of its group that stays must still exist as a\n"
-        "separate file, and its whole content, read at that moment, must equal that\n"
-        "copy's. Similar pictures and files of one name differ by design: a member that\n"
-        "differs from every copy that stays goes only with --allow-different-content.\n"
-        "Items that fail a check are skipped with the reason; when a group's every\n"
-        "copy is selected the first stays unless --allow-all-copies is given. --dry-run\n"
-        "lists what would be removed and skipped. Every removal is written to a journal\n"
-        "in the data folder, each item before it is acted on; a full disk there stops\n"
-        "the batch. SIGINT or SIGTERM stops it after the item in hand (exit 130 or 143).\n"
+        "(never over an existing name; with --keep-structure each item keeps its folders\n"
+        "below the scanned folder that holds it). Just before each item goes it is\n"
+        "checked: it must be as the scan saw it, a member of its group that stays must\n"
+        "still exist as a separate file, and its whole content, read at that moment, must\n"
+        "equal that copy's. Similar pictures and files of one name differ by design: a\n"
+        "member that differs from every copy that stays goes only with\n"
+        "--allow-different-content. Items that fail a check are skipped with the reason;\n"
+        "when a group's every copy is selected the first stays unless --allow-all-copies\n"
+        "is given. --dry-run lists what would be removed and skipped. Every removal is\n"
+        "written to a journal in the data folder, each item before it is acted on; a\n"
+        "full disk there stops the batch. SIGINT or SIGTERM stops it after the item in hand (exit "
+        "130 or 143).\n"
         "restore puts the newest batch that went to the trash or into a folder back where\n"
         "it was, each item only if it is what went, never over an existing file; run it\n"
         "again to finish what failed. restore --list lists the batches, restore BATCH (an\n"
@@ -239,6 +242,8 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
             }
         } else if (removing && argument == QLatin1String("--to") && hasValue) {
             m_targetFolder = QDir::cleanPath(QFileInfo(arguments.at(++i)).absoluteFilePath());
+        } else if (removing && argument == QLatin1String("--keep-structure")) {
+            m_keepStructure = true;
         } else if (removing && argument == QLatin1String("--dry-run")) {
             m_dryRun = true;
         } else if (removing && argument == QLatin1String("--allow-all-copies")) {
@@ -267,6 +272,10 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
     }
     if (removing && m_removalMethod < 0) {
         m_error = QStringLiteral("remove needs --method trash, permanent or move");
+        return BadArguments;
+    }
+    if (m_keepStructure && m_targetFolder.isEmpty()) {
+        m_error = QStringLiteral("--keep-structure goes with --method move --to FOLDER");
         return BadArguments;
     }
     if (removing && (m_removalMethod == 2) != !m_targetFolder.isEmpty()) {

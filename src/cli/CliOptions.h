@@ -31,6 +31,8 @@ public:
     int removalMethod() const { return m_removalMethod; }
     QString targetFolder() const { return m_targetFolder; }
     bool dryRun() const { return m_dryRun; }
+    // A move recreates each item's folders below its scanned folder under the target.
+    bool keepStructure() const { return m_keepStructure; }
     bool allowAllCopies() const { return m_allowAllCopies; }
     bool allowDifferentContent() const { return m_allowDifferentContent; }
     // restore: list the batches instead, or the batch to restore (empty: the newest that
@@ -97,6 +99,7 @@ private:
     int m_removalMethod = -1;
     QString m_targetFolder;
     bool m_dryRun = false;
+    bool m_keepStructure = false;
     bool m_allowAllCopies = false;
     bool m_allowDifferentContent = false;
     bool m_listBatches = false;

@@ -173,6 +173,7 @@ int RemovalCommands::remove(const CliOptions &options)
     RemovalRequest request
         = RemovalRequest::fromStore(options.removalMethod(), options.targetFolder());
     request.allowAllCopies = options.allowAllCopies();
+    request.keepStructure = options.keepStructure();
     request.allowDifferentContent = options.allowDifferentContent();
     request.dryRun = options.dryRun();
     const QString refusal = request.refusal();

@@ -349,6 +349,19 @@ void TFileData::clear()
     m_stamps.clear();
     m_groupMatches.clear();
     m_matchReasons.clear();
+    m_scanRoots.clear();
+}
+
+void TFileData::setScanRoots(const QStringList &roots)
+{
+    QWriteLocker locker(&m_lock);
+    m_scanRoots = roots;
+}
+
+QStringList TFileData::scanRoots() const
+{
+    QReadLocker locker(&m_lock);
+    return m_scanRoots;
 }
 
 void TFileData::insertStamp(const QString &path, const FileStamp &stamp)

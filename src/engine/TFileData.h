@@ -83,6 +83,10 @@ public:
     QString matchReason(const QString &entry) const;
     void setGroupMatch(const QString &key, GroupMatch match);
     GroupMatch groupMatch(const QString &key) const;
+    // The folders the scan started from, as it was given them: a move that keeps the
+    // folder structure places each item relative to the one that holds it.
+    void setScanRoots(const QStringList &roots);
+    QStringList scanRoots() const;
     void clear();
     // The copies that could go (every member of a group but the first; for a folder
     // group the files of every folder but the first) and their bytes, as a scan counts
@@ -114,4 +118,5 @@ private:
     // Groups whose match is not MatchContent.
     QHash<QString, GroupMatch> m_groupMatches;
     QHash<QString, QString> m_matchReasons;
+    QStringList m_scanRoots;
 };

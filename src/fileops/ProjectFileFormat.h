@@ -10,6 +10,9 @@ namespace ProjectFileFormat {
 inline const QString kGroupsElement = QStringLiteral("groups");
 inline const QString kGroupElement = QStringLiteral("GroupItem");
 inline const QString kItemElement = QStringLiteral("Item");
+// The folders the scan started from, one "Root" each, before the groups.
+inline const QString kRootsElement = QStringLiteral("roots");
+inline const QString kRootElement = QStringLiteral("Root");
 inline const QString kDefaultScanTime = QStringLiteral("00:00:00");
 // An item whose path XML cannot carry (control characters, bytes that are not UTF-8)
 // is written as the percent-encoded bytes of the name, marked by this attribute.

@@ -103,6 +103,11 @@ ProjectFileReader::Failure ProjectFileReader::read()
             m_sawGroups = true;
             continue;
         }
+        if (name == kRootsElement) {
+            if (!readScanRoots())
+                break;
+            continue;
+        }
         if (name != kGroupElement) {
             // Elements of later versions are skipped, not trusted.
             m_xml.skipCurrentElement();
@@ -220,6 +225,56 @@ bool ProjectFileReader::readGroup()
     return true;
 }
 
+bool ProjectFileReader::readPathText(QString &path, const QString &owner)
+{
+    const QStringView encoding = m_xml.attributes().value(kEncodingAttribute);
+    if (!encoding.isEmpty() && encoding != kPercentEncoding) {
+        refuse(TOpenSaveThread::ProjectInvalidContent,
+            at(QStringLiteral("an item of %1 has an unknown encoding").arg(owner)));
+        return false;
+    }
+    path = m_xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
+    if (m_xml.hasError())
+        return false;
+    if (!encoding.isEmpty()) {
+        const QByteArray bytes = QByteArray::fromPercentEncoding(path.toLatin1());
+        // No file name holds a NUL byte; the system would read the path only up to
+        // it and reach another file.
+        if (bytes.contains('\0')) {
+            refuse(TOpenSaveThread::ProjectInvalidContent,
+                at(QStringLiteral("%1 holds a path with a NUL byte (%00)").arg(owner)));
+            return false;
+        }
+        path = FilePathCodec::decode(bytes);
+    }
+    return true;
+}
+
+bool ProjectFileReader::readScanRoots()
+{
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() != kRootElement) {
+            m_xml.skipCurrentElement();
+            continue;
+        }
+        QString root;
+        if (!readPathText(root, kRootsElement))
+            return false;
+        if (++m_entryCount > m_maxEntries) {
+            refuse(TOpenSaveThread::ProjectInvalidContent,
+                at(QStringLiteral("more than %1 entries").arg(m_maxEntries)));
+            return false;
+        }
+        if (root.isEmpty() || root.size() > kMaxPathLength || !QDir::isAbsolutePath(root)) {
+            refuse(TOpenSaveThread::ProjectInvalidContent,
+                at(QStringLiteral("the scanned folders hold an invalid path")));
+            return false;
+        }
+        m_roots.append(QDir::cleanPath(root));
+    }
+    return !m_xml.hasError();
+}
+
 bool ProjectFileReader::readItem(Group &group, QSet<QString> &seen)
 {
     const QStringView flag = m_xml.attributes().value(QStringLiteral("selected"));
@@ -230,26 +285,9 @@ bool ProjectFileReader::readItem(Group &group, QSet<QString> &seen)
     }
     const bool isSelected = flag == QLatin1String("1");
     const FileStamp stamp = readStamp(m_xml.attributes());
-    const QStringView encoding = m_xml.attributes().value(kEncodingAttribute);
-    if (!encoding.isEmpty() && encoding != kPercentEncoding) {
-        refuse(TOpenSaveThread::ProjectInvalidContent,
-            at(QStringLiteral("an item of group %1 has an unknown encoding").arg(group.key)));
+    QString entry;
+    if (!readPathText(entry, QStringLiteral("group %1").arg(group.key)))
         return false;
-    }
-    QString entry = m_xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
-    if (m_xml.hasError())
-        return false;
-    if (!encoding.isEmpty()) {
-        const QByteArray bytes = QByteArray::fromPercentEncoding(entry.toLatin1());
-        // No file name holds a NUL byte; the system would read the path only up to
-        // it and reach another file.
-        if (bytes.contains('\0')) {
-            refuse(TOpenSaveThread::ProjectInvalidContent,
-                at(QStringLiteral("group %1 holds a path with a NUL byte (%00)").arg(group.key)));
-            return false;
-        }
-        entry = FilePathCodec::decode(bytes);
-    }
     if (++m_entryCount > m_maxEntries) {
         refuse(TOpenSaveThread::ProjectInvalidContent,
             at(QStringLiteral("more than %1 entries").arg(m_maxEntries)));

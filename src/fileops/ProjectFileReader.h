@@ -54,6 +54,8 @@ public:
     qint64 fileCount() const { return m_fileCount; }
     QString scanTime() const { return m_scanTime; }
     const QList<Group> &groups() const { return m_groups; }
+    // The folders the scan started from (none in files of earlier versions).
+    const QStringList &roots() const { return m_roots; }
     // Groups the file lists, the ones left out included.
     qsizetype listedGroups() const { return m_listedGroups; }
 
@@ -62,6 +64,10 @@ private:
     bool readRoot(QStringView name);
     bool readGroup();
     bool readItem(Group &group, QSet<QString> &seen);
+    bool readScanRoots();
+    // The text of the current element as a path, decoded where it is percent-encoded;
+    // owner names what holds it in a refusal.
+    bool readPathText(QString &path, const QString &owner);
     void refuse(int flag, const QString &reason);
     QString at(const QString &what) const;
 
@@ -77,6 +83,7 @@ private:
     qint64 m_fileCount = 0;
     QString m_scanTime;
     QList<Group> m_groups;
+    QStringList m_roots;
     QSet<QString> m_keys;
     // Paths of the groups taken so far: a file listed in two groups would let a removal
     // take it through one while the other counts on it as the copy that stays.

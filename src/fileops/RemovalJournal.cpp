@@ -44,6 +44,8 @@ const QString kPath = QStringLiteral("path");
 const QString kPathBytes = QStringLiteral("pathBytes");
 const QString kPrivate = QStringLiteral("private");
 const QString kPrivateBytes = QStringLiteral("privateBytes");
+const QString kInto = QStringLiteral("into");
+const QString kIntoBytes = QStringLiteral("intoBytes");
 const QString kTo = QStringLiteral("to");
 const QString kToBytes = QStringLiteral("toBytes");
 const QString kResult = QStringLiteral("result");
@@ -255,7 +257,7 @@ bool RemovalJournal::begin(
 }
 
 bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &path,
-    const QString &privatePath, qint64 size, qint64 modifiedNs)
+    const QString &privatePath, qint64 size, qint64 modifiedNs, const QString &into)
 {
     ItemLine line(m_batch);
     line.add(kEvent, kIntent);
@@ -266,6 +268,8 @@ bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &pa
     line.addPath(kPath, kPathBytes, path);
     if (!privatePath.isEmpty())
         line.addPath(kPrivate, kPrivateBytes, privatePath);
+    if (!into.isEmpty())
+        line.addPath(kInto, kIntoBytes, into);
     return writeLine(line.take());
 }
 
@@ -415,6 +419,7 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
         if (event == kIntent) {
             item.intended = true;
             item.privatePath = takePath(line, kPrivate, kPrivateBytes);
+            item.into = takePath(line, kInto, kIntoBytes);
             item.size = qint64(line.value(kSize).toDouble(-1));
             item.modifiedNs = line.value(kModified).toString().toLongLong();
             continue;

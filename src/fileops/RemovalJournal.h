@@ -26,6 +26,9 @@ public:
         QString path;
         // The private name the item had during the act.
         QString privatePath;
+        // The folder a move was to put the item into, when not the batch's target itself
+        // (a move that keeps the folder structure).
+        QString into;
         QString destination;
         QString result;
         QString reason;
@@ -81,8 +84,9 @@ public:
         const QString &restores = {});
     // size and modifiedNs: the item as the look before the act saw it (size -1 for a
     // folder), so that an item whose outcome was never written can be recognised.
+    // into: the folder a move puts the item into, when it is not the batch's target.
     bool intent(qint64 seq, const QString &method, const QString &path, const QString &privatePath,
-        qint64 size, qint64 modifiedNs);
+        qint64 size, qint64 modifiedNs, const QString &into = {});
     // The outcome line is held until the next line is written (the next item's intent, at
     // the latest), so that each item costs one write: it follows the act, and comes before
     // the next act. An intent without its outcome is what a restore looks for anyway.

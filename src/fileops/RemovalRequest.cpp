@@ -17,6 +17,7 @@ RemovalRequest RemovalRequest::fromStore(int method, const QString &targetFolder
     request.dirGroups = store->dirGroups();
     request.selected = store->selected();
     request.stamps = store->stamps();
+    request.scanRoots = store->scanRoots();
     for (auto it = request.groups.cbegin(); it != request.groups.cend(); ++it) {
         const TFileData::GroupMatch match = store->groupMatch(it.key());
         if (match == TFileData::MatchName)
@@ -60,4 +61,30 @@ QString RemovalRequest::refusal() const
         }
     }
     return {};
+}
+
+QString RemovalRequest::folderFor(const QString &path) const
+{
+    if (!keepStructure || method != TFileDeleter::moveToFolder)
+        return targetFolder;
+    const QString folder = QDir::cleanPath(path.left(path.lastIndexOf(QLatin1Char('/'))));
+    QString holder;
+    for (const QString &root : scanRoots) {
+        const QString clean = QDir::cleanPath(root);
+        const QString prefix = clean.endsWith(QLatin1Char('/')) ? clean : clean + QLatin1Char('/');
+        if ((folder == clean || folder.startsWith(prefix)) && clean.size() > holder.size())
+            holder = clean;
+    }
+    QString relative;
+    if (!holder.isEmpty()) {
+        relative = folder.mid(holder.size());
+    } else {
+        // "C:/photos" keeps its drive as a folder name "C".
+        relative = folder;
+        relative.remove(QLatin1Char(':'));
+    }
+    while (relative.startsWith(QLatin1Char('/')))
+        relative.remove(0, 1);
+    return relative.isEmpty() ? targetFolder
+                              : QDir::cleanPath(targetFolder + QLatin1Char('/') + relative);
 }

@@ -5,6 +5,7 @@
 
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 // Everything one batch removal works from: the method, the groups and their selection as
 // the store holds them when the batch starts, and what the scan saw of each file.
@@ -12,6 +13,10 @@ struct RemovalRequest
 {
     int method = 0;
     QString targetFolder;
+    // A move recreates each item's folders below the scanned folder that holds it under
+    // the target folder, so that moved files keep their context.
+    bool keepStructure = false;
+    QStringList scanRoots;
     // Lets a group lose every copy when its whole membership is selected; otherwise the
     // first member in group order stays.
     bool allowAllCopies = false;
@@ -33,6 +38,10 @@ struct RemovalRequest
     // Why the batch cannot start at all, before anything moves (empty: it can): a target
     // folder that is a file, or a selected folder that holds the target folder.
     QString refusal() const;
+    // The folder a move puts the item at path into: the target folder, or with the
+    // structure kept, the item's folder relative to the innermost scanned folder holding
+    // it below the target (an item outside every scanned folder keeps its whole path).
+    QString folderFor(const QString &path) const;
 
     // The store's current groups, selection and stamps.
     static RemovalRequest fromStore(int method, const QString &targetFolder);

@@ -129,14 +129,15 @@ QString RemovalRestorer::restoreIntended(
             places.append(FilePathCodec::decode(trashed.c_str(), qsizetype(trashed.size())));
     } else if (isFile && item.method == RemovalJournal::methodName(TFileDeleter::moveToFolder)
         && !batch.target.isEmpty()) {
-        places.append(batch.target + QLatin1Char('/') + name);
+        const QString folder = item.into.isEmpty() ? batch.target : item.into;
+        places.append(folder + QLatin1Char('/') + name);
         // The names a move gives when the first is taken: "name (2).ext" and on.
         const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
         const QString stem = dot > 0 ? name.left(dot) : name;
         const QString suffix = dot > 0 ? name.mid(dot) : QString();
         for (int n = 2; n < 10000; ++n) {
             const QString candidate
-                = batch.target + QStringLiteral("/%1 (%2)%3").arg(stem).arg(n).arg(suffix);
+                = folder + QStringLiteral("/%1 (%2)%3").arg(stem).arg(n).arg(suffix);
             if (!exists(candidate))
                 break;
             places.append(candidate);

@@ -208,9 +208,10 @@ bool TImageDeleteWorker::handle(
     // No record, no act.
     const QString privatePath = privateNameFor(path);
     const QString method = RemovalJournal::methodName(m_request.method);
+    const QString into = m_request.folderFor(path);
     if (!m_journal
         || !m_journal->intent(seq, method, path, privatePath, plan.folders ? -1 : look.stamp.size,
-            look.stamp.modifiedNs)) {
+            look.stamp.modifiedNs, into == m_request.targetFolder ? QString() : into)) {
         m_journalError = m_journal ? m_journal->error() : QStringLiteral("no journal");
         result.success = false;
         result.errorCode = DeleteResult::NotRecorded;
@@ -242,7 +243,7 @@ bool TImageDeleteWorker::handle(
         splog_d(kTag + QStringLiteral("Skipped, %1: %2").arg(confirmed.reason, path));
         return record(result, RemovalJournal::skipped, seq);
     }
-    result = TFileDeleter::deleteOne(privatePath, m_request.method, m_request.targetFolder, path);
+    result = TFileDeleter::deleteOne(privatePath, m_request.method, into, path);
     result.size = confirmed.size;
     result.modifiedNs = confirmed.modifiedNs;
     result.digest = confirmed.digest;

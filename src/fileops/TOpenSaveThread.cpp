@@ -115,6 +115,18 @@ QStringList orderedKeys(const TFileData::Groups &groups, const TFileData::DirGro
     return keys;
 }
 
+// An element's text: the path, or its percent-encoded bytes where XML cannot carry it.
+void writePath(QXmlStreamWriter &xml, const QString &path)
+{
+    if (needsEncoding(path)) {
+        xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
+        xml.writeCharacters(
+            QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
+    } else {
+        xml.writeCharacters(path);
+    }
+}
+
 void writeItem(QXmlStreamWriter &xml, const QString &path, bool selected, const FileStamp &stamp)
 {
     xml.writeStartElement(kItemElement);
@@ -132,12 +144,19 @@ void writeItem(QXmlStreamWriter &xml, const QString &path, bool selected, const 
             xml.writeAttribute(kChangedAttribute, QString::number(stamp.changedNs));
         }
     }
-    if (needsEncoding(path)) {
-        xml.writeAttribute(kEncodingAttribute, kPercentEncoding);
-        xml.writeCharacters(
-            QString::fromLatin1(FilePathCodec::encode(path).toPercentEncoding("/")));
-    } else {
-        xml.writeCharacters(path);
+    writePath(xml, path);
+    xml.writeEndElement();
+}
+
+void writeRoots(QXmlStreamWriter &xml, const QStringList &roots)
+{
+    if (roots.isEmpty())
+        return;
+    xml.writeStartElement(kRootsElement);
+    for (const QString &root : roots) {
+        xml.writeStartElement(kRootElement);
+        writePath(xml, root);
+        xml.writeEndElement();
     }
     xml.writeEndElement();
 }
@@ -424,6 +443,7 @@ int TOpenSaveThread::saveDocument(
     xml.writeAttribute(QStringLiteral("fileCount"), QString::number(count));
     xml.writeAttribute(QStringLiteral("scanTime"), time.isEmpty() ? kDefaultScanTime : time);
     xml.writeAttribute(QStringLiteral("version"), AppIdentity::version);
+    writeRoots(xml, store->scanRoots());
     xml.writeStartElement(kGroupsElement);
     const double total = keys.size();
     double done = 0;
@@ -533,6 +553,7 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
 
     TFileData *store = TFileData::instance();
     store->replaceAll(groups, dirGroups, opened.selected);
+    store->setScanRoots(reader.roots());
     TFileData::Stamps stamps;
     for (const ReadGroup &group : reader.groups()) {
         for (auto it = group.stamps.cbegin(); it != group.stamps.cend(); ++it)

@@ -13,6 +13,7 @@
 //
 // File shape (UTF-8 XML):
 //   <VeltrineDuplicateFinder fileCount="N" scanTime="hh:mm:ss" version="4.5.0">
+//     <roots><Root>/scanned/folder</Root> ...</roots>
 //     <groups>
 //       <GroupItem GroupType="0" GroupFlag="0" key="KEY">
 //         <Item selected="1">/absolute/path</Item> ...

@@ -22,6 +22,7 @@ DFIgnoreListPreferences &DFIgnoreListPreferences::operator=(const DFIgnoreListPr
     m_maxFileSize = other.m_maxFileSize;
     m_minFileSize = other.m_minFileSize;
     m_trashFolder = other.m_trashFolder;
+    m_keepFolderStructure = other.m_keepFolderStructure;
     m_ignorePathFile = other.m_ignorePathFile;
     m_ignoreFileType = other.m_ignoreFileType;
     m_onlyFileType = other.m_onlyFileType;
@@ -38,6 +39,7 @@ void DFIgnoreListPreferences::resetDefaults()
 {
     namespace Table = SettingsTable;
     m_hideSystemFile = Table::HideSystemFile.byDefault != 0;
+    m_keepFolderStructure = Table::KeepFolderStructure.byDefault != 0;
     m_ignoreBundle = Table::IgnoreBundle.byDefault != 0;
     m_scanFileType = int(Table::ScanFileType.byDefault);
     m_minFileSize = quint64(Table::MinFileSize.byDefault);

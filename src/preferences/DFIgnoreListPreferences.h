@@ -19,6 +19,7 @@ class DFIgnoreListPreferences : public QObject
     Q_PROPERTY(quint64 MaxFileSize READ MaxFileSize WRITE setMaxFileSize)
     Q_PROPERTY(quint64 MinFileSize READ MinFileSize WRITE setMinFileSize)
     Q_PROPERTY(QString TrashFolder READ TrashFolder WRITE setTrashFolder)
+    Q_PROPERTY(bool KeepFolderStructure READ KeepFolderStructure WRITE setKeepFolderStructure)
     Q_PROPERTY(QStringList IgnorePathFile READ IgnorePathFile WRITE setIgnorePathFile)
     Q_PROPERTY(QStringList IgnoreFileType READ IgnoreFileType WRITE setIgnoreFileType)
     Q_PROPERTY(QStringList OnlyFileType READ OnlyFileType WRITE setOnlyFileType)
@@ -53,6 +54,8 @@ public:
     void setMinFileSize(quint64 value) { m_minFileSize = value; }
     QString TrashFolder() const { return m_trashFolder; }
     void setTrashFolder(const QString &value) { m_trashFolder = value; }
+    bool KeepFolderStructure() const { return m_keepFolderStructure; }
+    void setKeepFolderStructure(bool value) { m_keepFolderStructure = value; }
     QStringList IgnorePathFile() const { return m_ignorePathFile; }
     void setIgnorePathFile(const QStringList &value) { m_ignorePathFile = value; }
     QStringList IgnoreFileType() const { return m_ignoreFileType; }
@@ -80,6 +83,7 @@ private:
     quint64 m_maxFileSize = 0;
     quint64 m_minFileSize = 0;
     QString m_trashFolder;
+    bool m_keepFolderStructure = false;
     QStringList m_ignorePathFile;
     QStringList m_ignoreFileType;
     QStringList m_onlyFileType;

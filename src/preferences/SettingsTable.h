@@ -72,6 +72,9 @@ inline constexpr Setting MinFileSize {
     Group::Common, "MinFileSize", SnapshotKeys::minFileSize, Kind::Number, 0, 0, 10000000};
 inline constexpr Setting TrashFolder {
     Group::Common, "TrashFolder", QLatin1String("TrashFolder"), Kind::Text, 0};
+// A move into the target folder recreates each item's folders below its scanned folder.
+inline constexpr Setting KeepFolderStructure {
+    Group::Common, "KeepFolderStructure", QLatin1String(), Kind::Flag, 0};
 inline constexpr Setting IgnorePathFile {
     Group::Common, "IgnorePathFile", SnapshotKeys::ignorePathFile, Kind::TextList, 0};
 inline constexpr Setting IgnoreFileType {
@@ -139,11 +142,11 @@ inline constexpr Setting imageMinSize {
 
 // In the order of the file and of the snapshots.
 inline constexpr const Setting *all[] = {&ThreadCount, &RemovealMethod, &MaxFileSize, &MinFileSize,
-    &TrashFolder, &IgnorePathFile, &IgnoreFileType, &OnlyFileType, &HideSystemFile, &ScanFileType,
-    &OpenFolder, &SaveFolder, &deleteException, &IgnoreBundle, &scanMethod, &selectDuplicate,
-    &mapPriority, &scanDupDirectory, &similarSelectHint, &hasSimilar, &SimilarityValue,
-    &FeaturesValue, &selectedSimilar, &scanPriority, &selectionHint, &algorithmHint, &isAddFeatures,
-    &isImageType, &isImageSize, &imageMinSize};
+    &TrashFolder, &KeepFolderStructure, &IgnorePathFile, &IgnoreFileType, &OnlyFileType,
+    &HideSystemFile, &ScanFileType, &OpenFolder, &SaveFolder, &deleteException, &IgnoreBundle,
+    &scanMethod, &selectDuplicate, &mapPriority, &scanDupDirectory, &similarSelectHint, &hasSimilar,
+    &SimilarityValue, &FeaturesValue, &selectedSimilar, &scanPriority, &selectionHint,
+    &algorithmHint, &isAddFeatures, &isImageType, &isImageSize, &imageMinSize};
 
 // The setting stored under a key of "preferences.cfg", or nullptr.
 inline const Setting *byFileKey(const char *key)

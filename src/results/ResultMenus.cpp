@@ -5,19 +5,17 @@
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
+#include "results/MoveTargetDialog.h"
 #include "results/ResultForm.h"
 #include "results/TImageModel.h"
 #include "ui_ResultForm.h"
 
 #include <QAbstractItemView>
 #include <QActionGroup>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QSlider>
-#include <QStandardPaths>
 #include <QWidgetAction>
 
 ResultMenus::ResultMenus(ResultForm *page, Ui::ResultForm *ui) : QObject(page), m_page(page), ui(ui)
@@ -148,19 +146,17 @@ void ResultMenus::buildDelete()
         m_page->on_btn_delete_clicked();
     });
     connect(m_actFolder, &QAction::triggered, this, [this, prefs] {
-        QString folder = prefs->TrashFolder();
-        if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
-            QAction *previous = m_activeDeleteAction;
-            folder = QFileDialog::getExistingDirectory(m_page, ResultForm::tr("Select Folder"),
-                QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-            if (folder.isEmpty()) {
-                setActiveDeleteAction(previous);
-                return;
-            }
-            prefs->setTrashFolder(folder);
+        // The folder question comes every time: it shows where the items go, and how.
+        QAction *previous = m_activeDeleteAction;
+        MoveTargetDialog question(prefs->TrashFolder(), prefs->KeepFolderStructure(), m_page);
+        if (question.exec() != QDialog::Accepted || question.folder().isEmpty()) {
+            setActiveDeleteAction(previous);
+            return;
         }
+        prefs->setTrashFolder(question.folder());
+        prefs->setKeepFolderStructure(question.keepStructure());
         prefs->setRemovealMethod(DFIgnoreListPreferences::moveToFolder);
+        DFPreferences::instance()->save();
         setActiveDeleteAction(m_actFolder);
         m_page->on_btn_delete_clicked();
     });

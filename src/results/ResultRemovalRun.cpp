@@ -136,6 +136,16 @@ QPair<int, QString> ResultRemovalRun::removalMethod() const
         method, method == DFIgnoreListPreferences::moveToFolder ? prefs->TrashFolder() : QString()};
 }
 
+RemovalRequest ResultRemovalRun::requestFor(const QHash<QString, QStringList> &selection) const
+{
+    const auto [method, folder] = removalMethod();
+    RemovalRequest request = RemovalRequest::fromStore(method, folder);
+    request.selected = selection;
+    request.keepStructure
+        = DFPreferences::instance()->ignoreListPreferences()->KeepFolderStructure();
+    return request;
+}
+
 bool ResultRemovalRun::confirmRemoval(const QHash<QString, QStringList> &selection)
 {
     const int method = removalMethod().first;
@@ -243,9 +253,8 @@ void ResultRemovalRun::removeSelection()
 void ResultRemovalRun::startBatch(
     const QHash<QString, QStringList> &selection, bool allowAllCopies, bool allowDifferentContent)
 {
-    const auto [method, folder] = removalMethod();
-    RemovalRequest request = RemovalRequest::fromStore(method, folder);
-    request.selected = selection;
+    RemovalRequest request = requestFor(selection);
+    const int method = request.method;
     request.allowAllCopies = allowAllCopies;
     request.allowDifferentContent = allowDifferentContent;
     if (const QString refusal = request.refusal(); !refusal.isEmpty()) {
@@ -272,7 +281,7 @@ void ResultRemovalRun::startBatch(
     splog_d(kTag
         + QStringLiteral("on_btn_delete_clicked. DeleteMode:%1. Remove Path:%2. files.count:[%3]")
               .arg(method)
-              .arg(folder)
+              .arg(request.targetFolder)
               .arg(paths.size()));
 
     m_progress = new CustomProgressDialog(ResultForm::tr("Removing files"), m_page);
@@ -372,9 +381,8 @@ void ResultRemovalRun::offerDifferentContent(const QList<DeleteResult> &results)
 QList<DeleteResult> ResultRemovalRun::removeNow(
     const QHash<QString, QStringList> &selection, bool allowDifferentContent)
 {
-    const auto [method, folder] = removalMethod();
-    RemovalRequest request = RemovalRequest::fromStore(method, folder);
-    request.selected = selection;
+    RemovalRequest request = requestFor(selection);
+    const int method = request.method;
     request.allowDifferentContent = allowDifferentContent;
     const QString refusal = request.refusal();
     RemovalSequence sequence(request, true);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/DeleteResult.h"
+#include "fileops/RemovalRequest.h"
 
 #include <memory>
 
@@ -45,6 +46,8 @@ public:
     // Closing the page asks a running batch to stop.
     void cancel();
     QPair<int, QString> removalMethod() const;
+    // A request for selection by the chosen method and its options.
+    RemovalRequest requestFor(const QHash<QString, QStringList> &selection) const;
 
     static QString failureText(const DeleteResult &result, int method);
     static qint64 removedBytes(const QList<DeleteResult> &results);

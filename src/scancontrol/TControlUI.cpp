@@ -120,6 +120,7 @@ QString TControlUI::startScan(const QStringList &roots, const QJsonObject &commo
         stop();
     m_clock.start();
     m_roots = roots;
+    TFileData::instance()->setScanRoots(roots);
     m_problems.clear(int(roots.size()));
     m_table.clear();
     m_scannedFiles = 0;

@@ -22,6 +22,8 @@ private slots:
         QTest::addColumn<QStringList>("method");
         QTest::newRow("trash") << QStringList {"--method", "trash"};
         QTest::newRow("move") << QStringList {"--method", "move", "--to", "moved"};
+        QTest::newRow("move keeping the folders")
+            << QStringList {"--method", "move", "--keep-structure", "--to", "moved"};
         QTest::newRow("permanent") << QStringList {"--method", "permanent"};
     }
     void scanSaveRemoveRestore()
@@ -65,6 +67,13 @@ private slots:
         for (const char *folder : {"a", "b", "c"})
             xLeft += QFileInfo::exists(QString("%1/%2/x.bin").arg(root, folder)) ? 1 : 0;
         QCOMPARE(xLeft, 1);
+        // Moved items keep the folders below the scanned one, which the project recorded.
+        if (method.contains("--keep-structure")) {
+            QVERIFY(!QFileInfo::exists(dir.path() + "/moved/x.bin"));
+            for (const char *folder : {"a", "b", "c"})
+                QCOMPARE(QFileInfo::exists(QString("%1/moved/%2/x.bin").arg(dir.path(), folder)),
+                    !QFileInfo::exists(QString("%1/%2/x.bin").arg(root, folder)));
+        }
         QCOMPARE(ScanTree::read(root + "/a/y.bin"), edited);
         QCOMPARE(ScanTree::read(root + "/b/y.bin"), y);
 

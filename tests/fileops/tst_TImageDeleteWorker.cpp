@@ -555,6 +555,62 @@ private slots:
             ScanTree::read(pair.request.targetFolder + "/" + name), QByteArray("already here"));
     }
 
+    // A move that keeps the folder structure puts b/x.bin at moved/b/x.bin. A writer that
+    // changes the item at the last moment keeps it, and no folder is made for it; a batch
+    // cut off between the act and its outcome is found where the structure put it.
+    void moveKeepingStructure_data()
+    {
+        QTest::addColumn<QString>("event");
+        QTest::newRow("nothing changes") << "none";
+        QTest::newRow("another program writes the item") << "write";
+        QTest::newRow("cut off before the outcome") << "cut";
+    }
+    void moveKeepingStructure()
+    {
+        QFETCH(QString, event);
+        Pair pair(TFileDeleter::moveToFolder);
+        pair.request.keepStructure = true;
+        pair.request.scanRoots = {pair.dir.path() + "/a", pair.dir.path()};
+        const QString into = pair.request.targetFolder + "/b";
+        QCOMPARE(pair.request.folderFor(pair.item), into);
+        const QByteArray before = ScanTree::read(pair.item);
+        if (event == "cut") {
+            // What a crash leaves: the intent, the item moved, no outcome.
+            const FileStamp stamp = FileStamp::of(pair.item);
+            RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+            QVERIFY(journal.begin(
+                RemovalJournal::methodName(pair.request.method), 1, pair.request.targetFolder));
+            QVERIFY(journal.intent(0, RemovalJournal::methodName(pair.request.method), pair.item,
+                pair.item + ".private", stamp.size, stamp.modifiedNs, into));
+            QVERIFY(QDir().mkpath(into));
+            QVERIFY(QFile::rename(pair.item, into + "/x.bin"));
+        } else {
+            const DeleteResult result
+                = pair.run(nullptr,
+                          [&](const QString &path) {
+                              if (event == "write")
+                                  ScanTree::write(pair.dir.path(), "b/x.bin", before + "appended");
+                              Q_UNUSED(path)
+                          })
+                      .value(0);
+            if (event == "write") {
+                QCOMPARE(result.errorCode, int(DeleteResult::Skipped));
+                QCOMPARE(ScanTree::read(pair.item), before + "appended");
+                QVERIFY(!QFileInfo::exists(into));
+                return;
+            }
+            QVERIFY2(result.success, qPrintable(result.reason));
+            QCOMPARE(result.destination, into + "/x.bin");
+        }
+        QCOMPARE(ScanTree::read(into + "/x.bin"), before);
+        RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+        QList<DeleteResult> restored;
+        QVERIFY(RemovalRestorer(journal).restore({}, restored));
+        QVERIFY2(restored.value(0).success, qPrintable(restored.value(0).reason));
+        QCOMPARE(ScanTree::read(pair.item), before);
+        QVERIFY(!QFileInfo::exists(into + "/x.bin"));
+    }
+
 private:
     QTemporaryDir m_home;
 };

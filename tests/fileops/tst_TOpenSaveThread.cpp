@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/FilePathCodec.h"
 #include "engine/ScanTree.h"
 #include "engine/TFileData.h"
 #include "fileops/TOpenSaveThread.h"
@@ -123,6 +124,10 @@ private slots:
         store->replaceAll(groups, dirGroups, selected);
         // Found by the sampled mode: it stays marked as not compared whole.
         store->setGroupMatch(dupKey, TFileData::MatchSampled);
+        // The scanned folders, one of them with a name XML cannot carry.
+        const QStringList roots {m_dir.filePath("dup"),
+            FilePathCodec::decode(QFile::encodeName(m_dir.filePath("pics")) + "/\x01\xff")};
+        store->setScanRoots(roots);
 
         TOpenSaveThread thread;
         thread.setGroupOrder({simKey, "NOT-A-GROUP", dupKey});
@@ -156,6 +161,7 @@ private slots:
         QCOMPARE(store->selected(), selected);
         QCOMPARE(store->groupMatch(dupKey), TFileData::MatchSampled);
         QCOMPARE(store->groupMatch(simKey), TFileData::MatchContent);
+        QCOMPARE(store->scanRoots(), roots);
         // Members: 3 duplicates + 2 pictures + the 2 + 2 files of the two folders.
         QCOMPARE(completion.at(1).toInt(), 9);
         QCOMPARE(completion.at(2).toLongLong(), qint64(3 * 100 + 40 + 60 + 5 + 5));
@@ -292,6 +298,8 @@ private slots:
         invalid("percent-encoded NUL", "<Item selected=\"1\">%B%",
             "<Item selected=\"1\" encoding=\"percent\">%B%%00.gone");
         invalid("relative path", "%B%", "plain/b.txt");
+        invalid("relative scanned folder", "  <groups>",
+            "  <roots><Root>%A%</Root><Root>plain</Root></roots>\n  <groups>");
         invalid("empty path", "%B%", "");
         invalid("files and folders mixed", "%B%", "%C%");
         invalid("key listed twice", "  </groups>",

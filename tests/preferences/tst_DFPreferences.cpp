@@ -77,6 +77,7 @@ private slots:
                                     "HideSystemFile=true\n"
                                     "IgnoreFileType=@Invalid()\n"
                                     "IgnorePathFile=@Invalid()\n"
+                                    "KeepFolderStructure=false\n"
                                     "MaxFileSize=100000\n"
                                     "MinFileSize=0\n"
                                     "OnlyFileType=@Invalid()\n"

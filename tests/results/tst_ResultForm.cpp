@@ -173,7 +173,7 @@ private slots:
                   QTest::newRow(tag) << QString(step) << QString(title) << QString(text);
               };
         row("nothing selected", "delete", "Warning", "No Selected Files!");
-        row("folder dialog cancelled", "folder", "Select Folder", "");
+        row("folder question cancelled", "folder", "Move to Folder", "");
         row("still loading", "loading", "Loading Data", "Data is still loading, please wait...");
     }
     void refusals()
@@ -191,6 +191,7 @@ private slots:
         const QByteArray settingsBefore = ScanTree::read(DFPreferences::instance()->settingsPath());
 
         DialogAnswerer answers({QMessageBox::Yes});
+        answers.closeOtherDialogs = true;
         if (step == QLatin1String("folder"))
             m_page->deleteMenu()->actions().last()->trigger();
         else
