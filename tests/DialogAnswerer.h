@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -37,7 +38,9 @@ public:
             } else if (auto *dialog = qobject_cast<QDialog *>(modal);
                        dialog && (closeOtherDialogs || qobject_cast<QFileDialog *>(dialog))) {
                 titles << dialog->windowTitle();
-                texts << QString();
+                // A summary's headline, for what it says of the whole.
+                const auto *summary = dialog->findChild<QLabel *>(QStringLiteral("lab_summary"));
+                texts << (summary ? summary->text() : QString());
                 defaults << QMessageBox::NoButton;
                 dialogs << dialog->metaObject()->className();
                 dialog->reject();

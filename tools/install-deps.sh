@@ -11,7 +11,7 @@ PACKAGES=(
     libxxhash-dev xxhash libsqlite3-dev libspdlog-dev libfmt-dev libbackward-cpp-dev libdw-dev
     rclone xvfb xauth imagemagick g++-mingw-w64-x86-64
     fonts-dejavu-core fonts-noto-cjk
-    fdupes jdupes rmlint python3 time libglib2.0-bin strace
+    fdupes jdupes rmlint python3 time libglib2.0-bin strace btrfs-progs
     python3-numpy python3-pil python3-opencv libjpeg-dev libpng-dev
 )
 

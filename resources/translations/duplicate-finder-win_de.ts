@@ -365,6 +365,21 @@
         <source>Ignore system hidden folders and files</source>
         <translation>Versteckte Ordner und Systemdateien ignorieren</translation>
     </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by hard link</source>
+        <translation>Durch Hardlink ersetzen</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by reflink (copy-on-write clone)</source>
+        <translation>Durch Reflink ersetzen (Copy-on-Write-Klon)</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by symbolic link</source>
+        <translation>Durch symbolischen Link ersetzen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -999,6 +1014,21 @@
             <numerusform>%n Elemente wurden nicht entfernt; die Gründe sind unten aufgeführt.</numerusform>
         </translation>
     </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Replaced by a link</source>
+        <translation>Durch Link ersetzt</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Now reads %1</source>
+        <translation>Liest jetzt %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
+        <translation>Jede durch einen Hardlink ersetzte Datei ist jetzt ein weiterer Name der verbleibenden Kopie: Beide Namen teilen sich dieselben Berechtigungen und denselben Eigentümer.</translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1515,6 +1545,51 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Dieser Scan konnte den Bildabgleich nicht abschließen, weil Arbeitsspeicher &lt;br&gt;und Speicherplatz nicht ausreichten. Löschen Sie doppelte Dateien&lt;br&gt;oder wählen Sie weniger Ordner aus und versuchen Sie es erneut. Sorgen Sie für mindestens &lt;br&gt;1 GB freien Arbeitsspeicher und 1 GB freien Speicherplatz auf dem Systemlaufwerk. &lt;br&gt;</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Hard Link</source>
+        <translation>Durch Hardlink ersetzen</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Reflink (Copy-on-Write)</source>
+        <translation>Durch Reflink ersetzen (Copy-on-Write)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Symbolic Link</source>
+        <translation>Durch symbolischen Link ersetzen</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by links…</source>
+        <translation>Durch Links ersetzen…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>A folder is not replaced by a link; only files are.</source>
+        <translation>Ein Ordner wird nicht durch einen Link ersetzt, nur Dateien.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a hard link needs.</source>
+        <translation>Keine verbleibende Kopie liegt auf demselben Laufwerk, wie es ein Hardlink braucht.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a reflink needs.</source>
+        <translation>Keine verbleibende Kopie liegt auf demselben Laufwerk, wie es ein Reflink braucht.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The file system cannot clone files (reflink).</source>
+        <translation>Das Dateisystem kann keine Dateien klonen (Reflink).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The copy that stays changed while the link was made.</source>
+        <translation>Die verbleibende Kopie hat sich geändert, während der Link angelegt wurde.</translation>
     </message>
 </context>
 <context>

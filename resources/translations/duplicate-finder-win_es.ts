@@ -365,6 +365,21 @@
         <source>Ignore system hidden folders and files</source>
         <translation>Ignorar carpetas y archivos ocultos o del sistema</translation>
     </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by hard link</source>
+        <translation>Reemplazar por enlace duro</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by reflink (copy-on-write clone)</source>
+        <translation>Reemplazar por reflink (clon de copia en escritura)</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by symbolic link</source>
+        <translation>Reemplazar por enlace simbólico</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -999,6 +1014,21 @@
             <numerusform>%n elementos se quedaron en su sitio; los motivos se indican a continuación.</numerusform>
         </translation>
     </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Replaced by a link</source>
+        <translation>Reemplazado por enlace</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Now reads %1</source>
+        <translation>Ahora lee %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
+        <translation>Cada archivo reemplazado por un enlace duro es ahora otro nombre de la copia que se conserva: ambos nombres comparten los mismos permisos y el mismo propietario.</translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1515,6 +1545,51 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Este análisis no pudo completar la comparación de imágenes por falta de &lt;br&gt;memoria y espacio en disco. Elimine archivos duplicados&lt;br&gt;o seleccione menos carpetas e inténtelo de nuevo. Asegúrese de disponer de al menos &lt;br&gt;1 GB de memoria y 1 GB de espacio libre en la unidad del sistema. &lt;br&gt;</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Hard Link</source>
+        <translation>Reemplazar por enlace duro</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Reflink (Copy-on-Write)</source>
+        <translation>Reemplazar por reflink (copia en escritura)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Symbolic Link</source>
+        <translation>Reemplazar por enlace simbólico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by links…</source>
+        <translation>Reemplazar por enlaces…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>A folder is not replaced by a link; only files are.</source>
+        <translation>Una carpeta no se reemplaza por un enlace; solo los archivos.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a hard link needs.</source>
+        <translation>Ninguna copia que se conserva está en la misma unidad, como requiere un enlace duro.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a reflink needs.</source>
+        <translation>Ninguna copia que se conserva está en la misma unidad, como requiere un reflink.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The file system cannot clone files (reflink).</source>
+        <translation>El sistema de archivos no puede clonar archivos (reflink).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The copy that stays changed while the link was made.</source>
+        <translation>La copia que se conserva cambió mientras se creaba el enlace.</translation>
     </message>
 </context>
 <context>

@@ -365,6 +365,21 @@
         <source>Ignore system hidden folders and files</source>
         <translation>Ignorer les dossiers et fichiers cachés ou système</translation>
     </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by hard link</source>
+        <translation>Remplacer par un lien physique</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by reflink (copy-on-write clone)</source>
+        <translation>Remplacer par un reflink (clone copie sur écriture)</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by symbolic link</source>
+        <translation>Remplacer par un lien symbolique</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -999,6 +1014,21 @@
             <numerusform>%n éléments sont restés en place ; les raisons sont indiquées ci-dessous.</numerusform>
         </translation>
     </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Replaced by a link</source>
+        <translation>Remplacé par un lien</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Now reads %1</source>
+        <translation>Lit désormais %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
+        <translation>Chaque fichier remplacé par un lien physique est désormais un autre nom de la copie conservée : les deux noms partagent les mêmes permissions et le même propriétaire.</translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1515,6 +1545,51 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Cette analyse n&apos;a pas pu terminer la comparaison des images par manque &lt;br&gt;de mémoire et d&apos;espace disque. Supprimez des doublons&lt;br&gt;ou sélectionnez moins de dossiers, puis réessayez. Vérifiez qu&apos;au moins 1 Go de &lt;br&gt;mémoire et 1 Go d&apos;espace libre sont disponibles sur le lecteur système. &lt;br&gt;</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Hard Link</source>
+        <translation>Remplacer par un lien physique</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Reflink (Copy-on-Write)</source>
+        <translation>Remplacer par un reflink (copie sur écriture)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Symbolic Link</source>
+        <translation>Remplacer par un lien symbolique</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by links…</source>
+        <translation>Remplacer par des liens…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>A folder is not replaced by a link; only files are.</source>
+        <translation>Un dossier n’est pas remplacé par un lien ; seuls les fichiers le sont.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a hard link needs.</source>
+        <translation>Aucune copie conservée n’est sur le même disque, comme l’exige un lien physique.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a reflink needs.</source>
+        <translation>Aucune copie conservée n’est sur le même disque, comme l’exige un reflink.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The file system cannot clone files (reflink).</source>
+        <translation>Le système de fichiers ne peut pas cloner de fichiers (reflink).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The copy that stays changed while the link was made.</source>
+        <translation>La copie conservée a changé pendant la création du lien.</translation>
     </message>
 </context>
 <context>

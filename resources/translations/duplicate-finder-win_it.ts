@@ -365,6 +365,21 @@
         <source>Ignore system hidden folders and files</source>
         <translation>Ignora cartelle e file nascosti o di sistema</translation>
     </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by hard link</source>
+        <translation>Sostituisci con collegamento fisico</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by reflink (copy-on-write clone)</source>
+        <translation>Sostituisci con reflink (clone copy-on-write)</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by symbolic link</source>
+        <translation>Sostituisci con collegamento simbolico</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -999,6 +1014,21 @@
             <numerusform>%n elementi sono rimasti al loro posto; i motivi sono elencati sotto.</numerusform>
         </translation>
     </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Replaced by a link</source>
+        <translation>Sostituito da collegamento</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Now reads %1</source>
+        <translation>Ora legge %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
+        <translation>Ogni file sostituito da un collegamento fisico è ora un altro nome della copia mantenuta: i due nomi condividono gli stessi permessi e lo stesso proprietario.</translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1515,6 +1545,51 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Questa scansione non ha potuto completare il confronto delle immagini per &lt;br&gt;limiti di memoria e di spazio su disco. Elimina i file duplicati&lt;br&gt;o seleziona meno cartelle e riprova. Assicurati che siano disponibili almeno 1 GB di &lt;br&gt;memoria e 1 GB di spazio libero sull&apos;unità di sistema. &lt;br&gt;</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Hard Link</source>
+        <translation>Sostituisci con collegamento fisico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Reflink (Copy-on-Write)</source>
+        <translation>Sostituisci con reflink (copy-on-write)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Symbolic Link</source>
+        <translation>Sostituisci con collegamento simbolico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by links…</source>
+        <translation>Sostituisci con collegamenti…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>A folder is not replaced by a link; only files are.</source>
+        <translation>Una cartella non viene sostituita da un collegamento; solo i file.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a hard link needs.</source>
+        <translation>Nessuna copia mantenuta si trova sulla stessa unità, come richiede un collegamento fisico.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a reflink needs.</source>
+        <translation>Nessuna copia mantenuta si trova sulla stessa unità, come richiede un reflink.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The file system cannot clone files (reflink).</source>
+        <translation>Il file system non può clonare file (reflink).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The copy that stays changed while the link was made.</source>
+        <translation>La copia mantenuta è cambiata mentre veniva creato il collegamento.</translation>
     </message>
 </context>
 <context>

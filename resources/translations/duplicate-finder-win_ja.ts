@@ -365,6 +365,21 @@
         <source>Ignore system hidden folders and files</source>
         <translation>隠しフォルダーとシステムファイルを無視</translation>
     </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by hard link</source>
+        <translation>ハードリンクに置き換える</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by reflink (copy-on-write clone)</source>
+        <translation>reflink に置き換える（コピーオンライトのクローン）</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by symbolic link</source>
+        <translation>シンボリックリンクに置き換える</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -989,6 +1004,21 @@
             <numerusform>%n 個の項目はそのまま残りました。理由は下の一覧のとおりです。</numerusform>
         </translation>
     </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Replaced by a link</source>
+        <translation>リンクに置き換え済み</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Now reads %1</source>
+        <translation>現在の内容: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
+        <translation>ハードリンクに置き換えた各ファイルは、残すコピーの別名になりました。両方の名前で権限と所有者が共通です。</translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1503,6 +1533,51 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>メモリとディスク容量の制限により、このスキャンでは&lt;br&gt;画像の照合を完了できませんでした。重複ファイルを削除するか、&lt;br&gt;選択するフォルダーを減らしてから、もう一度お試しください。少なくとも 1 GB の&lt;br&gt;メモリと、システムドライブに 1 GB の空き容量を確保してください。&lt;br&gt;</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Hard Link</source>
+        <translation>ハードリンクに置き換え</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Reflink (Copy-on-Write)</source>
+        <translation>reflink に置き換え（コピーオンライト）</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Symbolic Link</source>
+        <translation>シンボリックリンクに置き換え</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by links…</source>
+        <translation>リンクに置き換え…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>A folder is not replaced by a link; only files are.</source>
+        <translation>フォルダーはリンクに置き換えません。置き換えるのはファイルだけです。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a hard link needs.</source>
+        <translation>ハードリンクに必要な、同じドライブ上に残るコピーがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a reflink needs.</source>
+        <translation>reflink に必要な、同じドライブ上に残るコピーがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The file system cannot clone files (reflink).</source>
+        <translation>このファイルシステムはファイルを複製（reflink）できません。</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The copy that stays changed while the link was made.</source>
+        <translation>リンクの作成中に、残すコピーが変更されました。</translation>
     </message>
 </context>
 <context>

@@ -365,6 +365,21 @@
         <source>Ignore system hidden folders and files</source>
         <translation>Ignorar pastas e ficheiros ocultos ou do sistema</translation>
     </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by hard link</source>
+        <translation>Substituir por link físico</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by reflink (copy-on-write clone)</source>
+        <translation>Substituir por reflink (clone copy-on-write)</translation>
+    </message>
+    <message>
+        <location filename="../../src/settingsdialog/IgnoreList.ui"/>
+        <source>Replace by symbolic link</source>
+        <translation>Substituir por link simbólico</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -999,6 +1014,21 @@
             <numerusform>%n itens ficaram no lugar; os motivos estão indicados abaixo.</numerusform>
         </translation>
     </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Replaced by a link</source>
+        <translation>Substituído por link</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Now reads %1</source>
+        <translation>Agora lê %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/RemovalSummaryDialog.cpp"/>
+        <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
+        <translation>Cada arquivo substituído por um link físico agora é outro nome da cópia mantida: os dois nomes compartilham as mesmas permissões e o mesmo proprietário.</translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>
@@ -1515,6 +1545,51 @@ Remover também todas as cópias desses ficheiros? Com &quot;Não&quot;, fica um
         <location filename="../../src/results/ResultForm.cpp" line="1698"/>
         <source>This scan could not complete the image matching process due to &lt;br&gt;memory and disk space limitations. Please delete duplicate files&lt;br&gt;or select fewer folders and try again. Ensure at least 1GB of &lt;br&gt;memory and 1GB of free space on the system drive is available. &lt;br&gt;</source>
         <translation>Esta análise não conseguiu concluir a comparação de imagens devido a &lt;br&gt;limitações de memória e de espaço em disco. Elimine ficheiros duplicados&lt;br&gt;ou selecione menos pastas e tente novamente. Certifique-se de que estão disponíveis pelo menos &lt;br&gt;1 GB de memória e 1 GB de espaço livre na unidade do sistema. &lt;br&gt;</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Hard Link</source>
+        <translation>Substituir por link físico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Reflink (Copy-on-Write)</source>
+        <translation>Substituir por reflink (copy-on-write)</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by Symbolic Link</source>
+        <translation>Substituir por link simbólico</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultMenus.cpp"/>
+        <source>Replace by links…</source>
+        <translation>Substituir por links…</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>A folder is not replaced by a link; only files are.</source>
+        <translation>Uma pasta não é substituída por um link; apenas arquivos.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a hard link needs.</source>
+        <translation>Nenhuma cópia mantida está na mesma unidade, como um link físico exige.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>No copy that stays is on the same drive, as a reflink needs.</source>
+        <translation>Nenhuma cópia mantida está na mesma unidade, como um reflink exige.</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The file system cannot clone files (reflink).</source>
+        <translation>O sistema de arquivos não consegue clonar arquivos (reflink).</translation>
+    </message>
+    <message>
+        <location filename="../../src/results/ResultRemovalRun.cpp"/>
+        <source>The copy that stays changed while the link was made.</source>
+        <translation>A cópia mantida mudou enquanto o link era criado.</translation>
     </message>
 </context>
 <context>

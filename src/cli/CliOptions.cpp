@@ -78,7 +78,7 @@ QString CliOptions::usage()
         "[--rclone-config FILE]\n"
         "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
         "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
-        "trash|permanent|move\n"
+        "trash|permanent|move|hardlink|reflink|symlink\n"
         "                                     [--to DIR [--keep-structure]] [--dry-run]\n"
         "                                     [--allow-all-copies]\n"
         "                                     [--allow-different-content] [--json]\n"
@@ -95,7 +95,11 @@ QString CliOptions::usage()
         "member that differs from every copy that stays goes only with\n"
         "--allow-different-content. Items that fail a check are skipped with the reason;\n"
         "when a group's every copy is selected the first stays unless --allow-all-copies\n"
-        "is given. --dry-run lists what would be removed and skipped. Every removal is\n"
+        "is given. --dry-run lists what would be removed and skipped. hardlink, reflink\n"
+        "and symlink replace each item by a link to a copy that stays (another name of it\n"
+        "on the same file system; a copy-on-write clone of it, where the file system can\n"
+        "clone; a symbolic link to its absolute path), after the same checks; folders are\n"
+        "skipped. Every removal is\n"
         "written to a journal in the data folder, each item before it is acted on; a\n"
         "full disk there stops the batch. SIGINT or SIGTERM stops it after the item in hand (exit "
         "130 or 143).\n"
@@ -236,7 +240,8 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
             static const QMap<QString, int> names = wordsOf(SettingsTable::RemovealMethod);
             m_removalMethod = names.value(value, -1);
             if (m_removalMethod < 0) {
-                m_error = QStringLiteral("unknown removal method \"%1\" (trash, permanent or move)")
+                m_error = QStringLiteral("unknown removal method \"%1\" (trash, permanent, move, "
+                                         "hardlink, reflink or symlink)")
                               .arg(value);
                 return BadArguments;
             }
@@ -271,7 +276,8 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
         return BadArguments;
     }
     if (removing && m_removalMethod < 0) {
-        m_error = QStringLiteral("remove needs --method trash, permanent or move");
+        m_error = QStringLiteral(
+            "remove needs --method trash, permanent, move, hardlink, reflink or symlink");
         return BadArguments;
     }
     if (m_keepStructure && m_targetFolder.isEmpty()) {

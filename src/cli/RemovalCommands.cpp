@@ -4,12 +4,15 @@
 #include "cli/CliOptions.h"
 #include "cli/CliText.h"
 #include "cli/ProjectLoader.h"
+#include "fileops/LinkReplacer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRestorer.h"
 #include "fileops/RemovalSequence.h"
+#include "fileops/TFileDeleter.h"
 #include "fileops/TImageDeleteWorker.h"
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <cstdio>
@@ -71,10 +74,24 @@ QString outcomeOf(const DeleteResult &result, bool dryRun)
     return dryRun ? QStringLiteral("would remove") : QStringLiteral("removed");
 }
 
+// The space that replacing files by links freed: an item's size, unless another name of
+// it kept its blocks.
+qint64 freedByLinks(const QList<DeleteResult> &results)
+{
+    qint64 bytes = 0;
+    for (const DeleteResult &result : results)
+        if (result.success && !result.alreadyGone)
+            bytes += result.freedBytes >= 0 ? result.freedBytes : std::max<qint64>(result.size, 0);
+    return bytes;
+}
+
 // Handled items on standard output (or everything as one JSON object there); items not
 // handled are always listed on standard error with their reason. Gives the exit status.
-int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QString &done)
+// method: a removal's method (-1 for a restore).
+int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QString &done,
+    int method = -1)
 {
+    const bool links = !dryRun && LinkReplacer::handles(method);
     int notHandled = 0;
     int gone = 0;
     int differing = 0;
@@ -115,12 +132,23 @@ int report(const QList<DeleteResult> &results, bool json, bool dryRun, const QSt
         std::fputc('}', stdout);
     }
     const auto handled = static_cast<long long>(results.size() - notHandled);
-    if (json)
-        std::fprintf(stdout, "%s], \"handled\": %lld, \"alreadyGone\": %d, \"notHandled\": %d}\n",
+    const auto freed = static_cast<long long>(freedByLinks(results));
+    if (json) {
+        std::fprintf(stdout, "%s], \"handled\": %lld, \"alreadyGone\": %d, \"notHandled\": %d",
             results.isEmpty() ? "" : "\n", handled, gone, notHandled);
+        if (links)
+            std::fprintf(stdout, ", \"freedBytes\": %lld", freed);
+        std::fputs("}\n", stdout);
+    }
     std::fflush(stdout);
     std::fprintf(stderr, "%lld handled (%d of them already gone), %d skipped or failed\n", handled,
         gone, notHandled);
+    if (links)
+        std::fprintf(stderr, "%lld bytes freed by replacing files by links\n", freed);
+    if (links && method == TFileDeleter::replaceByHardLink && handled > gone)
+        std::fputs("each file replaced by a hard link is now another name of the copy that "
+                   "stays: both names share one set of permissions and one owner\n",
+            stderr);
     if (differing)
         std::fprintf(stderr,
             "%d items differ in content from every copy that stays (similar pictures or files "
@@ -199,8 +227,10 @@ int RemovalCommands::remove(const CliOptions &options)
     if (!options.dryRun())
         std::fprintf(
             stderr, "journal: %s\n", CliText::lineText(sequence.journal().path()).constData());
-    const int status
-        = report(sequence.results(), options.json(), options.dryRun(), QStringLiteral("removed"));
+    const int status = report(sequence.results(), options.json(), options.dryRun(),
+        LinkReplacer::handles(options.removalMethod()) ? QStringLiteral("linked")
+                                                       : QStringLiteral("removed"),
+        options.removalMethod());
     if (journalFailed) {
         std::fprintf(stderr,
             "veltrine-duplicate-finder-cli: the removal stopped: the journal %s cannot be "

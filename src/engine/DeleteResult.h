@@ -39,5 +39,9 @@ struct DeleteResult
     qint64 size = -1;
     qint64 modifiedNs = 0;
     QByteArray digest;
+    // Its permission bits, for a restore that makes it a separate file again (-1: none).
+    int mode = -1;
+    // The space its going freed, where only the act could tell (-1: its size).
+    qint64 freedBytes = -1;
 };
 Q_DECLARE_METATYPE(DeleteResult)

@@ -53,6 +53,9 @@ const QString kReason = QStringLiteral("reason");
 const QString kSize = QStringLiteral("size");
 const QString kModified = QStringLiteral("modifiedNs");
 const QString kHash = QStringLiteral("hash");
+const QString kMode = QStringLiteral("mode");
+const QString kDevice = QStringLiteral("device");
+const QString kInode = QStringLiteral("inode");
 const QString kSignal = QStringLiteral("signal");
 const QString kTime = QStringLiteral("time");
 const QString kBegin = QStringLiteral("begin");
@@ -257,7 +260,8 @@ bool RemovalJournal::begin(
 }
 
 bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &path,
-    const QString &privatePath, qint64 size, qint64 modifiedNs, const QString &into)
+    const QString &privatePath, qint64 size, qint64 modifiedNs, const QString &into,
+    const QString &destination, quint64 device, quint64 inode)
 {
     ItemLine line(m_batch);
     line.add(kEvent, kIntent);
@@ -270,6 +274,12 @@ bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &pa
         line.addPath(kPrivate, kPrivateBytes, privatePath);
     if (!into.isEmpty())
         line.addPath(kInto, kIntoBytes, into);
+    if (!destination.isEmpty()) {
+        line.addPath(kTo, kToBytes, destination);
+        // As text: a JSON reader's numbers lose the low bits of large identities.
+        line.add(kDevice, QString::number(device));
+        line.add(kInode, QString::number(inode));
+    }
     return writeLine(line.take());
 }
 
@@ -294,6 +304,8 @@ bool RemovalJournal::record(const QString &method, const DeleteResult &result,
         line.add(kModified, QString::number(result.modifiedNs));
         line.add(kHash, QString::fromLatin1(result.digest.toHex()));
     }
+    if (result.mode >= 0)
+        line.add(kMode, result.mode);
     if (!m_file.isOpen()) {
         m_error = QCoreApplication::translate("RemovalJournal", "the journal is not open");
         return false;
@@ -422,6 +434,9 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
             item.into = takePath(line, kInto, kIntoBytes);
             item.size = qint64(line.value(kSize).toDouble(-1));
             item.modifiedNs = line.value(kModified).toString().toLongLong();
+            item.destination = takePath(line, kTo, kToBytes, &refused);
+            item.device = line.value(kDevice).toString().toULongLong();
+            item.inode = line.value(kInode).toString().toULongLong();
             continue;
         }
         item.hasOutcome = true;
@@ -439,6 +454,7 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
             item.modifiedNs = line.value(kModified).toString().toLongLong();
             item.digest = QByteArray::fromHex(line.value(kHash).toString().toLatin1());
         }
+        item.mode = line.value(kMode).toInt(-1);
     }
     return batches;
 }

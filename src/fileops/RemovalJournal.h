@@ -35,6 +35,10 @@ public:
         qint64 size = -1;
         qint64 modifiedNs = 0;
         QByteArray digest;
+        // A replaced item's identity as the look saw it, and its permission bits (-1: none).
+        quint64 device = 0;
+        quint64 inode = 0;
+        int mode = -1;
         bool intended = false;
         bool hasOutcome = false;
         // A later restore put it back.
@@ -55,8 +59,8 @@ public:
         bool noticed = false;
         QList<Item> items;
 
-        // Items that went to the trash or into a folder, or whose outcome was never
-        // written, and that no restore has put back yet.
+        // Items that went to the trash or into a folder or were replaced by a link, or whose
+        // outcome was never written, and that no restore has put back yet.
         qsizetype restorableCount() const;
         bool restorable() const { return restorableCount() > 0; }
         qsizetype count(const QString &result) const;
@@ -84,9 +88,11 @@ public:
         const QString &restores = {});
     // size and modifiedNs: the item as the look before the act saw it (size -1 for a
     // folder), so that an item whose outcome was never written can be recognised.
-    // into: the folder a move puts the item into, when it is not the batch's target.
+    // into: the folder a move puts the item into, when it is not the batch's target. An
+    // item replaced by a link also names the kept copy (destination) and its own identity.
     bool intent(qint64 seq, const QString &method, const QString &path, const QString &privatePath,
-        qint64 size, qint64 modifiedNs, const QString &into = {});
+        qint64 size, qint64 modifiedNs, const QString &into = {}, const QString &destination = {},
+        quint64 device = 0, quint64 inode = 0);
     // The outcome line is held until the next line is written (the next item's intent, at
     // the latest), so that each item costs one write: it follows the act, and comes before
     // the next act. An intent without its outcome is what a restore looks for anyway.

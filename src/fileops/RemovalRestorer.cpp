@@ -5,6 +5,7 @@
 #include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
 #include "engine/FileStamp.h"
+#include "fileops/LinkRestorer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/TFileDeleter.h"
 #include "platform/Platform.h"
@@ -158,6 +159,8 @@ QString RemovalRestorer::restoreIntended(
 QString RemovalRestorer::restoreItem(
     const RemovalJournal::Batch &batch, const RemovalJournal::Item &item, DeleteResult &result)
 {
+    if (LinkRestorer::handles(item.method))
+        return LinkRestorer::restore(item);
     if (!item.hasOutcome)
         return restoreIntended(batch, item, result);
     result.destination = item.destination;

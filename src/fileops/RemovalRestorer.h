@@ -11,7 +11,8 @@
 // only when what is found there is what went (size, modification time and content hash as
 // the journal has them). An item whose outcome was never written (the batch was cut short)
 // is looked for where it would be: at its place, under its private name, in the trash or
-// in the target folder. Items removed for good cannot come back. The restore is journalled
+// in the target folder. An item replaced by a link becomes a separate file again
+// (LinkRestorer). Items removed for good cannot come back. The restore is journalled
 // as a batch of its own, item by item, so a restore that failed in part can be run again
 // and finishes the rest.
 class RemovalRestorer

@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRandomGenerator>
 
 #ifdef Q_OS_UNIX
 #include <dirent.h>
@@ -316,6 +317,39 @@ DeleteResult TFileDeleter::deleteFolder(
                                 .arg(result.reason, result.destination);
     }
     return result;
+}
+
+QString TFileDeleter::privateNameFor(const QString &path, const QString &purpose)
+{
+    // Short, whatever the length of the item's name, and hidden from file managers for the
+    // moment it exists.
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    return path.left(slash + 1)
+        + QStringLiteral(".veltrine-%1-%2")
+              .arg(purpose)
+              .arg(QRandomGenerator::global()->generate64(), 16, 16, QLatin1Char('0'));
+}
+
+QString TFileDeleter::putBack(const QString &privatePath, const QString &path, bool isFolder)
+{
+    const platform::Platform &os = platform::current();
+    bool crossDevice = false;
+    int error = os.renameNoReplace(nativeOf(privatePath), nativeOf(path), crossDevice);
+    if (error == 0)
+        return path;
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    for (int attempt = 0; error == EEXIST && attempt < 100; ++attempt) {
+        const QString free = freeName(path.left(slash), path.mid(slash + 1), isFolder);
+        if (free.isEmpty())
+            break;
+        error = os.renameNoReplace(nativeOf(privatePath), nativeOf(free), crossDevice);
+        if (error == 0)
+            return free;
+    }
+    splog_d(kTag
+        + QStringLiteral("Cannot put back %1 from %2: %3")
+              .arg(path, privatePath, errorText(error)));
+    return privatePath;
 }
 
 bool TFileDeleter::moveFileToTrash(const QString &path, QString &destination, int &error,

@@ -18,6 +18,9 @@ public:
     static constexpr Method moveToTrash = DFIgnoreListPreferences::moveToTrash;
     static constexpr Method removePermanently = DFIgnoreListPreferences::removePermanently;
     static constexpr Method moveToFolder = DFIgnoreListPreferences::moveToFolder;
+    static constexpr Method replaceByHardLink = DFIgnoreListPreferences::replaceByHardLink;
+    static constexpr Method replaceByReflink = DFIgnoreListPreferences::replaceByReflink;
+    static constexpr Method replaceBySymlink = DFIgnoreListPreferences::replaceBySymlink;
 
     // recordedPath: where the item belongs when it is at path only under a private name for
     // the act; the trash and the target folder take its name from there (empty: path).
@@ -42,4 +45,11 @@ public:
     // (folders: "name (2)").
     static QString freeName(const QString &folder, const QString &name, bool isFolder);
     static QString errorText(int code);
+    // A name in path's own folder that nothing else uses, for an item in the middle of an
+    // act: ".veltrine-<purpose>-<16 hex digits>".
+    static QString privateNameFor(
+        const QString &path, const QString &purpose = QStringLiteral("removing"));
+    // Puts an item back from its private name: at its own place, or beside it under a free
+    // name when another program has put something there meanwhile. Where it ended up.
+    static QString putBack(const QString &privatePath, const QString &path, bool isFolder);
 };

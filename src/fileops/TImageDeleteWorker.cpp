@@ -4,6 +4,7 @@
 #include "app/TLogger.h"
 #include "engine/FilePathCodec.h"
 #include "engine/GroupMember.h"
+#include "fileops/LinkReplacer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/TFileDeleter.h"
@@ -13,7 +14,6 @@
 #include <cerrno>
 
 #include <QCoreApplication>
-#include <QRandomGenerator>
 #include <QSet>
 
 const QString TImageDeleteWorker::keptLastCopy
@@ -28,41 +28,6 @@ const QString kTag = QStringLiteral("[TImageDeleteWorker]: ");
 std::string nativeOf(const QString &path)
 {
     return FilePathCodec::encode(path).toStdString();
-}
-
-// A name in the item's own folder that nothing else uses: short, whatever the length of
-// the item's name, and hidden from file managers for the moment it exists.
-QString privateNameFor(const QString &path)
-{
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    return path.left(slash + 1)
-        + QStringLiteral(".veltrine-removing-%1")
-              .arg(QRandomGenerator::global()->generate64(), 16, 16, QLatin1Char('0'));
-}
-
-// Puts an item back from its private name: at its own place, or beside it under a free
-// name when another program has put something there meanwhile. Where it ended up.
-QString putBack(const QString &privatePath, const QString &path, bool isFolder)
-{
-    const platform::Platform &os = platform::current();
-    bool crossDevice = false;
-    int error = os.renameNoReplace(nativeOf(privatePath), nativeOf(path), crossDevice);
-    if (error == 0)
-        return path;
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    for (int attempt = 0; error == EEXIST && attempt < 100; ++attempt) {
-        const QString free
-            = TFileDeleter::freeName(path.left(slash), path.mid(slash + 1), isFolder);
-        if (free.isEmpty())
-            break;
-        error = os.renameNoReplace(nativeOf(privatePath), nativeOf(free), crossDevice);
-        if (error == 0)
-            return free;
-    }
-    splog_d(kTag
-        + QStringLiteral("Cannot put back %1 from %2: %3")
-              .arg(path, privatePath, TFileDeleter::errorText(error)));
-    return privatePath;
 }
 
 void keep(DeleteResult &result, const QString &reason, const QString &placed = {})
@@ -184,6 +149,8 @@ bool TImageDeleteWorker::handle(
     const Plan &plan, const GroupMember &member, RemovalCheck &check, qint64 seq, bool &removed)
 {
     removed = false;
+    if (LinkReplacer::handles(m_request.method))
+        return handleLink(plan, member, check, seq, removed);
     const QString path = member.path;
     const RemovalCheck::Look look = check.look(plan.kind, plan.stays, path, plan.everyCopy);
     DeleteResult result {path};
@@ -206,7 +173,7 @@ bool TImageDeleteWorker::handle(
             confirmed.reason.isEmpty() ? RemovalJournal::removed : RemovalJournal::skipped, seq);
     }
     // No record, no act.
-    const QString privatePath = privateNameFor(path);
+    const QString privatePath = TFileDeleter::privateNameFor(path);
     const QString method = RemovalJournal::methodName(m_request.method);
     const QString into = m_request.folderFor(path);
     if (!m_journal
@@ -239,7 +206,7 @@ bool TImageDeleteWorker::handle(
     const RemovalCheck::Confirmed confirmed
         = check.confirm(plan.kind, look, privatePath, allowDifferent);
     if (!confirmed.reason.isEmpty()) {
-        keep(result, confirmed.reason, putBack(privatePath, path, plan.folders));
+        keep(result, confirmed.reason, TFileDeleter::putBack(privatePath, path, plan.folders));
         splog_d(kTag + QStringLiteral("Skipped, %1: %2").arg(confirmed.reason, path));
         return record(result, RemovalJournal::skipped, seq);
     }
@@ -248,13 +215,70 @@ bool TImageDeleteWorker::handle(
     result.modifiedNs = confirmed.modifiedNs;
     result.digest = confirmed.digest;
     if (!result.success) {
-        const QString placed = putBack(privatePath, path, plan.folders);
+        const QString placed = TFileDeleter::putBack(privatePath, path, plan.folders);
         if (placed != path)
             result.reason += QStringLiteral(" (kept as %1)").arg(placed);
         return record(result, RemovalJournal::failed, seq);
     }
     removed = true;
     return record(result, RemovalJournal::removed, seq);
+}
+
+bool TImageDeleteWorker::handleLink(
+    const Plan &plan, const GroupMember &member, RemovalCheck &check, qint64 seq, bool &removed)
+{
+    const QString path = member.path;
+    DeleteResult result {path};
+    if (plan.folders) {
+        keep(result, LinkReplacer::foldersNotLinked);
+        return record(result, RemovalJournal::skipped, seq);
+    }
+    // A link needs a copy to point at, whatever the caller allows.
+    const RemovalCheck::Look look = check.look(plan.kind, plan.stays, path, false);
+    if (look.gone) {
+        result.alreadyGone = true;
+        return record(result, RemovalJournal::gone, seq);
+    }
+    const LinkReplacer replacer(m_request.method, check, plan.kind);
+    QString reason = look.reason;
+    const QString kept = reason.isEmpty() ? replacer.chooseKept(look, reason) : QString();
+    if (!reason.isEmpty()) {
+        keep(result, reason);
+        splog_d(kTag + QStringLiteral("Skipped, %1: %2").arg(reason, path));
+        return record(result, RemovalJournal::skipped, seq);
+    }
+    if (m_request.dryRun) {
+        const RemovalCheck::Confirmed confirmed = replacer.confirm(look, path, kept);
+        if (!confirmed.reason.isEmpty())
+            keep(result, confirmed.reason);
+        else
+            result.destination = kept;
+        return record(result,
+            confirmed.reason.isEmpty() ? RemovalJournal::removed : RemovalJournal::skipped, seq);
+    }
+    const QString privatePath = TFileDeleter::privateNameFor(path, QStringLiteral("linking"));
+    if (!m_journal
+        || !m_journal->intent(seq, RemovalJournal::methodName(m_request.method), path, privatePath,
+            look.stamp.size, look.stamp.modifiedNs, {}, kept, look.stamp.device,
+            look.stamp.inode)) {
+        m_journalError = m_journal ? m_journal->error() : QStringLiteral("no journal");
+        result.success = false;
+        result.errorCode = DeleteResult::NotRecorded;
+        result.reason = notRecorded;
+        m_results.append(result);
+        return false;
+    }
+    if (m_beforeAct)
+        m_beforeAct(path);
+    result = replacer.replace(path, look, kept, privatePath);
+    if (!result.success)
+        splog_d(kTag + QStringLiteral("Not replaced by a link, %1: %2").arg(result.reason, path));
+    removed = result.success;
+    return record(result,
+        result.success                                  ? RemovalJournal::removed
+            : result.errorCode == DeleteResult::Skipped ? RemovalJournal::skipped
+                                                        : RemovalJournal::failed,
+        seq);
 }
 
 void TImageDeleteWorker::doDelete()

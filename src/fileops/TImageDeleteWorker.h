@@ -24,6 +24,7 @@ class RemovalJournal;
 // 5. goes (trash, for good, into a folder), or is renamed back when the comparison or the
 //    removal fails, keeping its place and its selection;
 // 6. has its outcome written to the journal.
+// The link methods follow the same order with the link made beside the item (LinkReplacer).
 // A journal write that fails stops the batch before the next item.
 class TImageDeleteWorker : public QObject
 {
@@ -69,6 +70,9 @@ private:
     // One item from its look to its outcome; false when the journal failed.
     bool handle(const Plan &plan, const GroupMember &member, class RemovalCheck &check, qint64 seq,
         bool &removed);
+    // The same for the methods that replace a file by a link to a copy that stays.
+    bool handleLink(const Plan &plan, const GroupMember &member, class RemovalCheck &check,
+        qint64 seq, bool &removed);
     bool record(const DeleteResult &result, const QString &outcome, qint64 seq = -1);
     bool stopping() const;
 

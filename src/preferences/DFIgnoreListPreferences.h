@@ -30,7 +30,16 @@ class DFIgnoreListPreferences : public QObject
     Q_PROPERTY(int deleteException READ deleteException WRITE setDeleteException)
     Q_PROPERTY(bool IgnoreBundle READ IgnoreBundle WRITE setIgnoreBundle STORED false)
 public:
-    enum DFRemovalMethod { moveToTrash = 0, removePermanently = 1, moveToFolder = 2 };
+    // The last three replace each selected file by a link to a copy that stays: another name
+    // of it, a copy-on-write clone of it, or a symbolic link to it.
+    enum DFRemovalMethod {
+        moveToTrash = 0,
+        removePermanently = 1,
+        moveToFolder = 2,
+        replaceByHardLink = 3,
+        replaceByReflink = 4,
+        replaceBySymlink = 5
+    };
     Q_ENUM(DFRemovalMethod)
 
     explicit DFIgnoreListPreferences(QObject *parent = nullptr);

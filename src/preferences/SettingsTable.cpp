@@ -66,7 +66,8 @@ QList<Word> choices(const Setting &setting)
     using Similar = DFGenernalPreferences;
     if (&setting == &RemovealMethod)
         return {{"trash", Common::moveToTrash}, {"permanent", Common::removePermanently},
-            {"move", Common::moveToFolder}};
+            {"move", Common::moveToFolder}, {"hardlink", Common::replaceByHardLink},
+            {"reflink", Common::replaceByReflink}, {"symlink", Common::replaceBySymlink}};
     if (&setting == &scanMethod)
         return {{"sampled", Duplicates::scanContent}, {"name", Duplicates::scanName},
             {"full", Duplicates::scanAllContent}};

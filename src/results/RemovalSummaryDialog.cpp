@@ -35,6 +35,9 @@ RemovalSummaryDialog::RemovalSummaryDialog(
     m_items->setColumnWidth(0, 380);
     m_items->setColumnWidth(1, 110);
 
+    const bool links = method == DFIgnoreListPreferences::replaceByHardLink
+        || method == DFIgnoreListPreferences::replaceByReflink
+        || method == DFIgnoreListPreferences::replaceBySymlink;
     QList<QTreeWidgetItem *> kept;
     QList<QTreeWidgetItem *> removed;
     for (const DeleteResult &result : results) {
@@ -48,7 +51,10 @@ RemovalSummaryDialog::RemovalSummaryDialog(
             details = tr("It was no longer there when its turn came.");
         } else if (gone) {
             ++m_removed;
-            if (result.destination.isEmpty()) {
+            if (links) {
+                outcome = tr("Replaced by a link");
+                details = tr("Now reads %1").arg(QDir::toNativeSeparators(result.destination));
+            } else if (result.destination.isEmpty()) {
                 outcome = tr("Removed");
             } else {
                 outcome = method == DFIgnoreListPreferences::moveToFolder ? tr("Moved")
@@ -73,12 +79,18 @@ RemovalSummaryDialog::RemovalSummaryDialog(
     m_items->addTopLevelItems(kept);
     m_items->addTopLevelItems(removed);
 
-    m_headline
-        = new QLabel(QStringLiteral("<b>%1</b><br>%2")
-                         .arg(headline().toHtmlEscaped(),
-                             (freed ? tr("Space freed: %1") : tr("Moved: %1, on the same disk"))
-                                 .arg(TImageModel::sizeText(bytes))),
-            this);
+    QString text = QStringLiteral("<b>%1</b><br>%2")
+                       .arg(headline().toHtmlEscaped(),
+                           (freed ? tr("Space freed: %1") : tr("Moved: %1, on the same disk"))
+                               .arg(TImageModel::sizeText(bytes)));
+    // A hard link is one file under two names: a change of its permissions or owner through
+    // either name shows under both.
+    if (method == DFIgnoreListPreferences::replaceByHardLink && m_removed > 0)
+        text += QStringLiteral("<br>")
+            + tr("Each file replaced by a hard link is now another name of the copy that stays: "
+                 "both names share one set of permissions and one owner.")
+                  .toHtmlEscaped();
+    m_headline = new QLabel(text, this);
     m_headline->setObjectName(QStringLiteral("lab_summary"));
     m_headline->setTextFormat(Qt::RichText);
     m_headline->setWordWrap(true);

@@ -115,23 +115,34 @@ void ResultMenus::buildDelete()
     m_actTrash = m_deleteMenu->addAction(ResultForm::tr("Move to Recycle Bin"));
     m_actPermanent = m_deleteMenu->addAction(ResultForm::tr("Remove permanently"));
     m_actFolder = m_deleteMenu->addAction(ResultForm::tr("Move to Folder"));
-    for (QAction *action : {m_actTrash, m_actPermanent, m_actFolder})
-        action->setCheckable(true);
+    m_deleteMenu->addSeparator();
+    m_actHardLink = m_deleteMenu->addAction(ResultForm::tr("Replace by Hard Link"));
+    m_actReflink = m_deleteMenu->addAction(ResultForm::tr("Replace by Reflink (Copy-on-Write)"));
+    m_actSymlink = m_deleteMenu->addAction(ResultForm::tr("Replace by Symbolic Link"));
     m_actTrash->setData(DFIgnoreListPreferences::moveToTrash);
     m_actPermanent->setData(DFIgnoreListPreferences::removePermanently);
     m_actFolder->setData(DFIgnoreListPreferences::moveToFolder);
+    m_actHardLink->setData(DFIgnoreListPreferences::replaceByHardLink);
+    m_actReflink->setData(DFIgnoreListPreferences::replaceByReflink);
+    m_actSymlink->setData(DFIgnoreListPreferences::replaceBySymlink);
 
     DFIgnoreListPreferences *prefs = DFPreferences::instance()->ignoreListPreferences();
-    switch (prefs->RemovealMethod()) {
-    case DFIgnoreListPreferences::removePermanently:
-        setActiveDeleteAction(m_actPermanent);
-        break;
-    case DFIgnoreListPreferences::moveToFolder:
-        setActiveDeleteAction(m_actFolder);
-        break;
-    default:
-        setActiveDeleteAction(m_actTrash);
+    QAction *active = m_actTrash;
+    for (QAction *action :
+        {m_actTrash, m_actPermanent, m_actFolder, m_actHardLink, m_actReflink, m_actSymlink}) {
+        action->setCheckable(true);
+        if (action->data().toInt() == prefs->RemovealMethod())
+            active = action;
     }
+    setActiveDeleteAction(active);
+    for (QAction *action : {m_actHardLink, m_actReflink, m_actSymlink})
+        connect(action, &QAction::triggered, this, [this, prefs, action] {
+            prefs->setRemovealMethod(
+                DFIgnoreListPreferences::DFRemovalMethod(action->data().toInt()));
+            DFPreferences::instance()->save();
+            setActiveDeleteAction(action);
+            m_page->on_btn_delete_clicked();
+        });
 
     connect(m_actTrash, &QAction::triggered, this, [this, prefs] {
         prefs->setRemovealMethod(DFIgnoreListPreferences::moveToTrash);
@@ -186,6 +197,9 @@ void ResultMenus::setActiveDeleteAction(QAction *newAction)
     } else if (newAction == m_actFolder) {
         ui->btn_delete->setText(ResultForm::tr("Move to folder…"));
         ui->btn_delete->setIcon(m_page->style()->standardIcon(QStyle::SP_DirIcon));
+    } else if (newAction && newAction != m_actTrash) {
+        ui->btn_delete->setText(ResultForm::tr("Replace by links…"));
+        ui->btn_delete->setIcon(m_page->style()->standardIcon(QStyle::SP_FileLinkIcon));
     } else {
         ui->btn_delete->setText(ResultForm::tr("Remove Selected"));
         ui->btn_delete->setIcon(m_page->style()->standardIcon(QStyle::SP_TrashIcon));
@@ -236,4 +250,7 @@ void ResultMenus::retranslate()
     m_actTrash->setText(ResultForm::tr("Move to Recycle Bin"));
     m_actPermanent->setText(ResultForm::tr("Remove permanently"));
     m_actFolder->setText(ResultForm::tr("Move to Folder"));
+    m_actHardLink->setText(ResultForm::tr("Replace by Hard Link"));
+    m_actReflink->setText(ResultForm::tr("Replace by Reflink (Copy-on-Write)"));
+    m_actSymlink->setText(ResultForm::tr("Replace by Symbolic Link"));
 }

@@ -54,4 +54,7 @@ private:
     QAction *m_actTrash = nullptr;
     QAction *m_actPermanent = nullptr;
     QAction *m_actFolder = nullptr;
+    QAction *m_actHardLink = nullptr;
+    QAction *m_actReflink = nullptr;
+    QAction *m_actSymlink = nullptr;
 };

@@ -8,6 +8,7 @@
 #include "engine/FileStamp.h"
 #include "engine/GroupMember.h"
 #include "engine/TFileData.h"
+#include "fileops/LinkReplacer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRequest.h"
@@ -237,7 +238,9 @@ void ResultRemovalRun::removeSelection()
         return;
     }
     bool allowAllCopies = false;
-    if (removesEveryCopy(TFileData::instance()->groups(), selection)) {
+    // A link needs a copy that stays to point at: nothing to ask.
+    if (!LinkReplacer::handles(removalMethod().first)
+        && removesEveryCopy(TFileData::instance()->groups(), selection)) {
         // Losing the last copy is never the default answer.
         allowAllCopies
             = QMessageBox::warning(m_page, AppIdentity::applicationName,
@@ -467,6 +470,16 @@ QString ResultRemovalRun::failureText(const DeleteResult &result, int method)
             return ResultForm::tr("Not everything in it has a copy in the folder that stays.");
         if (result.reason == TImageDeleteWorker::keptLastCopy)
             return ResultForm::tr("Every copy of its group was selected; this one stays.");
+        if (result.reason == LinkReplacer::foldersNotLinked)
+            return ResultForm::tr("A folder is not replaced by a link; only files are.");
+        if (result.reason == LinkReplacer::noHardLinkCopy)
+            return ResultForm::tr("No copy that stays is on the same drive, as a hard link needs.");
+        if (result.reason == LinkReplacer::noReflinkCopy)
+            return ResultForm::tr("No copy that stays is on the same drive, as a reflink needs.");
+        if (result.reason == LinkReplacer::cannotClone)
+            return ResultForm::tr("The file system cannot clone files (reflink).");
+        if (result.reason == LinkReplacer::keptCopyMoved)
+            return ResultForm::tr("The copy that stays changed while the link was made.");
         return result.reason;
     }
     if (!QFileInfo::exists(GroupMember::fromEntry(result.path).path) && !result.success)
@@ -506,6 +519,11 @@ qint64 ResultRemovalRun::removedBytes(const QList<DeleteResult> &results)
     for (const DeleteResult &result : results) {
         if (!result.success || result.errorCode != DeleteResult::NoError || result.alreadyGone)
             continue;
+        // A file replaced by a link frees its blocks only when it was their last name.
+        if (result.freedBytes >= 0) {
+            bytes += result.freedBytes;
+            continue;
+        }
         const QString path = GroupMember::fromEntry(result.path).path;
         const auto folder = folders.constFind(path);
         if (folder != folders.cend())

@@ -51,6 +51,9 @@ DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
     method(ui->rbMoveToTrash, DFIgnoreListPreferences::moveToTrash);
     method(ui->rbRemovePermanently, DFIgnoreListPreferences::removePermanently);
     method(ui->rbMoveToFolder, DFIgnoreListPreferences::moveToFolder);
+    method(ui->rbHardLink, DFIgnoreListPreferences::replaceByHardLink);
+    method(ui->rbReflink, DFIgnoreListPreferences::replaceByReflink);
+    method(ui->rbSymlink, DFIgnoreListPreferences::replaceBySymlink);
     connect(ui->lineEdit, &QLineEdit::textEdited, this,
         [this](const QString &text) { m_preferences.setTrashFolder(text); });
     connect(ui->sbMinimumFileSize, &QSpinBox::valueChanged, this, [this](int value) {
@@ -131,6 +134,15 @@ void DFIgnoreListWidget::refresh()
         break;
     case DFIgnoreListPreferences::moveToFolder:
         ui->rbMoveToFolder->setChecked(true);
+        break;
+    case DFIgnoreListPreferences::replaceByHardLink:
+        ui->rbHardLink->setChecked(true);
+        break;
+    case DFIgnoreListPreferences::replaceByReflink:
+        ui->rbReflink->setChecked(true);
+        break;
+    case DFIgnoreListPreferences::replaceBySymlink:
+        ui->rbSymlink->setChecked(true);
         break;
     default:
         ui->rbMoveToTrash->setChecked(true);

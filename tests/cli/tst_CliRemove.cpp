@@ -4,6 +4,7 @@
 #include "engine/ScanTree.h"
 
 #include <csignal>
+#include <sys/stat.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -87,6 +88,42 @@ private slots:
         for (const char *folder : {"a", "b", "c"})
             QCOMPARE(ScanTree::read(QString("%1/%2/x.bin").arg(root, folder)), x);
         // A batch is restored once.
+        QCOMPARE(runCli({"restore"}).exitCode, 5);
+    }
+
+    // Copies replaced by hard links to the one that stays, then made separate files again.
+    void hardLinkThenRestore()
+    {
+        QTemporaryDir dir;
+        const QString root = dir.path() + "/tree";
+        const QByteArray x = ScanTree::pattern(40000, 1);
+        for (const char *folder : {"a", "b", "c"})
+            ScanTree::write(root, QString("%1/x.bin").arg(folder), x);
+        const QString project = dir.path() + "/p.dupproj";
+        QCOMPARE(runCli({"scan", "--method", "full", "--save", project, root}).exitCode, 0);
+        const CliRun remove = runCli({"remove", project, "--method", "hardlink", "--json"});
+        QCOMPARE(remove.exitCode, 0);
+        const QJsonObject report = QJsonDocument::fromJson(remove.out).object();
+        QCOMPARE(report.value("handled").toInt(), 2);
+        QCOMPARE(report.value("freedBytes").toInt(), 2 * x.size());
+        QCOMPARE(report.value("items").toArray().at(0).toObject().value("result").toString(),
+            QString("linked"));
+        QVERIFY2(remove.err.contains("share one set of permissions"), remove.err.constData());
+        const auto inodeOf = [&root](const char *folder) {
+            struct stat info
+            {
+            };
+            ::stat(QFile::encodeName(QString("%1/%2/x.bin").arg(root, folder)).constData(), &info);
+            return info.st_ino;
+        };
+        QCOMPARE(inodeOf("a"), inodeOf("b"));
+        QCOMPARE(inodeOf("b"), inodeOf("c"));
+
+        QCOMPARE(runCli({"restore"}).exitCode, 0);
+        QVERIFY(inodeOf("a") != inodeOf("b") && inodeOf("b") != inodeOf("c")
+            && inodeOf("a") != inodeOf("c"));
+        for (const char *folder : {"a", "b", "c"})
+            QCOMPARE(ScanTree::read(QString("%1/%2/x.bin").arg(root, folder)), x);
         QCOMPARE(runCli({"restore"}).exitCode, 5);
     }
 

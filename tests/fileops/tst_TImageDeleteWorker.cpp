@@ -2,6 +2,7 @@
 #include "engine/DuplicateFileFinder.h"
 #include "engine/FilePathCodec.h"
 #include "engine/ScanTree.h"
+#include "fileops/LinkReplacer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
 #include "fileops/RemovalRestorer.h"
@@ -11,6 +12,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
+#include <memory>
 #include <sstream>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -56,7 +58,9 @@ struct Pair
     QString item;
     RemovalRequest request;
 
-    explicit Pair(int method)
+    // parent: where the pair's folder is made (empty: the system's temporary folder).
+    explicit Pair(int method, const QString &parent = {})
+        : dir((parent.isEmpty() ? QDir::tempPath() : parent) + "/pair-XXXXXX")
     {
         const QByteArray data = ScanTree::pattern(20000, 3);
         kept = ScanTree::write(dir.path(), "a/x.bin", data);
@@ -107,6 +111,72 @@ QList<DeleteResult> runWithJournal(
     worker.doDelete();
     journal.end();
     return worker.results();
+}
+
+// A btrfs file system in image, its notes to the user discarded.
+bool made(const QString &image)
+{
+    QProcess mkfs;
+    mkfs.start("mkfs.btrfs", {"-q", image});
+    return mkfs.waitForFinished() && mkfs.exitStatus() == QProcess::NormalExit
+        && mkfs.exitCode() == 0;
+}
+
+// A file system mounted for one test: a tmpfs, or a btrfs image on a loop device. Only root
+// can; path is empty when the mount failed, and why says so.
+struct Mount
+{
+    QTemporaryDir dir;
+    QString path;
+    QString why;
+
+    explicit Mount(const QString &type)
+    {
+        if (::geteuid() != 0) {
+            why = "mounting " + type + " needs root";
+            return;
+        }
+        const QString point = dir.path() + "/mnt";
+        QDir().mkpath(point);
+        QStringList arguments {"-t", "tmpfs", "tmpfs", point};
+        if (type == "btrfs") {
+            const QString image = dir.path() + "/fs.img";
+            QFile file(image);
+            if (!file.open(QIODevice::WriteOnly) || !file.resize(128 << 20) || !made(image)) {
+                why = "mkfs.btrfs cannot make a file system here";
+                return;
+            }
+            arguments = {"-o", "loop", image, point};
+        }
+        if (QProcess::execute("mount", arguments) != 0) {
+            why = type + " cannot be mounted here";
+            return;
+        }
+        path = point;
+    }
+    ~Mount()
+    {
+        if (!path.isEmpty())
+            QProcess::execute("umount", {path});
+    }
+};
+
+// Whatever the act left in the item's folder besides the item.
+QStringList leftovers(const QString &item)
+{
+    QStringList names = QFileInfo(item).dir().entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    names.removeAll(QFileInfo(item).fileName());
+    return names;
+}
+
+struct stat statOf(const QString &path)
+{
+    struct stat info
+    {
+    };
+    ::lstat(QFile::encodeName(path).constData(), &info);
+    return info;
 }
 
 } // namespace
@@ -609,6 +679,219 @@ private slots:
         QVERIFY2(restored.value(0).success, qPrintable(restored.value(0).reason));
         QCOMPARE(ScanTree::read(pair.item), before);
         QVERIFY(!QFileInfo::exists(into + "/x.bin"));
+    }
+
+    void replaceByLink_data()
+    {
+        QTest::addColumn<int>("method");
+        QTest::newRow("hard link") << int(TFileDeleter::replaceByHardLink);
+        QTest::newRow("reflink on btrfs") << int(TFileDeleter::replaceByReflink);
+        QTest::newRow("symbolic link") << int(TFileDeleter::replaceBySymlink);
+    }
+    void replaceByLink()
+    {
+        QFETCH(int, method);
+        std::unique_ptr<Mount> btrfs;
+        if (method == TFileDeleter::replaceByReflink) {
+            btrfs = std::make_unique<Mount>("btrfs");
+            if (btrfs->path.isEmpty())
+                QSKIP(qPrintable(btrfs->why));
+        }
+        Pair pair(method, btrfs ? btrfs->path : QString());
+        const QByteArray bytes = ScanTree::read(pair.item);
+        const struct stat before = statOf(pair.item);
+        const DeleteResult result = pair.run().value(0);
+        QVERIFY2(result.success, qPrintable(result.reason));
+        QCOMPARE(result.destination, pair.kept);
+        QCOMPARE(result.freedBytes, qint64(bytes.size()));
+        QCOMPARE(leftovers(pair.item), QStringList());
+        QCOMPARE(ScanTree::read(pair.item), bytes);
+        const struct stat now = statOf(pair.item);
+        const struct stat kept = statOf(pair.kept);
+        if (method == TFileDeleter::replaceBySymlink)
+            QCOMPARE(QFile::symLinkTarget(pair.item), pair.kept);
+        else
+            QVERIFY(S_ISREG(now.st_mode));
+        QCOMPARE(now.st_ino == kept.st_ino, method == TFileDeleter::replaceByHardLink);
+        QVERIFY(now.st_ino != before.st_ino);
+
+        RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+        const RemovalJournal::Item item = journal.batches().value(0).items.value(0);
+        QCOMPARE(item.method, RemovalJournal::methodName(method));
+        QCOMPARE(item.result, RemovalJournal::removed);
+        QCOMPARE(item.destination, pair.kept);
+        QCOMPARE(item.inode, quint64(before.st_ino));
+        QVERIFY(!item.digest.isEmpty());
+        QCOMPARE(journal.batches().value(0).restorableCount(), 1);
+
+        QList<DeleteResult> restored;
+        QVERIFY(RemovalRestorer(journal).restore({}, restored));
+        QVERIFY2(restored.value(0).success, qPrintable(restored.value(0).reason));
+        const struct stat back = statOf(pair.item);
+        QVERIFY(S_ISREG(back.st_mode));
+        QVERIFY(back.st_ino != statOf(pair.kept).st_ino);
+        QCOMPARE(back.st_mtim.tv_sec, time_t(1000000000));
+        QCOMPARE(back.st_mode, before.st_mode);
+        QCOMPARE(ScanTree::read(pair.item), bytes);
+        QCOMPARE(leftovers(pair.item), QStringList());
+        QCOMPARE(journal.lastBatch().id, QString());
+    }
+
+    // Between the look and the act another program writes: to the kept copy, or to the item.
+    void linkStopsOnWrite_data()
+    {
+        QTest::addColumn<int>("method");
+        QTest::addColumn<bool>("keptWritten");
+        QTest::addColumn<QString>("reason");
+        for (const int method : {int(TFileDeleter::replaceByHardLink),
+                 int(TFileDeleter::replaceBySymlink), int(TFileDeleter::replaceByReflink)}) {
+            const QByteArray name = RemovalJournal::methodName(method).toLatin1();
+            QTest::newRow("kept copy written, " + name)
+                << method << true << RemovalCheck::contentDiffers;
+            QTest::newRow("item written, " + name)
+                << method << false << RemovalCheck::changedSinceScan;
+        }
+    }
+    void linkStopsOnWrite()
+    {
+        QFETCH(int, method);
+        QFETCH(bool, keptWritten);
+        QFETCH(QString, reason);
+        std::unique_ptr<Mount> btrfs;
+        if (method == TFileDeleter::replaceByReflink) {
+            btrfs = std::make_unique<Mount>("btrfs");
+            if (btrfs->path.isEmpty())
+                QSKIP(qPrintable(btrfs->why));
+        }
+        Pair pair(method, btrfs ? btrfs->path : QString());
+        QByteArray itemBytes = ScanTree::read(pair.item);
+        const ino_t inode = statOf(pair.item).st_ino;
+        const DeleteResult result = pair.run(nullptr,
+                                            [&](const QString &) {
+                                                // Same size, other bytes: only reading the content
+                                                // now shows it.
+                                                QByteArray edited = itemBytes;
+                                                edited[7] = char(edited[7] ^ 1);
+                                                QFile file(keptWritten ? pair.kept : pair.item);
+                                                QVERIFY(file.open(QIODevice::ReadWrite));
+                                                file.write(edited);
+                                                if (!keptWritten)
+                                                    itemBytes = edited;
+                                            })
+                                        .value(0);
+        QCOMPARE(result.errorCode, int(DeleteResult::Skipped));
+        QCOMPARE(result.reason, reason);
+        QCOMPARE(statOf(pair.item).st_ino, inode);
+        QCOMPARE(ScanTree::read(pair.item), itemBytes);
+        QCOMPARE(leftovers(pair.item), QStringList());
+    }
+
+    void linkRefused_data()
+    {
+        QTest::addColumn<int>("method");
+        QTest::addColumn<QString>("keptOn");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("hard link to another file system")
+            << int(TFileDeleter::replaceByHardLink) << "tmpfs" << LinkReplacer::noHardLinkCopy;
+        QTest::newRow("reflink on the temporary folder's file system")
+            << int(TFileDeleter::replaceByReflink) << "" << LinkReplacer::cannotClone;
+        QTest::newRow("reflink on tmpfs")
+            << int(TFileDeleter::replaceByReflink) << "tmpfs-both" << LinkReplacer::cannotClone;
+    }
+    void linkRefused()
+    {
+        QFETCH(int, method);
+        QFETCH(QString, keptOn);
+        QFETCH(QString, reason);
+        std::unique_ptr<Mount> tmpfs;
+        if (!keptOn.isEmpty()) {
+            tmpfs = std::make_unique<Mount>("tmpfs");
+            if (tmpfs->path.isEmpty())
+                QSKIP(qPrintable(tmpfs->why));
+        }
+        Pair pair(method, keptOn == "tmpfs-both" ? tmpfs->path : QString());
+        if (keptOn == "tmpfs") {
+            const QString moved = tmpfs->path + "/x.bin";
+            QVERIFY(QFile::copy(pair.kept, moved));
+            pair.request.groups["G"] = {moved, pair.item};
+            pair.request.stamps.insert(moved, FileStamp::of(moved));
+        }
+        const QByteArray bytes = ScanTree::read(pair.item);
+        const ino_t inode = statOf(pair.item).st_ino;
+        const DeleteResult result = pair.run().value(0);
+        if (keptOn.isEmpty() && result.success)
+            QSKIP("the temporary folder's file system clones files");
+        QCOMPARE(result.errorCode, int(DeleteResult::Skipped));
+        QCOMPARE(result.reason, reason);
+        QCOMPARE(statOf(pair.item).st_ino, inode);
+        QCOMPARE(ScanTree::read(pair.item), bytes);
+        QCOMPARE(leftovers(pair.item), QStringList());
+    }
+
+    // A batch cut short between an item's intent and its outcome, at each place the act can
+    // stop: restore leaves or puts the item back as a separate file with its content.
+    void linkWithoutOutcomeRestored_data()
+    {
+        QTest::addColumn<QString>("state");
+        QTest::newRow("item untouched, link made beside it") << "untouched";
+        QTest::newRow("swapped, old item under the private name") << "aside";
+        QTest::newRow("link in place, old item gone") << "linked";
+    }
+    void linkWithoutOutcomeRestored()
+    {
+        QFETCH(QString, state);
+        Pair pair(TFileDeleter::replaceByHardLink);
+        const QByteArray bytes = ScanTree::read(pair.item);
+        const struct stat item = statOf(pair.item);
+        const QString privatePath = pair.dir.path() + "/b/.veltrine-linking-0123456789abcdef";
+        const QString method = RemovalJournal::methodName(TFileDeleter::replaceByHardLink);
+        {
+            RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+            QVERIFY(journal.begin(method, 1));
+            QVERIFY(journal.intent(0, method, pair.item, privatePath, item.st_size,
+                qint64(item.st_mtim.tv_sec) * 1000000000, {}, pair.kept, item.st_dev, item.st_ino));
+        }
+        const auto link = [&pair](const QString &at) {
+            return ::link(
+                QFile::encodeName(pair.kept).constData(), QFile::encodeName(at).constData());
+        };
+        if (state == "untouched") {
+            QCOMPARE(link(privatePath), 0);
+        } else {
+            QVERIFY(QFile::rename(pair.item, privatePath));
+            QCOMPARE(link(pair.item), 0);
+            if (state == "linked")
+                QVERIFY(QFile::remove(privatePath));
+        }
+        RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+        QCOMPARE(journal.batches().value(0).restorableCount(), 1);
+        QList<DeleteResult> restored;
+        QVERIFY(RemovalRestorer(journal).restore({}, restored));
+        QVERIFY2(restored.value(0).success, qPrintable(restored.value(0).reason));
+        // The same file comes back where it still existed (a freed inode number may be reused).
+        if (state != "linked")
+            QCOMPARE(statOf(pair.item).st_ino, item.st_ino);
+        QCOMPARE(statOf(pair.item).st_nlink, nlink_t(1));
+        QCOMPARE(statOf(pair.kept).st_nlink, nlink_t(1));
+        QCOMPARE(ScanTree::read(pair.item), bytes);
+        QCOMPARE(leftovers(pair.item), QStringList());
+    }
+
+    // The kept copy changed after the link was made: its old content is gone, and the
+    // restore says so and changes nothing.
+    void restoreRefusedWhenKeptChanged()
+    {
+        Pair pair(TFileDeleter::replaceBySymlink);
+        QVERIFY(pair.run().value(0).success);
+        ScanTree::write(pair.dir.path(), "a/x.bin", "rewritten");
+        RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
+        QList<DeleteResult> restored;
+        QVERIFY(RemovalRestorer(journal).restore({}, restored));
+        QVERIFY(!restored.value(0).success);
+        QVERIFY2(restored.value(0).reason.contains("has changed since"),
+            qPrintable(restored.value(0).reason));
+        QCOMPARE(QFile::symLinkTarget(pair.item), pair.kept);
+        QCOMPARE(leftovers(pair.item), QStringList());
     }
 
 private:

@@ -193,7 +193,7 @@ private slots:
         DialogAnswerer answers({QMessageBox::Yes});
         answers.closeOtherDialogs = true;
         if (step == QLatin1String("folder"))
-            m_page->deleteMenu()->actions().last()->trigger();
+            folderAction()->trigger();
         else
             m_page->on_btn_delete_clicked();
         QTRY_COMPARE(answers.titles.size(), 1);
@@ -207,9 +207,46 @@ private slots:
         QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->RemovealMethod(),
             DFIgnoreListPreferences::moveToTrash);
         QVERIFY(m_page->deleteMenu()->actions().first()->isChecked());
-        QVERIFY(!m_page->deleteMenu()->actions().last()->isChecked());
+        QVERIFY(!folderAction()->isChecked());
         QCOMPARE(ScanTree::read(DFPreferences::instance()->settingsPath()), settingsBefore);
         QTRY_VERIFY(m_page->isDataLoaded());
+    }
+
+    // The menu's hard link entry chooses the method and replaces the selected copy by another
+    // name of the one that stays; the summary counts the space and warns of the shared bits.
+    void hardLinkFromTheMenu()
+    {
+        const QString key = writeGroup("same.bin", 2, ScanTree::pattern(3000, 'h'));
+        const QString kept = TFileData::instance()->group(key).first();
+        const QString item = TFileData::instance()->group(key).last();
+        TFileData::instance()->setSelected(key, {item});
+        m_page = new ResultForm;
+        QTRY_VERIFY(m_page->isDataLoaded());
+        DialogAnswerer answers;
+        answers.closeOtherDialogs = true;
+        for (QAction *action : m_page->deleteMenu()->actions())
+            if (action->data() == int(DFIgnoreListPreferences::replaceByHardLink))
+                action->trigger();
+        QTRY_VERIFY(answers.dialogs.contains("RemovalSummaryDialog"));
+        QCOMPARE(DFPreferences::instance()->ignoreListPreferences()->RemovealMethod(),
+            DFIgnoreListPreferences::replaceByHardLink);
+        QCOMPARE(child<QToolButton>(m_page, "btn_delete")->text(), "Replace by links…");
+        QVERIFY2(m_page->lastRemoval().value(0).success,
+            qPrintable(m_page->lastRemoval().value(0).reason));
+        QCOMPARE(QFileInfo(item).size(), 3000);
+        QCOMPARE(QFile::symLinkTarget(item), QString());
+        struct stat a
+        {
+        };
+        struct stat b
+        {
+        };
+        QCOMPARE(::stat(QFile::encodeName(kept).constData(), &a), 0);
+        QCOMPARE(::stat(QFile::encodeName(item).constData(), &b), 0);
+        QCOMPARE(a.st_ino, b.st_ino);
+        const QString summary = answers.texts.last();
+        QVERIFY2(summary.contains("Space freed: 2.92 KB"), qPrintable(summary));
+        QVERIFY2(summary.contains("share one set of permissions"), qPrintable(summary));
     }
 
     // The permanent question names what goes and falls back on No; the button says what a
@@ -558,6 +595,14 @@ private slots:
     }
 
 private:
+    QAction *folderAction() const
+    {
+        for (QAction *action : m_page->deleteMenu()->actions())
+            if (action->data() == int(DFIgnoreListPreferences::moveToFolder))
+                return action;
+        return nullptr;
+    }
+
     // A real file in the tree; its path.
     QString file(const QString &relative, const QByteArray &content)
     {
