@@ -3,6 +3,7 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "engine/GroupMember.h"
+#include "engine/ProtectedFolders.h"
 #include "engine/TFileData.h"
 
 #include <algorithm>
@@ -247,7 +248,7 @@ QPair<int, int> GroupItemAutoSelector::pictureSize(const QString &path)
     return {size.width(), size.height()};
 }
 
-QStringList GroupItemAutoSelector::selectGroup(
+QStringList GroupItemAutoSelector::selectOpen(
     const QStringList &paths, int rule, const CloudPropertyReader &cloud)
 {
     switch (rule) {
@@ -287,7 +288,7 @@ QStringList GroupItemAutoSelector::selectGroup(
     }
 }
 
-QStringList GroupItemAutoSelector::selectByPriority(const QStringList &paths,
+QStringList GroupItemAutoSelector::byPriorityOpen(const QStringList &paths,
     const QMap<QString, int> &mapPriority, const CloudPropertyReader &cloud)
 {
     if (paths.isEmpty())
@@ -295,7 +296,7 @@ QStringList GroupItemAutoSelector::selectByPriority(const QStringList &paths,
     // Without priorities "Select by Priority" must still do something sensible: it
     // behaves like "Select by Filename".
     if (mapPriority.isEmpty())
-        return selectGroup(paths, autoSelect, cloud);
+        return selectOpen(paths, autoSelect, cloud);
     qsizetype keep = 0;
     int best = std::numeric_limits<int>::min();
     for (qsizetype i = 0; i < paths.size(); ++i) {
@@ -308,12 +309,52 @@ QStringList GroupItemAutoSelector::selectByPriority(const QStringList &paths,
     return allBut(paths, keep);
 }
 
+QStringList GroupItemAutoSelector::selectGroup(
+    const QStringList &paths, int rule, const CloudPropertyReader &cloud)
+{
+    if (rule == selectPriority)
+        return {};
+    return select(paths, rule, {}, cloud);
+}
+
+QStringList GroupItemAutoSelector::selectByPriority(const QStringList &paths,
+    const QMap<QString, int> &mapPriority, const CloudPropertyReader &cloud)
+{
+    return select(paths, selectPriority, mapPriority, cloud);
+}
+
 QStringList GroupItemAutoSelector::select(const QStringList &paths, int rule,
     const QMap<QString, int> &mapPriority, const CloudPropertyReader &cloud)
 {
-    if (rule == selectPriority)
-        return selectByPriority(paths, mapPriority, cloud);
-    return selectGroup(paths, rule, cloud);
+    const auto plain = [&](const QStringList &members) {
+        return rule == selectPriority ? byPriorityOpen(members, mapPriority, cloud)
+                                      : selectOpen(members, rule, cloud);
+    };
+    const ProtectedFolders folders = TFileData::instance()->protectedFolders();
+    if (folders.isEmpty())
+        return plain(paths);
+    QStringList open;
+    QSet<QString> sheltered;
+    for (const QString &entry : paths) {
+        if (folders.protects(filePathOf(entry)))
+            sheltered.insert(entry);
+        else
+            open.append(entry);
+    }
+    if (sheltered.isEmpty())
+        return plain(paths);
+    // A protected member always stays, so a group that holds one already keeps a copy.
+    // The rules whose only aim is to choose the one copy that stays (by name, by folder
+    // priority) have nothing left to choose: every unprotected member is selected, which
+    // is what cleaning a download folder against a protected archive asks for. The
+    // rules that select by a criterion (date, resolution, size, all) judge the whole
+    // group as always and only lose the protected members from what they pick, so the
+    // copy their criterion keeps stays kept.
+    if (rule == autoSelect || rule == selectPriority)
+        return open;
+    QStringList picked = plain(paths);
+    picked.removeIf([&sheltered](const QString &entry) { return sheltered.contains(entry); });
+    return picked;
 }
 
 QStringList GroupItemAutoSelector::selectCloudGroup(const QStringList &paths, int rule,

@@ -19,7 +19,9 @@ using CloudPropertyReader = std::function<QVariant(const QString &entry, const Q
 // removal. Every function returns the entries to select, in group order; the entry left
 // out is the copy that is kept. Entries are as the result store keeps them
 // (GroupMember::entry()): the file behind an entry is read through its path, and the entries
-// are returned exactly as given. The class holds no state (the keyword table and the
+// are returned exactly as given. Members in a protected folder (the result store's
+// ProtectedFolders) are never selected, whatever the rule; how a group holding one is
+// judged is told at select(). The class holds no state (the keyword table and the
 // copy-number pattern are built once per process), so every function may run on any
 // thread at the same time.
 //
@@ -60,7 +62,10 @@ public:
     static QStringList selectByPriority(const QStringList &paths,
         const QMap<QString, int> &mapPriority, const CloudPropertyReader &cloud = {});
 
-    // Any rule: rule 3 through selectByPriority, the others through selectGroup.
+    // Any rule. A group with protected members: the name and priority rules (2, 3)
+    // select every unprotected member, since a protected copy stays anyway; the rules of
+    // a criterion (0, 1, 4 to 8) pick as over the whole group, less the protected members;
+    // "Deselect" selects nothing.
     static QStringList select(const QStringList &paths, int rule,
         const QMap<QString, int> &mapPriority = {}, const CloudPropertyReader &cloud = {});
 
@@ -98,4 +103,11 @@ public:
 
     // The 32 lower-case keywords of the score rule.
     static const QStringList &keywords();
+
+private:
+    // The rules as they judge every member given, protected or not.
+    static QStringList selectOpen(
+        const QStringList &paths, int rule, const CloudPropertyReader &cloud);
+    static QStringList byPriorityOpen(const QStringList &paths,
+        const QMap<QString, int> &mapPriority, const CloudPropertyReader &cloud);
 };

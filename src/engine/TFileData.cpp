@@ -20,6 +20,31 @@ QHash<QString, QSet<QString>> lookupOf(const TFileData::Groups &selected)
     return lookup;
 }
 
+// The entries of a selection that no protected folder holds.
+QStringList unprotected(const QStringList &entries, const ProtectedFolders &folders)
+{
+    if (folders.isEmpty())
+        return entries;
+    QStringList open;
+    open.reserve(entries.size());
+    for (const QString &entry : entries)
+        if (!folders.protects(GroupMember::fromEntry(entry).path))
+            open.append(entry);
+    return open;
+}
+
+// The same for every group; groups left with nothing selected drop out.
+TFileData::Groups unprotected(const TFileData::Groups &selected, const ProtectedFolders &folders)
+{
+    if (folders.isEmpty())
+        return selected;
+    TFileData::Groups open;
+    for (auto it = selected.cbegin(); it != selected.cend(); ++it)
+        if (QStringList entries = unprotected(it.value(), folders); !entries.isEmpty())
+            open.insert(it.key(), entries);
+    return open;
+}
+
 } // namespace
 
 TFileData::TFileData(QObject *parent) : QObject(parent) { }
@@ -73,11 +98,17 @@ void TFileData::insertDirGroup(const QString &key, const QList<DirGroupEntry> &e
 
 bool TFileData::setSelected(const QString &key, const QStringList &paths)
 {
-    const QSet<QString> lookup(paths.cbegin(), paths.cend());
     QWriteLocker locker(&m_lock);
     ++m_revision;
-    m_selected.insert(key, paths);
-    m_selectedLookup.insert(key, lookup);
+    const QStringList open = unprotected(paths, m_protected);
+    // A selection of protected members only is no selection.
+    if (open.isEmpty() && !paths.isEmpty()) {
+        m_selected.remove(key);
+        m_selectedLookup.remove(key);
+        return true;
+    }
+    m_selected.insert(key, open);
+    m_selectedLookup.insert(key, QSet<QString>(open.cbegin(), open.cend()));
     return true;
 }
 
@@ -92,6 +123,8 @@ bool TFileData::removeSelected(const QString &key)
 int TFileData::updateSelected(const QString &key, const QString &path, bool add)
 {
     QWriteLocker locker(&m_lock);
+    if (add && m_protected.protects(GroupMember::fromEntry(path).path))
+        return int(m_selected.value(key).size());
     auto it = m_selected.find(key);
     if (it == m_selected.end()) {
         // A group without a selection yet gets one with its first checked member.
@@ -291,8 +324,8 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     ++m_revision;
     m_groups = groups;
     m_dirGroups = dirGroups;
-    m_selected = selected;
-    m_selectedLookup = lookupOf(selected);
+    m_selected = unprotected(selected, m_protected);
+    m_selectedLookup = lookupOf(m_selected);
     m_stamps.clear();
     m_groupMatches.clear();
     m_matchReasons.clear();
@@ -402,4 +435,26 @@ TFileData::GroupMatch TFileData::groupMatch(const QString &key) const
 {
     QReadLocker locker(&m_lock);
     return m_groupMatches.value(key, MatchContent);
+}
+
+void TFileData::setProtectedFolders(const ProtectedFolders &folders)
+{
+    QWriteLocker locker(&m_lock);
+    ++m_revision;
+    m_protected = folders;
+    m_selected = unprotected(m_selected, m_protected);
+    m_selectedLookup = lookupOf(m_selected);
+}
+
+ProtectedFolders TFileData::protectedFolders() const
+{
+    QReadLocker locker(&m_lock);
+    return m_protected;
+}
+
+bool TFileData::isProtected(const QString &entry) const
+{
+    const QString path = GroupMember::fromEntry(entry).path;
+    QReadLocker locker(&m_lock);
+    return m_protected.protects(path);
 }

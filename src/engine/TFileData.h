@@ -4,6 +4,7 @@
 #include "engine/DirGroupEntry.h"
 #include "engine/FileStamp.h"
 #include "engine/GroupMember.h"
+#include "engine/ProtectedFolders.h"
 
 #include <atomic>
 
@@ -17,6 +18,9 @@
 // under their group key, groups of duplicate folders, and the selected (to be removed)
 // paths of each group. One read-write lock guards the three tables: readers take it
 // shared, every change takes it exclusively.
+//
+// The protected folders live here too, under the same lock: a member inside one (see
+// ProtectedFolders) is never part of a selection, whoever hands it in.
 class TFileData : public QObject
 {
     Q_OBJECT
@@ -40,10 +44,12 @@ public:
     bool replaceGroup(const QString &key, const QStringList &paths);
     void insertDirGroup(const QString &key, const QList<DirGroupEntry> &entries);
 
+    // Protected members are left out of paths.
     bool setSelected(const QString &key, const QStringList &paths);
     bool removeSelected(const QString &key);
     // Adds path to (or takes it from) the group's selection, starting one where the group
-    // has none; returns how many of the group are selected.
+    // has none; returns how many of the group are selected. A protected path is never
+    // added.
     int updateSelected(const QString &key, const QString &path, bool add);
     bool isSelected(const QString &key, const QString &path) const;
     int selectedCount(const QString &key) const;
@@ -70,7 +76,8 @@ public:
     // A group of files or of folders, with its selection.
     bool removeGroup(const QString &key);
     bool removeDirGroup(const QString &key);
-    // Replaces all three tables at once (opening a project).
+    // Replaces all three tables at once (opening a project); protected members are left
+    // out of the selection.
     void replaceAll(const Groups &groups, const DirGroups &dirGroups, const Groups &selected);
 
     // The file stamps the scan saw, per member path (absent for members it never stamped).
@@ -87,7 +94,14 @@ public:
     // folder structure places each item relative to the one that holds it.
     void setScanRoots(const QStringList &roots);
     QStringList scanRoots() const;
+    // Empties the results; the protected folders are the user's and stay.
     void clear();
+
+    // Replaces the protected folders and drops what they protect from the selection.
+    void setProtectedFolders(const ProtectedFolders &folders);
+    ProtectedFolders protectedFolders() const;
+    // Whether an entry's path (or folder) is protected.
+    bool isProtected(const QString &entry) const;
     // The copies that could go (every member of a group but the first; for a folder
     // group the files of every folder but the first) and their bytes, as a scan counts
     // them. Sizes come from the stamps the scan kept, else from the disk.
@@ -119,4 +133,5 @@ private:
     QHash<QString, GroupMatch> m_groupMatches;
     QHash<QString, QString> m_matchReasons;
     QStringList m_scanRoots;
+    ProtectedFolders m_protected;
 };

@@ -299,6 +299,62 @@ private slots:
             (QStringList {"c:b", "c:c"}));
     }
 
+    // Members 0 and 3 lie in the protected archive (3 deeper down), 1 in a folder whose
+    // name only starts alike, 2 in the downloads. Sizes 40, 10, 20, 30; ages 10, 300, 50,
+    // 200 seconds; none is a picture, so the resolution rules see equal pictures.
+    void protectedMembers_data()
+    {
+        QTest::addColumn<int>("rule");
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<Indices>("selected");
+        const QStringList archive {"archive"};
+        QTest::newRow("newest: keeps the oldest, less the archive") << 0 << archive << Indices {2};
+        QTest::newRow("oldest: keeps the newest") << 1 << archive << Indices {1, 2};
+        QTest::newRow("filename: the archive is the kept copy") << 2 << archive << Indices {1, 2};
+        QTest::newRow("priority: the archive is the kept copy") << 3 << archive << Indices {1, 2};
+        QTest::newRow("high resolution: keeps the last") << 4 << archive << Indices {1, 2};
+        QTest::newRow("low resolution: keeps the first") << 5 << archive << Indices {1, 2};
+        QTest::newRow("high quality: keeps the smallest") << 6 << archive << Indices {2};
+        QTest::newRow("low quality: keeps the largest") << 7 << archive << Indices {1, 2};
+        QTest::newRow("all: every unprotected member") << 8 << archive << Indices {1, 2};
+        QTest::newRow("deselect") << 9 << archive << Indices {};
+        const QStringList everything {"archive", "archiveOld", "downloads"};
+        for (int rule = 0; rule <= 9; ++rule)
+            QTest::addRow("every member protected, rule %d", rule)
+                << rule << everything << Indices {};
+    }
+    void protectedMembers()
+    {
+        QFETCH(int, rule);
+        QFETCH(QStringList, folders);
+        QFETCH(Indices, selected);
+        const QString root = m_dir.filePath("protected");
+        const QStringList names {
+            "archive/a.bin", "archiveOld/b.bin", "downloads/c copy.bin", "archive/sub/d.bin"};
+        const Numbers bytes {40, 10, 20, 30};
+        const Numbers ages {10, 300, 50, 200};
+        QStringList entries;
+        const QDateTime base = QDateTime::fromString("2024-05-01T12:00:00Z", Qt::ISODate);
+        for (int i = 0; i < names.size(); ++i) {
+            entries.append(ScanTree::write(root, names.at(i), QByteArray(bytes.at(i), 'x')));
+            QFile file(entries.last());
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            QVERIFY(file.setFileTime(base.addSecs(-ages.at(i)), QFileDevice::FileModificationTime));
+        }
+        QStringList protectedFolders;
+        for (const QString &folder : folders)
+            protectedFolders.append(root + '/' + folder);
+        TFileData *store = TFileData::instance();
+        store->setProtectedFolders(ProtectedFolders(protectedFolders));
+        const QMap<QString, int> priorities {{root + "/downloads", 5}};
+        QCOMPARE(Selector::select(entries, rule, priorities), pick(entries, selected));
+        // Through the store, whose own refusal must agree.
+        Selector::applyToGroup("P", entries, rule, priorities);
+        QCOMPARE(store->selectedOf("P"), pick(entries, selected));
+        store->setProtectedFolders({});
+        store->clear();
+    }
+
     void autoSelectAllWritesTheStore_data()
     {
         QTest::addColumn<int>("rule");

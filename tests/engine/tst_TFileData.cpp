@@ -68,6 +68,57 @@ private slots:
         QVERIFY(!store()->selected().contains("G"));
     }
 
+    // "/a/b" protects what lies in it at any depth and a folder that holds it, nothing
+    // that merely shares its name's start.
+    void protectedPaths_data()
+    {
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("protects");
+        const QStringList ab {"/a/b"};
+        QTest::newRow("the folder itself") << ab << "/a/b" << true;
+        QTest::newRow("deep inside") << ab << "/a/b/c/d.jpg" << true;
+        QTest::newRow("a name that starts alike") << ab << "/a/bc" << false;
+        QTest::newRow("a name that starts alike, inside") << ab << "/a/bc/d" << false;
+        QTest::newRow("a folder holding it") << ab << "/a" << true;
+        QTest::newRow("a sibling") << ab << "/a/c" << false;
+        QTest::newRow("a given folder is cleaned") << QStringList {"/a/./b/"} << "/a/b/x" << true;
+        QTest::newRow("a path is cleaned") << ab << "/a/c/../b/x" << true;
+        QTest::newRow("the root protects all") << QStringList {"/"} << "/x/y" << true;
+        QTest::newRow("nothing protected") << QStringList() << "/a/b/c" << false;
+    }
+    void protectedPaths()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(QString, path);
+        QFETCH(bool, protects);
+        QCOMPARE(ProtectedFolders(folders).protects(path), protects);
+        store()->setProtectedFolders(ProtectedFolders(folders));
+        QCOMPARE(store()->isProtected(path + "_simlar_90"), protects);
+        store()->setProtectedFolders({});
+    }
+
+    // The store keeps protected members out of every selection, whichever way it comes.
+    void protectedMembersAreNeverSelected()
+    {
+        const QStringList group {"/archive/a", "/down/a", "/down/b (1)"};
+        store()->insertGroup("G", group);
+        store()->setSelected("G", {"/archive/a", "/down/a"});
+        store()->setProtectedFolders(ProtectedFolders({"/archive"}));
+        QCOMPARE(store()->selectedOf("G"), QStringList {"/down/a"});
+        QCOMPARE(store()->updateSelected("G", "/archive/a", true), 1);
+        QVERIFY(!store()->isSelected("G", "/archive/a"));
+        store()->setSelected("G", group);
+        QCOMPARE(store()->selectedOf("G"), (QStringList {"/down/a", "/down/b (1)"}));
+        store()->setSelected("G", {"/archive/a"});
+        QVERIFY(!store()->selected().contains("G"));
+        store()->replaceAll({{"G", group}}, {}, {{"G", group}});
+        QCOMPARE(store()->selectedCount("G"), 2);
+        store()->clear();
+        QCOMPARE(store()->protectedFolders().folders(), QStringList {"/archive"});
+        store()->setProtectedFolders({});
+    }
+
     void concurrentWritersAllLand()
     {
         QList<int> ids(2000);

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ProtectedFolders.h"
+
+#include <algorithm>
+
+#include <QDir>
+#include <QFileInfo>
+
+ProtectedFolders::ProtectedFolders(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        if (folder.trimmed().isEmpty())
+            continue;
+        const QString given = normalised(folder);
+        m_given.append(given);
+        m_lookup.insert(given);
+        // The scan may list a member by its real path: a protected folder reached through a
+        // link must protect it under either name.
+        const QString real = QFileInfo(given).canonicalFilePath();
+        if (!real.isEmpty())
+            m_lookup.insert(real);
+    }
+    m_given.sort();
+    m_given.removeDuplicates();
+    m_sorted = QStringList(m_lookup.cbegin(), m_lookup.cend());
+    m_sorted.sort();
+}
+
+QString ProtectedFolders::normalised(const QString &folder)
+{
+    return QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+}
+
+bool ProtectedFolders::protects(const QString &path) const
+{
+    if (m_lookup.isEmpty() || path.isEmpty())
+        return false;
+    const QString clean = QDir::isAbsolutePath(path) ? QDir::cleanPath(path) : normalised(path);
+    return liesIn(clean) || holds(clean);
+}
+
+bool ProtectedFolders::protectsOnDisk(const QString &path) const
+{
+    if (protects(path))
+        return true;
+    if (m_lookup.isEmpty())
+        return false;
+    // The entry itself is what goes, not what a link at its place leads to: only its
+    // folder is resolved.
+    const QFileInfo info(normalised(path));
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return !folder.isEmpty() && protects(folder + QLatin1Char('/') + info.fileName());
+}
+
+bool ProtectedFolders::liesIn(const QString &path) const
+{
+    QString ancestor = path;
+    while (!ancestor.isEmpty()) {
+        if (m_lookup.contains(ancestor))
+            return true;
+        const qsizetype slash = ancestor.lastIndexOf(QLatin1Char('/'));
+        if (slash < 0)
+            break;
+        // "/a" ends at the root "/", which is a folder of its own.
+        ancestor.truncate(slash == 0 && ancestor.size() > 1 ? 1 : slash);
+        if (slash == 0 && ancestor == QLatin1String("/"))
+            return m_lookup.contains(ancestor);
+    }
+    return false;
+}
+
+bool ProtectedFolders::holds(const QString &path) const
+{
+    const QString prefix = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+    const auto next = std::lower_bound(m_sorted.cbegin(), m_sorted.cend(), prefix);
+    return next != m_sorted.cend() && next->startsWith(prefix);
+}
