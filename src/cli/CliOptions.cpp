@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CliOptions.h"
 
+#include "engine/ProtectedFolders.h"
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
@@ -80,7 +81,7 @@ QString CliOptions::usage()
         "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
         "trash|permanent|move|hardlink|reflink|symlink\n"
         "                                     [--to DIR [--keep-structure]] [--dry-run]\n"
-        "                                     [--allow-all-copies]\n"
+        "                                     [--allow-all-copies] [--protect DIR]...\n"
         "                                     [--allow-different-content] [--json]\n"
         "       veltrine-duplicate-finder-cli restore [--list | BATCH] [--json]\n"
         "\n"
@@ -107,6 +108,10 @@ QString CliOptions::usage()
         "it was, each item only if it is what went, never over an existing file; run it\n"
         "again to finish what failed. restore --list lists the batches, restore BATCH (an\n"
         "id or its start) restores that one.\n"
+        "--protect DIR keeps everything in DIR and below out of every selection and every\n"
+        "removal (the item is skipped: \"in a protected folder\"); a scan saves its\n"
+        "protected folders with the project, remove adds its own for that run, and a\n"
+        "group whose every member is protected is left out of the report.\n"
         "\n"
         "options:\n"
         "  --method sampled|full|name  how files are compared (default full: whole content;\n"
@@ -124,6 +129,8 @@ QString CliOptions::usage()
         "  --only EXT,...              scan only these extensions\n"
         "  --ignore EXT,...            skip these extensions\n"
         "  --ignore-path PATH          skip this folder or file (repeatable)\n"
+        "  --protect DIR               never select anything in this folder (repeatable;\n"
+        "                              saved with the project)\n"
         "  --include-hidden            include hidden files and folders\n"
         "  --no-cache                  read every file; neither use nor update the keys\n"
         "                              kept from earlier scans\n"
@@ -249,6 +256,8 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
             m_targetFolder = QDir::cleanPath(QFileInfo(arguments.at(++i)).absoluteFilePath());
         } else if (removing && argument == QLatin1String("--keep-structure")) {
             m_keepStructure = true;
+        } else if (removing && argument == QLatin1String("--protect") && hasValue) {
+            m_protected.append(ProtectedFolders::normalised(arguments.at(++i)));
         } else if (removing && argument == QLatin1String("--dry-run")) {
             m_dryRun = true;
         } else if (removing && argument == QLatin1String("--allow-all-copies")) {
@@ -441,6 +450,10 @@ CliOptions::Taken CliOptions::takeScanOption(Option &option)
         if (!option.takeValue())
             return Failed;
         m_ignorePaths.append(QDir::cleanPath(QFileInfo(option.value).absoluteFilePath()));
+    } else if (name == QLatin1String("--protect")) {
+        if (!option.takeValue())
+            return Failed;
+        m_protected.append(ProtectedFolders::normalised(option.value));
     } else if (name == QLatin1String("--include-hidden") && option.isFlag()) {
         m_includeHidden = true;
     } else if (name == QLatin1String("--folders") && option.isFlag()) {

@@ -40,6 +40,8 @@ public:
     bool listBatches() const { return m_listBatches; }
     QString batchId() const { return m_batchId; }
     QStringList folders() const { return m_folders; }
+    // scan and remove: folders nothing in which is selected or removed (--protect).
+    QStringList protectedFolders() const { return m_protected; }
     // scan --cloud: "remote:path" folders listed through rclone instead of local folders,
     // and the rclone configuration that names the remotes (empty: the data folder's own).
     QStringList cloudFolders() const { return m_cloudFolders; }
@@ -130,6 +132,7 @@ private:
     QStringList m_only;
     QStringList m_ignore;
     QStringList m_ignorePaths;
+    QStringList m_protected;
     QMap<QString, int> m_priorities;
     QString m_savePath;
     QString m_logDirectory;

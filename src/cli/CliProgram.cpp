@@ -12,6 +12,7 @@
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/GroupMember.h"
 #include "engine/PictureStage.h"
+#include "engine/ProtectedFolders.h"
 #include "engine/TFileData.h"
 #include "fileops/CloudRemover.h"
 #include "fileops/TOpenSaveThread.h"
@@ -54,13 +55,29 @@ struct OutputGroup
     bool verified = true;
 };
 
-QList<OutputGroup> collectGroups()
+// Whether every member of a group lies in a protected folder: nothing in it can be
+// acted on, so it is no result to show.
+bool allProtected(const QStringList &members, const ProtectedFolders &folders)
+{
+    return !folders.isEmpty()
+        && std::all_of(members.cbegin(), members.cend(),
+            [&](const QString &e) { return folders.protects(GroupMember::fromEntry(e).path); });
+}
+
+// The groups to report; leftOut counts those whose every member is protected.
+QList<OutputGroup> collectGroups(qint64 &leftOut)
 {
     TFileData *store = TFileData::instance();
     QList<OutputGroup> groups;
     const TFileData::Groups files = store->groups();
     const TFileData::Groups selected = store->selected();
+    const ProtectedFolders sheltered = store->protectedFolders();
+    leftOut = 0;
     for (auto it = files.begin(); it != files.end(); ++it) {
+        if (allProtected(it.value(), sheltered)) {
+            ++leftOut;
+            continue;
+        }
         const bool similar = GroupMember::anySimilar(GroupMember::fromEntries(it.value()));
         groups.append(
             OutputGroup {it.key(), similar ? QStringLiteral("similar") : QStringLiteral("files"),
@@ -72,6 +89,10 @@ QList<OutputGroup> collectGroups()
         OutputGroup group {it.key(), QStringLiteral("folders"), {}, {}};
         for (const DirGroupEntry &entry : it.value())
             group.files.append(entry.folderPath);
+        if (allProtected(group.files, sheltered)) {
+            ++leftOut;
+            continue;
+        }
         group.selected = selected.value(it.key());
         groups.append(group);
     }
@@ -121,11 +142,13 @@ struct KeySources
 };
 
 void printJson(qint64 scannedFiles, double seconds, const QList<OutputGroup> &groups,
-    const Unread &unread, const KeySources &keys)
+    const Unread &unread, const KeySources &keys, qint64 protectedLeftOut)
 {
     std::FILE *out = stdout;
     std::fprintf(out, "{\"scannedFiles\": %lld, \"seconds\": %.3f,",
         static_cast<long long>(scannedFiles), seconds);
+    std::fprintf(
+        out, " \"protectedGroupsLeftOut\": %lld,", static_cast<long long>(protectedLeftOut));
     if (keys.cached >= 0)
         std::fprintf(out, " \"cachedKeys\": %lld, \"overlappedKeys\": %lld,",
             static_cast<long long>(keys.cached), static_cast<long long>(keys.overlapped));
@@ -233,13 +256,17 @@ void printUnread(const Unread &unread, const QString &summary)
 }
 
 void printGroups(const CliOptions &options, qint64 scannedFiles, double seconds,
-    const QList<OutputGroup> &groups, const Unread &unread, const KeySources &keys = {})
+    const QList<OutputGroup> &groups, qint64 protectedLeftOut, const Unread &unread,
+    const KeySources &keys = {})
 {
     if (options.json())
-        printJson(scannedFiles, seconds, groups, unread, keys);
+        printJson(scannedFiles, seconds, groups, unread, keys, protectedLeftOut);
     else
         printText(groups);
     std::fflush(stdout);
+    if (protectedLeftOut > 0 && (!options.json() || ::isatty(STDERR_FILENO) != 1))
+        std::fprintf(stderr, "%lld %s left out: every member is in a protected folder\n",
+            static_cast<long long>(protectedLeftOut), protectedLeftOut == 1 ? "group" : "groups");
 }
 
 // The report command: a saved project's groups and selection, read through the same
@@ -250,8 +277,9 @@ int runReport(const CliOptions &options)
     QString scanTime;
     if (const int status = ProjectLoader::load(options.projectPath(), &scanned, &scanTime))
         return status;
-    const QList<OutputGroup> groups = collectGroups();
-    printGroups(options, scanned, 0.0, groups, Unread());
+    qint64 leftOut = 0;
+    const QList<OutputGroup> groups = collectGroups(leftOut);
+    printGroups(options, scanned, 0.0, groups, leftOut, Unread());
     if (!options.json())
         std::fprintf(stderr, "%lld groups of a scan of %lld files (%s)\n",
             static_cast<long long>(groups.size()), static_cast<long long>(scanned),
@@ -307,8 +335,9 @@ int runCloudScan(const CliOptions &options)
             },
             priorities);
     }
-    const QList<OutputGroup> groups = collectGroups();
-    printGroups(options, cloud->scannedFileCount(), seconds, groups, Unread());
+    qint64 leftOut = 0;
+    const QList<OutputGroup> groups = collectGroups(leftOut);
+    printGroups(options, cloud->scannedFileCount(), seconds, groups, leftOut, Unread());
     if (!options.json() || ::isatty(STDERR_FILENO) != 1)
         std::fprintf(stderr, "%d files listed, %lld groups, %.3f seconds\n",
             cloud->scannedFileCount(), static_cast<long long>(groups.size()), seconds);
@@ -393,6 +422,8 @@ int runLocalScan(const CliOptions &options)
     QStringList roots;
     if (const int status = scanRoots(options, roots); status != 0)
         return status;
+    // Before the scan: the finder's selection already leaves protected members alone.
+    TFileData::instance()->setProtectedFolders(ProtectedFolders(options.protectedFolders()));
     TControlUI controller;
     if (!options.useCache())
         controller.finder()->setCacheOptions(ContentKeyCache::Options {});
@@ -414,9 +445,10 @@ int runLocalScan(const CliOptions &options)
         GroupItemAutoSelector::autoSelectAllEx(groups, GroupItemAutoSelector::selectAllFiles);
     }
 
-    const QList<OutputGroup> groups = collectGroups();
+    qint64 leftOut = 0;
+    const QList<OutputGroup> groups = collectGroups(leftOut);
     const Unread unread = unreadOf(controller.problems());
-    printGroups(options, controller.scannedFileCount(), seconds, groups, unread,
+    printGroups(options, controller.scannedFileCount(), seconds, groups, leftOut, unread,
         KeySources {controller.finder()->keysFromCache(), controller.finder()->overlappedKeys()});
 
     int status = options.savePath().isEmpty() ? 0 : saveProject(options, controller, seconds);

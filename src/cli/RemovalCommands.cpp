@@ -4,6 +4,8 @@
 #include "cli/CliOptions.h"
 #include "cli/CliText.h"
 #include "cli/ProjectLoader.h"
+#include "engine/ProtectedFolders.h"
+#include "engine/TFileData.h"
 #include "fileops/LinkReplacer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
@@ -198,6 +200,10 @@ int RemovalCommands::remove(const CliOptions &options)
 {
     if (const int status = ProjectLoader::load(options.projectPath(), nullptr, nullptr, false))
         return status;
+    // The project's protected folders and this run's together.
+    TFileData *store = TFileData::instance();
+    store->setProtectedFolders(
+        ProtectedFolders(store->protectedFolders().folders() + options.protectedFolders()));
     RemovalRequest request
         = RemovalRequest::fromStore(options.removalMethod(), options.targetFolder());
     request.allowAllCopies = options.allowAllCopies();

@@ -30,6 +30,10 @@ inline const QString kDeviceAttribute = QStringLiteral("device");
 inline const QString kInodeAttribute = QStringLiteral("inode");
 inline const QString kContentKeyAttribute = QStringLiteral("contentKey");
 inline const QString kChangedAttribute = QStringLiteral("ctime");
+// The folders the project protects: <protected><Folder>/path</Folder>...</protected>,
+// beside "groups". A project without it protects nothing.
+inline const QString kProtectedElement = QStringLiteral("protected");
+inline const QString kProtectedFolderElement = QStringLiteral("Folder");
 // Longest path Windows accepts; anything longer cannot name a file.
 constexpr int kMaxPathLength = 32767;
 constexpr int kMaxKeyLength = 256;

@@ -108,6 +108,11 @@ ProjectFileReader::Failure ProjectFileReader::read()
                 break;
             continue;
         }
+        if (name == kProtectedElement) {
+            if (!readProtected())
+                break;
+            continue;
+        }
         if (name != kGroupElement) {
             // Elements of later versions are skipped, not trusted.
             m_xml.skipCurrentElement();
@@ -316,4 +321,27 @@ bool ProjectFileReader::readItem(Group &group, QSet<QString> &seen)
     if (isSelected)
         group.selected.insert(entry);
     return true;
+}
+
+bool ProjectFileReader::readProtected()
+{
+    const QString what = QStringLiteral("the protected folders");
+    while (m_failure.flag == TOpenSaveThread::ProjectSucceeded && m_xml.readNextStartElement()) {
+        if (m_xml.name() != kProtectedFolderElement) {
+            m_xml.skipCurrentElement();
+            continue;
+        }
+        QString folder;
+        if (!readPathText(folder, what))
+            return false;
+        // A folder the project cannot name exactly would protect something else, or
+        // nothing: the project is not trusted.
+        if (folder.isEmpty() || folder.size() > kMaxPathLength || !QDir::isAbsolutePath(folder)) {
+            refuse(TOpenSaveThread::ProjectInvalidContent,
+                at(QStringLiteral("%1 hold an invalid path").arg(what)));
+            return false;
+        }
+        m_protectedFolders.append(folder);
+    }
+    return m_failure.flag == TOpenSaveThread::ProjectSucceeded && !m_xml.hasError();
 }

@@ -58,6 +58,8 @@ public:
     const QStringList &roots() const { return m_roots; }
     // Groups the file lists, the ones left out included.
     qsizetype listedGroups() const { return m_listedGroups; }
+    // The folders the project protects (none in projects saved before there were any).
+    QStringList protectedFolders() const { return m_protectedFolders; }
 
 private:
     // Each returns false where reading stops.
@@ -68,6 +70,7 @@ private:
     // The text of the current element as a path, decoded where it is percent-encoded;
     // owner names what holds it in a refusal.
     bool readPathText(QString &path, const QString &owner);
+    bool readProtected();
     void refuse(int flag, const QString &reason);
     QString at(const QString &what) const;
 
@@ -89,6 +92,7 @@ private:
     // take it through one while the other counts on it as the copy that stays.
     QSet<QString> m_taken;
     qsizetype m_listedGroups = 0;
+    QStringList m_protectedFolders;
     qint64 m_entryCount = 0;
     bool m_sawRoot = false;
     bool m_sawGroups = false;

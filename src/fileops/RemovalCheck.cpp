@@ -20,6 +20,7 @@ const QString RemovalCheck::notIdentical
     = QStringLiteral("not identical (only parts were compared)");
 const QString RemovalCheck::folderNotCovered
     = QStringLiteral("not everything in it has a copy in the kept folder");
+const QString RemovalCheck::inProtectedFolder = QStringLiteral("in a protected folder");
 
 namespace {
 

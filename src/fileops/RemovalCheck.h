@@ -32,6 +32,7 @@ public:
     static const QString differentContent;
     static const QString notIdentical;
     static const QString folderNotCovered;
+    static const QString inProtectedFolder;
 
     // SampledFiles: found alike by parts of their content only, meant to be identical.
     enum GroupKind { IdenticalFiles, NamedFiles, SimilarPictures, Folders, SampledFiles };

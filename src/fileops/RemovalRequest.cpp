@@ -18,6 +18,7 @@ RemovalRequest RemovalRequest::fromStore(int method, const QString &targetFolder
     request.selected = store->selected();
     request.stamps = store->stamps();
     request.scanRoots = store->scanRoots();
+    request.protectedFolders = store->protectedFolders();
     for (auto it = request.groups.cbegin(); it != request.groups.cend(); ++it) {
         const TFileData::GroupMatch match = store->groupMatch(it.key());
         if (match == TFileData::MatchName)

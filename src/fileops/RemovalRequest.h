@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/ProtectedFolders.h"
 #include "engine/TFileData.h"
 
 #include <QSet>
@@ -34,6 +35,9 @@ struct RemovalRequest
     QSet<QString> nameGroups;
     // Groups the sampled mode found: their members may differ outside the parts it read.
     QSet<QString> sampledGroups;
+    // Nothing in these goes, whatever the selection says; their members count as copies
+    // that stay.
+    ProtectedFolders protectedFolders;
 
     // Why the batch cannot start at all, before anything moves (empty: it can): a target
     // folder that is a file, or a selected folder that holds the target folder.
@@ -43,6 +47,6 @@ struct RemovalRequest
     // it below the target (an item outside every scanned folder keeps its whole path).
     QString folderFor(const QString &path) const;
 
-    // The store's current groups, selection and stamps.
+    // The store's current groups, selection, stamps and protected folders.
     static RemovalRequest fromStore(int method, const QString &targetFolder);
 };

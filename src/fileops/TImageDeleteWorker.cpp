@@ -116,12 +116,22 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
                 .append(member);
         plan.selection = m_request.selected.value(key);
         QSet<GroupMember> leaving;
+        // A protected member is refused before anything else is judged: it stays, and so
+        // counts as a kept copy for the rest of its group.
+        QSet<GroupMember> refused;
         for (const QString &path : std::as_const(plan.selection))
-            for (const GroupMember &member : plan.entriesOf.value(path))
-                if (!leaving.contains(member)) {
-                    leaving.insert(member);
-                    plan.leaving.append(member);
+            for (const GroupMember &member : plan.entriesOf.value(path)) {
+                if (leaving.contains(member) || refused.contains(member))
+                    continue;
+                if (refuseProtected(member)) {
+                    refused.insert(member);
+                    continue;
                 }
+                leaving.insert(member);
+                plan.leaving.append(member);
+            }
+        if (!m_journalError.isEmpty())
+            return {};
         plan.everyCopy = !plan.members.isEmpty()
             && leaving.size() == QSet(plan.members.cbegin(), plan.members.cend()).size();
         // A selection of every copy keeps the first one, unless the caller said otherwise.
@@ -143,6 +153,18 @@ QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLea
     for (Plan &plan : plans)
         plan.stays = RemovalCheck::keptMembers(plan.kind, plan.members, batchLeaving);
     return plans;
+}
+
+bool TImageDeleteWorker::refuseProtected(const GroupMember &member)
+{
+    if (!m_request.protectedFolders.protectsOnDisk(member.path))
+        return false;
+    splog_d(
+        kTag + QStringLiteral("Skipped, %1: %2").arg(RemovalCheck::inProtectedFolder, member.path));
+    record(DeleteResult {member.path, false, DeleteResult::Skipped, QStringLiteral("Skipped."),
+               RemovalCheck::inProtectedFolder},
+        RemovalJournal::skipped);
+    return true;
 }
 
 bool TImageDeleteWorker::handle(

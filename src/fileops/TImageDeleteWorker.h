@@ -67,6 +67,8 @@ public slots:
 private:
     struct Plan;
     QList<Plan> plan(QSet<QString> &batchLeaving);
+    // Records a member in a protected folder as skipped; true when it is one.
+    bool refuseProtected(const GroupMember &member);
     // One item from its look to its outcome; false when the journal failed.
     bool handle(const Plan &plan, const GroupMember &member, class RemovalCheck &check, qint64 seq,
         bool &removed);

@@ -161,6 +161,19 @@ void writeRoots(QXmlStreamWriter &xml, const QStringList &roots)
     xml.writeEndElement();
 }
 
+void writeProtected(QXmlStreamWriter &xml, const QStringList &folders)
+{
+    if (folders.isEmpty())
+        return;
+    xml.writeStartElement(kProtectedElement);
+    for (const QString &folder : folders) {
+        xml.writeStartElement(kProtectedFolderElement);
+        writePath(xml, folder);
+        xml.writeEndElement();
+    }
+    xml.writeEndElement();
+}
+
 // The groups of a sound project as the disk has them now.
 struct OpenedGroups
 {
@@ -423,6 +436,7 @@ int TOpenSaveThread::saveDocument(
     const TFileData::DirGroups dirGroups = store->dirGroups();
     const TFileData::Groups selected = store->selected();
     const TFileData::Stamps stamps = store->stamps();
+    const QStringList protectedFolders = store->protectedFolders().folders();
 
     const QStringList keys = orderedKeys(groups, dirGroups, order);
 
@@ -444,6 +458,7 @@ int TOpenSaveThread::saveDocument(
     xml.writeAttribute(QStringLiteral("scanTime"), time.isEmpty() ? kDefaultScanTime : time);
     xml.writeAttribute(QStringLiteral("version"), AppIdentity::version);
     writeRoots(xml, store->scanRoots());
+    writeProtected(xml, protectedFolders);
     xml.writeStartElement(kGroupsElement);
     const double total = keys.size();
     double done = 0;
@@ -552,6 +567,8 @@ int TOpenSaveThread::openDocument(const QString &filepath, int &files, qint64 &s
             QStringLiteral("none of the %1 groups has two members left").arg(listedGroups));
 
     TFileData *store = TFileData::instance();
+    // Before the selection comes in, so that none of it lands on a protected member.
+    store->setProtectedFolders(ProtectedFolders(reader.protectedFolders()));
     store->replaceAll(groups, dirGroups, opened.selected);
     store->setScanRoots(reader.roots());
     TFileData::Stamps stamps;
