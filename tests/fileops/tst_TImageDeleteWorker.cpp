@@ -486,6 +486,53 @@ private slots:
             gone <= intended, qPrintable(QString("%1 gone, %2 on record").arg(gone).arg(intended)));
     }
 
+    // A protected member is refused whatever selection the worker is handed; it still
+    // counts as the copy that stays.
+    void protectedFolders_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("throughLink");
+        QTest::addColumn<bool>("selectBoth");
+        QTest::addColumn<bool>("dryRun");
+        QTest::addColumn<bool>("itemGoes");
+        QTest::newRow("the selected item's folder") << "b" << false << false << false << false;
+        QTest::newRow("the same in a dry run") << "b" << false << false << true << false;
+        QTest::newRow("a folder above both") << "" << false << false << false << false;
+        QTest::newRow("reached through a link") << "b" << true << false << false << false;
+        QTest::newRow("both selected, the protected one stays as the kept copy")
+            << "a" << false << true << false << true;
+    }
+    void protectedFolders()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, throughLink);
+        QFETCH(bool, selectBoth);
+        QFETCH(bool, dryRun);
+        QFETCH(bool, itemGoes);
+        Pair pair(TFileDeleter::removePermanently);
+        const QString shelter = QDir::cleanPath(pair.dir.path() + '/' + folder);
+        if (throughLink) {
+            const QString link = pair.dir.path() + "/link";
+            QVERIFY(QFile::link(pair.dir.path() + "/b", link));
+            pair.request.stamps.insert(link + "/x.bin", pair.request.stamps.value(pair.item));
+            pair.item = link + "/x.bin";
+            pair.request.groups["G"] = {pair.kept, pair.item};
+        }
+        pair.request.selected["G"]
+            = selectBoth ? QStringList {pair.kept, pair.item} : QStringList {pair.item};
+        pair.request.allowAllCopies = selectBoth;
+        pair.request.dryRun = dryRun;
+        pair.request.protectedFolders = ProtectedFolders({shelter});
+        const QList<DeleteResult> results = pair.run();
+        const QString refused = selectBoth ? pair.kept : pair.item;
+        const auto found = std::find_if(results.cbegin(), results.cend(),
+            [&refused](const DeleteResult &result) { return result.path == refused; });
+        QVERIFY(found != results.cend());
+        QCOMPARE(found->reason, RemovalCheck::inProtectedFolder);
+        QVERIFY(QFileInfo::exists(refused));
+        QCOMPARE(QFileInfo::exists(selectBoth ? pair.item : pair.kept), !itemGoes);
+    }
+
     void folders_data()
     {
         QTest::addColumn<bool>("extraFile");

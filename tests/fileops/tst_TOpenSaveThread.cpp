@@ -187,6 +187,44 @@ private slots:
         TFileData::instance()->clear();
     }
 
+    // The protected folders come back with the project, odd names included, and what they
+    // protect comes back unselected whatever the file says; a project saved before there
+    // were protected folders protects nothing.
+    void protectedFolders_data()
+    {
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<bool>("protectsGroup");
+        QTest::newRow("none") << QStringList() << false;
+        QTest::newRow("an odd name") << QStringList {"%D%/line\nbreak <&>"} << false;
+        QTest::newRow("the group's folder") << QStringList {"%D%/plain", "%D%/other"} << true;
+    }
+    void protectedFolders()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(bool, protectsGroup);
+        for (QString &folder : folders)
+            folder.replace("%D%", m_dir.path());
+        TFileData *store = TFileData::instance();
+        store->replaceAll({{"K1", {m_fileA, m_fileB}}}, {}, {{"K1", {m_fileB}}});
+        store->setProtectedFolders(ProtectedFolders(folders));
+        TOpenSaveThread thread;
+        const QString project = m_dir.filePath("protected.dupproj");
+        QCOMPARE(runSave(thread, project, 2, "00:00:01"), int(TOpenSaveThread::ProjectSucceeded));
+        // Handed a selection of the protected member, as a project edited elsewhere would.
+        QString text = QString::fromUtf8(ScanTree::read(project));
+        text.replace("<Item selected=\"0\"", "<Item selected=\"1\"");
+        QVERIFY(makeFile("protected.dupproj", text.toUtf8()) == project);
+        store->setProtectedFolders({});
+        fillSentinel();
+        QCOMPARE(runOpen(thread, project), int(TOpenSaveThread::ProjectSucceeded));
+        folders.sort();
+        QCOMPARE(store->protectedFolders().folders(), folders);
+        QCOMPARE(store->selectedOf("K1"),
+            protectsGroup ? QStringList() : (QStringList {m_fileA, m_fileB}));
+        store->setProtectedFolders({});
+        store->clear();
+    }
+
     void missingMembersAreLeftOut()
     {
         const QString text = QString(R"(<?xml version="1.0"?>
@@ -300,6 +338,8 @@ private slots:
         invalid("relative path", "%B%", "plain/b.txt");
         invalid("relative scanned folder", "  <groups>",
             "  <roots><Root>%A%</Root><Root>plain</Root></roots>\n  <groups>");
+        invalid("relative protected folder", "  <groups>",
+            "  <protected><Folder>plain</Folder></protected>\n  <groups>");
         invalid("empty path", "%B%", "");
         invalid("files and folders mixed", "%B%", "%C%");
         invalid("key listed twice", "  </groups>",
