@@ -5,7 +5,6 @@
 #include "cli/CliText.h"
 #include "cli/ProjectLoader.h"
 #include "engine/ProtectedFolders.h"
-#include "engine/TFileData.h"
 #include "fileops/LinkReplacer.h"
 #include "fileops/RemovalCheck.h"
 #include "fileops/RemovalJournal.h"
@@ -200,12 +199,12 @@ int RemovalCommands::remove(const CliOptions &options)
 {
     if (const int status = ProjectLoader::load(options.projectPath(), nullptr, nullptr, false))
         return status;
-    // The project's protected folders and this run's together.
-    TFileData *store = TFileData::instance();
-    store->setProtectedFolders(
-        ProtectedFolders(store->protectedFolders().folders() + options.protectedFolders()));
     RemovalRequest request
         = RemovalRequest::fromStore(options.removalMethod(), options.targetFolder());
+    // The project's protected folders and this run's together. The selection stays as
+    // saved, so that each item the run's folders hold back is listed with its reason.
+    request.protectedFolders
+        = ProtectedFolders(request.protectedFolders.folders() + options.protectedFolders());
     request.allowAllCopies = options.allowAllCopies();
     request.keepStructure = options.keepStructure();
     request.allowDifferentContent = options.allowDifferentContent();

@@ -239,6 +239,54 @@ private slots:
             QVERIFY(QFileInfo::exists(QString("%1/%2/one.bin").arg(root, folder)));
     }
 
+    // Downloads cleaned against a protected archive, the archive named at the scan (saved
+    // with the project) or only at the removal: whatever is selected, nothing in the
+    // archive moves, and a group that lies wholly in it is no result.
+    void protectedArchive_data()
+    {
+        QTest::addColumn<bool>("atScan");
+        QTest::addColumn<int>("removeExit");
+        QTest::newRow("protected at the scan") << true << 0;
+        QTest::newRow("protected only at the removal") << false << 5;
+    }
+    void protectedArchive()
+    {
+        QFETCH(bool, atScan);
+        QFETCH(int, removeExit);
+        QTemporaryDir dir;
+        const QString root = dir.path() + "/tree";
+        const QString archive = root + "/archive";
+        const QByteArray x = ScanTree::pattern(20000, 1);
+        const QByteArray z = ScanTree::pattern(9000, 2);
+        for (const char *name :
+            {"archive/x.bin", "archive/sub/x.bin", "down/x.bin", "down/x (1).bin"})
+            ScanTree::write(root, name, x);
+        ScanTree::write(root, "archive/z.bin", z);
+        ScanTree::write(root, "archive/sub/z.bin", z);
+        const QStringList protect {"--protect", archive};
+        const QString project = dir.path() + "/p.dupproj";
+        const CliRun scan = runCli(QStringList {"scan", "--select", "all", "--save", project, root}
+            + (atScan ? protect : QStringList()));
+        QCOMPARE(scan.exitCode, 0);
+        QCOMPARE(scan.out.contains("z.bin"), !atScan);
+        QCOMPARE(scan.err.contains("1 group left out"), atScan);
+        if (atScan) {
+            const CliRun report = runCli({"report", "--json", project});
+            QCOMPARE(QJsonDocument::fromJson(report.out).object().value("protectedGroupsLeftOut"),
+                QJsonValue(1));
+        }
+        const CliRun remove = runCli(QStringList {"remove", project, "--method", "permanent"}
+            + (atScan ? QStringList() : protect));
+        QCOMPARE(remove.exitCode, removeExit);
+        QCOMPARE(remove.err.contains("in a protected folder"), !atScan);
+        for (const char *name : {"archive/x.bin", "archive/sub/x.bin"})
+            QCOMPARE(ScanTree::read(root + '/' + name), x);
+        for (const char *name : {"archive/z.bin", "archive/sub/z.bin"})
+            QCOMPARE(ScanTree::read(root + '/' + name), z);
+        QVERIFY(!QFileInfo::exists(root + "/down/x.bin"));
+        QVERIFY(!QFileInfo::exists(root + "/down/x (1).bin"));
+    }
+
 private:
     TestEnvironment m_environment;
 };
