@@ -55,15 +55,6 @@ struct OutputGroup
     bool verified = true;
 };
 
-// Whether every member of a group lies in a protected folder: nothing in it can be
-// acted on, so it is no result to show.
-bool allProtected(const QStringList &members, const ProtectedFolders &folders)
-{
-    return !folders.isEmpty()
-        && std::all_of(members.cbegin(), members.cend(),
-            [&](const QString &e) { return folders.protects(GroupMember::fromEntry(e).path); });
-}
-
 // The groups to report; leftOut counts those whose every member is protected.
 QList<OutputGroup> collectGroups(qint64 &leftOut)
 {
@@ -74,7 +65,7 @@ QList<OutputGroup> collectGroups(qint64 &leftOut)
     const ProtectedFolders sheltered = store->protectedFolders();
     leftOut = 0;
     for (auto it = files.begin(); it != files.end(); ++it) {
-        if (allProtected(it.value(), sheltered)) {
+        if (sheltered.protectsEvery(it.value())) {
             ++leftOut;
             continue;
         }
@@ -89,7 +80,7 @@ QList<OutputGroup> collectGroups(qint64 &leftOut)
         OutputGroup group {it.key(), QStringLiteral("folders"), {}, {}};
         for (const DirGroupEntry &entry : it.value())
             group.files.append(entry.folderPath);
-        if (allProtected(group.files, sheltered)) {
+        if (sheltered.protectsEvery(group.files)) {
             ++leftOut;
             continue;
         }

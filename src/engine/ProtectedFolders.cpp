@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/ProtectedFolders.h"
 
+#include "engine/GroupMember.h"
+
 #include <algorithm>
 
 #include <QDir>
@@ -35,8 +37,18 @@ bool ProtectedFolders::protects(const QString &path) const
 {
     if (m_lookup.isEmpty() || path.isEmpty())
         return false;
-    const QString clean = QDir::isAbsolutePath(path) ? QDir::cleanPath(path) : normalised(path);
+    // Only local members have absolute paths; a cloud entry is never in a local folder.
+    if (!QDir::isAbsolutePath(path))
+        return false;
+    const QString clean = QDir::cleanPath(path);
     return liesIn(clean) || holds(clean);
+}
+
+bool ProtectedFolders::protectsEvery(const QStringList &entries) const
+{
+    return !m_lookup.isEmpty() && !entries.isEmpty()
+        && std::all_of(entries.cbegin(), entries.cend(),
+            [this](const QString &entry) { return protects(GroupMember::fromEntry(entry).path); });
 }
 
 bool ProtectedFolders::protectsOnDisk(const QString &path) const

@@ -27,8 +27,12 @@ public:
     QStringList folders() const { return m_given; }
     bool isEmpty() const { return m_given.isEmpty(); }
 
-    // By the path as written (a store entry's path, which the scan made absolute).
+    // By the path as written (a store entry's path, which the scan made absolute); a
+    // relative path (a cloud entry) is never protected.
     bool protects(const QString &path) const;
+    // Whether every one of a group's entries (GroupMember entries or folder paths) is
+    // protected: nothing in such a group can be acted on, so it is no result to show.
+    bool protectsEvery(const QStringList &entries) const;
     // Also by the path's place on disk, every link in its folders resolved: the last word
     // before something is removed, when a link may lead into a protected folder.
     bool protectsOnDisk(const QString &path) const;

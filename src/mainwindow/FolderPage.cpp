@@ -60,6 +60,10 @@ FolderPage::FolderPage(QWidget *parent) : QWidget(parent)
     m_pathView->setItemDelegate(delegate);
     connect(delegate, &CListViewDelegate::deleteItem, this, &FolderPage::deleteRequested,
         Qt::QueuedConnection);
+    connect(delegate, &CListViewDelegate::lockToggled, this, [this](const QModelIndex &index) {
+        setProtected(index.data(Qt::UserRole).toString(),
+            !index.data(CListViewDelegate::kProtectedRole).toBool());
+    });
     connect(m_pathView, &QListView::indexesMoved, this, &FolderPage::indexesMoved);
     connect(m_pathView->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FolderPage::currentChanged);
@@ -99,9 +103,37 @@ bool FolderPage::addFolder(const QString &path)
         QIcon(QStringLiteral(":/resource/folder.png")), QDir::toNativeSeparators(folder));
     item->setToolTip(QDir::toNativeSeparators(folder));
     item->setData(folder, Qt::UserRole);
+    item->setData(false, CListViewDelegate::kProtectedRole);
     m_pathModel->appendRow(item);
     selectLast();
     return true;
+}
+
+QStringList FolderPage::protectedFolders() const
+{
+    QStringList locked;
+    for (int row = 0; row < m_pathModel->rowCount(); ++row) {
+        const QStandardItem *item = m_pathModel->item(row);
+        if (item->data(CListViewDelegate::kProtectedRole).toBool())
+            locked.append(item->data(Qt::UserRole).toString());
+    }
+    return locked;
+}
+
+bool FolderPage::setProtected(const QString &folder, bool locked)
+{
+    for (int row = 0; row < m_pathModel->rowCount(); ++row) {
+        QStandardItem *item = m_pathModel->item(row);
+        if (item->data(Qt::UserRole).toString() != folder
+            || !item->data(CListViewDelegate::kProtectedRole).isValid())
+            continue;
+        splog_d(kTag
+            + QStringLiteral("%1 a directory :%2")
+                  .arg(locked ? QStringLiteral("Protect") : QStringLiteral("Unprotect"), folder));
+        item->setData(locked, CListViewDelegate::kProtectedRole);
+        return true;
+    }
+    return false;
 }
 
 void FolderPage::tellRefused(const ScanRootList::SortedPaths &sorted)

@@ -26,6 +26,10 @@ public:
     QStringList folders() const { return m_folders; }
     QStringList cloudFolders() const { return m_cloudFolders; }
     bool isEmpty() const { return m_folders.isEmpty() && m_cloudFolders.isEmpty(); }
+    // The listed folders whose lock is closed: a scan selects nothing in them.
+    QStringList protectedFolders() const;
+    // Closes or opens a listed folder's lock; false when it is not listed.
+    bool setProtected(const QString &folder, bool locked);
 
     // Adds one folder to the list; false when it is already listed or not a folder.
     bool addFolder(const QString &path);

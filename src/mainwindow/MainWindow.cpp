@@ -8,6 +8,7 @@
 #include "app/LogTags.h"
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
+#include "engine/ProtectedFolders.h"
 #include "engine/ScanProblems.h"
 #include "engine/TFileData.h"
 #include "fileops/RemovalJournal.h"
@@ -472,8 +473,11 @@ void MainWindow::on_btn_scan_clicked()
         return;
     }
     if (m_cloud->isCloudMode()) {
-        if (!m_folderPage->cloudFolders().isEmpty())
+        if (!m_folderPage->cloudFolders().isEmpty()) {
+            // Local folders protect nothing of a cloud account.
+            TFileData::instance()->setProtectedFolders({});
             m_cloud->startScan();
+        }
         return;
     }
     if (m_folderPage->folders().isEmpty())
@@ -484,6 +488,10 @@ void MainWindow::on_btn_scan_clicked()
 void MainWindow::startLocalScan()
 {
     const QStringList roots = ScanRootList::pruneNested(m_folderPage->folders());
+    // The locked rows and the settings' list together; the finder's selection already
+    // leaves what they hold alone.
+    TFileData::instance()->setProtectedFolders(ProtectedFolders(m_folderPage->protectedFolders()
+        + DFPreferences::instance()->ignoreListPreferences()->ProtectedFolderList()));
     // The controller refuses settings that would spoil the scan; the window then stays
     // ready with the folders as they are.
     const QString refused = TControlUI::instance()->startScan(roots);

@@ -24,6 +24,7 @@ DFIgnoreListPreferences &DFIgnoreListPreferences::operator=(const DFIgnoreListPr
     m_trashFolder = other.m_trashFolder;
     m_keepFolderStructure = other.m_keepFolderStructure;
     m_ignorePathFile = other.m_ignorePathFile;
+    m_protectedFolders = other.m_protectedFolders;
     m_ignoreFileType = other.m_ignoreFileType;
     m_onlyFileType = other.m_onlyFileType;
     m_hideSystemFile = other.m_hideSystemFile;

@@ -7,8 +7,8 @@
 #include <QObject>
 #include <QStringList>
 
-// The common settings (settings group "Common"): size bounds, ignore and only lists,
-// removal method and its target folder, remembered folders, worker-thread count and
+// The common settings (settings group "Common"): size bounds, ignore, protected and only
+// lists, removal method and its target folder, remembered folders, worker-thread count and
 // the deletion-in-progress marker. Every Q_PROPERTY is persisted by DFPreferences under
 // its own name, in declaration order; a property added here is stored without more code.
 class DFIgnoreListPreferences : public QObject
@@ -21,6 +21,8 @@ class DFIgnoreListPreferences : public QObject
     Q_PROPERTY(QString TrashFolder READ TrashFolder WRITE setTrashFolder)
     Q_PROPERTY(bool KeepFolderStructure READ KeepFolderStructure WRITE setKeepFolderStructure)
     Q_PROPERTY(QStringList IgnorePathFile READ IgnorePathFile WRITE setIgnorePathFile)
+    Q_PROPERTY(
+        QStringList ProtectedFolderList READ ProtectedFolderList WRITE setProtectedFolderList)
     Q_PROPERTY(QStringList IgnoreFileType READ IgnoreFileType WRITE setIgnoreFileType)
     Q_PROPERTY(QStringList OnlyFileType READ OnlyFileType WRITE setOnlyFileType)
     Q_PROPERTY(bool HideSystemFile READ HideSystemFile WRITE setHideSystemFile)
@@ -67,6 +69,8 @@ public:
     void setKeepFolderStructure(bool value) { m_keepFolderStructure = value; }
     QStringList IgnorePathFile() const { return m_ignorePathFile; }
     void setIgnorePathFile(const QStringList &value) { m_ignorePathFile = value; }
+    QStringList ProtectedFolderList() const { return m_protectedFolders; }
+    void setProtectedFolderList(const QStringList &value) { m_protectedFolders = value; }
     QStringList IgnoreFileType() const { return m_ignoreFileType; }
     void setIgnoreFileType(const QStringList &value) { m_ignoreFileType = value; }
     QStringList OnlyFileType() const { return m_onlyFileType; }
@@ -94,6 +98,7 @@ private:
     QString m_trashFolder;
     bool m_keepFolderStructure = false;
     QStringList m_ignorePathFile;
+    QStringList m_protectedFolders;
     QStringList m_ignoreFileType;
     QStringList m_onlyFileType;
     bool m_hideSystemFile = false;

@@ -77,6 +77,10 @@ inline constexpr Setting KeepFolderStructure {
     Group::Common, "KeepFolderStructure", QLatin1String(), Kind::Flag, 0};
 inline constexpr Setting IgnorePathFile {
     Group::Common, "IgnorePathFile", SnapshotKeys::ignorePathFile, Kind::TextList, 0};
+// Folders nothing in which is selected or removed. The window hands them to the result
+// store when a scan starts, so the scan engines never read them from a snapshot.
+inline constexpr Setting ProtectedFolderList {
+    Group::Common, "ProtectedFolderList", QLatin1String(), Kind::TextList, 0};
 inline constexpr Setting IgnoreFileType {
     Group::Common, "IgnoreFileType", SnapshotKeys::ignoreFileType, Kind::TextList, 0};
 inline constexpr Setting OnlyFileType {
@@ -141,12 +145,13 @@ inline constexpr Setting imageMinSize {
     Group::Similar, "imageMinSize", SnapshotKeys::imageMinSize, Kind::Number, 4, 1, 10};
 
 // In the order of the file and of the snapshots.
-inline constexpr const Setting *all[] = {&ThreadCount, &RemovealMethod, &MaxFileSize, &MinFileSize,
-    &TrashFolder, &KeepFolderStructure, &IgnorePathFile, &IgnoreFileType, &OnlyFileType,
-    &HideSystemFile, &ScanFileType, &OpenFolder, &SaveFolder, &deleteException, &IgnoreBundle,
-    &scanMethod, &selectDuplicate, &mapPriority, &scanDupDirectory, &similarSelectHint, &hasSimilar,
-    &SimilarityValue, &FeaturesValue, &selectedSimilar, &scanPriority, &selectionHint,
-    &algorithmHint, &isAddFeatures, &isImageType, &isImageSize, &imageMinSize};
+inline constexpr const Setting *all[]
+    = {&ThreadCount, &RemovealMethod, &MaxFileSize, &MinFileSize, &TrashFolder,
+        &KeepFolderStructure, &IgnorePathFile, &ProtectedFolderList, &IgnoreFileType, &OnlyFileType,
+        &HideSystemFile, &ScanFileType, &OpenFolder, &SaveFolder, &deleteException, &IgnoreBundle,
+        &scanMethod, &selectDuplicate, &mapPriority, &scanDupDirectory, &similarSelectHint,
+        &hasSimilar, &SimilarityValue, &FeaturesValue, &selectedSimilar, &scanPriority,
+        &selectionHint, &algorithmHint, &isAddFeatures, &isImageType, &isImageSize, &imageMinSize};
 
 // The setting stored under a key of "preferences.cfg", or nullptr.
 inline const Setting *byFileKey(const char *key)

@@ -1,12 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/CListViewDelegate.h"
 
+#include "widgets/LockArt.h"
+
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 CListViewDelegate::CListViewDelegate(QObject *parent)
-    : QStyledItemDelegate(parent), m_clear(QStringLiteral(":/resource/btn_clear.png"))
+    : QStyledItemDelegate(parent)
+    , m_clear(QStringLiteral(":/resource/btn_clear.png"))
+    , m_locked(LockArt::closed())
+    , m_unlocked(LockArt::open())
 { }
+
+QRect CListViewDelegate::lockRect(const QRect &row)
+{
+    return QRect(row.right() - 19 - kButtonSide - 8, row.top(), kButtonSide, kButtonSide);
+}
+
+QString CListViewDelegate::lockToolTip(bool locked)
+{
+    return locked ? tr("Protected: nothing in this folder is selected or removed. Click to "
+                       "lift the protection.")
+                  : tr("Protect this folder: nothing in it will be selected or removed.");
+}
 
 QRect CListViewDelegate::paintRect(const QRect &row)
 {
@@ -24,10 +47,38 @@ void CListViewDelegate::paint(
     if (!index.isValid())
         return;
     QStyleOptionViewItem plain(option);
+    initStyleOption(&plain, index);
     plain.state &= ~QStyle::State_HasFocus;
-    QStyledItemDelegate::paint(painter, plain, index);
-    if (option.state & QStyle::State_MouseOver)
+    const QVariant locked = index.data(kProtectedRole);
+    const bool hover = option.state & QStyle::State_MouseOver;
+    // The text ends before the buttons, so that neither ever covers the folder's name.
+    const QWidget *widget = option.widget;
+    QStyle *style = widget ? widget->style() : QApplication::style();
+    const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &plain, widget);
+    const int buttonsLeft
+        = (locked.isValid() ? lockRect(option.rect) : hitRect(option.rect)).left() - 4;
+    const int room = std::min(textRect.width(), buttonsLeft - textRect.left());
+    plain.text = plain.fontMetrics.elidedText(plain.text, Qt::ElideLeft, std::max(0, room));
+    style->drawControl(QStyle::CE_ItemViewItem, &plain, painter, widget);
+    if (hover)
         painter->drawPixmap(paintRect(option.rect), m_clear);
+    if (locked.toBool())
+        m_locked.paint(painter, lockRect(option.rect).adjusted(2, 2, -2, -2));
+    else if (locked.isValid() && hover)
+        m_unlocked.paint(painter, lockRect(option.rect).adjusted(2, 2, -2, -2));
+}
+
+bool CListViewDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+    const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QVariant locked = index.data(kProtectedRole);
+    if (event->type() == QEvent::ToolTip && locked.isValid()
+        && lockRect(option.rect).contains(event->pos())) {
+        QToolTip::showText(
+            event->globalPos(), lockToolTip(locked.toBool()), view, lockRect(option.rect));
+        return true;
+    }
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
 }
 
 bool CListViewDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
@@ -35,7 +86,12 @@ bool CListViewDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
 {
     if (event->type() == QEvent::MouseButtonPress) {
         const auto *mouse = static_cast<QMouseEvent *>(event);
-        if (hitRect(option.rect).contains(mouse->position().toPoint()))
+        const QPoint at = mouse->position().toPoint();
+        if (index.data(kProtectedRole).isValid() && lockRect(option.rect).contains(at)) {
+            emit lockToggled(index);
+            return true;
+        }
+        if (hitRect(option.rect).contains(at))
             emit deleteItem(index);
     }
     return QStyledItemDelegate::editorEvent(event, model, option, index);

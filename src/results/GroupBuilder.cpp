@@ -91,10 +91,21 @@ QList<GroupItem> GroupBuilder::buildAll(
     source.dirGroups = store->dirGroups();
     source.isCloud = isCloud;
     source.cloud = cloud;
-    QStringList keys = source.groups.keys();
-    for (auto it = source.dirGroups.cbegin(); it != source.dirGroups.cend(); ++it)
-        if (!source.groups.contains(it.key()))
+    // A group whose every member is protected offers nothing to remove: it is not shown.
+    const ProtectedFolders sheltered = store->protectedFolders();
+    QStringList keys;
+    for (auto it = source.groups.cbegin(); it != source.groups.cend(); ++it)
+        if (!sheltered.protectsEvery(it.value()))
             keys.append(it.key());
+    for (auto it = source.dirGroups.cbegin(); it != source.dirGroups.cend(); ++it) {
+        if (source.groups.contains(it.key()))
+            continue;
+        QStringList folders;
+        for (const DirGroupEntry &entry : it.value())
+            folders.append(entry.folderPath);
+        if (!sheltered.protectsEvery(folders))
+            keys.append(it.key());
+    }
 
     std::atomic<qint64> sizeTotal {0};
     std::atomic<int> selectedTotal {0};

@@ -16,6 +16,8 @@ struct ImageItem
     QString dateText;
     bool hidden = false;
     bool checked = false;
+    // In a protected folder: kept whatever happens, never checked.
+    bool locked = false;
     int type = 7;
     int similarity = 0;
     // Why a similar picture joined its group, where the measure tells.

@@ -239,5 +239,7 @@ void PicturePreviewPane::syncCheck()
 {
     const QSignalBlocker quiet(m_remove);
     m_remove->setChecked(m_index.isValid() && m_index.data(TImageModel::CheckedRole).toBool());
-    m_remove->setEnabled(m_index.isValid());
+    const bool locked = m_index.data(TImageModel::ProtectedRole).toBool();
+    m_remove->setEnabled(m_index.isValid() && !locked);
+    m_remove->setToolTip(locked ? TImageModel::protectedText() : QString());
 }

@@ -234,6 +234,7 @@ void ResultGroupLoader::showMembers(const QList<IndexFileGroup> &members)
     const QStringList selected = store->selectedOf(m_memberKey);
     const TFileData::GroupMatch match = store->groupMatch(m_memberKey);
     const bool unverified = match != TFileData::MatchContent;
+    const ProtectedFolders sheltered = store->protectedFolders();
     QList<ImageItem> items;
     items.reserve(members.size());
     QStringList folders;
@@ -249,6 +250,7 @@ void ResultGroupLoader::showMembers(const QList<IndexFileGroup> &members)
         item.dateText = member.createdTime;
         item.checked
             = selected.contains(member.file.path) || selected.contains(member.file.entry());
+        item.locked = !m_isCloud && sheltered.protects(member.file.path);
         item.type = m_isCloud ? getFileType(QFileInfo(member.name).suffix())
                               : getPathCategory(member.file.path);
         item.similarity = member.similarity;

@@ -4,6 +4,7 @@
 #include "app/FileTypeCatalogue.h"
 #include "results/PathElider.h"
 #include "results/TImageModel.h"
+#include "widgets/LockArt.h"
 
 #include <algorithm>
 
@@ -52,7 +53,9 @@ QString nameOf(const QModelIndex &index)
 
 } // namespace
 
-TImageItemDelegate::TImageItemDelegate(QObject *parent) : QStyledItemDelegate(parent) { }
+TImageItemDelegate::TImageItemDelegate(QObject *parent)
+    : QStyledItemDelegate(parent), m_lock(LockArt::closed())
+{ }
 
 QRect TImageItemDelegate::tileRect(const QRect &cell) const
 {
@@ -111,6 +114,7 @@ void TImageItemDelegate::paint(
     painter->setRenderHint(QPainter::Antialiasing);
     const QRectF cell = QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5);
     const bool checked = index.data(TImageModel::CheckedRole).toBool();
+    const bool locked = index.data(TImageModel::ProtectedRole).toBool();
     if (option.state & QStyle::State_Selected) {
         painter->setPen(Qt::NoPen);
         painter->setBrush(kSelected);
@@ -119,11 +123,18 @@ void TImageItemDelegate::paint(
         painter->setPen(Qt::NoPen);
         painter->setBrush(kHover);
         painter->drawRoundedRect(cell, kCellRadius, kCellRadius);
+    } else if (locked) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(LockArt::tint());
+        painter->drawRoundedRect(cell, kCellRadius, kCellRadius);
     }
 
     const QRect tile = tileRect(option.rect);
     paintTile(painter, option, index, tile);
-    paintCheck(painter, checkRect(option.rect), checked);
+    if (locked)
+        paintLock(painter, checkRect(option.rect));
+    else
+        paintCheck(painter, checkRect(option.rect), checked);
     const int similarity = index.data(TImageModel::SimilarityRole).toInt();
     // Identical copies count as 100 % similar; only a near match is worth a badge.
     if (similarity > 0 && similarity < 100)
@@ -195,6 +206,20 @@ void TImageItemDelegate::paintCheck(QPainter *painter, const QRect &box, bool ch
     painter->setPen(QPen(Qt::white, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->setBrush(Qt::NoBrush);
     painter->drawPath(tick);
+}
+
+void TImageItemDelegate::paintLock(QPainter *painter, const QRect &box) const
+{
+    // The place of the check box, so that a protected copy reads as one that cannot be
+    // checked; a white disc keeps the lock legible on any picture.
+    const QRectF frame = QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->setPen(QPen(kBoxBorder, 1.2));
+    painter->setBrush(QColor(255, 255, 255, 235));
+    painter->drawRoundedRect(frame, 5, 5);
+    const int side = std::max(8, box.width() - 6);
+    QRect lock(0, 0, side, side);
+    lock.moveCenter(box.center());
+    m_lock.paint(painter, lock);
 }
 
 void TImageItemDelegate::paintBadge(
@@ -315,6 +340,9 @@ bool TImageItemDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
     if (event->type() != QEvent::ToolTip || !index.isValid())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const QString path = index.data(TImageModel::FilePathRole).toString();
-    QToolTip::showText(event->globalPos(), QDir::toNativeSeparators(path), view, option.rect);
+    QString text = QDir::toNativeSeparators(path);
+    if (index.data(TImageModel::ProtectedRole).toBool())
+        text += QLatin1Char('\n') + TImageModel::protectedText();
+    QToolTip::showText(event->globalPos(), text, view, option.rect);
     return true;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCache>
+#include <QIcon>
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
@@ -53,6 +54,8 @@ private:
     void paintTile(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
         const QRect &tile) const;
     void paintCheck(QPainter *painter, const QRect &box, bool checked) const;
+    // A protected copy's lock, where its check box would be.
+    void paintLock(QPainter *painter, const QRect &box) const;
     void paintBadge(QPainter *painter, const QStyleOptionViewItem &option, const QRect &tile,
         int similarity) const;
     void paintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
@@ -64,5 +67,6 @@ private:
     bool m_followAspect = false;
     QList<int> m_flowWidths;
     QPersistentModelIndex m_pressed;
+    QIcon m_lock;
     mutable QCache<QString, QString> m_dimensions {4000};
 };

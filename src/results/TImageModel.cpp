@@ -61,9 +61,17 @@ Qt::ItemFlags TImageModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    if (index.column() == 0)
+    // A protected copy's box takes no check: the store would refuse it anyway.
+    const bool locked
+        = m_mode == IconView && index.row() < m_items.size() && m_items.at(index.row()).locked;
+    if (index.column() == 0 && !locked)
         return Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled;
     return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+}
+
+QString TImageModel::protectedText()
+{
+    return tr("In a protected folder: this copy is always kept and cannot be selected.");
 }
 
 QString TImageModel::sizeText(qint64 bytes)
@@ -180,6 +188,10 @@ QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, 
             return tr("Hide from results");
         if (column == OpenColumn)
             return tr("Show in the file manager");
+        if (item.locked)
+            return column == CheckColumn
+                ? protectedText()
+                : QDir::toNativeSeparators(item.path) + QLatin1Char('\n') + protectedText();
         return QDir::toNativeSeparators(item.path);
     case FolderRole:
         return QDir::toNativeSeparators(QFileInfo(item.path).path());
@@ -221,6 +233,8 @@ QVariant TImageModel::itemData(const ImageItem &item, const QModelIndex &index, 
     }
     case CheckedRole:
         return item.checked;
+    case ProtectedRole:
+        return item.locked;
     case HiddenRole:
         return item.hidden;
     case GroupIndexRole:
@@ -251,6 +265,8 @@ bool TImageModel::setData(const QModelIndex &index, const QVariant &value, int r
         return false;
     const bool checked = value.toBool();
     ImageItem &item = m_items[index.row()];
+    if (checked && item.locked)
+        return false;
     if (item.checked == checked) {
         if (notify)
             emit onItemSelectedChange(item.key, item.path, checked, item.groupIndex, notify);

@@ -59,6 +59,8 @@ public:
         DistinctFromRole = 277,
         // Why a similar picture joined its group ("robust, distance 4, mirrored").
         MatchReasonRole = 278,
+        // The item lies in a protected folder (ImageItem::locked).
+        ProtectedRole = 279,
     };
 
     // The columns of the file list (IconView mode).
@@ -152,6 +154,9 @@ public:
     const QList<ImageItem> &allItems() const { return m_allItems; }
     int pendingLoadCount() const { return m_thumbnails.pendingCount(); }
     bool hasThumbnail(const QString &path) const { return m_thumbnails.contains(path); }
+
+    // Why a protected copy's check box cannot be used, as every view of it says.
+    static QString protectedText();
 
     // Shared helpers, public for the pages that show the same texts.
     static QString sizeText(qint64 bytes);

@@ -3,6 +3,7 @@
 
 #include "results/PathElider.h"
 #include "results/TImageModel.h"
+#include "widgets/LockArt.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -10,7 +11,9 @@
 #include <QPainter>
 #include <QStyle>
 
-TTableViewDelegate::TTableViewDelegate(QObject *parent) : QStyledItemDelegate(parent) { }
+TTableViewDelegate::TTableViewDelegate(QObject *parent)
+    : QStyledItemDelegate(parent), m_lock(LockArt::closed())
+{ }
 
 QRect TTableViewDelegate::iconRect(const QRect &cell, bool pressed) const
 {
@@ -26,7 +29,18 @@ void TTableViewDelegate::paint(
 {
     painter->save();
     const int column = index.column();
-    if (column == kHideColumn || column == kOpenColumn) {
+    const bool locked = index.data(TImageModel::ProtectedRole).toBool();
+    QStyleOptionViewItem muted(option);
+    if (locked) {
+        if (!(option.state & QStyle::State_Selected))
+            painter->fillRect(option.rect, LockArt::tint());
+        muted.palette.setColor(QPalette::Text, LockArt::text());
+    }
+    if (locked && column == kCheckColumn) {
+        QRect lock(0, 0, 16, 16);
+        lock.moveCenter(option.rect.center());
+        m_lock.paint(painter, lock);
+    } else if (column == kHideColumn || column == kOpenColumn) {
         const QIcon icon(column == kHideColumn ? QStringLiteral(":/resource/hideFile.png")
                                                : QStringLiteral(":/resource/openInFinder.png"));
         const bool pressed = m_pressed.isValid() && m_pressed == index;
@@ -43,7 +57,7 @@ void TTableViewDelegate::paint(
         style->drawControl(QStyle::CE_CheckBox, &box, painter, widget);
     } else if (column == TImageModel::FolderColumn) {
         // Shortened so that what tells the copies apart stays in view.
-        QStyleOptionViewItem cell(option);
+        QStyleOptionViewItem cell(muted);
         initStyleOption(&cell, index);
         const QWidget *widget = option.widget;
         QStyle *style = widget ? widget->style() : QApplication::style();
@@ -52,7 +66,7 @@ void TTableViewDelegate::paint(
             cell.fontMetrics, textRect.width() - 8);
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, widget);
     } else {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyledItemDelegate::paint(painter, muted, index);
     }
     painter->restore();
 }
@@ -87,6 +101,8 @@ bool TTableViewDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
             return true;
         }
         if (column == kCheckColumn && inside) {
+            if (index.data(TImageModel::ProtectedRole).toBool())
+                return true;
             const int state = index.data(Qt::CheckStateRole).toInt();
             const int next = state == 2 ? 0 : 2;
             if (auto *images = qobject_cast<TImageModel *>(model))

@@ -3,12 +3,14 @@
 
 #include "results/TImageModel.h"
 
+#include <QIcon>
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
 // Draws the check box and the two action icons of the detail table of a group's files
 // and turns clicks on them into a check-state change or a signal. An icon fires only
-// when the button goes down and comes up on the same cell.
+// when the button goes down and comes up on the same cell. A protected copy's row is
+// tinted and muted, and a lock stands where its check box would be.
 class TTableViewDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -35,4 +37,5 @@ signals:
 
 private:
     QPersistentModelIndex m_pressed;
+    QIcon m_lock;
 };

@@ -4,6 +4,7 @@
 #include "engine/ContentKeyCache.h"
 #include "preferences/SettingsTable.h"
 #include "settingsdialog/DroppedPaths.h"
+#include "settingsdialog/ProtectedFolderList.h"
 #include "ui_IgnoreList.h"
 
 #include <QDir>
@@ -87,6 +88,17 @@ DFIgnoreListWidget::DFIgnoreListWidget(QWidget *parent)
     connect(ui->chkIgnoreSystemHidden, &QCheckBox::toggled, this,
         [this](bool on) { m_preferences.setHideSystemFile(on); });
 
+    // Beside the ignore list, which it resembles: both say what a scan must leave alone.
+    m_protected = new ProtectedFolderList(this);
+    const int listsAt = ui->verticalLayout->indexOf(ui->groupIgnoreList);
+    ui->verticalLayout->removeWidget(ui->groupIgnoreList);
+    auto *listsRow = new QHBoxLayout;
+    listsRow->addWidget(ui->groupIgnoreList, 3);
+    listsRow->addWidget(m_protected, 2);
+    ui->verticalLayout->insertLayout(listsAt, listsRow, 1);
+    connect(m_protected, &ProtectedFolderList::foldersChanged, this,
+        [this](const QStringList &folders) { m_preferences.setProtectedFolderList(folders); });
+
     // The key cache is no setting: clearing it acts at once, whatever the dialog's answer.
     auto *cacheRow = new QHBoxLayout;
     m_cacheSize = new QLabel(this);
@@ -163,6 +175,7 @@ void DFIgnoreListWidget::refresh()
         item->setToolTip(QDir::toNativeSeparators(path));
     }
     updateListButtons();
+    m_protected->setFolders(m_preferences.ProtectedFolderList());
 
     ui->linEditIgnore->setText(m_preferences.IgnoreFileType().join(QLatin1Char(',')));
     ui->linEditOnly->setText(m_preferences.OnlyFileType().join(QLatin1Char(',')));
@@ -257,6 +270,7 @@ bool DFIgnoreListWidget::eventFilter(QObject *watched, QEvent *event)
 void DFIgnoreListWidget::retranslate()
 {
     ui->retranslateUi(this);
+    m_protected->retranslate();
     refresh();
 }
 

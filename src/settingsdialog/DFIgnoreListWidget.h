@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+class ProtectedFolderList;
 class QLabel;
 class QPushButton;
 
@@ -15,9 +16,9 @@ class IgnoreList;
 }
 
 // Tab "General" of the preferences dialog: removal method and its folder, size bounds,
-// the ignore list, the extension lists, the hidden-file switch, and the size of the key
-// cache with a button that clears it. Edits a private copy
-// of the common settings; the dialog takes the copy over on OK.
+// the ignore list and beside it the protected folders, the extension lists, the hidden-file switch,
+// and the size of the key cache with a button that clears it. Edits a private copy of the common
+// settings; the dialog takes the copy over on OK.
 class DFIgnoreListWidget : public QWidget
 {
     Q_OBJECT
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<Ui::IgnoreList> ui;
     QLabel *m_cacheSize = nullptr;
     QPushButton *m_clearCache = nullptr;
+    ProtectedFolderList *m_protected = nullptr;
     DFIgnoreListPreferences m_preferences;
     // Set while refresh() puts values into the controls, so that they are not written
     // back half-filled.
