@@ -82,6 +82,7 @@ private slots:
                                     "MinFileSize=0\n"
                                     "OnlyFileType=@Invalid()\n"
                                     "OpenFolder=\n"
+                                    "ProtectedFolderList=@Invalid()\n"
                                     "RemovealMethod=0\n"
                                     "SaveFolder=\n"
                                     "ScanFileType=0\n"

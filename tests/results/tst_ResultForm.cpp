@@ -538,6 +538,43 @@ private slots:
         QVERIFY(!TFileData::instance()->isSelected(TFileData::groupKey(z), m));
     }
 
+    // A copy in a protected folder shows why it cannot be checked, and no way of checking
+    // it works; a group of protected copies only is not listed at all.
+    void protectedCopies()
+    {
+        const QByteArray content = ScanTree::pattern(900, 'p');
+        const QString kept = file("archive/r.txt", content);
+        const QString loose = file("down/r.txt", content);
+        const QString key = TFileData::groupKey(kept);
+        TFileData::instance()->insertGroup(key, {kept, loose});
+        const QStringList archived {file("archive/s.txt", "s"), file("archive/sub/s.txt", "s")};
+        TFileData::instance()->insertGroup(TFileData::groupKey(archived.first()), archived);
+        TFileData::instance()->setProtectedFolders(ProtectedFolders({m_tree.path() + "/archive"}));
+        ResultForm *page = openPage();
+        page->setViewMode(ResultForm::ListMode);
+        QCOMPARE(page->groupModel()->rowCount(), 1);
+        QTRY_COMPARE(page->itemModel()->rowCount(), 2);
+        auto *table = page->findChild<QTableView *>("tableView_files");
+        for (int row = 0; row < 2; ++row) {
+            const QModelIndex box = page->itemModel()->index(row, TImageModel::CheckColumn);
+            const bool locked = box.data(TImageModel::FilePathRole).toString() == kept;
+            QCOMPARE(box.data(TImageModel::ProtectedRole).toBool(), locked);
+            QCOMPARE(bool(box.flags() & Qt::ItemIsUserCheckable), !locked);
+            if (locked)
+                QCOMPARE(box.data(Qt::ToolTipRole).toString(), TImageModel::protectedText());
+            QTest::mouseClick(
+                table->viewport(), Qt::LeftButton, {}, table->visualRect(box).center());
+            table->setFocus();
+            table->setCurrentIndex(box.siblingAtColumn(TImageModel::NameColumn));
+            QTest::keyClick(table, Qt::Key_Space);
+            QTest::keyClick(table, Qt::Key_Space);
+            QCOMPARE(TFileData::instance()->isSelected(
+                         key, box.data(TImageModel::FilePathRole).toString()),
+                !locked);
+        }
+        TFileData::instance()->setProtectedFolders({});
+    }
+
     void sampledGroupThatDiffersLeavesThePage()
     {
         // The sampled mode reads parts of a file: two files that agree there may differ
