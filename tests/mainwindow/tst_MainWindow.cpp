@@ -18,6 +18,7 @@
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
+#include "results/CListViewDelegate.h"
 #include "results/TImageModel.h"
 #include "scancontrol/TControlUI.h"
 #include "settingsdialog/DFPreferencesDialog.h"
@@ -33,6 +34,7 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
@@ -274,6 +276,45 @@ private slots:
                     .contains("Scan stopped – results are incomplete"));
         QCOMPARE(child<QLabel>("lab_stage")->text(), "Scan stopped – results are incomplete");
         QDir(m_tree.filePath("many")).removeRecursively();
+    }
+
+    // Folder "a" protected by its lock on the folder list or by the settings' list: the
+    // scan selects only the copies in "b", with the default rule every one of them.
+    void protectedFolder_data()
+    {
+        QTest::addColumn<bool>("byLock");
+        QTest::newRow("the lock on the folder list") << true;
+        QTest::newRow("the settings' list") << false;
+    }
+    void protectedFolder()
+    {
+        QFETCH(bool, byLock);
+        const QString a = m_tree.filePath("a");
+        DFIgnoreListPreferences *common = DFPreferences::instance()->ignoreListPreferences();
+        common->setProtectedFolderList(byLock ? QStringList() : QStringList {a});
+        QVERIFY(m_window->addFolder(a));
+        QVERIFY(m_window->addFolder(m_tree.filePath("b")));
+        if (byLock) {
+            auto *list = child<QListView>("listview_path");
+            const QModelIndex row = list->model()->index(0, 0);
+            const QRect lock = CListViewDelegate::lockRect(list->visualRect(row));
+            QTest::mouseMove(list->viewport(), lock.center());
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, lock.center());
+            QVERIFY(row.data(CListViewDelegate::kProtectedRole).toBool());
+        }
+        QSignalSpy done(TControlUI::instance(), &TControlUI::onAllComplate);
+        QTest::mouseClick(child<QPushButton>("btn_scan"), Qt::LeftButton);
+        QVERIFY(done.wait(30000));
+        common->setProtectedFolderList({});
+        const TFileData::Groups groups = TFileData::instance()->groups();
+        QCOMPARE(groups.size(), 2);
+        for (auto it = groups.cbegin(); it != groups.cend(); ++it) {
+            QStringList inB = it.value().filter(m_tree.filePath("b/"));
+            QStringList selected = TFileData::instance()->selectedOf(it.key());
+            inB.sort();
+            selected.sort();
+            QCOMPARE(selected, inB);
+        }
     }
 
     void defaultMethodGroupsOnlyIdenticalFiles()
