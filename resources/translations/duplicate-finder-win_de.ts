@@ -1793,6 +1793,10 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
         <source>Modified</source>
         <translation>Geändert</translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>In einem geschützten Ordner: Diese Kopie wird immer behalten und kann nicht ausgewählt werden.</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1868,6 +1872,44 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>Andere</translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>Geschützt: In diesem Ordner wird nichts ausgewählt oder entfernt. Klicken, um den Schutz aufzuheben.</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>Diesen Ordner schützen: Nichts darin wird ausgewählt oder entfernt.</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>Geschützte Ordner</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>In diesen Ordnern wird nie etwas ausgewählt oder entfernt. Ihre Kopien zählen weiterhin als die, die bleiben.</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Ordner auswählen</translation>
     </message>
 </context>
 </TS>

@@ -1793,6 +1793,10 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <source>Modified</source>
         <translation>Modificado</translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>En una carpeta protegida: esta copia siempre se conserva y no se puede seleccionar.</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1868,6 +1872,44 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>Otros</translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>Protegida</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>Protegida: no se selecciona ni se elimina nada de esta carpeta. Haga clic para quitar la protección.</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>Proteger esta carpeta: no se seleccionará ni eliminará nada de su interior.</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>Carpetas protegidas</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>Nunca se selecciona ni se elimina nada de estas carpetas. Sus copias siguen contando como las que se quedan.</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
     </message>
 </context>
 </TS>

@@ -1793,6 +1793,10 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
         <source>Modified</source>
         <translation>Modifié</translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>Dans un dossier protégé : cette copie est toujours conservée et ne peut pas être sélectionnée.</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1868,6 +1872,44 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>Autres</translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>Protégé</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>Protégé : rien dans ce dossier n'est sélectionné ni supprimé. Cliquez pour lever la protection.</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>Protéger ce dossier : rien de ce qu'il contient ne sera sélectionné ni supprimé.</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>Dossiers protégés</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>Rien dans ces dossiers n'est jamais sélectionné ni supprimé. Leurs copies comptent toujours comme celles qui restent.</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Sélectionner un dossier</translation>
     </message>
 </context>
 </TS>

@@ -1793,6 +1793,10 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
         <source>Modified</source>
         <translation>Modificato</translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>In una cartella protetta: questa copia viene sempre mantenuta e non può essere selezionata.</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1868,6 +1872,44 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>Altri</translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>Protetta</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>Protetta: nulla in questa cartella viene selezionato o rimosso. Fai clic per togliere la protezione.</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>Proteggi questa cartella: nulla al suo interno verrà selezionato o rimosso.</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>Cartelle protette</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>Nulla in queste cartelle viene mai selezionato o rimosso. Le loro copie contano comunque come quelle che restano.</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Aggiungi cartella</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Seleziona cartella</translation>
     </message>
 </context>
 </TS>

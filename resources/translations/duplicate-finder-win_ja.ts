@@ -1778,6 +1778,10 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <source>Modified</source>
         <translation>更新日時</translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>保護されたフォルダー内: このコピーは常に残され、選択できません。</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1853,6 +1857,44 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>その他</translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>保護中</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>保護中: このフォルダー内のものは選択も削除もされません。クリックすると保護を解除します。</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>このフォルダーを保護: 中のものは選択も削除もされません。</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>保護されたフォルダー</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>これらのフォルダー内のものは決して選択も削除もされません。そのコピーは残るコピーとして数えられます。</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>フォルダーを追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>フォルダーを選択</translation>
     </message>
 </context>
 </TS>

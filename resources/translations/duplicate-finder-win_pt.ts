@@ -1793,6 +1793,10 @@ Remover também todas as cópias desses ficheiros? Com &quot;Não&quot;, fica um
         <source>Modified</source>
         <translation>Modificado</translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>Numa pasta protegida: esta cópia é sempre mantida e não pode ser selecionada.</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1868,6 +1872,44 @@ Remover também todas as cópias desses ficheiros? Com &quot;Não&quot;, fica um
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation>Outros</translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>Protegida</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>Protegida: nada nesta pasta é selecionado ou removido. Clique para retirar a proteção.</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>Proteger esta pasta: nada nela será selecionado ou removido.</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>Pastas protegidas</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>Nada nestas pastas é alguma vez selecionado ou removido. As suas cópias continuam a contar como as que ficam.</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Adicionar pasta</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Selecionar pasta</translation>
     </message>
 </context>
 </TS>

@@ -1748,6 +1748,10 @@ Remove them too?</numerusform>
         <source>Modified</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>In a protected folder: this copy is always kept and cannot be selected.</source>
+        <translation>In a protected folder: this copy is always kept and cannot be selected.</translation>
+    </message>
 </context>
 <context>
     <name>TOpenSaveThread</name>
@@ -1823,6 +1827,44 @@ Remove them too?</numerusform>
         <location filename="../../src/results/TPieChart.cpp" line="199"/>
         <source>Others</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CListViewDelegate</name>
+    <message>
+        <source>Protected</source>
+        <translation>Protected</translation>
+    </message>
+    <message>
+        <source>Protected: nothing in this folder is selected or removed. Click to lift the protection.</source>
+        <translation>Protected: nothing in this folder is selected or removed. Click to lift the protection.</translation>
+    </message>
+    <message>
+        <source>Protect this folder: nothing in it will be selected or removed.</source>
+        <translation>Protect this folder: nothing in it will be selected or removed.</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolderList</name>
+    <message>
+        <source>Protected folders</source>
+        <translation>Protected folders</translation>
+    </message>
+    <message>
+        <source>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</source>
+        <translation>Nothing in these folders is ever selected or removed. Their copies still count as the ones that stay.</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Add folder</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Select Folder</translation>
     </message>
 </context>
 </TS>

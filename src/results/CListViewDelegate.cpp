@@ -21,7 +21,9 @@ CListViewDelegate::CListViewDelegate(QObject *parent)
 
 QRect CListViewDelegate::lockRect(const QRect &row)
 {
-    return QRect(row.right() - 19 - kButtonSide - 8, row.top(), kButtonSide, kButtonSide);
+    // Centred on the row's text, whose name it belongs to.
+    return QRect(row.right() - 19 - kButtonSide - 8, row.center().y() - kButtonSide / 2 + 1,
+        kButtonSide, kButtonSide);
 }
 
 QString CListViewDelegate::lockToolTip(bool locked)
@@ -55,16 +57,33 @@ void CListViewDelegate::paint(
     const QWidget *widget = option.widget;
     QStyle *style = widget ? widget->style() : QApplication::style();
     const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &plain, widget);
-    const int buttonsLeft
-        = (locked.isValid() ? lockRect(option.rect) : hitRect(option.rect)).left() - 4;
+    // A protected row says so in words beside its lock.
+    QFont small(option.font);
+    if (small.pixelSize() > 0)
+        small.setPixelSize(std::max(9, small.pixelSize() - 1));
+    else
+        small.setPointSizeF(small.pointSizeF() * 0.9);
+    const QString caption = locked.toBool() ? tr("Protected") : QString();
+    const int captionWidth
+        = caption.isEmpty() ? 0 : QFontMetrics(small).horizontalAdvance(caption) + 4;
+    const int buttonsLeft = (locked.isValid() ? lockRect(option.rect) : hitRect(option.rect)).left()
+        - 8 - captionWidth;
     const int room = std::min(textRect.width(), buttonsLeft - textRect.left());
     plain.text = plain.fontMetrics.elidedText(plain.text, Qt::ElideLeft, std::max(0, room));
     style->drawControl(QStyle::CE_ItemViewItem, &plain, painter, widget);
     if (hover)
         painter->drawPixmap(paintRect(option.rect), m_clear);
-    if (locked.toBool())
-        m_locked.paint(painter, lockRect(option.rect).adjusted(2, 2, -2, -2));
-    else if (locked.isValid() && hover)
+    if (locked.toBool()) {
+        const QRect lock = lockRect(option.rect);
+        m_locked.paint(painter, lock.adjusted(2, 2, -2, -2));
+        painter->save();
+        painter->setFont(small);
+        painter->setPen(LockArt::mark());
+        painter->drawText(
+            QRect(lock.left() - captionWidth, lock.top(), captionWidth, lock.height()),
+            Qt::AlignRight | Qt::AlignVCenter, caption);
+        painter->restore();
+    } else if (locked.isValid() && hover)
         m_unlocked.paint(painter, lockRect(option.rect).adjusted(2, 2, -2, -2));
 }
 

@@ -19,7 +19,9 @@ ProtectedFolderList::ProtectedFolderList(QWidget *parent)
     m_list->setObjectName(QStringLiteral("lwProtectedFolders"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setIconSize(QSize(16, 16));
-    m_list->setTextElideMode(Qt::ElideLeft);
+    // As the ignore list beside it: the start and the end of a path stay in view.
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setAcceptDrops(true);
     m_list->viewport()->installEventFilter(this);
     layout->addWidget(m_list, 1);

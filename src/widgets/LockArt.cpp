@@ -23,4 +23,9 @@ QColor text()
     return QColor(0x6b, 0x73, 0x85);
 }
 
+QColor mark()
+{
+    return QColor(0x2f, 0x6f, 0xae);
+}
+
 } // namespace LockArt

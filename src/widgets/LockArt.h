@@ -15,5 +15,7 @@ QIcon closed();
 QIcon open();
 QColor tint();
 QColor text();
+// The lock's own colour, for a word set beside it.
+QColor mark();
 
 } // namespace LockArt

@@ -16,6 +16,7 @@
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
 #include "preferences/DFSelectionPreferences.h"
+#include "results/CListViewDelegate.h"
 #include "results/ResultForm.h"
 #include "scancontrol/TControlUI.h"
 #include "settingsdialog/DFPreferencesDialog.h"
@@ -25,6 +26,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QListView>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
@@ -67,6 +69,10 @@ void shootLanguage(const Language &language, const QSize &size, const QString &r
         window.addFolder(QDir(root).filePath(QString::fromLatin1(name)));
     window.addFolder(QDir(root).filePath(QStringLiteral(
         "Archive of the family pictures taken between 1998 and 2012/Holidays in the mountains")));
+    // The photo archive locked, as a user cleaning the other folders against it has it.
+    auto *folders = window.findChild<QListView *>(QStringLiteral("listview_path"));
+    folders->model()->setData(
+        folders->model()->index(0, 0), true, CListViewDelegate::kProtectedRole);
     save(&window, out, prefix + QStringLiteral("2-folders-added"));
 
     auto *pages = window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
@@ -259,6 +265,10 @@ void fillSettings(const QString &root)
         root
             + QStringLiteral("/Archive of the family pictures taken between 1998 and "
                              "2012/Holidays in the mountains/raw exports")});
+    store->ignoreListPreferences()->setProtectedFolderList({root + QStringLiteral("/Photos"),
+        root
+            + QStringLiteral("/Archive of the family pictures taken between 1998 and "
+                             "2012")});
     store->ignoreListPreferences()->setOnlyFileType(
         {QStringLiteral("jpg"), QStringLiteral("png"), QStringLiteral("heic")});
     store->ignoreListPreferences()->setIgnoreFileType({QStringLiteral("tmp")});

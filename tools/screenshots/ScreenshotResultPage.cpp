@@ -15,6 +15,8 @@
 #include "results/ResultForm.h"
 #include "results/TImageListView.h"
 
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QBuffer>
@@ -129,6 +131,9 @@ void fillResults(const QString &root)
     group(root,
         {QStringLiteral("Downloads/installer.zip"), QStringLiteral("Desktop/installer-copy.zip")},
         bytes(2400000));
+    // The summer album is the user's archive: its copies stay, drawn as protected.
+    TFileData::instance()->setProtectedFolders(
+        ProtectedFolders({root + QStringLiteral("/Pictures/2019")}));
     QList<QPair<QString, QStringList>> pairs;
     const TFileData::Groups groups = TFileData::instance()->groups();
     for (auto it = groups.cbegin(); it != groups.cend(); ++it)
@@ -217,6 +222,22 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
     if (grid->preview())
         grid->preview()->close();
 
+    // A group holding a copy in the protected archive, in both views.
+    const ProtectedFolders archive = TFileData::instance()->protectedFolders();
+    for (int row = 0; row < page.groupModel()->rowCount(); ++row) {
+        const QStringList files = page.groupModel()->displayedGroups().at(row).files;
+        if (std::any_of(files.cbegin(), files.cend(),
+                [&archive](const QString &file) { return archive.protects(file); })) {
+            groups->setCurrentIndex(page.groupModel()->index(row, 0));
+            break;
+        }
+    }
+    QTest::qWait(700);
+    save(&page, out, prefix + QStringLiteral("14-protected-grid"));
+    page.setViewMode(ResultForm::ListMode);
+    save(&page, out, prefix + QStringLiteral("15-protected-list"));
+    page.setViewMode(ResultForm::GridMode);
+
     page.on_btn_archives_clicked();
     save(&page, out, prefix + QStringLiteral("9-empty-category"));
     page.on_btn_all_clicked();
@@ -224,7 +245,13 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
     // A removal: the question, the every-copy question, the summary.
     DFPreferences::instance()->ignoreListPreferences()->setRemovealMethod(
         DFIgnoreListPreferences::moveToTrash);
-    const QString someKey = TFileData::instance()->groups().keys().first();
+    // A group without a protected copy, so that every copy can be selected.
+    QString someKey;
+    const TFileData::Groups all = TFileData::instance()->groups();
+    for (auto it = all.cbegin(); it != all.cend() && someKey.isEmpty(); ++it)
+        if (!std::any_of(it->cbegin(), it->cend(),
+                [&archive](const QString &file) { return archive.protects(file); }))
+            someKey = it.key();
     TFileData::instance()->setSelected(someKey, TFileData::instance()->group(someKey));
     grabNextModal(out, prefix + QStringLiteral("10-confirm"), QMessageBox::Yes);
     QTimer::singleShot(1200, [out, prefix] {
