@@ -14,6 +14,7 @@
 // File shape (UTF-8 XML):
 //   <VeltrineDuplicateFinder fileCount="N" scanTime="hh:mm:ss" version="4.5.0">
 //     <roots><Root>/scanned/folder</Root> ...</roots>
+//     <protected><Folder>/absolute/folder</Folder> ...</protected>   (only when any)
 //     <groups>
 //       <GroupItem GroupType="0" GroupFlag="0" key="KEY">
 //         <Item selected="1">/absolute/path</Item> ...
@@ -26,11 +27,12 @@
 //
 // Opening never changes the store unless the whole file was read and checked: a file
 // that is not XML, is truncated, has another root, lacks a required attribute, holds a
-// group of fewer than two entries, a repeated key, a relative path, a percent-encoded
-// path holding a NUL byte or more entries than the limit is refused as a whole. A path
-// listed again (in its own group or a later one) and members that no longer exist on
-// disk are left out (each is logged); a group that keeps fewer than two members is left
-// out; if no group is left although the file listed some, the open fails as well.
+// group of fewer than two entries, a repeated key, a relative path (of a member, a
+// scanned folder or a protected folder), a percent-encoded path holding a NUL byte or
+// more entries than the limit is refused as a whole. A path listed again (in its own
+// group or a later one) and members that no longer exist on disk are left out (each is
+// logged); a group that keeps fewer than two members is left out; if no group is left
+// although the file listed some, the open fails as well.
 class TOpenSaveThread : public QThread
 {
     Q_OBJECT
