@@ -336,11 +336,13 @@ TFileData::Removable TFileData::removable() const
     Groups groups;
     DirGroups folders;
     Stamps stamps;
+    ProtectedFolders sheltered;
     {
         QReadLocker locker(&m_lock);
         groups = m_groups;
         folders = m_dirGroups;
         stamps = m_stamps;
+        sheltered = m_protected;
     }
     const auto sizeOf = [&stamps](const GroupMember &member) {
         const QString &path = member.path;
@@ -354,20 +356,34 @@ TFileData::Removable TFileData::removable() const
         if (entries.size() < 2)
             continue;
         const QList<GroupMember> members = GroupMember::fromEntries(entries);
-        totals.count += members.size() - 1;
+        // A protected member is the copy that stays; without one the first stays.
+        QList<GroupMember> going;
+        for (const GroupMember &member : members)
+            if (!sheltered.protects(member.path))
+                going.append(member);
+        if (going.size() == members.size())
+            going.removeFirst();
+        totals.count += going.size();
         if (GroupMember::anySimilar(members)) {
             // Similar pictures differ in size: each that could go counts its own.
-            for (qsizetype i = 1; i < members.size(); ++i)
-                totals.bytes += sizeOf(members.at(i));
+            for (const GroupMember &member : std::as_const(going))
+                totals.bytes += sizeOf(member);
         } else {
-            totals.bytes += (members.size() - 1) * sizeOf(members.first());
+            totals.bytes += going.size() * sizeOf(members.first());
         }
     }
-    for (const QList<DirGroupEntry> &entries : std::as_const(folders))
-        for (qsizetype i = 1; i < entries.size(); ++i) {
-            totals.count += entries.at(i).fileCount;
-            totals.bytes += entries.at(i).totalSize;
+    for (QList<DirGroupEntry> entries : std::as_const(folders)) {
+        const qsizetype size = entries.size();
+        entries.removeIf([&sheltered](const DirGroupEntry &entry) {
+            return sheltered.protects(entry.folderPath);
+        });
+        if (entries.size() == size && !entries.isEmpty())
+            entries.removeFirst();
+        for (const DirGroupEntry &entry : std::as_const(entries)) {
+            totals.count += entry.fileCount;
+            totals.bytes += entry.totalSize;
         }
+    }
     return totals;
 }
 

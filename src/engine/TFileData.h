@@ -103,8 +103,9 @@ public:
     // Whether an entry's path (or folder) is protected.
     bool isProtected(const QString &entry) const;
     // The copies that could go (every member of a group but the first; for a folder
-    // group the files of every folder but the first) and their bytes, as a scan counts
-    // them. Sizes come from the stamps the scan kept, else from the disk.
+    // group the files of every folder but the first; where a group has protected members,
+    // every member but those) and their bytes, as a scan counts them. Sizes come from the stamps
+    // the scan kept, else from the disk.
     struct Removable
     {
         qint64 count = 0;

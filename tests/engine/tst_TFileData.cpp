@@ -114,6 +114,9 @@ private slots:
         QVERIFY(!store()->selected().contains("G"));
         store()->replaceAll({{"G", group}}, {}, {{"G", group}});
         QCOMPARE(store()->selectedCount("G"), 2);
+        // Only the unprotected copies could go: the archive's both stay.
+        store()->insertGroup("H", {"/archive/x", "/archive/sub/x", "/down/x"});
+        QCOMPARE(store()->removable().count, 2 + 1);
         store()->clear();
         QCOMPARE(store()->protectedFolders().folders(), QStringList {"/archive"});
         store()->setProtectedFolders({});
