@@ -334,6 +334,12 @@ bool ProjectFileReader::readProtected()
         QString folder;
         if (!readPathText(folder, what))
             return false;
+        // Counted with the items, so that a hostile file cannot exhaust memory here either.
+        if (++m_entryCount > m_maxEntries) {
+            refuse(TOpenSaveThread::ProjectInvalidContent,
+                at(QStringLiteral("more than %1 entries").arg(m_maxEntries)));
+            return false;
+        }
         // A folder the project cannot name exactly would protect something else, or
         // nothing: the project is not trusted.
         if (folder.isEmpty() || folder.size() > kMaxPathLength || !QDir::isAbsolutePath(folder)) {
