@@ -467,10 +467,3 @@ ProtectedFolders TFileData::protectedFolders() const
     QReadLocker locker(&m_lock);
     return m_protected;
 }
-
-bool TFileData::isProtected(const QString &entry) const
-{
-    const QString path = GroupMember::fromEntry(entry).path;
-    QReadLocker locker(&m_lock);
-    return m_protected.protects(path);
-}

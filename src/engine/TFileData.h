@@ -100,8 +100,6 @@ public:
     // Replaces the protected folders and drops what they protect from the selection.
     void setProtectedFolders(const ProtectedFolders &folders);
     ProtectedFolders protectedFolders() const;
-    // Whether an entry's path (or folder) is protected.
-    bool isProtected(const QString &entry) const;
     // The copies that could go (every member of a group but the first; for a folder
     // group the files of every folder but the first; where a group has protected members,
     // every member but those) and their bytes, as a scan counts them. Sizes come from the stamps

@@ -94,7 +94,7 @@ private slots:
         QFETCH(bool, protects);
         QCOMPARE(ProtectedFolders(folders).protects(path), protects);
         store()->setProtectedFolders(ProtectedFolders(folders));
-        QCOMPARE(store()->isProtected(path + "_simlar_90"), protects);
+        QCOMPARE(store()->protectedFolders().protectsEvery({path + "_simlar_90"}), protects);
         store()->setProtectedFolders({});
     }
 
