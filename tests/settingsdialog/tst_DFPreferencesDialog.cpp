@@ -334,6 +334,10 @@ private slots:
         dropRow("only a file onto the table", "tableWidget", "", {"notes.txt"}, false, {});
         dropRow("folder already in the table", "tableWidget", "folder:@/photos",
             {"photos", "music"}, true, {"music=2", "photos=1"}, {"The folder has been added."});
+        dropRow("folders onto the protected list", "lwProtectedFolders", "",
+            {"photos", "notes.txt", "music"}, true, {"photos", "music"});
+        dropRow("only a file onto the protected list", "lwProtectedFolders", "", {"notes.txt"},
+            false, {});
     }
     void dropAddsPaths()
     {
@@ -369,7 +373,8 @@ private slots:
 
         QStringList actual;
         const QString root = tree.path() + '/';
-        for (const QString &path : m_dialog->ignoreListWidget()->preferences().IgnorePathFile())
+        const DFIgnoreListPreferences &common = m_dialog->ignoreListWidget()->preferences();
+        for (const QString &path : common.IgnorePathFile() + common.ProtectedFolderList())
             actual << QString(path).remove(root);
         const PriorityMap priorities = m_dialog->selectionWidget()->preferences().mapPriority();
         for (auto it = priorities.cbegin(); it != priorities.cend(); ++it)
