@@ -601,7 +601,8 @@ void TImageModel::removeDeletedFile(const QString &key, const QString &path)
     GroupItem &group = m_groups[row];
     dropRemoved(group.files, path);
 
-    if (group.files.size() > 1) {
+    if (group.files.size() > 1
+        && !TFileData::instance()->protectedFolders().protectsEvery(group.files)) {
         GroupBuilder::refreshAfterRemoval(group);
         const auto master = m_groupRows.constFind(key);
         if (master != m_groupRows.constEnd())
@@ -610,7 +611,8 @@ void TImageModel::removeDeletedFile(const QString &key, const QString &path)
         return;
     }
 
-    // One copy left is no longer a duplicate: the group leaves the list.
+    // One copy left is no longer a duplicate, and protected copies only offer nothing to
+    // remove: the group leaves the list.
     beginRemoveRows(QModelIndex(), row, row);
     m_groups.removeAt(row);
     const auto master = m_groupRows.constFind(key);
@@ -626,13 +628,15 @@ void TImageModel::removeDeletedFiles(const QHash<QString, QStringList> &removedB
         return;
     // One pass over both lists and one reset: a batch can touch every group, and a
     // search per removed file would cost the square of the group count.
-    auto update = [&removedByKey](GroupItem &group) {
+    // A group left with protected copies only has nothing more to offer: it goes too.
+    const ProtectedFolders sheltered = TFileData::instance()->protectedFolders();
+    auto update = [&removedByKey, &sheltered](GroupItem &group) {
         const auto removed = removedByKey.constFind(group.key);
         if (removed == removedByKey.constEnd())
             return true;
         for (const QString &path : *removed)
             dropRemoved(group.files, path);
-        if (group.files.size() < 2)
+        if (group.files.size() < 2 || sheltered.protectsEvery(group.files))
             return false;
         GroupBuilder::refreshAfterRemoval(group);
         return true;

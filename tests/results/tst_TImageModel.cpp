@@ -281,9 +281,11 @@ private slots:
         QTest::addColumn<bool>("similarEntries");
         QTest::addColumn<int>("rowsLeft");
         QTest::addColumn<int>("countLeft");
-        QTest::newRow("group of three keeps two") << 3 << false << 1 << 2;
-        QTest::newRow("last but one removes the group") << 2 << false << 0 << 0;
-        QTest::newRow("similar entries of the file go too") << 3 << true << 0 << 0;
+        QTest::addColumn<bool>("restProtected");
+        QTest::newRow("group of three keeps two") << 3 << false << 1 << 2 << false;
+        QTest::newRow("last but one removes the group") << 2 << false << 0 << 0 << false;
+        QTest::newRow("similar entries of the file go too") << 3 << true << 0 << 0 << false;
+        QTest::newRow("protected copies only are left") << 3 << false << 0 << 0 << true;
     }
     void removeDeletedFile()
     {
@@ -291,9 +293,13 @@ private slots:
         QFETCH(bool, similarEntries);
         QFETCH(int, rowsLeft);
         QFETCH(int, countLeft);
+        QFETCH(bool, restProtected);
         QStringList paths;
         for (int i = 0; i < members; ++i)
             paths << writeFile(QStringLiteral("rm%1/f.dat").arg(i), QByteArray(100, 'q'));
+        if (restProtected)
+            TFileData::instance()->setProtectedFolders(
+                ProtectedFolders({QFileInfo(paths[1]).path(), QFileInfo(paths[2]).path()}));
         const QString removed = paths.first();
         if (similarEntries)
             paths = {paths[0], GroupMember {paths[0], 97}.entry(), paths[1]};
@@ -323,6 +329,7 @@ private slots:
         QCOMPARE(rows, rowsLeft);
         QCOMPARE(count, countLeft);
         QCOMPARE(model.allGroups().size(), model.displayedGroups().size());
+        TFileData::instance()->setProtectedFolders({});
     }
 
     void removeRowsRange_data()
