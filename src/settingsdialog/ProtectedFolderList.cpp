@@ -4,7 +4,9 @@
 #include "settingsdialog/DroppedPaths.h"
 #include "widgets/LockArt.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
