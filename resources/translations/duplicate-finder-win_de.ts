@@ -2,6 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>CsvExportRun</name>
+    <message>
+        <source>Export Failed</source>
+        <translation>Export fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1:
+%2</source>
+        <translation>Die Tabelle konnte nicht nach %1 geschrieben werden:
+%2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Als CSV exportieren</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>CSV-Tabellen (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveTargetDialog</name>
+    <message>
+        <source>Move to Folder</source>
+        <translation>In Ordner verschieben</translation>
+    </message>
+    <message>
+        <source>Move the selected items into this folder:</source>
+        <translation>Die ausgewählten Elemente in diesen Ordner verschieben:</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>Keep the folder structure</source>
+        <translation>Ordnerstruktur beibehalten</translation>
+    </message>
+    <message>
+        <source>Each item goes into the same sub-folders below the target as below the scanned folder that holds it, so that moved files keep their context. Without it, every item lands in the target itself.</source>
+        <translation>Jedes Element kommt im Ziel in dieselben Unterordner wie unter dem durchsuchten Ordner, der es enthält, damit verschobene Dateien ihren Zusammenhang behalten. Ohne diese Option landet jedes Element direkt im Ziel.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+</context>
+<context>
     <name>CustomProgressDialog</name>
     <message>
         <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
@@ -1590,6 +1646,14 @@ Auch alle Kopien dieser Dateien entfernen? Mit „Nein“ bleibt von jeder Datei
         <location filename="../../src/results/ResultRemovalRun.cpp"/>
         <source>The copy that stays changed while the link was made.</source>
         <translation>Die verbleibende Kopie hat sich geändert, während der Link angelegt wurde.</translation>
+    </message>
+    <message>
+        <source>Export as CSV…</source>
+        <translation>Als CSV exportieren…</translation>
+    </message>
+    <message>
+        <source>Write every group as a table (CSV) for spreadsheets and scripts</source>
+        <translation>Alle Gruppen als Tabelle (CSV) für Tabellenkalkulationen und Skripte schreiben</translation>
     </message>
 </context>
 <context>

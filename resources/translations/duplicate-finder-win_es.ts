@@ -2,6 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES">
 <context>
+    <name>CsvExportRun</name>
+    <message>
+        <source>Export Failed</source>
+        <translation>Error al exportar</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1:
+%2</source>
+        <translation>No se pudo escribir la tabla en %1:
+%2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Exportar como CSV</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tablas CSV (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveTargetDialog</name>
+    <message>
+        <source>Move to Folder</source>
+        <translation>Mover a carpeta</translation>
+    </message>
+    <message>
+        <source>Move the selected items into this folder:</source>
+        <translation>Mover los elementos seleccionados a esta carpeta:</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Elija una carpeta</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Examinar…</translation>
+    </message>
+    <message>
+        <source>Keep the folder structure</source>
+        <translation>Mantener la estructura de carpetas</translation>
+    </message>
+    <message>
+        <source>Each item goes into the same sub-folders below the target as below the scanned folder that holds it, so that moved files keep their context. Without it, every item lands in the target itself.</source>
+        <translation>Cada elemento va a las mismas subcarpetas bajo el destino que tenía bajo la carpeta analizada que lo contiene, para que los archivos movidos conserven su contexto. Sin esto, cada elemento queda directamente en el destino.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+</context>
+<context>
     <name>CustomProgressDialog</name>
     <message>
         <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
@@ -1590,6 +1646,14 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/ResultRemovalRun.cpp"/>
         <source>The copy that stays changed while the link was made.</source>
         <translation>La copia que se conserva cambió mientras se creaba el enlace.</translation>
+    </message>
+    <message>
+        <source>Export as CSV…</source>
+        <translation>Exportar como CSV…</translation>
+    </message>
+    <message>
+        <source>Write every group as a table (CSV) for spreadsheets and scripts</source>
+        <translation>Escribir todos los grupos en una tabla (CSV) para hojas de cálculo y scripts</translation>
     </message>
 </context>
 <context>

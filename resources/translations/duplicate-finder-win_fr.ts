@@ -2,6 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>CsvExportRun</name>
+    <message>
+        <source>Export Failed</source>
+        <translation>Échec de l&apos;exportation</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1:
+%2</source>
+        <translation>Le tableau n&apos;a pas pu être écrit dans %1 :
+%2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Exporter en CSV</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tableaux CSV (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveTargetDialog</name>
+    <message>
+        <source>Move to Folder</source>
+        <translation>Déplacer vers un dossier</translation>
+    </message>
+    <message>
+        <source>Move the selected items into this folder:</source>
+        <translation>Déplacer les éléments sélectionnés dans ce dossier :</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisissez un dossier</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Parcourir…</translation>
+    </message>
+    <message>
+        <source>Keep the folder structure</source>
+        <translation>Conserver l&apos;arborescence des dossiers</translation>
+    </message>
+    <message>
+        <source>Each item goes into the same sub-folders below the target as below the scanned folder that holds it, so that moved files keep their context. Without it, every item lands in the target itself.</source>
+        <translation>Chaque élément va dans les mêmes sous-dossiers sous la cible que sous le dossier analysé qui le contient, afin que les fichiers déplacés gardent leur contexte. Sinon, chaque élément arrive directement dans la cible.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Sélectionner un dossier</translation>
+    </message>
+</context>
+<context>
     <name>CustomProgressDialog</name>
     <message>
         <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
@@ -1590,6 +1646,14 @@ Supprimer aussi toutes les copies de ces fichiers ? Avec « Non », une copie de
         <location filename="../../src/results/ResultRemovalRun.cpp"/>
         <source>The copy that stays changed while the link was made.</source>
         <translation>La copie conservée a changé pendant la création du lien.</translation>
+    </message>
+    <message>
+        <source>Export as CSV…</source>
+        <translation>Exporter en CSV…</translation>
+    </message>
+    <message>
+        <source>Write every group as a table (CSV) for spreadsheets and scripts</source>
+        <translation>Écrire tous les groupes dans un tableau (CSV) pour les tableurs et les scripts</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>CsvExportRun</name>
+    <message>
+        <source>Export Failed</source>
+        <translation>Esportazione non riuscita</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1:
+%2</source>
+        <translation>Impossibile scrivere la tabella in %1:
+%2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Esporta come CSV</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tabelle CSV (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveTargetDialog</name>
+    <message>
+        <source>Move to Folder</source>
+        <translation>Sposta nella cartella</translation>
+    </message>
+    <message>
+        <source>Move the selected items into this folder:</source>
+        <translation>Sposta gli elementi selezionati in questa cartella:</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Scegli una cartella</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Sfoglia…</translation>
+    </message>
+    <message>
+        <source>Keep the folder structure</source>
+        <translation>Mantieni la struttura delle cartelle</translation>
+    </message>
+    <message>
+        <source>Each item goes into the same sub-folders below the target as below the scanned folder that holds it, so that moved files keep their context. Without it, every item lands in the target itself.</source>
+        <translation>Ogni elemento va nelle stesse sottocartelle sotto la destinazione in cui si trovava sotto la cartella analizzata, così i file spostati mantengono il loro contesto. Altrimenti ogni elemento finisce direttamente nella destinazione.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Sposta</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Seleziona cartella</translation>
+    </message>
+</context>
+<context>
     <name>CustomProgressDialog</name>
     <message>
         <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
@@ -1590,6 +1646,14 @@ Rimuovere anche tutte le copie di questi file? Con &quot;No&quot; ne resta una c
         <location filename="../../src/results/ResultRemovalRun.cpp"/>
         <source>The copy that stays changed while the link was made.</source>
         <translation>La copia mantenuta è cambiata mentre veniva creato il collegamento.</translation>
+    </message>
+    <message>
+        <source>Export as CSV…</source>
+        <translation>Esporta come CSV…</translation>
+    </message>
+    <message>
+        <source>Write every group as a table (CSV) for spreadsheets and scripts</source>
+        <translation>Scrive tutti i gruppi in una tabella (CSV) per fogli di calcolo e script</translation>
     </message>
 </context>
 <context>

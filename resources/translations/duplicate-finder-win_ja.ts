@@ -2,6 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP">
 <context>
+    <name>CsvExportRun</name>
+    <message>
+        <source>Export Failed</source>
+        <translation>エクスポートに失敗しました</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1:
+%2</source>
+        <translation>表を %1 に書き込めませんでした:
+%2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>CSV としてエクスポート</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>CSV 表 (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveTargetDialog</name>
+    <message>
+        <source>Move to Folder</source>
+        <translation>フォルダーへ移動</translation>
+    </message>
+    <message>
+        <source>Move the selected items into this folder:</source>
+        <translation>選択した項目をこのフォルダーへ移動:</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>参照…</translation>
+    </message>
+    <message>
+        <source>Keep the folder structure</source>
+        <translation>フォルダー構造を保持</translation>
+    </message>
+    <message>
+        <source>Each item goes into the same sub-folders below the target as below the scanned folder that holds it, so that moved files keep their context. Without it, every item lands in the target itself.</source>
+        <translation>各項目は、それを含むスキャン対象フォルダーの下と同じサブフォルダーに移動先の下で配置されるため、移動したファイルの文脈が保たれます。オフの場合、すべての項目は移動先の直下に置かれます。</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+</context>
+<context>
     <name>CustomProgressDialog</name>
     <message>
         <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
@@ -1578,6 +1634,14 @@ Remove every copy of those files too? With &quot;No&quot; one copy of each stays
         <location filename="../../src/results/ResultRemovalRun.cpp"/>
         <source>The copy that stays changed while the link was made.</source>
         <translation>リンクの作成中に、残すコピーが変更されました。</translation>
+    </message>
+    <message>
+        <source>Export as CSV…</source>
+        <translation>CSV としてエクスポート…</translation>
+    </message>
+    <message>
+        <source>Write every group as a table (CSV) for spreadsheets and scripts</source>
+        <translation>すべてのグループを表計算ソフトやスクリプト用の表（CSV）として書き出します</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_PT">
 <context>
+    <name>CsvExportRun</name>
+    <message>
+        <source>Export Failed</source>
+        <translation>Falha na exportação</translation>
+    </message>
+    <message>
+        <source>The table could not be written to %1:
+%2</source>
+        <translation>Não foi possível escrever a tabela em %1:
+%2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Exportar como CSV</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tabelas CSV (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveTargetDialog</name>
+    <message>
+        <source>Move to Folder</source>
+        <translation>Mover para pasta</translation>
+    </message>
+    <message>
+        <source>Move the selected items into this folder:</source>
+        <translation>Mover os itens selecionados para esta pasta:</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Escolha uma pasta</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Procurar…</translation>
+    </message>
+    <message>
+        <source>Keep the folder structure</source>
+        <translation>Manter a estrutura de pastas</translation>
+    </message>
+    <message>
+        <source>Each item goes into the same sub-folders below the target as below the scanned folder that holds it, so that moved files keep their context. Without it, every item lands in the target itself.</source>
+        <translation>Cada item vai para as mesmas subpastas no destino que tinha sob a pasta analisada que o contém, para que os ficheiros movidos mantenham o seu contexto. Sem isto, cada item fica diretamente no destino.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Selecionar pasta</translation>
+    </message>
+</context>
+<context>
     <name>CustomProgressDialog</name>
     <message>
         <location filename="../../src/widgets/CustomProgressDialog.cpp" line="34"/>
@@ -1590,6 +1646,14 @@ Remover também todas as cópias desses ficheiros? Com &quot;Não&quot;, fica um
         <location filename="../../src/results/ResultRemovalRun.cpp"/>
         <source>The copy that stays changed while the link was made.</source>
         <translation>A cópia mantida mudou enquanto o link era criado.</translation>
+    </message>
+    <message>
+        <source>Export as CSV…</source>
+        <translation>Exportar como CSV…</translation>
+    </message>
+    <message>
+        <source>Write every group as a table (CSV) for spreadsheets and scripts</source>
+        <translation>Escrever todos os grupos numa tabela (CSV) para folhas de cálculo e scripts</translation>
     </message>
 </context>
 <context>

@@ -77,7 +77,7 @@ QString CliOptions::usage()
         "usage: veltrine-duplicate-finder-cli scan [options] FOLDER...\n"
         "       veltrine-duplicate-finder-cli scan [options] --cloud REMOTE:PATH... "
         "[--rclone-config FILE]\n"
-        "       veltrine-duplicate-finder-cli report [--json] PROJECT.dupproj\n"
+        "       veltrine-duplicate-finder-cli report [--json | --csv] PROJECT.dupproj\n"
         "       veltrine-duplicate-finder-cli remove PROJECT.dupproj --method "
         "trash|permanent|move|hardlink|reflink|symlink\n"
         "                                     [--to DIR [--keep-structure]] [--dry-run]\n"
@@ -163,6 +163,9 @@ QString CliOptions::usage()
         "                              the sampled and name methods are marked\n"
         "                              \"verified\": false, similar pictures carry their\n"
         "                              percents in \"similarity\"\n"
+        "  --csv                       (report) one row per member instead: group, match,\n"
+        "                              path, size, modified, selected, protected,\n"
+        "                              similarity (RFC 4180, paths as the system's bytes)\n"
         "  --save FILE.dupproj         save the result as a project file\n"
         "  --log-dir DIR               write the program's log into DIR\n"
         "  -h, --help                  show this text\n"
@@ -180,9 +183,9 @@ QString CliOptions::usage()
         "\n"
         "exit status: 0 done, 1 bad arguments, 2 a folder does not exist, is not a\n"
         "             folder, or none of the folders could be read, or a --cloud scan\n"
-        "             could not be completed, 3 the project file\n"
-        "             could not be saved or read, 4 the picture comparison could not\n"
-        "             be started, 5 remove or restore skipped or failed some items\n"
+        "             could not be completed, 3 the project file could not be saved\n"
+        "             or read, or the table not written, 4 the picture comparison\n"
+        "             could not be started, 5 remove or restore skipped or failed some items\n"
         "             (each listed with its reason on standard error), 6 the removal\n"
         "             journal could not be written (nothing more was removed), 130 or\n"
         "             143 remove stopped by SIGINT or SIGTERM\n")
@@ -240,6 +243,8 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
             return Help;
         if (argument == QLatin1String("--json")) {
             m_json = true;
+        } else if (m_command == Report && argument == QLatin1String("--csv")) {
+            m_csv = true;
         } else if (argument == QLatin1String("--log-dir") && hasValue) {
             m_logDirectory = arguments.at(++i);
         } else if (removing && argument == QLatin1String("--method") && hasValue) {
@@ -279,6 +284,10 @@ CliOptions::ParseResult CliOptions::parseProjectCommand(const QStringList &argum
                 : QStringLiteral("%1 takes one project file").arg(command);
             return BadArguments;
         }
+    }
+    if (m_csv && m_json) {
+        m_error = QStringLiteral("report prints --json or --csv, not both");
+        return BadArguments;
     }
     if (m_command != Restore && m_projectPath.isEmpty()) {
         m_error = QStringLiteral("no project file given");

@@ -47,6 +47,8 @@ public:
     QStringList cloudFolders() const { return m_cloudFolders; }
     QString rcloneConfig() const { return m_rcloneConfig; }
     bool json() const { return m_json; }
+    // report: one CSV row per member instead of the text.
+    bool csv() const { return m_csv; }
     bool useCache() const { return m_useCache; }
     bool overlapsReading() const { return m_overlapped; }
     QString savePath() const { return m_savePath; }
@@ -101,6 +103,7 @@ private:
     int m_removalMethod = -1;
     QString m_targetFolder;
     bool m_dryRun = false;
+    bool m_csv = false;
     bool m_keepStructure = false;
     bool m_allowAllCopies = false;
     bool m_allowDifferentContent = false;

@@ -15,6 +15,7 @@
 #include "engine/ProtectedFolders.h"
 #include "engine/TFileData.h"
 #include "fileops/CloudRemover.h"
+#include "fileops/CsvExport.h"
 #include "fileops/TOpenSaveThread.h"
 #include "scancontrol/TControlUI.h"
 
@@ -270,6 +271,19 @@ int runReport(const CliOptions &options)
         return status;
     qint64 leftOut = 0;
     const QList<OutputGroup> groups = collectGroups(leftOut);
+    if (options.csv()) {
+        QStringList order;
+        for (const OutputGroup &group : groups)
+            order.append(group.key);
+        QFile out;
+        QString error;
+        if (!out.open(stdout, QIODevice::WriteOnly) || !CsvExport::write(out, order, &error)) {
+            std::fprintf(stderr, "veltrine-duplicate-finder-cli: cannot write the table: %s\n",
+                qPrintable(error.isEmpty() ? out.errorString() : error));
+            return 3;
+        }
+        return 0;
+    }
     printGroups(options, scanned, 0.0, groups, leftOut, Unread());
     if (!options.json())
         std::fprintf(stderr, "%lld groups of a scan of %lld files (%s)\n",

@@ -331,6 +331,34 @@ void TFileData::replaceAll(const Groups &groups, const DirGroups &dirGroups, con
     m_matchReasons.clear();
 }
 
+QStringList TFileData::orderedKeys(
+    const Groups &groups, const DirGroups &dirGroups, const QStringList &order)
+{
+    QStringList keys;
+    QSet<QString> placed;
+    for (const QString &key : order) {
+        if ((groups.contains(key) || dirGroups.contains(key)) && !placed.contains(key)) {
+            keys.append(key);
+            placed.insert(key);
+        }
+    }
+    QStringList rest = groups.keys();
+    const auto byFirstFile = [&groups](const QString &a, const QString &b) {
+        return groups.value(a).value(0) < groups.value(b).value(0);
+    };
+    std::sort(rest.begin(), rest.end(), byFirstFile);
+    QStringList restDirs = dirGroups.keys();
+    const auto byFirstFolder = [&dirGroups](const QString &a, const QString &b) {
+        return dirGroups.value(a).value(0).folderPath < dirGroups.value(b).value(0).folderPath;
+    };
+    std::sort(restDirs.begin(), restDirs.end(), byFirstFolder);
+    for (const QString &key : std::as_const(rest) + std::as_const(restDirs)) {
+        if (!placed.contains(key))
+            keys.append(key);
+    }
+    return keys;
+}
+
 TFileData::Removable TFileData::removable() const
 {
     Groups groups;

@@ -76,6 +76,11 @@ public:
     // A group of files or of folders, with its selection.
     bool removeGroup(const QString &key);
     bool removeDirGroup(const QString &key);
+    // The keys of groups and dirGroups: those listed in order first (a page's order), then
+    // the file groups and then the folder groups by their first member, so that what is
+    // written from them does not depend on hash order.
+    static QStringList orderedKeys(
+        const Groups &groups, const DirGroups &dirGroups, const QStringList &order = {});
     // Replaces all three tables at once (opening a project); protected members are left
     // out of the selection.
     void replaceAll(const Groups &groups, const DirGroups &dirGroups, const Groups &selected);

@@ -85,35 +85,6 @@ DiskEntry diskEntry(const QString &path)
     return entry;
 }
 
-// Groups in the page's order first, then the rest by their first path so that the
-// file does not depend on hash order.
-QStringList orderedKeys(const TFileData::Groups &groups, const TFileData::DirGroups &dirGroups,
-    const QStringList &order)
-{
-    QStringList keys;
-    QSet<QString> placed;
-    for (const QString &key : order) {
-        if ((groups.contains(key) || dirGroups.contains(key)) && !placed.contains(key)) {
-            keys.append(key);
-            placed.insert(key);
-        }
-    }
-    QStringList rest = groups.keys();
-    const auto byFirstFile = [&groups](const QString &a, const QString &b) {
-        return groups.value(a).value(0) < groups.value(b).value(0);
-    };
-    std::sort(rest.begin(), rest.end(), byFirstFile);
-    QStringList restDirs = dirGroups.keys();
-    const auto byFirstFolder = [&dirGroups](const QString &a, const QString &b) {
-        return dirGroups.value(a).value(0).folderPath < dirGroups.value(b).value(0).folderPath;
-    };
-    std::sort(restDirs.begin(), restDirs.end(), byFirstFolder);
-    for (const QString &key : std::as_const(rest) + std::as_const(restDirs)) {
-        if (!placed.contains(key))
-            keys.append(key);
-    }
-    return keys;
-}
 
 // An element's text: the path, or its percent-encoded bytes where XML cannot carry it.
 void writePath(QXmlStreamWriter &xml, const QString &path)
@@ -438,7 +409,7 @@ int TOpenSaveThread::saveDocument(
     const TFileData::Stamps stamps = store->stamps();
     const QStringList protectedFolders = store->protectedFolders().folders();
 
-    const QStringList keys = orderedKeys(groups, dirGroups, order);
+    const QStringList keys = TFileData::orderedKeys(groups, dirGroups, order);
 
     // QSaveFile writes beside the target and renames at the end: a failed or cancelled
     // save leaves an earlier project file as it was.

@@ -10,6 +10,7 @@
 #include "app/TLogger.h"
 #include "cloud/KvCloudObject.h"
 #include "engine/TFileData.h"
+#include "results/CsvExportRun.h"
 #include "results/GroupIgnorer.h"
 #include "results/HiddenFiles.h"
 #include "results/MemberTable.h"
@@ -107,6 +108,13 @@ void ResultForm::initUI()
     // Cloud results cannot be saved as a project.
     ui->btn_save->setVisible(!m_isCloud);
     connect(ui->btn_save, &QPushButton::clicked, this, &ResultForm::saveRequested);
+    m_csvExport = new CsvExportRun(this);
+    connect(ui->btn_export, &QPushButton::clicked, this, [this] {
+        QStringList order;
+        for (int row = 0; row < m_groupModel->rowCount(); ++row)
+            order.append(m_groupModel->index(row, 0).data(TImageModel::KeyRole).toString());
+        m_csvExport->start(order);
+    });
 
     ResultPageLayout::arrangeGroupList(ui, m_groupModel);
     connect(ui->listView_groups->selectionModel(), &QItemSelectionModel::selectionChanged, this,

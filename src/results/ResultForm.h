@@ -21,6 +21,7 @@ namespace Ui {
 class ResultForm;
 }
 
+class CsvExportRun;
 class KvCloudObject;
 class QAction;
 class QChart;
@@ -59,6 +60,7 @@ public:
     QMenu *selectionMenu() const { return m_menus->selectMenu(); }
     QMenu *filterMenu() const { return m_menus->filterMenu(); }
     QMenu *deleteMenu() const { return m_menus->deleteMenu(); }
+    CsvExportRun *csvExport() const { return m_csvExport; }
     QSlider *similaritySlider() const { return m_menus->similaritySlider(); }
     QChart *chart() const { return m_chartPart->chart(); }
     // Category code -> (count, bytes) as the chart shows it.
@@ -194,6 +196,7 @@ private:
     // The last file hidden from the results: Undo brings it back.
     HiddenFiles m_hidden;
     MemberTable *m_memberTable = nullptr;
+    CsvExportRun *m_csvExport = nullptr;
     int m_category = kAllCategories;
     int m_viewMode = GridMode;
     int m_selectRule = -1;

@@ -33,6 +33,7 @@ void arrangeButtons(QWidget *page, Ui::ResultForm *ui)
     ui->btn_right_flow->setIcon(page->style()->standardIcon(QStyle::SP_FileDialogContentsView));
     ui->btnBack->setIcon(page->style()->standardIcon(QStyle::SP_ArrowBack));
     ui->btn_save->setIcon(page->style()->standardIcon(QStyle::SP_DialogSaveButton));
+    ui->btn_export->setIcon(page->style()->standardIcon(QStyle::SP_FileDialogDetailedView));
 }
 
 void arrangeGroupList(Ui::ResultForm *ui, TImageModel *groupModel)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CliRunner.h"
+#include "CsvTable.h"
 #include "ReportGroups.h"
 #include "TestEnvironment.h"
 #include "engine/ContentKeyCache.h"
@@ -97,6 +98,10 @@ private slots:
             "--to");
         badRow("remove: folder without move",
             {"remove", "p.dupproj", "--method", "trash", "--to", "/tmp"}, 1, "--to goes with");
+        badRow("remove: keep structure without a move",
+            {"remove", "p.dupproj", "--method", "trash", "--keep-structure"}, 1,
+            "--keep-structure goes with");
+        badRow("report: CSV and JSON", {"report", "--csv", "--json", "p.dupproj"}, 1, "not both");
         badRow("remove: project missing", {"remove", "/no/such.dupproj", "--method", "trash"}, 3,
             "no such project");
         badRow("help", {"--help"}, 0, "");
@@ -120,7 +125,7 @@ private slots:
         // Names a scan can meet that are no plain text: a line feed, a carriage return, a tab,
         // a terminal escape, bytes that are not UTF-8, a percent sign and a backslash.
         const QList<QByteArray> names {"line\nfeed", "carriage\rreturn", "tab\there",
-            "esc\x1b[31mred", "bad\xff\xfe", "100%25", "back\\slash"};
+            "esc\x1b[31mred", "bad\xff\xfe", "100%25", "back\\slash", "comma, \"quoted\""};
         QTemporaryDir dir;
         const QByteArray base = QFile::encodeName(dir.path());
         for (const char *folder : {"/one", "/two"}) {
@@ -160,6 +165,28 @@ private slots:
         for (const char *escaped : {"line\\nfeed", "carriage\\rreturn", "tab\\there",
                  "esc\\x1b[31mred", "bad\\xff\\xfe", "back\\\\slash"})
             QVERIFY2(text.out.contains(escaped), escaped);
+
+        // The table names every member by its exact bytes, whatever a field holds.
+        const CliRun csv = runCli({"report", "--csv", project});
+        QCOMPARE(csv.exitCode, 0);
+        const QList<QList<QByteArray>> rows = csvRows(csv.out);
+        QCOMPARE(rows.value(0),
+            QByteArrayList({"group", "match", "path", "size", "modified", "selected", "protected",
+                "similarity"}));
+        QCOMPARE(rows.size(), 1 + 2 * names.size());
+        QMultiHash<QByteArray, QByteArray> groupsOf;
+        for (const QList<QByteArray> &row : rows.mid(1)) {
+            QCOMPARE(row.size(), 8);
+            QVERIFY2(::access(row.at(2).constData(), F_OK) == 0, row.at(2).constData());
+            QCOMPARE(row.at(1), QByteArray("identical"));
+            QCOMPARE(row.at(3).toLongLong(), row.at(2).mid(row.at(2).lastIndexOf('/') + 1).size());
+            QVERIFY(QDateTime::fromString(QString::fromLatin1(row.at(4)), Qt::ISODate).isValid());
+            groupsOf.insert(row.at(0), row.at(2).mid(row.at(2).lastIndexOf('/') + 1));
+        }
+        // Each group holds the two copies of one name.
+        QCOMPARE(groupsOf.uniqueKeys().size(), names.size());
+        for (const QByteArray &group : groupsOf.uniqueKeys())
+            QCOMPARE(groupsOf.values(group).first(), groupsOf.values(group).last());
     }
 
     void unreadableCounted()

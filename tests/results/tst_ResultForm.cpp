@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CsvTable.h"
 #include "DialogAnswerer.h"
 #include "ImageFixtures.h"
 #include "TestEnvironment.h"
@@ -18,7 +19,9 @@
 #include "preferences/DFGenernalPreferences.h"
 #include "preferences/DFIgnoreListPreferences.h"
 #include "preferences/DFPreferences.h"
+#include "results/CsvExportRun.h"
 #include "results/ResultForm.h"
+#include "results/TImageModel.h"
 #include "scancontrol/TControlUI.h"
 
 #include <fcntl.h>
@@ -629,6 +632,52 @@ private slots:
         QCOMPARE(second.size, QFileInfo(b).size());
         QCOMPARE(second.type, int(CategoryImages));
         QCOMPARE(second.similarity, 92);
+    }
+
+    // The exported table numbers the groups as the page lists them; a refused write is
+    // said, and leaves nothing behind.
+    void exportAsCsv()
+    {
+        const QString small = writeGroup("small.bin", 2, ScanTree::pattern(3000, 's'));
+        const QString large = writeGroup("large.bin", 3, ScanTree::pattern(9000, 'l'));
+        const QString chosen = TFileData::instance()->group(large).last();
+        TFileData::instance()->setSelected(large, {chosen});
+        openPage();
+        QTemporaryDir out;
+        QSignalSpy done(m_page->csvExport(), &CsvExportRun::finished);
+        {
+            // The button asks where first; a cancelled question writes nothing.
+            DialogAnswerer answers;
+            QTest::mouseClick(m_page->findChild<QPushButton *>("btn_export"), Qt::LeftButton);
+            QTRY_COMPARE(answers.titles.size(), 1);
+            QCOMPARE(answers.titles.first(), "Export as CSV");
+        }
+        QVERIFY(!m_page->csvExport()->isRunning());
+        QStringList order;
+        for (int row = 0; row < m_page->groupModel()->rowCount(); ++row)
+            order.append(m_page->groupModel()->index(row, 0).data(TImageModel::KeyRole).toString());
+        QCOMPARE(QSet<QString>(order.cbegin(), order.cend()), QSet<QString>({small, large}));
+        m_page->csvExport()->writeTo(out.filePath("table.csv"), order);
+        QVERIFY(done.wait(10000));
+        QCOMPARE(done.last().at(1).toString(), QString());
+        const QList<QList<QByteArray>> rows = csvRows(ScanTree::read(out.filePath("table.csv")));
+        QCOMPARE(rows.size(), 6);
+        for (const QList<QByteArray> &row : rows.mid(1)) {
+            const QString path = FilePathCodec::decode(row.at(2));
+            const QString key = QString::number(
+                order.indexOf(TFileData::instance()->group(small).contains(path) ? small : large)
+                + 1);
+            QCOMPARE(QString::fromLatin1(row.at(0)), key);
+            QCOMPARE(row.at(3).toLongLong(), QFileInfo(path).size());
+            QCOMPARE(row.at(5), path == chosen ? "1" : "0");
+        }
+
+        DialogAnswerer answers;
+        m_page->csvExport()->writeTo(out.filePath("no such folder/table.csv"), order);
+        QVERIFY(done.wait(10000));
+        QVERIFY(!done.last().at(1).toString().isEmpty());
+        QTRY_COMPARE(answers.titles.value(0), "Export Failed");
+        QVERIFY(!QFileInfo::exists(out.filePath("no such folder")));
     }
 
 private:

@@ -18,6 +18,7 @@
 #include <algorithm>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
@@ -163,7 +164,7 @@ void grabNextModal(const QString &out, const QString &name, QMessageBox::Standar
             if (auto *box = qobject_cast<QMessageBox *>(modal); box && box->button(answer))
                 box->button(answer)->click();
             else if (auto *dialog = qobject_cast<QDialog *>(modal))
-                dialog->accept();
+                answer == QMessageBox::Cancel ? dialog->reject() : dialog->accept();
         });
     });
     timer->start();
@@ -263,6 +264,15 @@ void shootStates(const QSize &size, const QString &root, const QString &out)
     page.on_btn_delete_clicked();
     QTest::qWait(3500);
     save(&page, out, prefix + QStringLiteral("13-after-removal"));
+
+    // The folder question of a move, filled as a user left it last time.
+    DFPreferences::instance()->ignoreListPreferences()->setTrashFolder(
+        QDir(root).filePath(QStringLiteral("Sorted duplicates")));
+    DFPreferences::instance()->ignoreListPreferences()->setKeepFolderStructure(true);
+    grabNextModal(out, prefix + QStringLiteral("16-move-question"), QMessageBox::Cancel);
+    for (QAction *action : page.deleteMenu()->actions())
+        if (action->data().toInt() == DFIgnoreListPreferences::moveToFolder)
+            action->trigger();
     page.close();
 }
 
