@@ -1085,6 +1085,13 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation>Jede durch einen Hardlink ersetzte Datei ist jetzt ein weiterer Name der verbleibenden Kopie: Beide Namen teilen sich dieselben Berechtigungen und denselben Eigentümer.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n Element durch einen Link ersetzt.</numerusform>
+            <numerusform>%n Elemente durch Links ersetzt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

@@ -1085,6 +1085,13 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation>Cada archivo reemplazado por un enlace duro es ahora otro nombre de la copia que se conserva: ambos nombres comparten los mismos permisos y el mismo propietario.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n elemento sustituido por un enlace.</numerusform>
+            <numerusform>%n elementos sustituidos por enlaces.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

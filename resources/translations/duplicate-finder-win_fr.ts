@@ -1085,6 +1085,13 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation>Chaque fichier remplacé par un lien physique est désormais un autre nom de la copie conservée : les deux noms partagent les mêmes permissions et le même propriétaire.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n élément remplacé par un lien.</numerusform>
+            <numerusform>%n éléments remplacés par des liens.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

@@ -1085,6 +1085,13 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation>Ogni file sostituito da un collegamento fisico è ora un altro nome della copia mantenuta: i due nomi condividono gli stessi permessi e lo stesso proprietario.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n elemento sostituito da un collegamento.</numerusform>
+            <numerusform>%n elementi sostituiti da collegamenti.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

@@ -1075,6 +1075,12 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation>ハードリンクに置き換えた各ファイルは、残すコピーの別名になりました。両方の名前で権限と所有者が共通です。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n 個の項目をリンクに置き換えました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

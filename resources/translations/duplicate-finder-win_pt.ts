@@ -1085,6 +1085,13 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation>Cada arquivo substituído por um link físico agora é outro nome da cópia mantida: os dois nomes compartilham as mesmas permissões e o mesmo proprietário.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n item substituído por uma ligação.</numerusform>
+            <numerusform>%n itens substituídos por ligações.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

@@ -1037,6 +1037,13 @@
         <source>Each file replaced by a hard link is now another name of the copy that stays: both names share one set of permissions and one owner.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%n item(s) replaced by a link.</source>
+        <translation>
+            <numerusform>%n item replaced by a link.</numerusform>
+            <numerusform>%n items replaced by a link.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultForm</name>

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QVBoxLayout>
 
 MoveTargetDialog::MoveTargetDialog(const QString &folder, bool keepStructure, QWidget *parent)
@@ -47,6 +48,7 @@ MoveTargetDialog::MoveTargetDialog(const QString &folder, bool keepStructure, QW
     m_move = buttons->addButton(tr("Move"), QDialogButtonBox::AcceptRole);
     m_move->setObjectName(QStringLiteral("btn_move"));
     m_move->setDefault(true);
+    m_move->setIcon(style()->standardIcon(QStyle::SP_DialogOkButton));
 
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(10);

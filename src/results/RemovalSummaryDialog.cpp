@@ -35,9 +35,10 @@ RemovalSummaryDialog::RemovalSummaryDialog(
     m_items->setColumnWidth(0, 380);
     m_items->setColumnWidth(1, 110);
 
-    const bool links = method == DFIgnoreListPreferences::replaceByHardLink
+    m_linked = method == DFIgnoreListPreferences::replaceByHardLink
         || method == DFIgnoreListPreferences::replaceByReflink
         || method == DFIgnoreListPreferences::replaceBySymlink;
+    const bool links = m_linked;
     QList<QTreeWidgetItem *> kept;
     QList<QTreeWidgetItem *> removed;
     for (const DeleteResult &result : results) {
@@ -108,7 +109,8 @@ RemovalSummaryDialog::RemovalSummaryDialog(
 
 QString RemovalSummaryDialog::headline() const
 {
-    QString text = tr("%n item(s) removed.", nullptr, m_removed);
+    QString text = m_linked ? tr("%n item(s) replaced by a link.", nullptr, m_removed)
+                            : tr("%n item(s) removed.", nullptr, m_removed);
     if (m_alreadyGone > 0)
         text += QLatin1Char(' ') + tr("%n item(s) were already gone.", nullptr, m_alreadyGone);
     if (m_kept > 0)

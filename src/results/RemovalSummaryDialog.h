@@ -28,6 +28,8 @@ private:
     int m_removed = 0;
     int m_kept = 0;
     int m_alreadyGone = 0;
+    // The items were replaced by links to the copies that stay, not removed.
+    bool m_linked = false;
     QLabel *m_headline = nullptr;
     QTreeWidget *m_items = nullptr;
 };
