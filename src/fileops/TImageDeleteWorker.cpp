@@ -82,6 +82,18 @@ bool TImageDeleteWorker::record(const DeleteResult &result, const QString &outco
     return false;
 }
 
+bool TImageDeleteWorker::intended(bool written, DeleteResult &result)
+{
+    if (written)
+        return true;
+    m_journalError = m_journal ? m_journal->error() : QStringLiteral("no journal");
+    result.success = false;
+    result.errorCode = DeleteResult::NotRecorded;
+    result.reason = notRecorded;
+    m_results.append(result);
+    return false;
+}
+
 QList<TImageDeleteWorker::Plan> TImageDeleteWorker::plan(QSet<QString> &batchLeaving)
 {
     // Per group its members and the entries that go. The whole batch's leaving paths are
@@ -198,16 +210,12 @@ bool TImageDeleteWorker::handle(
     const QString privatePath = TFileDeleter::privateNameFor(path);
     const QString method = RemovalJournal::methodName(m_request.method);
     const QString into = m_request.folderFor(path);
-    if (!m_journal
-        || !m_journal->intent(seq, method, path, privatePath, plan.folders ? -1 : look.stamp.size,
-            look.stamp.modifiedNs, into == m_request.targetFolder ? QString() : into)) {
-        m_journalError = m_journal ? m_journal->error() : QStringLiteral("no journal");
-        result.success = false;
-        result.errorCode = DeleteResult::NotRecorded;
-        result.reason = notRecorded;
-        m_results.append(result);
+    if (!intended(m_journal
+                && m_journal->intent(seq, method, path, privatePath,
+                    plan.folders ? -1 : look.stamp.size, look.stamp.modifiedNs,
+                    into == m_request.targetFolder ? QString() : into),
+            result))
         return false;
-    }
     if (m_beforeAct)
         m_beforeAct(path);
     bool crossDevice = false;
@@ -279,17 +287,12 @@ bool TImageDeleteWorker::handleLink(
             confirmed.reason.isEmpty() ? RemovalJournal::removed : RemovalJournal::skipped, seq);
     }
     const QString privatePath = TFileDeleter::privateNameFor(path, QStringLiteral("linking"));
-    if (!m_journal
-        || !m_journal->intent(seq, RemovalJournal::methodName(m_request.method), path, privatePath,
-            look.stamp.size, look.stamp.modifiedNs, {}, kept, look.stamp.device,
-            look.stamp.inode)) {
-        m_journalError = m_journal ? m_journal->error() : QStringLiteral("no journal");
-        result.success = false;
-        result.errorCode = DeleteResult::NotRecorded;
-        result.reason = notRecorded;
-        m_results.append(result);
+    if (!intended(m_journal
+                && m_journal->intent(seq, RemovalJournal::methodName(m_request.method), path,
+                    privatePath, look.stamp.size, look.stamp.modifiedNs, {}, kept,
+                    look.stamp.device, look.stamp.inode),
+            result))
         return false;
-    }
     if (m_beforeAct)
         m_beforeAct(path);
     result = replacer.replace(path, look, kept, privatePath);

@@ -76,6 +76,9 @@ private:
     bool handleLink(const Plan &plan, const GroupMember &member, class RemovalCheck &check,
         qint64 seq, bool &removed);
     bool record(const DeleteResult &result, const QString &outcome, qint64 seq = -1);
+    // written: whether the item's intent reached the journal. When it did not, the item is
+    // noted as not handled and the batch must stop: false.
+    bool intended(bool written, DeleteResult &result);
     bool stopping() const;
 
     RemovalRequest m_request;

@@ -243,28 +243,10 @@ void DFIgnoreListWidget::addIgnorePaths(const QStringList &paths)
 
 bool DFIgnoreListWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != ui->lwIgnoreList->viewport())
-        return QWidget::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove: {
-        auto *drag = static_cast<QDragMoveEvent *>(event);
-        if (droppedPaths(drag->mimeData(), false).isEmpty())
-            drag->ignore();
-        else
-            acceptWithoutMove(drag);
+    if (watched == ui->lwIgnoreList->viewport()
+        && takeDrop(event, false, [this](const QStringList &paths) { addIgnorePaths(paths); }))
         return true;
-    }
-    case QEvent::Drop: {
-        auto *drop = static_cast<QDropEvent *>(event);
-        const QStringList paths = droppedPaths(drop->mimeData(), false);
-        acceptWithoutMove(drop);
-        addIgnorePaths(paths);
-        return true;
-    }
-    default:
-        return QWidget::eventFilter(watched, event);
-    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void DFIgnoreListWidget::retranslate()

@@ -143,29 +143,13 @@ bool DFSelectionWidget::addPriorityFolders(const QStringList &folders)
 
 bool DFSelectionWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != ui->tableWidget->viewport())
-        return QWidget::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove: {
-        auto *drag = static_cast<QDragMoveEvent *>(event);
-        if (droppedPaths(drag->mimeData(), true).isEmpty())
-            drag->ignore();
-        else
-            acceptWithoutMove(drag);
+    if (watched == ui->tableWidget->viewport()
+        && takeDrop(event, true, [this](const QStringList &folders) {
+               // A message box inside the drop would hold the file manager's drag open.
+               QTimer::singleShot(0, this, [this, folders] { addPriorityFolders(folders); });
+           }))
         return true;
-    }
-    case QEvent::Drop: {
-        auto *drop = static_cast<QDropEvent *>(event);
-        const QStringList folders = droppedPaths(drop->mimeData(), true);
-        acceptWithoutMove(drop);
-        // A message box inside the drop would hold the file manager's drag open.
-        QTimer::singleShot(0, this, [this, folders] { addPriorityFolders(folders); });
-        return true;
-    }
-    default:
-        return QWidget::eventFilter(watched, event);
-    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void DFSelectionWidget::retranslate()

@@ -98,26 +98,8 @@ void ProtectedFolderList::retranslate()
 
 bool ProtectedFolderList::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_list->viewport())
-        return QGroupBox::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove: {
-        auto *drag = static_cast<QDragMoveEvent *>(event);
-        if (droppedPaths(drag->mimeData(), true).isEmpty())
-            drag->ignore();
-        else
-            acceptWithoutMove(drag);
+    if (watched == m_list->viewport()
+        && takeDrop(event, true, [this](const QStringList &folders) { addFolders(folders); }))
         return true;
-    }
-    case QEvent::Drop: {
-        auto *drop = static_cast<QDropEvent *>(event);
-        const QStringList folders = droppedPaths(drop->mimeData(), true);
-        acceptWithoutMove(drop);
-        addFolders(folders);
-        return true;
-    }
-    default:
-        return QGroupBox::eventFilter(watched, event);
-    }
+    return QGroupBox::eventFilter(watched, event);
 }
