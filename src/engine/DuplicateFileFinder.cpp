@@ -163,15 +163,20 @@ void DuplicateFileFinder::processDuplicates()
         m_keyReader.computeSampledKeys(m_order, m_runs, m_reader);
 
     m_keyReader.beginWholeReads();
-    // Stage B, in chunks so that a stop takes effect between them.
-    const qsizetype candidates = qsizetype(m_runs.size());
-    const qsizetype chunk
-        = std::max<qsizetype>(10, candidates / std::max(1, QThread::idealThreadCount()));
-    for (qsizetype start = 0; start < candidates && !isStopRequested(); start += chunk) {
-        const qsizetype end = std::min(candidates, start + chunk);
-        QtConcurrent::blockingMap(m_runs.begin() + start, m_runs.begin() + end,
-            [this](const SizeRun &run) { hashGroup(run); });
-    }
+    // Stage B on the readers; a stop takes effect at the next group. One reader on a disk
+    // that seeks takes the groups in the disk's order instead.
+    ReadPool &readers = m_keyReader.readPool();
+    if (readers.mode() == ReadPool::Hdd)
+        std::sort(m_runs.begin(), m_runs.end(), [this](const SizeRun &a, const SizeRun &b) {
+            return m_table.stat(m_order[a.begin]).inode < m_table.stat(m_order[b.begin]).inode;
+        });
+    readers.run(
+        m_runs.size(),
+        [this](size_t at) -> size_t {
+            hashGroup(m_runs[at]);
+            return m_runs[at].count;
+        },
+        &stopRequested);
     m_keyReader.storeKeys();
     emit progressUpdated(0, isStopRequested() ? 0.0 : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());

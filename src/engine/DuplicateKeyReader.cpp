@@ -301,7 +301,7 @@ void DuplicateKeyReader::computeSampledKeys(const std::vector<quint32> &order,
         return folders;
     };
     if (!m_cache) {
-        QtConcurrent::blockingMap(foldersToRead(), [this](quint32 folder) { keyFolder(folder); });
+        readFolders(foldersToRead(), false);
         return;
     }
     // With the cache, every file whose stamp the walk kept is looked up at once; the rest
@@ -412,7 +412,7 @@ void DuplicateKeyReader::keyFoldersWithCache(const QList<quint32> &folders)
                 m_cachedFiles.push_back(i);
     }
     m_cacheEntries.assign(m_cachedFiles.size(), ContentKeyCache::Entry {});
-    QtConcurrent::blockingMap(folders, [this](quint32 folder) { stampFolder(folder); });
+    readFolders(folders, true);
     // The files with a walk stat were looked up with all the others.
     std::vector<ContentKeyCache::Entry> unlooked;
     std::vector<size_t> positions;
@@ -428,7 +428,7 @@ void DuplicateKeyReader::keyFoldersWithCache(const QList<quint32> &folders)
             m_cacheEntries[positions[i]] = unlooked[i];
     }
     takeCachedSampledKeys();
-    QtConcurrent::blockingMap(folders, [this](quint32 folder) { keyFolder(folder); });
+    readFolders(folders, false);
     for (size_t slot = 0; slot < m_cachedFiles.size(); ++slot) {
         ContentKeyCache::Entry &entry = m_cacheEntries[slot];
         const quint32 file = m_cachedFiles[slot];
@@ -566,20 +566,25 @@ void DuplicateKeyReader::storeKeys()
     decltype(m_cachedFullKeys)().swap(m_cachedFullKeys);
 }
 
-void DuplicateKeyReader::keyFolder(quint32 index)
+size_t DuplicateKeyReader::keyFolder(quint32 index)
 {
     if (isStopRequested())
-        return;
+        return 0;
     const ScanTable::Folder &folder = m_table.folder(index);
-    const quint32 end = folder.firstFile + folder.fileCount;
+    std::vector<quint32> wanted;
+    for (quint32 i = folder.firstFile; i < folder.firstFile + folder.fileCount; ++i)
+        if (m_keyState[i] == 1)
+            wanted.push_back(i);
+    // One reader on a disk that seeks reads in the disk's order.
+    if (m_readPool.mode() == ReadPool::Hdd)
+        std::sort(wanted.begin(), wanted.end(),
+            [this](quint32 a, quint32 b) { return m_table.stat(a).inode < m_table.stat(b).inode; });
 #ifdef Q_OS_UNIX
     // The folder is opened once; each file is then looked up by its name alone. A folder
     // that cannot be opened this way leaves its files to full paths.
     const int dirfd = ::open(folder.native.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
 #endif
-    for (quint32 i = folder.firstFile; i < end; ++i) {
-        if (m_keyState[i] != 1)
-            continue;
+    for (const quint32 i : wanted) {
         if (isStopRequested())
             break;
         quint64 key = 0;
@@ -627,6 +632,36 @@ void DuplicateKeyReader::keyFolder(quint32 index)
 #endif
     if (m_progress)
         m_progress();
+    return wanted.size();
+}
+
+void DuplicateKeyReader::readFolders(QList<quint32> folders, bool stampOnly)
+{
+    if (m_readPool.mode() == ReadPool::Hdd) {
+        // Folders by the place of their first file on the disk (its inode), so that one
+        // reader sweeps the disk once instead of seeking back and forth.
+        const auto firstInode = [this](quint32 index) {
+            const ScanTable::Folder &folder = m_table.folder(index);
+            quint64 lowest = ~quint64(0);
+            for (quint32 i = folder.firstFile; i < folder.firstFile + folder.fileCount; ++i)
+                if (m_keyState[i] == 1 && m_table.stat(i).inode != 0)
+                    lowest = std::min<quint64>(lowest, m_table.stat(i).inode);
+            return lowest;
+        };
+        std::vector<std::pair<quint64, quint32>> keyed;
+        for (quint32 folder : folders)
+            keyed.emplace_back(firstInode(folder), folder);
+        std::sort(keyed.begin(), keyed.end());
+        for (size_t i = 0; i < keyed.size(); ++i)
+            folders[qsizetype(i)] = keyed[i].second;
+    }
+    const auto work = [this, &folders, stampOnly](size_t at) -> size_t {
+        if (!stampOnly)
+            return keyFolder(folders[qsizetype(at)]);
+        stampFolder(folders[qsizetype(at)]);
+        return 1;
+    };
+    m_readPool.run(size_t(folders.size()), work, &m_stop);
 }
 
 void DuplicateKeyReader::noteUnread(quint32 file, int error)

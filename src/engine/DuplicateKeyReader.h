@@ -3,6 +3,7 @@
 
 #include "engine/ContentKeyCache.h"
 #include "engine/OverlappedKeyReader.h"
+#include "engine/ReadPool.h"
 #include "engine/ScanProblems.h"
 #include "engine/ScanTable.h"
 
@@ -44,6 +45,9 @@ public:
     static QByteArray nameKeyOf(const QString &filePath);
 
     void setProblems(ScanProblems *problems) { m_problems = problems; }
+    // The readers the files are read on, apart from the processor's pool; the finder's
+    // whole-content reads go through them too.
+    ReadPool &readPool() { return m_readPool; }
     // Called after each folder read, from the pool threads.
     void setProgress(std::function<void()> progress) { m_progress = std::move(progress); }
     // Starts a scan: counters back to zero, the cache opened where options ask for it
@@ -80,7 +84,10 @@ public:
 
 private:
     bool isStopRequested() const { return m_stop.load() != 0; }
-    void keyFolder(quint32 folder);
+    // The files of a folder it read (keyed or found unreadable).
+    size_t keyFolder(quint32 folder);
+    // keyFolder (or, stampOnly, stampFolder) of every folder, on the readers.
+    void readFolders(QList<quint32> folders, bool stampOnly);
     // The cache's part: the stamps of the wanted files of a folder, before any is read.
     void keyFoldersWithCache(const QList<quint32> &folders);
     void stampFolder(quint32 folder);
@@ -98,6 +105,7 @@ private:
     const ScanTable &m_table;
     const std::atomic<qint64> &m_stop;
     ScanProblems *m_problems = nullptr;
+    ReadPool m_readPool;
     std::function<void()> m_progress;
     // Whole-content keys are wanted (the full mode): the cache gives those it holds.
     bool m_allContent = false;

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/ReadPool.h"
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+#include <QThread>
+
+namespace {
+
+// How long the files read are counted before the readers are doubled again, and how much
+// faster a doubling must make the reading to earn the next one.
+constexpr auto kWindow = std::chrono::milliseconds(60);
+constexpr double kWorthGrowing = 1.2;
+
+} // namespace
+
+ReadPool::ReadPool()
+{
+    m_pool.setMaxThreadCount(kMaxReaders);
+    // Readers wait for the disk, not the processor: a finished one is kept for the next run.
+    m_pool.setExpiryTimeout(30000);
+}
+
+ReadPool::~ReadPool()
+{
+    m_pool.waitForDone();
+}
+
+int ReadPool::startReaders() const
+{
+    if (m_fixed > 0)
+        return std::min(m_fixed, kMaxReaders);
+    switch (m_mode) {
+    case Ssd:
+        return kMaxReaders;
+    case Hdd:
+        return 1;
+    case Auto:
+    case Plain:
+        break;
+    }
+    return std::clamp(QThread::idealThreadCount(), 1, kMaxReaders);
+}
+
+void ReadPool::run(
+    size_t count, const std::function<size_t(size_t)> &work, const std::atomic<qint64> *stop)
+{
+    if (count == 0)
+        return;
+    std::atomic<size_t> next {0};
+    std::atomic<size_t> filesRead {0};
+    std::atomic<int> running {0};
+    const auto reader = [&] {
+        for (;;) {
+            if (stop && stop->load() != 0)
+                break;
+            const size_t item = next.fetch_add(1);
+            if (item >= count)
+                break;
+            filesRead.fetch_add(work(item));
+        }
+        running.fetch_sub(1);
+    };
+    const auto add = [&](int readers) {
+        for (int i = 0; i < readers; ++i) {
+            running.fetch_add(1);
+            m_pool.start(reader);
+        }
+    };
+    int readers = std::min<size_t>(size_t(startReaders()), count);
+    add(readers);
+    const bool grows = m_fixed == 0 && m_mode == Auto;
+    // The rate with the present readers, measured over a whole window once they run.
+    double before = 0;
+    bool growing = grows;
+    auto windowStart = std::chrono::steady_clock::now();
+    size_t windowFiles = filesRead.load();
+    while (running.load() > 0) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        if (!growing || next.load() >= count)
+            continue;
+        const auto now = std::chrono::steady_clock::now();
+        if (now - windowStart < kWindow)
+            continue;
+        const size_t files = filesRead.load();
+        const double rate = double(files - windowFiles)
+            / std::chrono::duration<double>(now - windowStart).count();
+        windowStart = now;
+        windowFiles = files;
+        if (before > 0 && rate < before * kWorthGrowing) {
+            growing = false;
+            continue;
+        }
+        before = std::max(before, rate);
+        const int more = std::min(readers, kMaxReaders - readers);
+        if (more <= 0) {
+            growing = false;
+            continue;
+        }
+        add(more);
+        readers += more;
+    }
+    m_pool.waitForDone();
+    m_readers.store(readers);
+}
