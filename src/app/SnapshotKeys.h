@@ -22,6 +22,7 @@ inline constexpr QLatin1String scanMethod {"scanMethod"};
 inline constexpr QLatin1String duplicateSelectHint {"duplicateSelectHint"};
 inline constexpr QLatin1String scanDupDirectory {"scanDupDirectory"};
 inline constexpr QLatin1String mapPriority {"mapPriority"};
+inline constexpr QLatin1String ioMode {"ioMode"};
 
 // Similar-picture settings.
 inline constexpr QLatin1String hasSimilar {"hasSimilar"};

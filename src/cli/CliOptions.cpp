@@ -117,6 +117,9 @@ QString CliOptions::usage()
         "  --method sampled|full|name  how files are compared (default full: whole content;\n"
         "                              sampled: size and three 4 KiB blocks, groups marked not\n"
         "                              verified; name: size and name)\n"
+        "  --io auto|ssd|hdd           how many files are read at once (default auto: more\n"
+        "                              readers while they read faster; ssd: 64 at once;\n"
+        "                              hdd: one at a time in the disk's order)\n"
         "  --folders                   also report folders whose whole content (sub-folders\n"
         "                              and hidden files included) has copies in another\n"
         "  --select RULE               initial selection in each group: newest, oldest,\n"
@@ -421,6 +424,16 @@ CliOptions::Taken CliOptions::takeScanOption(Option &option)
             return Failed;
         }
         m_method = methods().value(option.value);
+    } else if (name == QLatin1String("--io")) {
+        static const QMap<QString, int> modes = wordsOf(SettingsTable::ioMode);
+        if (!option.takeValue())
+            return Failed;
+        if (!modes.contains(option.value)) {
+            m_error = QStringLiteral("unknown reading mode \"%1\" (auto, ssd or hdd)")
+                          .arg(option.value);
+            return Failed;
+        }
+        m_ioMode = modes.value(option.value);
     } else if (name == QLatin1String("--select")) {
         if (!option.takeValue())
             return Failed;
@@ -598,6 +611,7 @@ QJsonObject CliOptions::duplicationConfig() const
     json.insert(similarSelectHint.snapshotKey, m_selectHint);
     json.insert(scanDupDirectory.snapshotKey, m_folderGroups);
     json.insert(mapPriority.snapshotKey, priorities);
+    json.insert(ioMode.snapshotKey, m_ioMode);
     return json;
 }
 

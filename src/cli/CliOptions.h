@@ -115,6 +115,7 @@ private:
     // The whole content by default: groups are real duplicates unless asked otherwise.
     int m_method = int(SettingsTable::scanMethod.byDefault);
     int m_selectHint = int(SettingsTable::selectDuplicate.byDefault);
+    int m_ioMode = int(SettingsTable::ioMode.byDefault);
     bool m_selectAll = false;
     bool m_folderGroups = false;
     bool m_includeHidden = false;

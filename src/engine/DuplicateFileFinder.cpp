@@ -3,11 +3,14 @@
 
 #include "app/FileTypeCatalogue.h"
 #include "app/SnapshotKeys.h"
+#include "app/TLogger.h"
 #include "engine/FinderCommon.h"
 #include "engine/GroupItemAutoSelector.h"
 #include "engine/KeyRuns.h"
 #include "engine/SampledKey.h"
 #include "engine/TFileData.h"
+#include "platform/Platform.h"
+#include "preferences/DFSelectionPreferences.h"
 
 #include <algorithm>
 #include <string_view>
@@ -42,6 +45,9 @@ void DuplicateFileFinder::applyConfig(const QJsonObject &duplication)
     const QJsonValue folders = duplication.value(SnapshotKeys::scanDupDirectory);
     if (folders.isBool())
         scanDupDirectory = folders.toBool();
+    const QJsonValue io = duplication.value(SnapshotKeys::ioMode);
+    if (io.isDouble())
+        m_ioMode = io.toInt();
     const QJsonValue hint = duplication.value(SnapshotKeys::duplicateSelectHint);
     if (hint.isDouble())
         duplicateSelectHint = hint.toInt();
@@ -156,6 +162,19 @@ void DuplicateFileFinder::processDuplicates()
             > m_table.file(m_order[b.begin]).size * b.count;
     });
 
+    // Drives on an external bus keep plain reads: their bridges answer many reads in flight
+    // badly, and a user's unplugging one should find few reads to cut.
+    static_assert(int(ReadPool::Ssd) == DFSelectionPreferences::ioSsd
+        && int(ReadPool::Hdd) == DFSelectionPreferences::ioHdd);
+    ReadPool::Mode mode = ReadPool::Mode(m_ioMode);
+    if (mode == ReadPool::Auto) {
+        bool external = m_table.folderCount() > 0;
+        for (quint32 f = 0; f < quint32(m_table.folderCount()) && external; ++f)
+            external = m_table.folder(f).driveType == platform::Platform::DriveExternal;
+        if (external)
+            mode = ReadPool::Plain;
+    }
+    m_keyReader.readPool().setMode(mode);
     m_keyReader.setProblems(m_problems);
     m_keyReader.setProgress([this] { reportProgress(false); });
     m_keyReader.begin(m_cacheOptions, scanMethod != scanName, scanMethod == scanAllContent);
@@ -177,6 +196,10 @@ void DuplicateFileFinder::processDuplicates()
             return m_runs[at].count;
         },
         &stopRequested);
+    splog_d(FinderCommon::kTag
+        + QStringLiteral("Contents read by %1 readers (mode %2).")
+              .arg(readers.readers())
+              .arg(int(readers.mode())));
     m_keyReader.storeKeys();
     emit progressUpdated(0, isStopRequested() ? 0.0 : 100.0);
     emit onFindItem(duplicateFileCount.load(), duplicateTotalSize.load());

@@ -89,6 +89,9 @@ public:
     int duplicateFiles() const { return duplicateFileCount.load(); }
     qint64 duplicateSize() const { return duplicateTotalSize.load(); }
     int scanMethodInUse() const { return scanMethod; }
+    // The readers of contents: their mode follows the "ioMode" snapshot value; tests and
+    // benchmarks may fix their number.
+    ReadPool &readPool() { return m_keyReader.readPool(); }
     bool matchesFolders() const { return scanDupDirectory; }
     int selectHint() const { return duplicateSelectHint; }
     QJsonObject configuration() const { return config; }
@@ -146,6 +149,8 @@ private:
     QStringList uniqueImages;
     mutable QMutex m_mutex;
     std::atomic<qint64> stopRequested {0};
+    // A ReadPool::Mode value; Auto falls back to Plain on external drives.
+    int m_ioMode = 0;
     QElapsedTimer m_timer;
     std::atomic<int> duplicateFileCount {0};
     std::atomic<qint64> duplicateTotalSize {0};

@@ -18,6 +18,7 @@ DFSelectionPreferences &DFSelectionPreferences::operator=(const DFSelectionPrefe
     m_selectDuplicate = other.m_selectDuplicate;
     m_mapPriority = other.m_mapPriority;
     m_scanDupDirectory = other.m_scanDupDirectory;
+    m_ioMode = other.m_ioMode;
     m_similarSelectHint = other.m_similarSelectHint;
     return *this;
 }

@@ -19,6 +19,7 @@ class DFSelectionPreferences : public QObject
     Q_PROPERTY(DFSelectionHint selectDuplicate READ selectDuplicate WRITE setSelectDuplicate)
     Q_PROPERTY(QMap<QString, qint32> mapPriority READ mapPriority WRITE setMapPriority)
     Q_PROPERTY(bool scanDupDirectory READ scanDupDirectory WRITE setScanDupDirectory)
+    Q_PROPERTY(DFIoMode ioMode READ ioMode WRITE setIoMode)
     Q_PROPERTY(DFSelectionHint similarSelectHint READ similarSelectHint WRITE setSimilarSelectHint
             STORED false)
 public:
@@ -38,6 +39,10 @@ public:
     Q_ENUM(DFSelectionHint)
     enum DFAlgorithmsHint { rbSmart = 0, rbHistogram = 1, rbPhash = 2, rbRobust = 3 };
     Q_ENUM(DFAlgorithmsHint)
+    // How many files are read at once: as many as help (auto), many (ssd: a device that
+    // serves reads in parallel), or one at a time in the disk's order (hdd).
+    enum DFIoMode { ioAuto = 0, ioSsd = 1, ioHdd = 2 };
+    Q_ENUM(DFIoMode)
 
     explicit DFSelectionPreferences(QObject *parent = nullptr);
     DFSelectionPreferences(const DFSelectionPreferences &other);
@@ -56,6 +61,8 @@ public:
     void setMapPriority(const QMap<QString, qint32> &value) { m_mapPriority = value; }
     bool scanDupDirectory() const { return m_scanDupDirectory; }
     void setScanDupDirectory(bool value) { m_scanDupDirectory = value; }
+    DFIoMode ioMode() const { return m_ioMode; }
+    void setIoMode(DFIoMode value) { m_ioMode = value; }
 
     DFSelectionHint similarSelectHint() const { return m_similarSelectHint; }
     void setSimilarSelectHint(DFSelectionHint value) { m_similarSelectHint = value; }
@@ -65,6 +72,7 @@ private:
     DFSelectionHint m_selectDuplicate = DFSelectionHint(SettingsTable::selectDuplicate.byDefault);
     QMap<QString, qint32> m_mapPriority;
     bool m_scanDupDirectory = SettingsTable::scanDupDirectory.byDefault != 0;
+    DFIoMode m_ioMode = DFIoMode(SettingsTable::ioMode.byDefault);
     DFSelectionHint m_similarSelectHint
         = DFSelectionHint(SettingsTable::similarSelectHint.byDefault);
 };

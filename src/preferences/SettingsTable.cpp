@@ -79,6 +79,9 @@ QList<Word> choices(const Setting &setting)
             {"low-res", Duplicates::selectLowResolution},
             {"high-quality", Duplicates::selectHighQuality},
             {"low-quality", Duplicates::selectLowQuality}, {"none", Duplicates::NoSelected}};
+    if (&setting == &ioMode)
+        return {
+            {"auto", Duplicates::ioAuto}, {"ssd", Duplicates::ioSsd}, {"hdd", Duplicates::ioHdd}};
     if (&setting == &algorithmHint)
         return {{"smart", Duplicates::rbSmart}, {"histogram", Duplicates::rbHistogram},
             {"phash", Duplicates::rbPhash}, {"robust", Duplicates::rbRobust}};

@@ -111,6 +111,9 @@ inline constexpr Setting mapPriority {
     Group::Duplicates, "mapPriority", SnapshotKeys::mapPriority, Kind::Priorities, 0};
 inline constexpr Setting scanDupDirectory {
     Group::Duplicates, "scanDupDirectory", SnapshotKeys::scanDupDirectory, Kind::Flag, 0};
+// How many files the finder reads at once; auto follows what the device does.
+inline constexpr Setting ioMode {
+    Group::Duplicates, "ioMode", SnapshotKeys::ioMode, Kind::Choice, 0};
 inline constexpr Setting similarSelectHint {Group::Duplicates, "similarSelectHint",
     QLatin1String("similarSelectHint"), Kind::Choice, 2, 1, 0, false};
 
@@ -149,7 +152,7 @@ inline constexpr const Setting *all[]
     = {&ThreadCount, &RemovealMethod, &MaxFileSize, &MinFileSize, &TrashFolder,
         &KeepFolderStructure, &IgnorePathFile, &ProtectedFolderList, &IgnoreFileType, &OnlyFileType,
         &HideSystemFile, &ScanFileType, &OpenFolder, &SaveFolder, &deleteException, &IgnoreBundle,
-        &scanMethod, &selectDuplicate, &mapPriority, &scanDupDirectory, &similarSelectHint,
+        &scanMethod, &selectDuplicate, &mapPriority, &scanDupDirectory, &ioMode, &similarSelectHint,
         &hasSimilar, &SimilarityValue, &FeaturesValue, &selectedSimilar, &scanPriority,
         &selectionHint, &algorithmHint, &isAddFeatures, &isImageType, &isImageSize, &imageMinSize};
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ScanTree.h"
 #include "engine/DuplicateFileFinder.h"
+#include "engine/ReadPool.h"
 #include "engine/TFileData.h"
 
 #include <QTemporaryDir>
@@ -17,7 +18,7 @@ QByteArray withByteChanged(QByteArray data, qint64 offset)
 // Runs the finder over real files and returns its groups as sorted lists of names.
 QList<QStringList> findGroups(const QString &root, const QStringList &names, int method,
     int driveType = 0, bool folders = false, int hint = 8, QStringList *uniqueImages = nullptr,
-    int *duplicateFiles = nullptr)
+    int *duplicateFiles = nullptr, int ioMode = 0, int readers = 0)
 {
     TFileData::instance()->clear();
     DuplicateFileFinder::SizeTable table;
@@ -29,8 +30,9 @@ QList<QStringList> findGroups(const QString &root, const QStringList &names, int
         all.append(path);
     }
     DuplicateFileFinder finder;
-    finder.applyConfig(
-        {{"scanMethod", method}, {"scanDupDirectory", folders}, {"duplicateSelectHint", hint}});
+    finder.applyConfig({{"scanMethod", method}, {"scanDupDirectory", folders},
+        {"duplicateSelectHint", hint}, {"ioMode", ioMode}});
+    finder.readPool().setFixedReaders(readers);
     finder.setInput(table, all);
     finder.setRoots({root});
     finder.start();
@@ -113,6 +115,85 @@ private slots:
         for (int i = 0; i < names.size(); ++i)
             QVERIFY(!ScanTree::write(dir.path(), names.at(i), contents.at(i)).isEmpty());
         QCOMPARE(findGroups(dir.path(), names, method, driveType), expected);
+    }
+
+    // The same groups whatever the number of readers and their order: copies, files that
+    // differ only outside the sampled blocks, and singles, spread over many folders.
+    void sameGroupsWhateverTheReaders_data()
+    {
+        QTest::addColumn<int>("method");
+        QTest::addColumn<int>("ioMode");
+        QTest::addColumn<int>("readers");
+        for (int method : {0, 2})
+            for (int ioMode : {0, 2})
+                for (int readers : {1, 4, 64})
+                    QTest::addRow("%s, %s, %d readers", method ? "full" : "sampled",
+                        ioMode ? "disk order" : "walk order", readers)
+                        << method << ioMode << readers;
+    }
+    void sameGroupsWhateverTheReaders()
+    {
+        QFETCH(int, method);
+        QFETCH(int, ioMode);
+        QFETCH(int, readers);
+        QTemporaryDir dir;
+        QStringList names;
+        QList<QStringList> expected;
+        for (int i = 0; i < 60; ++i) {
+            const QByteArray copy = ScanTree::pattern(20000 + i, char(i));
+            const QString a = QStringLiteral("f%1/copy%2.bin").arg(i % 17).arg(i);
+            const QString b = QStringLiteral("g%1/copy%2.bin").arg(i % 13).arg(i);
+            const QString trap = QStringLiteral("h%1/trap%2.bin").arg(i % 11).arg(i);
+            ScanTree::write(dir.path(), a, copy);
+            ScanTree::write(dir.path(), b, copy);
+            ScanTree::write(dir.path(), trap, withByteChanged(copy, 14000));
+            ScanTree::write(dir.path(), QStringLiteral("h%1/single%2.bin").arg(i % 7).arg(i),
+                ScanTree::pattern(90000 + i, char(i)));
+            names << a << b << trap << QStringLiteral("h%1/single%2.bin").arg(i % 7).arg(i);
+            QStringList group {a, b};
+            if (method == 0)
+                group << trap;
+            group.sort();
+            expected << group;
+        }
+        std::sort(expected.begin(), expected.end());
+        QCOMPARE(
+            findGroups(dir.path(), names, method, 0, false, 8, nullptr, nullptr, ioMode, readers),
+            expected);
+    }
+
+    // Auto adds readers while they read more per moment: on a device that serves reads in
+    // parallel (each read waits, the waits overlap) it grows to many; on one that serves one
+    // read at a time it stays at few.
+    void readersFollowWhatTheDeviceDoes_data()
+    {
+        QTest::addColumn<bool>("parallel");
+        QTest::newRow("device serving reads in parallel") << true;
+        QTest::newRow("device serving one read at a time") << false;
+    }
+    void readersFollowWhatTheDeviceDoes()
+    {
+        QFETCH(bool, parallel);
+        QMutex device;
+        std::atomic<qint64> stop {0};
+        ReadPool pool;
+        pool.run(
+            3000,
+            [&](size_t) -> size_t {
+                if (parallel) {
+                    QThread::usleep(2000);
+                } else {
+                    QMutexLocker locker(&device);
+                    QThread::usleep(300);
+                }
+                return 1;
+            },
+            &stop);
+        if (parallel)
+            QVERIFY2(pool.readers() >= 32, qPrintable(QString::number(pool.readers())));
+        else
+            QVERIFY2(pool.readers() <= 2 * QThread::idealThreadCount(),
+                qPrintable(QString::number(pool.readers())));
     }
 
     void selectionFollowsHint()

@@ -94,6 +94,7 @@ private slots:
               "objectName=\n"
               "\n"
               "[Duplicate_files]\n"
+              "ioMode=0\n"
               "objectName=\n"
               "scanDupDirectory=false\n"
               "scanMethod=2\n"
@@ -314,7 +315,7 @@ private slots:
         QCOMPARE(c.value("IgnoreFileType").toVariant().toStringList(), QStringList({"tmp", "bak"}));
         const QJsonObject d = duplicate->toJson();
         QCOMPARE(keys(d),
-            "duplicateSelectHint,mapPriority,scanDupDirectory,scanMethod,similarSelectHint");
+            "duplicateSelectHint,ioMode,mapPriority,scanDupDirectory,scanMethod,similarSelectHint");
         QCOMPARE(d.value("duplicateSelectHint").toInt(), int(DFSelectionPreferences::selectOldest));
         QCOMPARE(d.value("similarSelectHint").toInt(), int(DFSelectionPreferences::NoSelected));
         QCOMPARE(d.value("mapPriority").toObject().value("/photos").toInt(), 4);
