@@ -190,11 +190,7 @@ void DuplicateFileFinder::processDuplicates()
             return m_table.stat(m_order[a.begin]).inode < m_table.stat(m_order[b.begin]).inode;
         });
     readers.run(
-        m_runs.size(),
-        [this](size_t at) -> size_t {
-            hashGroup(m_runs[at]);
-            return m_runs[at].count;
-        },
+        m_runs.size(), [this](size_t at) { hashGroup(m_runs[at]); }, m_keyReader.bytesRead(),
         &stopRequested);
     splog_d(FinderCommon::kTag
         + QStringLiteral("Contents read by %1 readers (mode %2).")

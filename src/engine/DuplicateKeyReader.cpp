@@ -566,10 +566,10 @@ void DuplicateKeyReader::storeKeys()
     decltype(m_cachedFullKeys)().swap(m_cachedFullKeys);
 }
 
-size_t DuplicateKeyReader::keyFolder(quint32 index)
+void DuplicateKeyReader::keyFolder(quint32 index)
 {
     if (isStopRequested())
-        return 0;
+        return;
     const ScanTable::Folder &folder = m_table.folder(index);
     std::vector<quint32> wanted;
     for (quint32 i = folder.firstFile; i < folder.firstFile + folder.fileCount; ++i)
@@ -625,6 +625,7 @@ size_t DuplicateKeyReader::keyFolder(quint32 index)
         m_keys[i] = key;
         m_keyState[i] = keyed ? 2 : 3;
         m_keyedFiles.fetch_add(1);
+        m_bytesRead.fetch_add(std::min<qint64>(m_table.file(i).size, SampledKey::kWholeFileLimit));
     }
 #ifdef Q_OS_UNIX
     if (dirfd >= 0)
@@ -632,7 +633,6 @@ size_t DuplicateKeyReader::keyFolder(quint32 index)
 #endif
     if (m_progress)
         m_progress();
-    return wanted.size();
 }
 
 void DuplicateKeyReader::readFolders(QList<quint32> folders, bool stampOnly)
@@ -655,13 +655,13 @@ void DuplicateKeyReader::readFolders(QList<quint32> folders, bool stampOnly)
         for (size_t i = 0; i < keyed.size(); ++i)
             folders[qsizetype(i)] = keyed[i].second;
     }
-    const auto work = [this, &folders, stampOnly](size_t at) -> size_t {
-        if (!stampOnly)
-            return keyFolder(folders[qsizetype(at)]);
-        stampFolder(folders[qsizetype(at)]);
-        return 1;
+    const auto work = [this, &folders, stampOnly](size_t at) {
+        if (stampOnly)
+            stampFolder(folders[qsizetype(at)]);
+        else
+            keyFolder(folders[qsizetype(at)]);
     };
-    m_readPool.run(size_t(folders.size()), work, &m_stop);
+    m_readPool.run(size_t(folders.size()), work, m_bytesRead, &m_stop);
 }
 
 void DuplicateKeyReader::noteUnread(quint32 file, int error)
@@ -710,6 +710,7 @@ bool DuplicateKeyReader::wholeKey(quint32 file, quint64 &key)
             return false;
         }
         noteFullKey(file, key, stampOf(opened));
+        m_bytesRead.fetch_add(m_table.file(file).size);
     }
 #else
     const QByteArray hex = wholeKeyOf(m_table.filePath(file), driveType);

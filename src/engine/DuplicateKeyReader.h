@@ -48,6 +48,8 @@ public:
     // The readers the files are read on, apart from the processor's pool; the finder's
     // whole-content reads go through them too.
     ReadPool &readPool() { return m_readPool; }
+    // Bytes read from files so far, by every reader: how fast the reading goes.
+    const std::atomic<qint64> &bytesRead() const { return m_bytesRead; }
     // Called after each folder read, from the pool threads.
     void setProgress(std::function<void()> progress) { m_progress = std::move(progress); }
     // Starts a scan: counters back to zero, the cache opened where options ask for it
@@ -84,8 +86,7 @@ public:
 
 private:
     bool isStopRequested() const { return m_stop.load() != 0; }
-    // The files of a folder it read (keyed or found unreadable).
-    size_t keyFolder(quint32 folder);
+    void keyFolder(quint32 folder);
     // keyFolder (or, stampOnly, stampFolder) of every folder, on the readers.
     void readFolders(QList<quint32> folders, bool stampOnly);
     // The cache's part: the stamps of the wanted files of a folder, before any is read.
@@ -106,6 +107,7 @@ private:
     const std::atomic<qint64> &m_stop;
     ScanProblems *m_problems = nullptr;
     ReadPool m_readPool;
+    std::atomic<qint64> m_bytesRead {0};
     std::function<void()> m_progress;
     // Whole-content keys are wanted (the full mode): the cache gives those it holds.
     bool m_allContent = false;

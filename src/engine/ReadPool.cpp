@@ -9,9 +9,10 @@
 
 namespace {
 
-// How long the files read are counted before the readers are doubled again, and how much
-// faster a doubling must make the reading to earn the next one.
-constexpr auto kWindow = std::chrono::milliseconds(60);
+// How long the bytes read are counted before the readers grow again, by how much they grow,
+// and how much faster a growth must make the reading to earn the next one.
+constexpr auto kWindow = std::chrono::milliseconds(50);
+constexpr int kGrowth = 4;
 constexpr double kWorthGrowing = 1.2;
 
 } // namespace
@@ -44,13 +45,12 @@ int ReadPool::startReaders() const
     return std::clamp(QThread::idealThreadCount(), 1, kMaxReaders);
 }
 
-void ReadPool::run(
-    size_t count, const std::function<size_t(size_t)> &work, const std::atomic<qint64> *stop)
+void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
+    const std::atomic<qint64> &bytesRead, const std::atomic<qint64> *stop)
 {
     if (count == 0)
         return;
     std::atomic<size_t> next {0};
-    std::atomic<size_t> filesRead {0};
     std::atomic<int> running {0};
     const auto reader = [&] {
         for (;;) {
@@ -59,7 +59,7 @@ void ReadPool::run(
             const size_t item = next.fetch_add(1);
             if (item >= count)
                 break;
-            filesRead.fetch_add(work(item));
+            work(item);
         }
         running.fetch_sub(1);
     };
@@ -76,7 +76,7 @@ void ReadPool::run(
     double before = 0;
     bool growing = grows;
     auto windowStart = std::chrono::steady_clock::now();
-    size_t windowFiles = filesRead.load();
+    qint64 windowBytes = bytesRead.load();
     while (running.load() > 0) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
         if (!growing || next.load() >= count)
@@ -84,17 +84,17 @@ void ReadPool::run(
         const auto now = std::chrono::steady_clock::now();
         if (now - windowStart < kWindow)
             continue;
-        const size_t files = filesRead.load();
-        const double rate = double(files - windowFiles)
+        const qint64 bytes = bytesRead.load();
+        const double rate = double(bytes - windowBytes)
             / std::chrono::duration<double>(now - windowStart).count();
         windowStart = now;
-        windowFiles = files;
+        windowBytes = bytes;
         if (before > 0 && rate < before * kWorthGrowing) {
             growing = false;
             continue;
         }
         before = std::max(before, rate);
-        const int more = std::min(readers, kMaxReaders - readers);
+        const int more = std::min(readers * (kGrowth - 1), kMaxReaders - readers);
         if (more <= 0) {
             growing = false;
             continue;

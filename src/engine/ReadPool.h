@@ -10,8 +10,8 @@
 // reads in flight far faster than one at a time, whatever it says it is, while a warm page
 // cache or a spinning disk gains nothing from more than a few. How many read at once
 // follows what the device does:
-// - Auto starts with as many readers as the processor has threads and doubles them while
-//   the files read per moment keep growing (up to kMaxReaders);
+// - Auto starts with as many readers as the processor has threads and multiplies them
+//   while the bytes read per moment keep growing (up to kMaxReaders);
 // - Ssd runs kMaxReaders from the start;
 // - Hdd runs one reader, in the order given (the caller's physical order);
 // - Plain, for drives on an external bus, keeps the processor's count and never grows.
@@ -35,10 +35,10 @@ public:
     void setFixedReaders(int readers) { m_fixed = readers; }
 
     // Calls work(i) for every i below count on the readers and returns when all are done.
-    // work returns how many files the item read: the measure by which Auto decides.
+    // bytesRead is what the work adds to as it reads: the measure by which Auto decides.
     // stop, when set, makes the readers take no further item.
-    void run(size_t count, const std::function<size_t(size_t)> &work,
-        const std::atomic<qint64> *stop = nullptr);
+    void run(size_t count, const std::function<void(size_t)> &work,
+        const std::atomic<qint64> &bytesRead, const std::atomic<qint64> *stop = nullptr);
     // The readers the last run ended with.
     int readers() const { return m_readers.load(); }
 

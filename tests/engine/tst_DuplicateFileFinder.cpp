@@ -175,20 +175,20 @@ private slots:
     {
         QFETCH(bool, parallel);
         QMutex device;
-        std::atomic<qint64> stop {0};
+        std::atomic<qint64> bytes {0};
         ReadPool pool;
         pool.run(
             3000,
-            [&](size_t) -> size_t {
+            [&](size_t) {
                 if (parallel) {
                     QThread::usleep(2000);
                 } else {
                     QMutexLocker locker(&device);
                     QThread::usleep(300);
                 }
-                return 1;
+                bytes.fetch_add(4096);
             },
-            &stop);
+            bytes);
         if (parallel)
             QVERIFY2(pool.readers() >= 32, qPrintable(QString::number(pool.readers())));
         else
