@@ -14,6 +14,10 @@ namespace {
 constexpr auto kWindow = std::chrono::milliseconds(50);
 constexpr int kGrowth = 4;
 constexpr double kWorthGrowing = 1.2;
+// After a growth that did not pay, the readers stay as they are for this many windows, then
+// try again: what the files ask of the device changes as the run goes on (large files read
+// ahead well with few readers, small ones want many in flight).
+constexpr int kPauseWindows = 8;
 
 } // namespace
 
@@ -52,8 +56,13 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
         return;
     std::atomic<size_t> next {0};
     std::atomic<int> running {0};
+    // Readers above this number leave after their item: a growth that did not pay is undone.
+    std::atomic<int> target {kMaxReaders};
     const auto reader = [&] {
         for (;;) {
+            int now = running.load();
+            if (now > target.load() && running.compare_exchange_strong(now, now - 1))
+                return;
             if (stop && stop->load() != 0)
                 break;
             const size_t item = next.fetch_add(1);
@@ -72,14 +81,15 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
     int readers = std::min<size_t>(size_t(startReaders()), count);
     add(readers);
     const bool grows = m_fixed == 0 && m_mode == Auto;
-    // The rate with the present readers, measured over a whole window once they run.
+    // The rate before the last growth (0: none measured since the last pause).
     double before = 0;
-    bool growing = grows;
+    int previous = readers;
+    int pause = 0;
     auto windowStart = std::chrono::steady_clock::now();
     qint64 windowBytes = bytesRead.load();
     while (running.load() > 0) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        if (!growing || next.load() >= count)
+        if (!grows || next.load() >= count)
             continue;
         const auto now = std::chrono::steady_clock::now();
         if (now - windowStart < kWindow)
@@ -89,18 +99,26 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
             / std::chrono::duration<double>(now - windowStart).count();
         windowStart = now;
         windowBytes = bytes;
+        if (pause > 0) {
+            --pause;
+            continue;
+        }
         if (before > 0 && rate < before * kWorthGrowing) {
-            growing = false;
+            // The last growth did not pay: back to the readers before it, for a while.
+            readers = previous;
+            target.store(readers);
+            before = 0;
+            pause = kPauseWindows;
             continue;
         }
-        before = std::max(before, rate);
         const int more = std::min(readers * (kGrowth - 1), kMaxReaders - readers);
-        if (more <= 0) {
-            growing = false;
+        if (more <= 0)
             continue;
-        }
-        add(more);
+        before = rate;
+        previous = readers;
         readers += more;
+        target.store(readers);
+        add(more);
     }
     m_pool.waitForDone();
     m_readers.store(readers);
