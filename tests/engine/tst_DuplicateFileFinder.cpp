@@ -4,6 +4,11 @@
 #include "engine/ReadPool.h"
 #include "engine/TFileData.h"
 
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -194,6 +199,75 @@ private slots:
         else
             QVERIFY2(pool.readers() <= 2 * QThread::idealThreadCount(),
                 qPrintable(QString::number(pool.readers())));
+    }
+
+    // A stop while the readers wait on a cold, slow disk (its reads throttled to 400 a
+    // second for this process) takes effect within a second, and what was found by then
+    // is whole.
+    void stopDuringColdReads()
+    {
+        if (::geteuid() != 0)
+            QSKIP("dropping the page cache and throttling a disk need root");
+        QTemporaryDir dir;
+        QStringList names;
+        for (int i = 0; i < 1500; ++i) {
+            names << QStringLiteral("d%1/a%2.bin").arg(i % 40).arg(i)
+                  << QStringLiteral("e%1/b%2.bin").arg(i % 40).arg(i);
+            for (const QString &name : names.mid(names.size() - 2))
+                ScanTree::write(dir.path(), name, ScanTree::pattern(40000 + i, char(i)));
+        }
+        struct stat info
+        {
+        };
+        QCOMPARE(::stat(QFile::encodeName(dir.path()).constData(), &info), 0);
+        const QString cgroup = QStringLiteral("/sys/fs/cgroup/blkio/veltrine-test-%1")
+                                   .arg(QCoreApplication::applicationPid());
+        if (!QDir().mkpath(cgroup))
+            QSKIP("no blkio control group to throttle the disk with");
+        const auto put = [](const QString &file, const QByteArray &text) {
+            QFile out(file);
+            return out.open(QIODevice::WriteOnly) && out.write(text) == text.size() && out.flush();
+        };
+        const QByteArray device
+            = QByteArray::number(major(info.st_dev)) + ':' + QByteArray::number(minor(info.st_dev));
+        const QByteArray self = QByteArray::number(QCoreApplication::applicationPid());
+        const bool throttled = put(cgroup + "/blkio.throttle.read_iops_device", device + " 400")
+            && put(cgroup + "/cgroup.procs", self);
+        ::sync();
+        put("/proc/sys/vm/drop_caches", "3");
+        TFileData::instance()->clear();
+        DuplicateFileFinder::SizeTable table;
+        QStringList all;
+        for (const QString &name : std::as_const(names)) {
+            const QString path = dir.path() + QLatin1Char('/') + name;
+            table[QFileInfo(path).size()].append(FileMeta {QFileInfo(path).size(), path, 0});
+            all.append(path);
+        }
+        DuplicateFileFinder finder;
+        finder.applyConfig({{"scanMethod", 2}, {"duplicateSelectHint", 8}});
+        finder.setInput(table, all);
+        finder.start();
+        QThread::msleep(400);
+        finder.requestStop();
+        QElapsedTimer stopping;
+        stopping.start();
+        const bool ended = finder.wait(5000);
+        const qint64 took = stopping.elapsed();
+        put("/sys/fs/cgroup/blkio/cgroup.procs", self);
+        QDir().rmdir(cgroup);
+        if (!throttled)
+            QSKIP("the disk could not be throttled");
+        QVERIFY(ended);
+        QVERIFY2(took < 1000, qPrintable(QStringLiteral("the stop took %1 ms").arg(took)));
+        // Stopped before the end, and every group found is a pair of real copies.
+        const QList<QStringList> groups
+            = ScanTree::relativeGroups(TFileData::instance()->groups(), dir.path());
+        QVERIFY(groups.size() < 1500);
+        for (const QStringList &group : groups) {
+            QCOMPARE(group.size(), 2);
+            QCOMPARE(group.at(0).mid(group.at(0).indexOf('a') + 1),
+                group.at(1).mid(group.at(1).indexOf('b') + 1));
+        }
     }
 
     void selectionFollowsHint()
