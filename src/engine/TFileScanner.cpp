@@ -428,7 +428,9 @@ void TFileScanner::processDir(WalkState &state, const Folder &folder, bool filte
 
 void TFileScanner::drainWithPool(WalkState &state)
 {
-    const int workers = std::max(1, QThread::idealThreadCount());
+    // Four walkers a processor thread: on a cold tree each waits on the disk for folders
+    // and inodes most of the time, and the disk answers many such reads at once.
+    const int workers = std::max(1, QThread::idealThreadCount()) * 4;
     QThreadPool pool;
     pool.setMaxThreadCount(workers);
     state.done = false;
