@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/ProtectedFolders.h"
 
+#include "engine/FilePathCodec.h"
 #include "engine/GroupMember.h"
+#include "platform/FolderReader.h"
 
 #include <algorithm>
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPair>
+#include <QSet>
 
 ProtectedFolders::ProtectedFolders(const QStringList &folders)
 {
@@ -61,7 +65,41 @@ bool ProtectedFolders::protectsOnDisk(const QString &path) const
     // folder is resolved.
     const QFileInfo info(normalised(path));
     const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
-    return !folder.isEmpty() && protects(folder + QLatin1Char('/') + info.fileName());
+    if (!folder.isEmpty() && protects(folder + QLatin1Char('/') + info.fileName()))
+        return true;
+    // A bind mount shows a protected folder under a path no link resolution leads from:
+    // only the folders' identities tell. The item itself counts when it is a folder.
+    using Identity = QPair<unsigned long long, unsigned long long>;
+    const auto identityOf = [](const QString &entry, bool followLinks, Identity &identity) {
+        platform::EntryInfo entryInfo;
+        if (platform::entryInfoOf(
+                FilePathCodec::encode(entry).toStdString(), followLinks, entryInfo)
+                != 0
+            || entryInfo.kind != platform::EntryInfo::Folder || !entryInfo.hasIdentity())
+            return false;
+        identity = {entryInfo.device, entryInfo.inode};
+        return true;
+    };
+    QSet<Identity> shielded;
+    for (const QString &given : m_given) {
+        Identity identity;
+        if (identityOf(given, true, identity))
+            shielded.insert(identity);
+    }
+    if (shielded.isEmpty())
+        return false;
+    Identity identity;
+    if (identityOf(info.absoluteFilePath(), false, identity) && shielded.contains(identity))
+        return true;
+    for (QString ancestor = folder; !ancestor.isEmpty();) {
+        if (identityOf(ancestor, true, identity) && shielded.contains(identity))
+            return true;
+        const qsizetype slash = ancestor.lastIndexOf(QLatin1Char('/'));
+        if (ancestor == QLatin1String("/") || slash < 0)
+            break;
+        ancestor.truncate(slash == 0 ? 1 : slash);
+    }
+    return false;
 }
 
 bool ProtectedFolders::liesIn(const QString &path) const

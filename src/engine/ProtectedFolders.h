@@ -33,8 +33,9 @@ public:
     // Whether every one of a group's entries (GroupMember entries or folder paths) is
     // protected: nothing in such a group can be acted on, so it is no result to show.
     bool protectsEvery(const QStringList &entries) const;
-    // Also by the path's place on disk, every link in its folders resolved: the last word
-    // before something is removed, when a link may lead into a protected folder.
+    // Also by the path's place on disk, every link in its folders resolved and every folder
+    // above it compared by identity: the last word before something is removed, when a
+    // link or a bind mount may lead into a protected folder.
     bool protectsOnDisk(const QString &path) const;
 
     friend bool operator==(const ProtectedFolders &a, const ProtectedFolders &b)

@@ -491,31 +491,46 @@ private slots:
     void protectedFolders_data()
     {
         QTest::addColumn<QString>("folder");
-        QTest::addColumn<bool>("throughLink");
+        QTest::addColumn<QString>("reach"); // the item's folder: as is, a link or a bind mount
         QTest::addColumn<bool>("selectBoth");
         QTest::addColumn<bool>("dryRun");
         QTest::addColumn<bool>("itemGoes");
-        QTest::newRow("the selected item's folder") << "b" << false << false << false << false;
-        QTest::newRow("the same in a dry run") << "b" << false << false << true << false;
-        QTest::newRow("a folder above both") << "" << false << false << false << false;
-        QTest::newRow("reached through a link") << "b" << true << false << false << false;
+        QTest::newRow("the selected item's folder") << "b"
+                                                    << "" << false << false << false;
+        QTest::newRow("the same in a dry run") << "b"
+                                               << "" << false << true << false;
+        QTest::newRow("a folder above both") << ""
+                                             << "" << false << false << false;
+        QTest::newRow("reached through a link") << "b"
+                                                << "link" << false << false << false;
+        QTest::newRow("reached through a bind mount") << "b"
+                                                      << "bind" << false << false << false;
         QTest::newRow("both selected, the protected one stays as the kept copy")
-            << "a" << false << true << false << true;
+            << "a"
+            << "" << true << false << true;
     }
     void protectedFolders()
     {
         QFETCH(QString, folder);
-        QFETCH(bool, throughLink);
+        QFETCH(QString, reach);
         QFETCH(bool, selectBoth);
         QFETCH(bool, dryRun);
         QFETCH(bool, itemGoes);
         Pair pair(TFileDeleter::removePermanently);
         const QString shelter = QDir::cleanPath(pair.dir.path() + '/' + folder);
-        if (throughLink) {
-            const QString link = pair.dir.path() + "/link";
-            QVERIFY(QFile::link(pair.dir.path() + "/b", link));
-            pair.request.stamps.insert(link + "/x.bin", pair.request.stamps.value(pair.item));
-            pair.item = link + "/x.bin";
+        const QString other = pair.dir.path() + "/other";
+        if (reach == "link")
+            QVERIFY(QFile::link(pair.dir.path() + "/b", other));
+        if (reach == "bind") {
+            if (::geteuid() != 0)
+                QSKIP("bind mounts need root");
+            QVERIFY(QDir().mkpath(other));
+            if (QProcess::execute("mount", {"--bind", pair.dir.path() + "/b", other}) != 0)
+                QSKIP("mount --bind is not allowed here");
+        }
+        if (!reach.isEmpty()) {
+            pair.request.stamps.insert(other + "/x.bin", pair.request.stamps.value(pair.item));
+            pair.item = other + "/x.bin";
             pair.request.groups["G"] = {pair.kept, pair.item};
         }
         pair.request.selected["G"]
@@ -525,11 +540,14 @@ private slots:
         pair.request.protectedFolders = ProtectedFolders({shelter});
         const QList<DeleteResult> results = pair.run();
         const QString refused = selectBoth ? pair.kept : pair.item;
+        const bool refusedStays = QFileInfo::exists(refused);
+        if (reach == "bind")
+            QProcess::execute("umount", {other});
         const auto found = std::find_if(results.cbegin(), results.cend(),
             [&refused](const DeleteResult &result) { return result.path == refused; });
         QVERIFY(found != results.cend());
         QCOMPARE(found->reason, RemovalCheck::inProtectedFolder);
-        QVERIFY(QFileInfo::exists(refused));
+        QVERIFY(refusedStays);
         QCOMPARE(QFileInfo::exists(selectBoth ? pair.item : pair.kept), !itemGoes);
     }
 
