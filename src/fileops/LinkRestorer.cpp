@@ -5,6 +5,7 @@
 #include "engine/ContentHash.h"
 #include "engine/FilePathCodec.h"
 #include "engine/FileStamp.h"
+#include "fileops/ContentCompare.h"
 #include "fileops/EntrySwap.h"
 #include "fileops/TFileDeleter.h"
 #include "platform/FileLinks.h"
@@ -67,6 +68,25 @@ bool isTheLink(const RemovalJournal::Item &item, const QString &path, bool sameA
         return true;
     const platform::EntryInfo kept = infoOf(item.destination);
     return kept.device == info.device && kept.inode == info.inode;
+}
+
+// Whether the regular file at path reads the same bytes as the old item waiting at aside:
+// a hard link's kept copy or a clone may have been written, or another file saved in its
+// place, since the batch was cut; only an equal one can go without a loss.
+bool readsAsOld(const QString &path, const QString &aside)
+{
+    const int fd = ContentCompare::openRegular(path);
+    if (fd < 0)
+        return false;
+    const bool same = ContentCompare::compare(fd, aside) == ContentCompare::Same;
+    ::close(fd);
+    return same;
+}
+
+bool sameEntry(const platform::EntryInfo &a, const platform::EntryInfo &b)
+{
+    return a.kind == b.kind && a.device == b.device && a.inode == b.inode && a.size == b.size
+        && a.modifiedNs == b.modifiedNs;
 }
 
 #ifdef Q_OS_UNIX
@@ -139,9 +159,12 @@ QString LinkRestorer::restoreIntended(const RemovalJournal::Item &item)
                 nativeOf(item.privatePath), nativeOf(item.path), crossDevice);
             return error == 0 ? QString() : TFileDeleter::errorText(error);
         }
+        if (!isSymlinkMethod(item.method) && !readsAsOld(item.path, item.privatePath))
+            return text("what is at its place is no longer the link that replaced it");
         EntrySwap swap(item.privatePath, item.path);
-        const EntrySwap::Outcome swapped = swap.swap(
-            [&item](const QString &displaced) { return isTheLink(item, displaced, false); });
+        const EntrySwap::Outcome swapped = swap.swap([&item, &atPath](const QString &displaced) {
+            return isTheLink(item, displaced, false) && sameEntry(infoOf(displaced), atPath);
+        });
         if (swapped == EntrySwap::NotExpected)
             return text("what is at its place is no longer the link that replaced it");
         if (swapped == EntrySwap::Failed)

@@ -901,6 +901,8 @@ private slots:
         QTest::newRow("item untouched, link made beside it") << "untouched";
         QTest::newRow("swapped, old item under the private name") << "aside";
         QTest::newRow("link in place, old item gone") << "linked";
+        // Another program saved a new file over the link after the cut: it is no link of ours.
+        QTest::newRow("swapped, then a new file saved at its place") << "saved";
     }
     void linkWithoutOutcomeRestored()
     {
@@ -927,11 +929,24 @@ private slots:
             QCOMPARE(link(pair.item), 0);
             if (state == "linked")
                 QVERIFY(QFile::remove(privatePath));
+            if (state == "saved") {
+                const QString saved = ScanTree::write(pair.dir.path(), "b/x.bin.new", "saved");
+                QCOMPARE(::rename(QFile::encodeName(saved).constData(),
+                             QFile::encodeName(pair.item).constData()),
+                    0);
+            }
         }
         RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
         QCOMPARE(journal.batches().value(0).restorableCount(), 1);
         QList<DeleteResult> restored;
-        QVERIFY(RemovalRestorer(journal).restore({}, restored));
+        const bool whole = RemovalRestorer(journal).restore({}, restored);
+        if (state == "saved") {
+            QVERIFY(!restored.value(0).success);
+            QCOMPARE(ScanTree::read(pair.item), QByteArray("saved"));
+            QCOMPARE(ScanTree::read(privatePath), bytes);
+            return;
+        }
+        QVERIFY(whole);
         QVERIFY2(restored.value(0).success, qPrintable(restored.value(0).reason));
         // The same file comes back where it still existed (a freed inode number may be reused).
         if (state != "linked")
