@@ -12,6 +12,43 @@
 #include <QPair>
 #include <QSet>
 
+namespace {
+
+using Identity = QPair<unsigned long long, unsigned long long>;
+
+bool identityOf(const QString &entry, bool followLinks, Identity &identity)
+{
+    platform::EntryInfo info;
+    if (platform::entryInfoOf(FilePathCodec::encode(entry).toStdString(), followLinks, info) != 0
+        || info.kind != platform::EntryInfo::Folder || !info.hasIdentity())
+        return false;
+    identity = {info.device, info.inode};
+    return true;
+}
+
+// Whether the folder, or any folder below it (links not followed), is one of shielded: a
+// protected folder mounted inside it goes with it.
+bool holdsAny(const std::string &folder, const QSet<Identity> &shielded)
+{
+    platform::FolderReader reader(folder);
+    platform::EntryInfo info;
+    if (reader.error() != 0 || reader.folderInfo(info) != 0)
+        return false;
+    if (shielded.contains(Identity {info.device, info.inode}))
+        return true;
+    while (reader.next()) {
+        platform::EntryInfo::Kind kind = reader.listedKind();
+        if (kind == platform::EntryInfo::Unknown && reader.stat(info) == 0)
+            kind = info.kind;
+        if (kind == platform::EntryInfo::Folder
+            && holdsAny(folder + '/' + std::string(reader.name(), reader.nameLength()), shielded))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 ProtectedFolders::ProtectedFolders(const QStringList &folders)
 {
     for (const QString &folder : folders) {
@@ -68,18 +105,7 @@ bool ProtectedFolders::protectsOnDisk(const QString &path) const
     if (!folder.isEmpty() && protects(folder + QLatin1Char('/') + info.fileName()))
         return true;
     // A bind mount shows a protected folder under a path no link resolution leads from:
-    // only the folders' identities tell. The item itself counts when it is a folder.
-    using Identity = QPair<unsigned long long, unsigned long long>;
-    const auto identityOf = [](const QString &entry, bool followLinks, Identity &identity) {
-        platform::EntryInfo entryInfo;
-        if (platform::entryInfoOf(
-                FilePathCodec::encode(entry).toStdString(), followLinks, entryInfo)
-                != 0
-            || entryInfo.kind != platform::EntryInfo::Folder || !entryInfo.hasIdentity())
-            return false;
-        identity = {entryInfo.device, entryInfo.inode};
-        return true;
-    };
+    // only the folders' identities tell, those above the item and, for a folder, in it.
     QSet<Identity> shielded;
     for (const QString &given : m_given) {
         Identity identity;
@@ -89,7 +115,8 @@ bool ProtectedFolders::protectsOnDisk(const QString &path) const
     if (shielded.isEmpty())
         return false;
     Identity identity;
-    if (identityOf(info.absoluteFilePath(), false, identity) && shielded.contains(identity))
+    if (identityOf(info.absoluteFilePath(), false, identity)
+        && holdsAny(FilePathCodec::encode(info.absoluteFilePath()).toStdString(), shielded))
         return true;
     for (QString ancestor = folder; !ancestor.isEmpty();) {
         if (identityOf(ancestor, true, identity) && shielded.contains(identity))

@@ -551,6 +551,31 @@ private slots:
         QCOMPARE(QFileInfo::exists(selectBoth ? pair.item : pair.kept), !itemGoes);
     }
 
+    // A folder that holds a protected one mounted inside it holds it, whatever the paths say.
+    void protectedFolderMountedInside()
+    {
+        if (::geteuid() != 0)
+            QSKIP("bind mounts need root");
+        QTemporaryDir dir;
+        const QByteArray bytes = ScanTree::pattern(9000, 1);
+        const QString archive
+            = QFileInfo(ScanTree::write(dir.path(), "archive/one.bin", bytes)).path();
+        ScanTree::write(dir.path(), "K/m/one.bin", bytes);
+        const QString mounted = dir.path() + "/F/m";
+        QVERIFY(QDir().mkpath(mounted));
+        if (QProcess::execute("mount", {"--bind", archive, mounted}) != 0)
+            QSKIP("mount --bind is not allowed here");
+        RemovalRequest request;
+        request.method = TFileDeleter::removePermanently;
+        request.dirGroups.insert("D", {{dir.path() + "/K", 1, 9000}, {dir.path() + "/F", 1, 9000}});
+        request.selected.insert("D", {dir.path() + "/F"});
+        request.protectedFolders = ProtectedFolders({archive});
+        const QList<DeleteResult> results = runWithJournal(request, dir.path() + "/journal");
+        QProcess::execute("umount", {mounted});
+        QCOMPARE(results.value(0).reason, RemovalCheck::inProtectedFolder);
+        QCOMPARE(ScanTree::read(archive + "/one.bin"), bytes);
+    }
+
     void folders_data()
     {
         QTest::addColumn<bool>("extraFile");
