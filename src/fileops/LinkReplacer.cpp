@@ -92,6 +92,20 @@ bool LinkReplacer::handles(int method)
         || method == TFileDeleter::replaceBySymlink;
 }
 
+int LinkReplacer::modeOf(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat info
+    {
+    };
+    if (::lstat(FilePathCodec::encode(path).constData(), &info) == 0)
+        return int(info.st_mode & 07777);
+#else
+    Q_UNUSED(path)
+#endif
+    return -1;
+}
+
 QString LinkReplacer::chooseKept(const RemovalCheck::Look &look, QString &reason) const
 {
     for (const QString &kept : look.kept) {
@@ -166,13 +180,7 @@ DeleteResult LinkReplacer::replace(const QString &path, const RemovalCheck::Look
         keep(result, confirmed.reason);
         return result;
     }
-#ifdef Q_OS_UNIX
-    struct stat itemMode
-    {
-    };
-    if (::lstat(FilePathCodec::encode(path).constData(), &itemMode) == 0)
-        result.mode = int(itemMode.st_mode & 07777);
-#endif
+    result.mode = modeOf(path);
     EntrySwap swap(privatePath, path);
     const EntrySwap::Outcome swapped = swap.swap([&look](const QString &displaced) {
         const platform::EntryInfo info = infoOf(displaced);

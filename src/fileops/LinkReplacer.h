@@ -25,6 +25,9 @@ public:
 
     // Whether method is one of the link methods.
     static bool handles(int method);
+    // The permission bits of the entry at path, which its link will not keep; -1 where
+    // there are none.
+    static int modeOf(const QString &path);
 
     LinkReplacer(int method, const RemovalCheck &check, RemovalCheck::GroupKind kind)
         : m_method(method), m_check(check), m_kind(kind)

@@ -261,7 +261,7 @@ bool RemovalJournal::begin(
 
 bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &path,
     const QString &privatePath, qint64 size, qint64 modifiedNs, const QString &into,
-    const QString &destination, quint64 device, quint64 inode)
+    const QString &destination, quint64 device, quint64 inode, int mode)
 {
     ItemLine line(m_batch);
     line.add(kEvent, kIntent);
@@ -280,6 +280,8 @@ bool RemovalJournal::intent(qint64 seq, const QString &method, const QString &pa
         line.add(kDevice, QString::number(device));
         line.add(kInode, QString::number(inode));
     }
+    if (mode >= 0)
+        line.add(kMode, mode);
     return writeLine(line.take());
 }
 
@@ -437,6 +439,7 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
             item.destination = takePath(line, kTo, kToBytes, &refused);
             item.device = line.value(kDevice).toString().toULongLong();
             item.inode = line.value(kInode).toString().toULongLong();
+            item.mode = line.value(kMode).toInt(-1);
             continue;
         }
         item.hasOutcome = true;
@@ -454,7 +457,8 @@ QList<RemovalJournal::Batch> RemovalJournal::batches() const
             item.modifiedNs = line.value(kModified).toString().toLongLong();
             item.digest = QByteArray::fromHex(line.value(kHash).toString().toLatin1());
         }
-        item.mode = line.value(kMode).toInt(-1);
+        if (line.contains(kMode))
+            item.mode = line.value(kMode).toInt(-1);
     }
     return batches;
 }

@@ -89,10 +89,11 @@ public:
     // size and modifiedNs: the item as the look before the act saw it (size -1 for a
     // folder), so that an item whose outcome was never written can be recognised.
     // into: the folder a move puts the item into, when it is not the batch's target. An
-    // item replaced by a link also names the kept copy (destination) and its own identity.
+    // item replaced by a link also names the kept copy (destination), its own identity and
+    // its permission bits (mode, -1: none), which a link cut short without an outcome has lost.
     bool intent(qint64 seq, const QString &method, const QString &path, const QString &privatePath,
         qint64 size, qint64 modifiedNs, const QString &into = {}, const QString &destination = {},
-        quint64 device = 0, quint64 inode = 0);
+        quint64 device = 0, quint64 inode = 0, int mode = -1);
     // The outcome line is held until the next line is written (the next item's intent, at
     // the latest), so that each item costs one write: it follows the act, and comes before
     // the next act. An intent without its outcome is what a restore looks for anyway.

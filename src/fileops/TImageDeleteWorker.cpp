@@ -290,7 +290,7 @@ bool TImageDeleteWorker::handleLink(
     if (!intended(m_journal
                 && m_journal->intent(seq, RemovalJournal::methodName(m_request.method), path,
                     privatePath, look.stamp.size, look.stamp.modifiedNs, {}, kept,
-                    look.stamp.device, look.stamp.inode),
+                    look.stamp.device, look.stamp.inode, LinkReplacer::modeOf(path)),
             result))
         return false;
     if (m_beforeAct)

@@ -812,6 +812,14 @@ private slots:
         QCOMPARE(item.destination, pair.kept);
         QCOMPARE(item.inode, quint64(before.st_ino));
         QVERIFY(!item.digest.isEmpty());
+        QFile lines(pair.dir.path() + "/journal.jsonl");
+        QVERIFY(lines.open(QIODevice::ReadOnly));
+        const QByteArray mode
+            = QByteArray("\"mode\":") + QByteArray::number(before.st_mode & 07777);
+        const QList<QByteArray> written = lines.readAll().split('\n');
+        QVERIFY(std::any_of(written.cbegin(), written.cend(), [&mode](const QByteArray &line) {
+            return line.contains("\"intent\"") && line.contains(mode);
+        }));
         QCOMPARE(journal.batches().value(0).restorableCount(), 1);
 
         QList<DeleteResult> restored;
@@ -934,6 +942,8 @@ private slots:
         QFETCH(QString, state);
         Pair pair(TFileDeleter::replaceByHardLink);
         const QByteArray bytes = ScanTree::read(pair.item);
+        // Bits of its own, which the kept copy behind the link does not have.
+        QVERIFY(QFile::setPermissions(pair.item, QFile::ReadOwner | QFile::WriteOwner));
         const struct stat item = statOf(pair.item);
         const QString privatePath = pair.dir.path() + "/b/.veltrine-linking-0123456789abcdef";
         const QString method = RemovalJournal::methodName(TFileDeleter::replaceByHardLink);
@@ -941,7 +951,8 @@ private slots:
             RemovalJournal journal(pair.dir.path() + "/journal.jsonl");
             QVERIFY(journal.begin(method, 1));
             QVERIFY(journal.intent(0, method, pair.item, privatePath, item.st_size,
-                qint64(item.st_mtim.tv_sec) * 1000000000, {}, pair.kept, item.st_dev, item.st_ino));
+                qint64(item.st_mtim.tv_sec) * 1000000000, {}, pair.kept, item.st_dev, item.st_ino,
+                int(item.st_mode & 07777)));
         }
         const auto link = [&pair](const QString &at) {
             return ::link(
@@ -977,6 +988,7 @@ private slots:
         if (state != "linked")
             QCOMPARE(statOf(pair.item).st_ino, item.st_ino);
         QCOMPARE(statOf(pair.item).st_nlink, nlink_t(1));
+        QCOMPARE(statOf(pair.item).st_mode, item.st_mode);
         QCOMPARE(statOf(pair.kept).st_nlink, nlink_t(1));
         QCOMPARE(ScanTree::read(pair.item), bytes);
         QCOMPARE(leftovers(pair.item), QStringList());
