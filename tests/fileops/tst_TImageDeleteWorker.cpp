@@ -505,6 +505,10 @@ private slots:
                                                 << "link" << false << false << false;
         QTest::newRow("reached through a bind mount") << "b"
                                                       << "bind" << false << false << false;
+        // Mounted outside it: only the mount table tells that b lies inside the protected one.
+        QTest::newRow("a folder inside it bind-mounted elsewhere")
+            << ""
+            << "bind-inside" << false << false << false;
         QTest::newRow("both selected, the protected one stays as the kept copy")
             << "a"
             << "" << true << false << true;
@@ -518,10 +522,11 @@ private slots:
         QFETCH(bool, itemGoes);
         Pair pair(TFileDeleter::removePermanently);
         const QString shelter = QDir::cleanPath(pair.dir.path() + '/' + folder);
-        const QString other = pair.dir.path() + "/other";
+        const QTemporaryDir outside;
+        const QString other = reach == "bind-inside" ? outside.path() : pair.dir.path() + "/other";
         if (reach == "link")
             QVERIFY(QFile::link(pair.dir.path() + "/b", other));
-        if (reach == "bind") {
+        if (reach.startsWith("bind")) {
             if (::geteuid() != 0)
                 QSKIP("bind mounts need root");
             QVERIFY(QDir().mkpath(other));
@@ -541,7 +546,7 @@ private slots:
         const QList<DeleteResult> results = pair.run();
         const QString refused = selectBoth ? pair.kept : pair.item;
         const bool refusedStays = QFileInfo::exists(refused);
-        if (reach == "bind")
+        if (reach.startsWith("bind"))
             QProcess::execute("umount", {other});
         const auto found = std::find_if(results.cbegin(), results.cend(),
             [&refused](const DeleteResult &result) { return result.path == refused; });
