@@ -9,6 +9,7 @@
 #include "platform/FolderReader.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
 #include <cerrno>
 
 #ifdef Q_OS_UNIX
@@ -61,13 +62,14 @@ bool unchanged(const QString &path, const platform::EntryInfo &before, bool chan
         && (!changeTime || now.changedNs == before.changedNs);
 }
 
-// Removes the link made under the private name, and nothing else: never the item.
-void discard(const QString &privatePath, const FileStamp &item)
+// Removes the link made under the private name, and nothing else: only the entry that was
+// made there (its kind, device and inode), never the item nor a file another program has
+// renamed to that name since.
+void discard(const QString &privatePath, const platform::EntryInfo &made)
 {
     const platform::EntryInfo info = infoOf(privatePath);
-    if (info.kind == platform::EntryInfo::Unknown
-        || (info.device == item.device && info.inode == item.inode)
-        || (info.kind != platform::EntryInfo::File && info.kind != platform::EntryInfo::Link))
+    if (info.kind == platform::EntryInfo::Unknown || info.kind != made.kind
+        || info.device != made.device || info.inode != made.inode)
         return;
     if (const int error = platform::current().removePermanently(nativeOf(privatePath)))
         splog_d(kTag
@@ -106,9 +108,15 @@ int LinkReplacer::modeOf(const QString &path)
     return -1;
 }
 
-QString LinkReplacer::chooseKept(const RemovalCheck::Look &look, QString &reason) const
+QString LinkReplacer::chooseKept(
+    const RemovalCheck::Look &look, const ProtectedFolders &protectedFolders, QString &reason) const
 {
-    for (const QString &kept : look.kept) {
+    // A copy outside the protected folders first: a write through a hard link, or through a
+    // symbolic link that is followed, changes the copy it leads to.
+    QStringList candidates = look.kept;
+    std::stable_partition(candidates.begin(), candidates.end(),
+        [&protectedFolders](const QString &kept) { return !protectedFolders.protects(kept); });
+    for (const QString &kept : std::as_const(candidates)) {
         // A hard link or a clone shares blocks, which only one file system can.
         if (m_method == TFileDeleter::replaceBySymlink || infoOf(kept).device == look.stamp.device)
             return kept;
@@ -161,6 +169,7 @@ DeleteResult LinkReplacer::replace(const QString &path, const RemovalCheck::Look
             refusal.isEmpty());
         return result;
     }
+    const platform::EntryInfo made = infoOf(privatePath);
     // What the item's path will read once the link is in place: the kept copy itself (a hard
     // link is one more name of it), or the clone.
     const bool clone = m_method == TFileDeleter::replaceByReflink;
@@ -168,15 +177,15 @@ DeleteResult LinkReplacer::replace(const QString &path, const RemovalCheck::Look
     const platform::EntryInfo linked = infoOf(read);
     if (linked.kind != platform::EntryInfo::File
         || (m_method == TFileDeleter::replaceByHardLink
-            && !sameFile(infoOf(privatePath), linked.device, linked.inode))) {
-        discard(privatePath, look.stamp);
+            && !sameFile(made, linked.device, linked.inode))) {
+        discard(privatePath, made);
         keep(result, keptCopyMoved);
         return result;
     }
     // The item at its own place, still the file the look saw, against what the link reads.
     const RemovalCheck::Confirmed confirmed = confirm(look, path, read);
     if (!confirmed.reason.isEmpty()) {
-        discard(privatePath, look.stamp);
+        discard(privatePath, made);
         keep(result, confirmed.reason);
         return result;
     }
@@ -188,7 +197,7 @@ DeleteResult LinkReplacer::replace(const QString &path, const RemovalCheck::Look
             && info.modifiedNs == look.stamp.modifiedNs;
     });
     if (swapped != EntrySwap::Swapped) {
-        discard(privatePath, look.stamp);
+        discard(privatePath, made);
         keep(result,
             swapped == EntrySwap::NotExpected ? RemovalCheck::changedSinceScan
                                               : TFileDeleter::errorText(swap.error()),
@@ -201,13 +210,13 @@ DeleteResult LinkReplacer::replace(const QString &path, const RemovalCheck::Look
     const platform::EntryInfo displaced = infoOf(swap.displaced());
     if (!unchanged(clone ? path : kept, linked, changeTime)) {
         swap.undo();
-        discard(privatePath, look.stamp);
+        discard(privatePath, made);
         keep(result, keptCopyMoved);
         return result;
     }
     if (const int error = platform::current().removePermanently(nativeOf(swap.displaced()))) {
         swap.undo();
-        discard(privatePath, look.stamp);
+        discard(privatePath, made);
         keep(result, TFileDeleter::errorText(error), true);
         return result;
     }

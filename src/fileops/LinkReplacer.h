@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/DeleteResult.h"
+#include "engine/ProtectedFolders.h"
 #include "fileops/RemovalCheck.h"
 
 #include <QString>
@@ -34,8 +35,10 @@ public:
     { }
 
     // The kept copy a link of this method can point at: the first of the look's on the
-    // item's file system (any, for a symbolic link). Empty, with reason, when there is none.
-    QString chooseKept(const RemovalCheck::Look &look, QString &reason) const;
+    // item's file system (any, for a symbolic link), one outside the protected folders
+    // where there is one. Empty, with reason, when there is none.
+    QString chooseKept(const RemovalCheck::Look &look, const ProtectedFolders &protectedFolders,
+        QString &reason) const;
     // What a dry run can tell: the item at path, compared whole with kept, read now.
     RemovalCheck::Confirmed confirm(
         const RemovalCheck::Look &look, const QString &path, const QString &kept) const;

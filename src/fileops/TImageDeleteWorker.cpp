@@ -271,7 +271,9 @@ bool TImageDeleteWorker::handleLink(
     }
     const LinkReplacer replacer(m_request.method, check, plan.kind);
     QString reason = look.reason;
-    const QString kept = reason.isEmpty() ? replacer.chooseKept(look, reason) : QString();
+    const QString kept = reason.isEmpty()
+        ? replacer.chooseKept(look, m_request.protectedFolders, reason)
+        : QString();
     if (!reason.isEmpty()) {
         keep(result, reason);
         splog_d(kTag + QStringLiteral("Skipped, %1: %2").arg(reason, path));

@@ -840,6 +840,24 @@ private slots:
         QCOMPARE(journal.lastBatch().id, QString());
     }
 
+    // With a protected copy and another one to choose from, a link leads to the other: a
+    // write through the link must not reach the archive.
+    void linkAvoidsTheProtectedCopy()
+    {
+        Pair pair(TFileDeleter::replaceByHardLink);
+        const QString spare
+            = ScanTree::write(pair.dir.path(), "c/x.bin", ScanTree::read(pair.kept));
+        setModified(spare, 1000000000);
+        pair.request.groups["G"] = {pair.kept, spare, pair.item};
+        pair.request.stamps.insert(spare, FileStamp::of(spare));
+        pair.request.protectedFolders = ProtectedFolders({pair.dir.path() + "/a"});
+        const DeleteResult result = pair.run().value(0);
+        QVERIFY2(result.success, qPrintable(result.reason));
+        QCOMPARE(result.destination, spare);
+        QCOMPARE(statOf(pair.item).st_ino, statOf(spare).st_ino);
+        QVERIFY(statOf(pair.item).st_ino != statOf(pair.kept).st_ino);
+    }
+
     // Between the look and the act another program writes: to the kept copy, or to the item.
     void linkStopsOnWrite_data()
     {
