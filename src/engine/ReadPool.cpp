@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <chrono>
-#include <thread>
+#include <condition_variable>
+#include <mutex>
 
 #include <QThread>
 
@@ -46,7 +47,9 @@ int ReadPool::startReaders() const
     case Plain:
         break;
     }
-    return std::clamp(QThread::idealThreadCount(), 1, kMaxReaders);
+    // One more than the processor has threads: the caller only watches, and a reader that
+    // waits on a page or a call leaves its core to the spare one.
+    return std::clamp(QThread::idealThreadCount() + 1, 1, kMaxReaders);
 }
 
 void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
@@ -58,10 +61,20 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
     std::atomic<int> running {0};
     // Readers above this number leave after their item: a growth that did not pay is undone.
     std::atomic<int> target {kMaxReaders};
+    // The last reader out wakes the caller at once: a run of a warm tree takes a fraction
+    // of a second, and a caller that only looked every few milliseconds would add to it.
+    std::mutex ended;
+    std::condition_variable allOut;
+    const auto leave = [&] {
+        if (running.fetch_sub(1) == 1) {
+            std::lock_guard<std::mutex> lock(ended);
+            allOut.notify_all();
+        }
+    };
     const auto reader = [&] {
         for (;;) {
             int now = running.load();
-            if (now > target.load() && running.compare_exchange_strong(now, now - 1))
+            if (now > target.load() && now > 1 && running.compare_exchange_strong(now, now - 1))
                 return;
             if (stop && stop->load() != 0)
                 break;
@@ -70,7 +83,7 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
                 break;
             work(item);
         }
-        running.fetch_sub(1);
+        leave();
     };
     const auto add = [&](int readers) {
         for (int i = 0; i < readers; ++i) {
@@ -87,8 +100,13 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
     int pause = 0;
     auto windowStart = std::chrono::steady_clock::now();
     qint64 windowBytes = bytesRead.load();
-    while (running.load() > 0) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    for (;;) {
+        {
+            std::unique_lock<std::mutex> lock(ended);
+            if (allOut.wait_for(lock, std::chrono::milliseconds(10),
+                    [&running] { return running.load() == 0; }))
+                break;
+        }
         if (!grows || next.load() >= count)
             continue;
         const auto now = std::chrono::steady_clock::now();

@@ -10,11 +10,11 @@
 // reads in flight far faster than one at a time, whatever it says it is, while a warm page
 // cache or a spinning disk gains nothing from more than a few. How many read at once
 // follows what the device does:
-// - Auto starts with as many readers as the processor has threads and multiplies them
+// - Auto starts with one reader more than the processor has threads and multiplies them
 //   while the bytes read per moment keep growing (up to kMaxReaders);
 // - Ssd runs kMaxReaders from the start;
 // - Hdd runs one reader, in the order given (the caller's physical order);
-// - Plain, for drives on an external bus, keeps the processor's count and never grows.
+// - Plain, for drives on an external bus, keeps that first count and never grows.
 // A run hands out items one at a time, so every reader stays busy to the end; a stop is up
 // to the work, which the items are handed to until it says stop.
 class ReadPool
