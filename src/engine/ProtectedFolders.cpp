@@ -4,11 +4,11 @@
 #include "engine/FilePathCodec.h"
 #include "engine/GroupMember.h"
 #include "platform/FolderReader.h"
+#include "platform/MountTable.h"
 
 #include <algorithm>
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QList>
 #include <QPair>
@@ -49,56 +49,13 @@ bool holdsAny(const std::string &folder, const QSet<Identity> &shielded)
     return false;
 }
 
-// Where a folder lies inside its file system: the device and the path from that file
-// system's root, by the mount table, so that a folder reached through a bind mount of a
-// folder inside a protected one is known for what it is. Empty where there is no table.
-struct Placed
+// Where folders lie inside their file systems, by the mount table (see MountTable.h).
+std::vector<platform::MountPlace> placesOf(const QStringList &folders)
 {
-    QString device;
-    QString path;
-};
-
-QList<Placed> placesOf(const QStringList &folders)
-{
-    QList<Placed> places(folders.size());
-#ifdef Q_OS_LINUX
-    QFile table(QStringLiteral("/proc/self/mountinfo"));
-    if (!table.open(QIODevice::ReadOnly))
-        return places;
-    // The table writes a space, tab, newline or backslash in a path as an octal escape.
-    const auto unescape = [](const QByteArray &field) {
-        QByteArray plain;
-        for (qsizetype i = 0; i < field.size(); ++i) {
-            if (field.at(i) == '\\' && i + 3 < field.size()) {
-                plain.append(char(field.mid(i + 1, 3).toInt(nullptr, 8)));
-                i += 3;
-            } else {
-                plain.append(field.at(i));
-            }
-        }
-        return FilePathCodec::decode(plain);
-    };
-    QList<qsizetype> matched(folders.size(), -1);
-    // Later mounts cover earlier ones at the same place: the last longest match wins.
-    for (QByteArray line = table.readLine(); !line.isEmpty(); line = table.readLine()) {
-        const QList<QByteArray> fields = line.trimmed().split(' ');
-        if (fields.size() < 5)
-            continue;
-        const QString root = unescape(fields.at(3));
-        const QString point = unescape(fields.at(4));
-        for (qsizetype i = 0; i < folders.size(); ++i) {
-            const QString &folder = folders.at(i);
-            const bool inside = point == QLatin1String("/") || folder == point
-                || folder.startsWith(point + QLatin1Char('/'));
-            if (!inside || point.size() < matched.at(i))
-                continue;
-            matched[i] = point.size();
-            const QString rest = point == QLatin1String("/") ? folder : folder.mid(point.size());
-            places[i] = {QString::fromLatin1(fields.at(2)), QDir::cleanPath(root + rest)};
-        }
-    }
-#endif
-    return places;
+    std::vector<std::string> native;
+    for (const QString &folder : folders)
+        native.push_back(FilePathCodec::encode(folder).toStdString());
+    return platform::mountPlacesOf(native);
 }
 
 } // namespace
@@ -191,15 +148,19 @@ bool ProtectedFolders::protectsOnDisk(const QString &path) const
     }
     if (folder.isEmpty() || real.isEmpty())
         return false;
-    const QList<Placed> places = placesOf(
+    const std::vector<platform::MountPlace> places = placesOf(
         QStringList {QDir::cleanPath(folder + QLatin1Char('/') + info.fileName())} + real);
-    const Placed &item = places.first();
-    return !item.device.isEmpty()
-        && std::any_of(places.cbegin() + 1, places.cend(), [&item](const Placed &shelter) {
-               return shelter.device == item.device
-                   && (item.path == shelter.path || shelter.path == QLatin1String("/")
-                       || item.path.startsWith(shelter.path + QLatin1Char('/')));
-           });
+    const platform::MountPlace &item = places.front();
+    return !item.device.empty()
+        && std::any_of(
+            places.cbegin() + 1, places.cend(), [&item](const platform::MountPlace &shelter) {
+                const std::string &inside = shelter.path;
+                return shelter.device == item.device
+                    && (item.path == inside || inside == "/"
+                        || (item.path.size() > inside.size()
+                            && item.path.compare(0, inside.size(), inside) == 0
+                            && item.path[inside.size()] == '/'));
+            });
 }
 
 bool ProtectedFolders::liesIn(const QString &path) const

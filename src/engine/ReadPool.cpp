@@ -5,6 +5,9 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 #include <QThread>
 
@@ -19,20 +22,9 @@ constexpr double kWorthGrowing = 1.2;
 // try again: what the files ask of the device changes as the run goes on (large files read
 // ahead well with few readers, small ones want many in flight).
 constexpr int kPauseWindows = 8;
+constexpr int kConfirmations = 2;
 
 } // namespace
-
-ReadPool::ReadPool()
-{
-    m_pool.setMaxThreadCount(kMaxReaders);
-    // Readers wait for the disk, not the processor: a finished one is kept for the next run.
-    m_pool.setExpiryTimeout(30000);
-}
-
-ReadPool::~ReadPool()
-{
-    m_pool.waitForDone();
-}
 
 int ReadPool::startReaders() const
 {
@@ -85,19 +77,36 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
         }
         leave();
     };
+    // Threads of their own, joined before the run returns: a reader the system refuses to
+    // start (no threads left) only means fewer readers, never a run waiting for one.
+    std::vector<std::thread> threads;
     const auto add = [&](int readers) {
-        for (int i = 0; i < readers; ++i) {
+        int started = 0;
+        for (; started < readers; ++started) {
             running.fetch_add(1);
-            m_pool.start(reader);
+            try {
+                threads.emplace_back(reader);
+            } catch (const std::system_error &) {
+                running.fetch_sub(1);
+                break;
+            }
         }
+        return started;
     };
-    int readers = std::min<size_t>(size_t(startReaders()), count);
-    add(readers);
+    int readers = add(int(std::min<size_t>(size_t(startReaders()), count)));
+    if (readers == 0) {
+        // Not even one thread: the caller reads alone.
+        running.fetch_add(1);
+        reader();
+        m_readers.store(1);
+        return;
+    }
     const bool grows = m_fixed == 0 && m_mode == Auto;
     // The rate before the last growth (0: none measured since the last pause).
     double before = 0;
     int previous = readers;
     int pause = 0;
+    int confirmed = 0;
     auto windowStart = std::chrono::steady_clock::now();
     qint64 windowBytes = bytesRead.load();
     for (;;) {
@@ -126,18 +135,25 @@ void ReadPool::run(size_t count, const std::function<void(size_t)> &work,
             readers = previous;
             target.store(readers);
             before = 0;
+            confirmed = 0;
             pause = kPauseWindows;
             continue;
         }
+        // A growth is kept only when it pays in two windows running: one window alone may
+        // have been helped by another program leaving the processor or the disk for a moment.
+        if (before > 0 && ++confirmed < kConfirmations)
+            continue;
+        confirmed = 0;
         const int more = std::min(readers * (kGrowth - 1), kMaxReaders - readers);
         if (more <= 0)
             continue;
         before = rate;
         previous = readers;
-        readers += more;
+        target.store(readers + more);
+        readers += add(more);
         target.store(readers);
-        add(more);
     }
-    m_pool.waitForDone();
+    for (std::thread &thread : threads)
+        thread.join();
     m_readers.store(readers);
 }

@@ -4,7 +4,7 @@
 #include <atomic>
 #include <functional>
 
-#include <QThreadPool>
+#include <QtGlobal>
 
 // The readers of file contents, apart from the processor's pool: a cold disk answers many
 // reads in flight far faster than one at a time, whatever it says it is, while a warm page
@@ -23,8 +23,7 @@ public:
     enum Mode : int { Auto = 0, Ssd = 1, Hdd = 2, Plain = 3 };
     static constexpr int kMaxReaders = 64;
 
-    ReadPool();
-    ~ReadPool();
+    ReadPool() = default;
     ReadPool(const ReadPool &) = delete;
     ReadPool &operator=(const ReadPool &) = delete;
 
@@ -45,7 +44,6 @@ public:
 private:
     int startReaders() const;
 
-    QThreadPool m_pool;
     Mode m_mode = Auto;
     int m_fixed = 0;
     std::atomic<int> m_readers {0};

@@ -197,7 +197,7 @@ private slots:
         if (parallel)
             QVERIFY2(pool.readers() >= 32, qPrintable(QString::number(pool.readers())));
         else
-            QVERIFY2(pool.readers() <= 2 * QThread::idealThreadCount(),
+            QVERIFY2(pool.readers() <= 4 * (QThread::idealThreadCount() + 1),
                 qPrintable(QString::number(pool.readers())));
     }
 
